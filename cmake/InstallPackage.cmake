@@ -1,0 +1,30 @@
+# What `cmake --install` puts where, and the files by which CMake and pkg-config find it there.
+include(CMakePackageConfigHelpers)
+
+set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/VendorInfoFile")
+set(header_dir "${CMAKE_INSTALL_INCLUDEDIR}/vendorinfofile")
+
+install(TARGETS VendorInfoFile VendorInfoFileHost EXPORT VendorInfoFileTargets
+  RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
+  LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+  ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+install(DIRECTORY include/ DESTINATION "${header_dir}" FILES_MATCHING PATTERN "*.h")
+install(DIRECTORY host/BaseUtilities DESTINATION "${header_dir}" FILES_MATCHING PATTERN "*.h")
+install(FILES LICENSE README.md CHANGELOG.md DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+install(DIRECTORY examples/vif/ DESTINATION "${CMAKE_INSTALL_DATADIR}/vendorinfofile/examples"
+  FILES_MATCHING PATTERN "*.txt")
+
+install(EXPORT VendorInfoFileTargets NAMESPACE VendorInfoFile:: DESTINATION "${package_dir}")
+configure_package_config_file(cmake/VendorInfoFileConfig.cmake.in
+  "${PROJECT_BINARY_DIR}/VendorInfoFileConfig.cmake" INSTALL_DESTINATION "${package_dir}")
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/VendorInfoFileConfigVersion.cmake"
+  COMPATIBILITY SameMinorVersion)
+install(FILES
+  "${PROJECT_BINARY_DIR}/VendorInfoFileConfig.cmake"
+  "${PROJECT_BINARY_DIR}/VendorInfoFileConfigVersion.cmake"
+  DESTINATION "${package_dir}")
+
+# The prefix is found from the file's own place, so that the installation can be moved.
+file(RELATIVE_PATH prefix_from_pc "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
+configure_file(cmake/vendorinfofile.pc.in "${PROJECT_BINARY_DIR}/vendorinfofile.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/vendorinfofile.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")

@@ -1,0 +1,37 @@
+# What all targets of this project are compiled with. Nothing of it reaches a program that uses the library.
+
+# A user who runs cmake without a preset expects an optimised build.
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "Kind of build" FORCE)
+endif()
+
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+add_library(project_settings INTERFACE)
+target_compile_features(project_settings INTERFACE cxx_std_20)
+if(MSVC)
+  target_compile_options(project_settings INTERFACE /W4 /permissive- /utf-8)
+else()
+  target_compile_options(project_settings INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor
+    -Woverloaded-virtual -Wnull-dereference)
+endif()
+
+# Lists of sanitizers, such as "address,undefined". Every finding ends the program.
+set(VENDORINFOFILE_SANITIZE "" CACHE STRING "Sanitizers to build everything with, separated by commas")
+if(VENDORINFOFILE_SANITIZE)
+  add_compile_options(-fsanitize=${VENDORINFOFILE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${VENDORINFOFILE_SANITIZE})
+endif()
+
+# Keeps instantiations of the standard library's templates, which are visible by default, out of the library's
+# interface: only what the map names is exported.
+function(project_export_only target map)
+  if(UNIX AND NOT APPLE)
+    target_link_options(${target} PRIVATE "LINKER:--version-script=${map}")
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${map}")
+  endif()
+endfunction()

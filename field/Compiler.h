@@ -1,0 +1,21 @@
+// The few things that compilers spell differently.
+#pragma once
+
+#include <cstdint>
+
+#if defined(_MSC_VER) && !defined(__clang__)
+#include <intrin.h>
+/// The address of the calling function's stack frame.
+#define VIF_FRAME_ADDRESS() reinterpret_cast<std::uintptr_t>(_AddressOfReturnAddress())
+#else
+/// The address of the calling function's stack frame.
+#define VIF_FRAME_ADDRESS() reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0))
+#endif
+
+#if defined(__GLIBCXX__)
+/// A syntax option under which matching takes no stack per character, in exchange for back references; 0 where
+/// the standard library has none.
+#define VIF_REGEX_WITHOUT_RECURSION std::regex_constants::__polynomial
+#else
+#define VIF_REGEX_WITHOUT_RECURSION (std::regex_constants::syntax_option_type{})
+#endif

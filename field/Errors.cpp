@@ -1,0 +1,10 @@
+#include "Errors.h"
+
+namespace vif {
+
+CSimpleBuffer& MessageBuffer() {
+  thread_local CSimpleBuffer buffer;
+  return buffer;
+}
+
+}  // namespace vif

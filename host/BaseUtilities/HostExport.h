@@ -1,0 +1,12 @@
+// What the host's libraries export: on Windows through declspec, elsewhere through visibility.
+#pragma once
+
+#if defined(_WIN32) && defined(VENDORINFOFILE_HOST_STATIC)
+#define ZO_API
+#elif defined(_WIN32) && defined(VENDORINFOFILE_HOST_BUILDING)
+#define ZO_API __declspec(dllexport)
+#elif defined(_WIN32)
+#define ZO_API __declspec(dllimport)
+#else
+#define ZO_API __attribute__((visibility("default")))
+#endif

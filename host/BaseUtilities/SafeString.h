@@ -1,0 +1,43 @@
+// The host's owned narrow string.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// An owned, NUL-terminated narrow string.
+///
+/// What it holds is what `get()` shows: text behind an embedded NUL is not kept. A moved-from string is
+/// empty and may be used again. As safe between threads as any plain value: concurrent reads are fine, a
+/// write needs the object alone.
+class CSafeString {
+ public:
+  /// The empty string.
+  CSafeString() noexcept = default;
+
+  /// A copy of the text up to its NUL; null counts as the empty string. Throws only `std::bad_alloc`.
+  CSafeString(const char* text) : m_text(text != nullptr ? text : "") {}
+
+  /// A copy of the text up to its first NUL. Throws only `std::bad_alloc`.
+  CSafeString(const std::string& text) : m_text(text, 0, text.find('\0')) {}
+
+  CSafeString(const CSafeString&) = default;
+  CSafeString& operator=(const CSafeString&) = default;
+
+  /// Takes the other's text and leaves the other empty.
+  CSafeString(CSafeString&& other) noexcept : m_text(std::move(other.m_text)) { other.m_text.clear(); }
+  CSafeString& operator=(CSafeString&& other) noexcept {
+    if (this != &other) {
+      m_text = std::move(other.m_text);
+      other.m_text.clear();
+    }
+    return *this;
+  }
+
+  ~CSafeString() = default;
+
+  /// The text, never null; valid until the string is changed or destroyed.
+  const char* get() const noexcept { return m_text.c_str(); }
+
+ private:
+  std::string m_text;
+};

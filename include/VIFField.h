@@ -1,0 +1,147 @@
+// One declared field of a Vendor Info File.
+#pragma once
+
+#include "BaseUtilities/SafeString.h"
+#include "VIFExport.h"
+#include "VIFLocations.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <tuple>
+
+/// One location index: a group of the file and its number, such as (eVifLocSrcPdo, 2) for source PDO 2.
+/// A slot whose location is `eVifLocUnset` is not in use, and its number means nothing.
+using VifIndex = std::tuple<EVifLocation, std::uint64_t>;
+
+/// One field: a name, a value, a description, whether the value is numeric and which number it stands for, and
+/// up to three location indexes, outermost group first.
+///
+/// A field is a plain value, held and passed by value. Threads may read one field at once; changing it (which
+/// only assignment does) needs it alone. Texts are UTF-8 unless the file was not. Unless a member says
+/// otherwise, it throws nothing but `std::bad_alloc`.
+class VIF_API CVIFField {
+ public:
+  /// How many location slots every field has.
+  static constexpr std::size_t MAX_INDEX_DEPTH = 3;
+
+  /// In a field: a group without a number. In a query: any number at that location.
+  static constexpr std::size_t INDEX_NOT_SPECIFIED = 0xFFFFFFFFFFFFFFFF;
+
+  /// A slot that is not in use. In a query: a wildcard, which every field passes.
+  static constexpr VifIndex UNSPECIFIED_INDEX = {eVifLocUnset, INDEX_NOT_SPECIFIED};
+
+  /// The 64-bit numeric value of a field that has none.
+  static constexpr std::uint64_t VIF_VALUE_UNSET_64 = 0xFFFFFFFFFFFFFFFF;
+
+  /// The 32-bit numeric value of a field that has none.
+  static constexpr std::uint32_t VIF_VALUE_UNSET = 0xFFFFFFFF;
+
+  /// The empty field: empty texts, no locations, and numeric, with the value `VIF_VALUE_UNSET_64`, so that
+  /// asking it for its number answers "unset" instead of failing.
+  CVIFField();
+
+  /// A field whose description repeats its value.
+  /// \param isNumeric whether the value is to be read as a number
+  /// \param indexes the location slots; unused ones hold `UNSPECIFIED_INDEX`
+  CVIFField(bool isNumeric, const std::string& name, const std::string& value,
+            const std::array<VifIndex, MAX_INDEX_DEPTH>& indexes);
+
+  /// The same with the slots one by one.
+  CVIFField(bool isNumeric, const std::string& name, const std::string& value, const VifIndex& index1,
+            const VifIndex& index2, const VifIndex& index3);
+
+  /// A field with a description of its own.
+  CVIFField(bool isNumeric, const std::string& name, const std::string& value, const std::string& description,
+            const std::array<VifIndex, MAX_INDEX_DEPTH>& indexes);
+
+  /// The same with the slots one by one.
+  CVIFField(bool isNumeric, const std::string& name, const std::string& value, const std::string& description,
+            const VifIndex& index1, const VifIndex& index2, const VifIndex& index3);
+
+  CVIFField(const CVIFField& other);
+  CVIFField& operator=(const CVIFField& other);
+
+  /// Takes the three texts and copies the rest; the source is left with empty texts.
+  CVIFField(CVIFField&& other) noexcept;
+
+  /// Swaps the texts and the location slots with the source, and takes its numeric flag and numeric value. The
+  /// source is left with this field's former texts and slots but keeps its own flag and numeric value.
+  /// Assigning a field to itself does nothing.
+  CVIFField& operator=(CVIFField&& other) noexcept;
+
+  ~CVIFField();
+
+  /// The name as declared; a text VIF's name is the canonical one, without index digits. Never null; the three
+  /// pointers are valid while the field lives unchanged.
+  const char* Name() const noexcept;
+
+  /// The value's text as declared. Never null.
+  const char* Value() const noexcept;
+
+  /// The description. Never null.
+  const char* Description() const noexcept;
+
+  /// Whether the value is to be read as a number.
+  bool IsNumeric() const noexcept;
+
+  /// The three location slots, valid while the field lives.
+  const std::array<VifIndex, MAX_INDEX_DEPTH>& Indexes() const noexcept;
+
+  /// The number of slots in use.
+  std::size_t IndexCount() const noexcept;
+
+  /// The number in the first slot with that location; `INDEX_NOT_SPECIFIED` when there is none, when the slot
+  /// has no number, and always for `eVifLocUnset`.
+  std::size_t Index(EVifLocation location) const noexcept;
+
+  /// Whether a slot has that location. For `eVifLocUnset` that means: whether a slot is unused.
+  bool HasIndex(EVifLocation location) const noexcept;
+
+  /// The component's number minus one, so that the first component is 0. The subtraction is unconditional: a
+  /// field outside any component gives 0xFFFFFFFFFFFFFFFE, and component number 0 gives 0xFFFFFFFFFFFFFFFF.
+  std::size_t ComponentIndex() noexcept;
+
+  /// The number that the value stands for, `VIF_VALUE_UNSET_64` when the text is no number.
+  ///
+  /// NO and FALSE are 0, YES and TRUE 1, in any letter case. Text that starts with 0x is read as hexadecimal,
+  /// other text as decimal, up to the first character that is no digit: "12 V" is 12. Text with no digit at its
+  /// start (a blank or a sign included) or with a number of more than 64 bits is no number. Units are those of
+  /// the VIF format.
+  /// \throws CZoRunTimeException "Field '<name>' is not Numeric." when the field is not numeric
+  std::uint64_t GetULongNumericValue() const;
+
+  /// The low 32 bits of that number; `VIF_VALUE_UNSET` when there is none, and for a field that is not numeric.
+  /// Never fails.
+  std::uint32_t GetNumericValue() const noexcept;
+
+  /// Whether the field passes a query: its locations first, then its name.
+  ///
+  /// A query slot whose location is `eVifLocUnset` is passed by every field. Any other asks that the field have
+  /// a slot with that location, wherever it stands, and that the first such slot have the number asked for,
+  /// unless that is `INDEX_NOT_SPECIFIED`.
+  /// \param pattern a regular expression (ECMAScript) that must fit the whole name, without regard to letter case
+  ///   as the global locale has it; null or empty means any name
+  /// \throws std::regex_error when the locations pass and the pattern is no regular expression, or is too complex
+  ///   to be matched with the stack at hand (`error_stack`)
+  bool Match(const char* pattern, const VifIndex& index1, const VifIndex& index2, const VifIndex& index3) const;
+
+  /// The same with the three query slots as one array.
+  bool Match(const char* pattern, const std::array<VifIndex, MAX_INDEX_DEPTH>& query) const;
+
+  /// The field as `name=value`, the value in double quotes unless the field is numeric. Nothing is escaped.
+  CSafeString MakeOutputString() const;
+
+ private:
+  static std::uint64_t InitNumericValue(const std::string& text, bool isNumeric);
+
+  bool MatchesSlot(const VifIndex& query) const noexcept;
+
+  CSafeString m_name;
+  CSafeString m_value;
+  CSafeString m_description;
+  bool m_isNumeric;
+  std::array<VifIndex, MAX_INDEX_DEPTH> m_indexes;
+  std::uint64_t m_numericValue;
+};

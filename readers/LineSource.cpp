@@ -1,0 +1,60 @@
+#include "LineSource.h"
+
+#include "Errors.h"
+
+#include <utility>
+
+namespace vif {
+
+namespace {
+
+constexpr size_t kChunkSize = 64 * 1024;
+
+}  // namespace
+
+CLineSource::CLineSource(std::istream& stream, std::string pathText)
+    : m_stream(stream), m_pathText(std::move(pathText)), m_chunk(kChunkSize) {}
+
+bool CLineSource::Next(std::string_view& line) {
+  if (m_hasEnded) return false;
+  m_line.clear();
+  for (;;) {
+    const size_t lineFeed = m_unread.find('\n');
+    if (lineFeed != std::string_view::npos) {
+      line = m_unread.substr(0, lineFeed);
+      m_unread.remove_prefix(lineFeed + 1);
+      break;
+    }
+    m_line += m_unread;
+    if (!Refill()) {
+      m_hasEnded = true;
+      line = m_line;
+      return !m_hasFailed;
+    }
+  }
+  if (!m_line.empty()) line = m_line += line;
+  return true;
+}
+
+bool CLineSource::Refill() {
+  m_unread = {};
+  if (!AwaitData()) return false;
+  // Only what has been read already, so that an error further on costs none of it.
+  const std::streamsize count = m_stream.readsome(m_chunk.data(), static_cast<std::streamsize>(m_chunk.size()));
+  m_unread = {m_chunk.data(), static_cast<size_t>(count)};
+  return count > 0;
+}
+
+bool CLineSource::AwaitData() {
+  try {
+    if (m_stream.peek() != std::istream::traits_type::eof()) return true;
+  } catch (const std::ios_base::failure& failure) {
+    if (!m_stream.eof()) {
+      ThrowRunTimeError("I/O read failure on Vendor Info File %s: %s", m_pathText, failure.what());
+    }
+  }
+  m_hasFailed = !m_stream.eof();
+  return false;
+}
+
+}  // namespace vif

@@ -1,0 +1,38 @@
+// The content of a CVendorInfoFile.
+#pragma once
+
+#include "VIFField.h"
+#include "VIFFieldDefs.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+/// The fields of all files loaded so far, and what loading the next one needs.
+class CVIFImpl {
+ public:
+  CVIFImpl() = default;
+
+  /// Takes the file's name and loads it.
+  CVIFImpl(std::filesystem::path fileName, std::vector<VifFieldDef>* fieldDefs);
+
+  /// Loads one file behind the fields held. What was read before a failure stays.
+  void Append(const std::filesystem::path& fileName);
+
+  /// Appends copies of the fields; when it fails, some may have been appended.
+  void Append(const std::vector<CVIFField>& fields);
+
+  const std::vector<CVIFField>& Fields() const { return m_fields; }
+  const std::wstring& FileName() const { return m_fileName; }
+  std::uint32_t ComponentCount() const { return m_componentCount; }
+
+ private:
+  void ReadTextFile(const std::filesystem::path& fileName);
+  void ReadXmlFile(std::filesystem::path fileName);
+
+  std::vector<CVIFField> m_fields;
+  std::vector<VifFieldDef>* m_fieldDefs = nullptr;  // not owned; null means the built-in table
+  std::wstring m_fileName;                          // of the first file
+  std::uint32_t m_componentCount = 0;
+};

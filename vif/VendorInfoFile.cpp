@@ -1,0 +1,69 @@
+#include "VendorInfoFile.h"
+
+#include "PathText.h"
+#include "VIFImpl.h"
+
+#include <utility>
+
+CVendorInfoFile::CVendorInfoFile() : m_impl(new CVIFImpl) {}
+
+CVendorInfoFile::CVendorInfoFile(const std::filesystem::path& fileName, std::vector<VifFieldDef>* fieldDefs)
+    : m_impl(new CVIFImpl(fileName, fieldDefs)) {}
+
+CVendorInfoFile::CVendorInfoFile(std::nullptr_t, std::vector<VifFieldDef>* fieldDefs)
+    : CVendorInfoFile(std::filesystem::path(), fieldDefs) {}
+
+CVendorInfoFile::CVendorInfoFile(const std::vector<CVIFField>& fields) : CVendorInfoFile() { Append(fields); }
+
+CVendorInfoFile::CVendorInfoFile(const CVendorInfoFile& other)
+    : m_impl(other.m_impl != nullptr ? new CVIFImpl(*other.m_impl) : new CVIFImpl) {}
+
+CVendorInfoFile::CVendorInfoFile(CVendorInfoFile&& other) noexcept : m_impl(std::exchange(other.m_impl, nullptr)) {}
+
+CVendorInfoFile& CVendorInfoFile::operator=(const CVendorInfoFile& other) {
+  if (this == &other) return *this;
+  // Copied before anything is given up, so that a copy that fails costs nothing.
+  CVIFImpl* copy = other.m_impl != nullptr ? new CVIFImpl(*other.m_impl) : nullptr;
+  delete std::exchange(m_impl, copy);
+  return *this;
+}
+
+CVendorInfoFile& CVendorInfoFile::operator=(CVendorInfoFile&& other) noexcept {
+  std::swap(m_impl, other.m_impl);
+  return *this;
+}
+
+CVendorInfoFile::~CVendorInfoFile() { delete m_impl; }
+
+CVIFImpl& CVendorInfoFile::Content() {
+  if (m_impl == nullptr) m_impl = new CVIFImpl;
+  return *m_impl;
+}
+
+void CVendorInfoFile::Append(const char* fileName) { Content().Append(vif::PathFromUtf8(fileName)); }
+
+void CVendorInfoFile::Append(const std::vector<CVIFField>& fields) {
+  try {
+    Content().Append(fields);
+  } catch (...) {
+    // Kept as it has always been: a list that cannot be appended in full takes the fields held before with it.
+    delete std::exchange(m_impl, nullptr);
+    throw;
+  }
+}
+
+const wchar_t* CVendorInfoFile::FileName() const noexcept {
+  return m_impl != nullptr ? m_impl->FileName().c_str() : L"";
+}
+
+std::size_t CVendorInfoFile::Count() const noexcept { return m_impl != nullptr ? m_impl->Fields().size() : 0; }
+
+std::uint32_t CVendorInfoFile::ComponentCount() const noexcept {
+  return m_impl != nullptr ? m_impl->ComponentCount() : 0;
+}
+
+VifFieldList CVendorInfoFile::GetFields() const {
+  const auto release = [](std::vector<CVIFField>* fields) { delete fields; };
+  if (m_impl == nullptr) return {new std::vector<CVIFField>, release};
+  return {new std::vector<CVIFField>(m_impl->Fields()), release};
+}
