@@ -1,0 +1,29 @@
+// What the commands of `vif` have in common.
+#pragma once
+
+#include <stdexcept>
+
+namespace CLI {
+class App;
+}
+
+namespace tool {
+
+/// The exit statuses.
+enum Status : int {
+  kDone = 0,
+  kWanting = 1,  // looked and found wanting: no match, problems, differences
+  kFailed = 2,   // could not do it: usage, unreadable, not a VIF
+};
+
+/// The command cannot do what it was asked to; the text says what, where and why.
+class Failure : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// Each of these adds one command to the application. When the command has run, it leaves its exit status in
+// `status`, which must outlive the application.
+void AddListCommand(CLI::App& app, Status& status);
+
+}  // namespace tool

@@ -1,0 +1,70 @@
+// The command that makes the library visible.
+#include "Command.h"
+#include "Output.h"
+#include "Text.h"
+
+#include <CLI/CLI.hpp>
+
+#include <clocale>
+#include <cstdio>
+
+namespace {
+
+using tool::kDone;
+using tool::kFailed;
+using tool::Status;
+
+constexpr const char* kDescription =
+    "Reads Vendor Info Files (VIFs): the declaration of a USB Type-C, USB Power Delivery or USB4\n"
+    "product's capabilities that its vendor hands in for compliance testing.";
+
+constexpr const char* kFooter =
+    "'vif COMMAND --help' says more about a command, with examples.\n"
+    "\n"
+    "Exit status: 0 done; 1 looked and found wanting; 2 could not do it, with one line on\n"
+    "standard error that says why.";
+
+Status Fail(std::string_view reason) {
+  std::fprintf(stderr, "vif: %s\n", tool::Printable(reason).c_str());
+  return kFailed;
+}
+
+std::string UsageProblem(const CLI::App& app, const CLI::ParseError& error) {
+  if (!app.get_subcommands().empty()) return error.what();
+  const std::vector<std::string> unknown = app.remaining();
+  return unknown.empty() ? "no command given" : "there is no command or option '" + unknown.front() + "'";
+}
+
+Status Run(int argc, char** argv) {
+  Status status = kFailed;
+  CLI::App app(kDescription, "vif");
+  app.footer(kFooter);
+  app.set_version_flag("--version", "vif " VIF_VERSION, "Print the version and exit");
+  app.set_help_flag("-h,--help", "Print this help and exit");
+  app.require_subcommand(1);
+  app.get_formatter()->label("SUBCOMMAND", "COMMAND ...");
+  app.get_formatter()->label("Subcommands", "Commands");
+  tool::AddListCommand(app, status);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    if (error.get_exit_code() != 0) return Fail(UsageProblem(app, error) + " (see 'vif --help')");
+    app.exit(error);  // prints what was asked for: help or the version
+    status = kDone;
+  }
+  tool::Flush();
+  return status;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  std::setlocale(LC_CTYPE, "C.UTF-8");  // for the width of characters; the library asks the C++ locale, not this one
+  try {
+    return Run(argc, argv);
+  } catch (const std::bad_alloc&) {
+    return Fail("out of memory");
+  } catch (const std::exception& error) {
+    return Fail(error.what());
+  }
+}

@@ -1,0 +1,75 @@
+#include "Text.h"
+
+#include <BaseUtilities/StringConvert.h>
+
+#include <cwchar>
+
+namespace tool {
+
+namespace {
+
+size_t CharacterWidth(wchar_t c) {
+#ifdef _WIN32
+  return c >= 0xDC00 && c <= 0xDFFF ? 0 : 1;  // the second half of a character
+#else
+  const int width = wcwidth(c);
+  return width >= 0 ? static_cast<size_t>(width) : 1;
+#endif
+}
+
+bool IsControl(wchar_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0) || c == 0x2028 || c == 0x2029; }
+
+/// Characters that change the direction of the text around them, and so what a reader believes to see.
+bool IsDirectionMark(wchar_t c) {
+  return (c >= 0x202A && c <= 0x202E) || (c >= 0x2066 && c <= 0x2069) || c == 0x200E || c == 0x200F;
+}
+
+std::wstring Escape(wchar_t c) {
+  switch (c) {
+    case L'\n': return L"\\n";
+    case L'\r': return L"\\r";
+    case L'\t': return L"\\t";
+    default: break;
+  }
+  constexpr std::wstring_view digits = L"0123456789abcdef";
+  const auto code = static_cast<unsigned>(c);
+  const auto digit = [&](unsigned shift) { return digits[(code >> shift) & 0xF]; };
+  if (code < 0x100) return {L'\\', L'x', digit(4), digit(0)};
+  return {L'\\', L'u', digit(12), digit(8), digit(4), digit(0)};
+}
+
+}  // namespace
+
+std::string ValidUtf8(std::string_view text) { return Utf16ToUtf8(Utf8ToUtf16(text)); }
+
+std::string Printable(std::string_view text) {
+  std::wstring out;
+  for (const wchar_t c : Utf8ToUtf16(text)) {
+    if (IsControl(c) || IsDirectionMark(c)) {
+      out += Escape(c);
+    } else {
+      out += c;
+    }
+  }
+  return Utf16ToUtf8(out);
+}
+
+size_t DisplayWidth(std::string_view text) {
+  size_t width = 0;
+  for (const wchar_t c : Utf8ToUtf16(text)) width += CharacterWidth(c);
+  return width;
+}
+
+std::string CutToWidth(std::string_view text, size_t width) {
+  const std::wstring wide = Utf8ToUtf16(text);
+  size_t used = 0;
+  size_t fits = 0;  // characters that leave a column for the ellipsis
+  for (size_t i = 0; i < wide.size(); ++i) {
+    used += CharacterWidth(wide[i]);
+    if (used < width) fits = i + 1;
+    if (used > width) return width == 0 ? std::string() : Utf16ToUtf8(wide.substr(0, fits) + L"\u2026");
+  }
+  return std::string(text);
+}
+
+}  // namespace tool

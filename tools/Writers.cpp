@@ -1,0 +1,15 @@
+#include "Writers.h"
+
+namespace tool {
+
+std::string LocationName(const VifIndex& slot) { return GetVifLocInfo(std::get<0>(slot)).name; }
+
+bool IsUsed(const VifIndex& slot) { return std::get<0>(slot) != eVifLocUnset; }
+
+bool HasNumber(const VifIndex& slot) { return std::get<1>(slot) != CVIFField::INDEX_NOT_SPECIFIED; }
+
+bool HasNumber(const CVIFField& field) {
+  return field.IsNumeric() && field.GetULongNumericValue() != CVIFField::VIF_VALUE_UNSET_64;
+}
+
+}  // namespace tool

@@ -1,0 +1,32 @@
+// The forms in which a list of fields can be printed.
+#pragma once
+
+#include <VendorInfoFile.h>
+
+#include <string>
+#include <vector>
+
+namespace tool {
+
+/// A table for people: one field a line, in aligned columns. On a terminal the lines are cut to its width.
+void WriteTable(const CVendorInfoFile& vif);
+
+/// One JSON object: the file names, the component count and the fields, each on a line of its own.
+void WriteJson(const std::vector<std::string>& fileNames, const CVendorInfoFile& vif);
+
+/// Comma-separated values with a header line, as RFC 4180 has them.
+void WriteCsv(const CVendorInfoFile& vif);
+
+/// The short name of a location, such as "SrcPdo".
+std::string LocationName(const VifIndex& slot);
+
+/// Whether the slot is in use.
+bool IsUsed(const VifIndex& slot);
+
+/// Whether the slot has a number.
+bool HasNumber(const VifIndex& slot);
+
+/// Whether the field is numeric and its value gives a number.
+bool HasNumber(const CVIFField& field);
+
+}  // namespace tool
