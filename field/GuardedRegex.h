@@ -13,7 +13,7 @@ namespace vif {
 
 /// How far one match may go down the stack. Field names need a few kilobytes; the smallest stack a host's thread
 /// is likely to have is several times as large.
-constexpr std::uintptr_t kMatchStackBudget = 256 * 1024;
+constexpr std::uintptr_t kMatchStackBudget = std::uintptr_t{256} * 1024;
 
 /// Walks over text for a regular expression and, whenever a character is read, looks how deep the matcher has
 /// gone. libstdc++ recurses for every character it matches, so this is the one place that sees every step;

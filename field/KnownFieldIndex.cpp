@@ -82,6 +82,7 @@ const CKnownFieldIndex& BuiltInFieldIndex() {
 namespace {
 
 // Builds the index while the library is loaded, like the table that it stands for.
+// NOLINTNEXTLINE(cert-err58-cpp)
 [[maybe_unused]] const CKnownFieldIndex& builtAtLoad = BuiltInFieldIndex();
 
 }  // namespace

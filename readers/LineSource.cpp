@@ -8,7 +8,7 @@ namespace vif {
 
 namespace {
 
-constexpr size_t kChunkSize = 64 * 1024;
+constexpr size_t kChunkSize = size_t{64} * 1024;
 
 }  // namespace
 

@@ -11,7 +11,7 @@ namespace {
 constexpr std::string_view kLineEnd = "\r\n";
 
 std::string Quoted(std::string_view text) {
-  const std::string valid = ValidUtf8(text);
+  std::string valid = ValidUtf8(text);
   if (valid.find_first_of(",\"\r\n") == std::string::npos) return valid;
   std::string out = "\"";
   for (const char c : valid) {

@@ -16,7 +16,8 @@ CVendorInfoFile LoadFiles(const std::vector<std::string>& fileNames) {
       throw;
     } catch (const std::exception& error) {
       const std::string reason = error.what();
-      throw Failure(reason.find(fileName) != std::string::npos ? reason : fileName + ": " + reason);
+      if (reason.find(fileName) != std::string::npos) throw Failure(reason);
+      throw Failure(std::string(fileName).append(": ").append(reason));
     }
   }
   return vif;

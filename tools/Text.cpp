@@ -3,6 +3,7 @@
 #include <BaseUtilities/StringConvert.h>
 
 #include <cwchar>
+#include <string>
 
 namespace tool {
 
@@ -32,8 +33,8 @@ std::wstring Escape(wchar_t c) {
     default: break;
   }
   constexpr std::wstring_view digits = L"0123456789abcdef";
-  const auto code = static_cast<unsigned>(c);
-  const auto digit = [&](unsigned shift) { return digits[(code >> shift) & 0xF]; };
+  const auto code = std::char_traits<wchar_t>::to_int_type(c);
+  const auto digit = [&](unsigned shift) { return digits[(code >> shift) & 0xFU]; };
   if (code < 0x100) return {L'\\', L'x', digit(4), digit(0)};
   return {L'\\', L'u', digit(12), digit(8), digit(4), digit(0)};
 }

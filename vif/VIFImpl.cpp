@@ -34,7 +34,7 @@ FileType DetermineFileType(const std::filesystem::path& fileName) {
 
 }  // namespace
 
-CVIFImpl::CVIFImpl(std::filesystem::path fileName, std::vector<VifFieldDef>* fieldDefs)
+CVIFImpl::CVIFImpl(const std::filesystem::path& fileName, std::vector<VifFieldDef>* fieldDefs)
     : m_fieldDefs(fieldDefs), m_fileName(vif::WidePathText(fileName)) {
   Append(fileName);
 }
@@ -58,7 +58,7 @@ void CVIFImpl::ReadTextFile(const std::filesystem::path& fileName) {
   vif::ReadTextVif(fileName, m_fieldDefs, {m_fields, m_componentCount});
 }
 
-void CVIFImpl::ReadXmlFile(std::filesystem::path fileName) {
+void CVIFImpl::ReadXmlFile(const std::filesystem::path& fileName) {
   vif::ThrowRunTimeError("Reading XML Vendor Info Files is not supported yet. (name: %s)",
                          vif::NarrowPathText(fileName));
 }

@@ -15,7 +15,7 @@ class CVIFImpl {
   CVIFImpl() = default;
 
   /// Takes the file's name and loads it.
-  CVIFImpl(std::filesystem::path fileName, std::vector<VifFieldDef>* fieldDefs);
+  CVIFImpl(const std::filesystem::path& fileName, std::vector<VifFieldDef>* fieldDefs);
 
   /// Loads one file behind the fields held. What was read before a failure stays.
   void Append(const std::filesystem::path& fileName);
@@ -29,7 +29,7 @@ class CVIFImpl {
 
  private:
   void ReadTextFile(const std::filesystem::path& fileName);
-  void ReadXmlFile(std::filesystem::path fileName);
+  void ReadXmlFile(const std::filesystem::path& fileName);
 
   std::vector<CVIFField> m_fields;
   std::vector<VifFieldDef>* m_fieldDefs = nullptr;  // not owned; null means the built-in table

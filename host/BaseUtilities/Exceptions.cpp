@@ -11,7 +11,8 @@ const char* TextOr(const char* message, const char* defaultMessage) {
 CZoException::~CZoException() = default;
 
 CZoRunTimeException::CZoRunTimeException(const char* message)
-    : std::runtime_error(TextOr(message, "Run time exception thrown")) {}
+    : std::runtime_error(  // NOLINT(bugprone-throw-keyword-missing): it is the base
+          TextOr(message, "Run time exception thrown")) {}
 
 CZoRunTimeException::~CZoRunTimeException() = default;
 
