@@ -1,0 +1,56 @@
+// Loads a text VIF that holds a vendor's own field names next to those of the VIF format.
+#include <VendorInfoFile.h>
+
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+#include <regex>
+#include <vector>
+
+namespace {
+
+// The built-in definitions and one more, for names such as QPW_Cable_Drop2: a field of source PDO 2.
+std::vector<VifFieldDef> MakeFieldDefs() {
+  std::vector<VifFieldDef> fieldDefs = VifFieldDefs::GetVifFieldDefs();  // a copy; the original is never changed
+  fieldDefs.push_back({
+      .name = L"QPW_Cable_Drop",                          // the name to store; not copied, so use a literal
+      .pattern = std::wregex(L"QPW_Cable_Drop([0-9]+)"),  // the first group captures the number of the source PDO
+      .locations = {eVifLocComponent, eVifLocSrcPdo},     // outermost first; the third slot stays unused
+  });
+  return fieldDefs;
+}
+
+void PrintOwnFields(const CVendorInfoFile& vif) {
+  const VifIndex any = CVIFField::UNSPECIFIED_INDEX;
+  const VifFieldList fields = vif.GetFields();  // kept in a variable: the loop borrows from it
+  for (const CVIFField& field : *fields) {
+    if (!field.Match("QPW_.*", any, any, any)) continue;
+    std::cout << "  " << field.MakeOutputString().get();
+    if (field.HasIndex(eVifLocSrcPdo)) std::cout << " in source PDO " << field.Index(eVifLocSrcPdo);
+    std::cout << '\n';
+  }
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  if (argc != 2) {
+    std::cerr << "usage: own_field_names FILE\n";
+    return EXIT_FAILURE;
+  }
+  try {
+    // A name that no definition knows is kept as it is written, and its field stands in no group.
+    std::cout << "With the built-in definitions:\n";
+    PrintOwnFields(CVendorInfoFile(argv[1]));
+
+    // The object borrows the definitions, so they are declared before it and outlive it.
+    std::vector<VifFieldDef> fieldDefs = MakeFieldDefs();
+    const CVendorInfoFile vif(argv[1], &fieldDefs);
+    std::cout << "With the vendor's own definition added:\n";
+    PrintOwnFields(vif);
+  } catch (const std::exception& error) {
+    std::cerr << "own_field_names: " << error.what() << '\n';
+    return EXIT_FAILURE;
+  }
+  return std::cout.flush() ? EXIT_SUCCESS : EXIT_FAILURE;
+}
