@@ -1,0 +1,41 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that a task needs and that are not there yet. Works as root or with sudo.
+#
+#   scripts/setup.sh build | test | check
+#
+# Each task includes the ones before it.
+set -euo pipefail
+
+build_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
+test_packages=(libgtest-dev libgmock-dev pkg-config)
+check_packages=(clang clang-format clang-tidy libclang-rt-14-dev)
+
+case "${1:-}" in
+  build) wanted=("${build_packages[@]}") ;;
+  test) wanted=("${build_packages[@]}" "${test_packages[@]}") ;;
+  check) wanted=("${build_packages[@]}" "${test_packages[@]}" "${check_packages[@]}") ;;
+  *) echo "usage: scripts/setup.sh build | test | check" >&2; exit 2 ;;
+esac
+
+is_installed() { [ "$(dpkg-query -W -f '${db:Status-Abbrev}' "$1" 2>/dev/null)" = 'ii ' ]; }
+
+missing=()
+for package in "${wanted[@]}"; do
+  is_installed "$package" || missing+=("$package")
+done
+[ ${#missing[@]} -gt 0 ] || exit 0
+
+if [ "$(id -u)" -eq 0 ]; then
+  as_root=()
+elif command -v sudo >/dev/null; then
+  as_root=(sudo)
+else
+  echo "These packages are missing: ${missing[*]}" >&2
+  echo "Install them as root, or install sudo." >&2
+  exit 1
+fi
+
+echo "==> Installing ${missing[*]}"
+# The lists of a fresh machine may be missing or old.
+"${as_root[@]}" apt-get update -qq
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
