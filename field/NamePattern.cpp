@@ -4,6 +4,7 @@
 
 #include <cstring>
 #include <string_view>
+#include <utility>
 
 namespace vif {
 
@@ -50,7 +51,10 @@ bool CNamePattern::MatchesPlain(const char* name) const {
 
 bool CNamePattern::MatchesLong(const char* name) {
   try {
-    m_withoutRecursion.emplace(m_pattern, kSyntax | VIF_REGEX_WITHOUT_RECURSION);
+    std::regex expression;
+    expression.imbue(m_locale);  // the global locale may be another one by now
+    expression.assign(m_pattern, kSyntax | VIF_REGEX_WITHOUT_RECURSION);
+    m_withoutRecursion = std::move(expression);
   } catch (const std::regex_error&) {
     // The pattern itself is sound, or it would have failed before: it refers back to a group, and for that
     // there is no way without recursion.
