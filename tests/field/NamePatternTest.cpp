@@ -1,0 +1,289 @@
+#include "NamePattern.h"
+
+#include "Compiler.h"
+#include "RandomExpression.h"
+#include "ReferenceNames.h"
+#include "support/Latin1Locale.h"
+#include "support/Random.h"
+
+#include <gtest/gtest.h>
+
+#include <locale>
+#include <optional>
+#include <random>
+#include <regex>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+using namespace std::string_literals;
+using testsupport::CScopedGlobalLocale;
+using testsupport::Latin1Locale;
+using testsupport::RandomBelow;
+
+bool Matches(const std::string& pattern, const std::string& name) {
+  return vif::CNamePattern(pattern.c_str()).Matches(name.c_str());
+}
+
+/// The second opinion on a pattern; nothing when it is no regular expression.
+std::optional<std::regex> Expression(const std::string& pattern) {
+  return randomexpression::Compiled(pattern, std::regex_constants::ECMAScript | std::regex_constants::icase);
+}
+
+std::optional<vif::CNamePattern> NamePattern(const std::string& pattern) {
+  try {
+    return std::make_optional<vif::CNamePattern>(pattern.c_str());
+  } catch (const std::regex_error&) {
+    return std::nullopt;
+  }
+}
+
+TEST(NamePattern, FitsTheWholeName) {
+  EXPECT_TRUE(Matches("Src_PDO", "Src_PDO"));
+  EXPECT_FALSE(Matches("Src_PDO", "Src_PDO_Voltage"));
+  EXPECT_FALSE(Matches("Src_PDO_Voltage", "Src_PDO"));
+  EXPECT_FALSE(Matches("Src_PDO", ""));
+  EXPECT_TRUE(Matches("Src_.*", "Src_PDO"));
+  EXPECT_FALSE(Matches("Src_P.", "Src_PDO"));
+}
+
+TEST(NamePattern, DisregardsLetterCase) {
+  EXPECT_TRUE(Matches("src_pdo", "SRC_PDO"));
+  EXPECT_TRUE(Matches("SRC_PDO", "src_pdo"));
+  EXPECT_TRUE(Matches("sRc_.d.", "SrC_PDO"));
+  EXPECT_FALSE(Matches("src_pdo", "SRC_PDP"));
+}
+
+TEST(NamePattern, IsMadeOnceForManyNames) {
+  vif::CNamePattern pattern("(Src|Snk)_PDO");
+  EXPECT_TRUE(pattern.Matches("Src_PDO"));
+  EXPECT_FALSE(pattern.Matches("Sxx_PDO"));
+  EXPECT_TRUE(pattern.Matches("Snk_PDO"));
+}
+
+TEST(NamePattern, RaisesTheErrorOfAnInvalidExpressionWhenItIsMade) {
+  for (const char* pattern : {"(", ")", "[", "[b-a]", "*", "+", "?", "a{", "a{2,1}", "\\", "(?", "[[:none:]]"}) {
+    EXPECT_THROW(vif::CNamePattern{pattern}, std::regex_error) << pattern;
+  }
+}
+
+TEST(NamePattern, TakesEverySpecialCharacterForSpecial) {
+  EXPECT_TRUE(Matches("^a", "a"));
+  EXPECT_TRUE(Matches("a$", "a"));
+  EXPECT_TRUE(Matches("\\x61", "a"));
+  EXPECT_TRUE(Matches(".", "a"));
+  EXPECT_TRUE(Matches("aa*", "a"));
+  EXPECT_TRUE(Matches("a+", "aa"));
+  EXPECT_TRUE(Matches("ab?", "a"));
+  EXPECT_TRUE(Matches("(a)", "a"));
+  EXPECT_TRUE(Matches("[ab]", "a"));
+  EXPECT_TRUE(Matches("a{2}", "aa"));
+  EXPECT_TRUE(Matches("a|b", "b"));
+}
+
+TEST(NamePattern, ComparesPlainPatternsOfAnyLength) {
+  const std::string pattern(200'000, 'a');
+  EXPECT_TRUE(Matches(pattern, std::string(200'000, 'A')));
+  EXPECT_FALSE(Matches(pattern, std::string(199'999, 'a') + "b"));
+  EXPECT_FALSE(Matches(pattern, std::string(200'001, 'a')));
+}
+
+/// Makes a pattern of every byte and compares its answers on every byte.
+void ExpectAgreementOnAllBytes() {
+  for (int patternByte = 1; patternByte < 256; ++patternByte) {
+    const std::string pattern(1, static_cast<char>(patternByte));
+    const std::optional<std::regex> expression = Expression(pattern);
+    std::optional<vif::CNamePattern> namePattern = NamePattern(pattern);
+    ASSERT_EQ(namePattern.has_value(), expression.has_value()) << reference::Shown(pattern);
+    if (!expression) continue;
+    for (int nameByte = 1; nameByte < 256; ++nameByte) {
+      const std::string name(1, static_cast<char>(nameByte));
+      ASSERT_EQ(namePattern->Matches(name.c_str()), std::regex_match(name, *expression))
+          << reference::Shown(pattern) << " on " << reference::Shown(name);
+    }
+  }
+}
+
+TEST(NamePattern, AgreesWithTheExpressionOnAllBytes) { ExpectAgreementOnAllBytes(); }
+
+TEST(NamePattern, AgreesWithTheExpressionOnAllBytesInAnotherLocale) {
+  const CScopedGlobalLocale latin1(Latin1Locale());
+  ExpectAgreementOnAllBytes();
+}
+
+TEST(NamePattern, DisregardsLetterCaseAsTheGlobalLocaleHasIt) {
+  EXPECT_FALSE(Matches("\xC9", "\xE9"));
+  EXPECT_FALSE(Matches("\xC9.", "\xE9."));
+  const CScopedGlobalLocale latin1(Latin1Locale());
+  EXPECT_TRUE(Matches("\xC9", "\xE9"));
+  EXPECT_TRUE(Matches("\xE9", "\xC9"));
+  EXPECT_TRUE(Matches("\xC9.", "\xE9."));
+}
+
+TEST(NamePattern, KeepsTheLocaleOfTheMomentItWasMadeIn) {
+  for (const char* text : {"\xC9", "\xC9?"}) {
+    vif::CNamePattern madeBefore(text);
+    std::optional<vif::CNamePattern> madeWithin;
+    {
+      const CScopedGlobalLocale latin1(Latin1Locale());
+      madeWithin.emplace(text);
+      EXPECT_FALSE(madeBefore.Matches("\xE9"));
+    }
+    EXPECT_TRUE(madeWithin->Matches("\xE9"));
+  }
+}
+
+/// One to twelve random bytes without NUL.
+std::string RandomPlainText(std::mt19937_64& generator) {
+  constexpr std::string_view usual = "abcXYZ019_-'\" #&,/:;<=>@`~!%\n";
+  std::string text(1 + RandomBelow(generator, 12), ' ');
+  for (char& c : text) {
+    const size_t choice = RandomBelow(generator, usual.size() + 20);
+    c = choice < usual.size() ? usual[choice] : static_cast<char>(1 + RandomBelow(generator, 255));
+  }
+  return text;
+}
+
+/// A name that is often near to the text: the same, in other letter case, or with a character changed.
+std::string RandomNameNear(std::string text, std::mt19937_64& generator) {
+  for (char& c : text) {
+    if (RandomBelow(generator, 4) == 0) c = std::toupper(c, std::locale());
+    if (RandomBelow(generator, 4) == 0) c = std::tolower(c, std::locale());
+  }
+  if (RandomBelow(generator, 3) == 0) text = reference::Changed(text, generator);
+  std::erase(text, '\0');
+  return text;
+}
+
+void ExpectAgreementOnPlainPatterns() {
+  SCOPED_TRACE(testsupport::SeedMessage());
+  std::mt19937_64 generator = testsupport::SeededGenerator();
+  for (int i = 0; i < 5000; ++i) {
+    const std::string pattern = RandomPlainText(generator);
+    const std::optional<std::regex> expression = Expression(pattern);
+    std::optional<vif::CNamePattern> namePattern = NamePattern(pattern);
+    ASSERT_EQ(namePattern.has_value(), expression.has_value()) << reference::Shown(pattern);
+    for (int j = 0; expression && j < 6; ++j) {
+      const std::string name = RandomNameNear(pattern, generator);
+      ASSERT_EQ(namePattern->Matches(name.c_str()), std::regex_match(name, *expression))
+          << reference::Shown(pattern) << " on " << reference::Shown(name);
+    }
+  }
+}
+
+TEST(NamePattern, AgreesWithTheExpressionOnPlainPatterns) { ExpectAgreementOnPlainPatterns(); }
+
+TEST(NamePattern, AgreesWithTheExpressionOnPlainPatternsInAnotherLocale) {
+  const CScopedGlobalLocale latin1(Latin1Locale());
+  ExpectAgreementOnPlainPatterns();
+}
+
+/// Compares on random expressions and names. With `lengthened` the pattern first sees a name that is too long for
+/// the way in which it matches names at first.
+void ExpectAgreementOnExpressions(bool lengthened) {
+  SCOPED_TRACE(testsupport::SeedMessage());
+  std::mt19937_64 generator = testsupport::SeededGenerator();
+  const std::string longName(5000, 'a');
+  for (int i = 0; i < 3000; ++i) {
+    const std::string pattern = randomexpression::Pattern(generator);
+    const std::optional<std::regex> expression = Expression(pattern);
+    std::optional<vif::CNamePattern> namePattern = NamePattern(pattern);
+    ASSERT_EQ(namePattern.has_value(), expression.has_value()) << reference::Shown(pattern);
+    if (!expression) continue;
+    if (lengthened) {
+      try {
+        namePattern->Matches(longName.c_str());
+      } catch (const std::regex_error& error) {
+        ASSERT_EQ(error.code(), std::regex_constants::error_stack) << reference::Shown(pattern);
+      }
+    }
+    for (int j = 0; j < 8; ++j) {
+      const std::string name = randomexpression::Subject(generator);
+      ASSERT_EQ(namePattern->Matches(name.c_str()), std::regex_match(name, *expression))
+          << reference::Shown(pattern) << " on " << reference::Shown(name);
+    }
+  }
+}
+
+TEST(NamePattern, AgreesWithTheExpressionOnExpressions) { ExpectAgreementOnExpressions(false); }
+
+TEST(NamePattern, AgreesWithTheExpressionAfterALongName) { ExpectAgreementOnExpressions(true); }
+
+TEST(NamePattern, AgreesWithTheExpressionOnExpressionsInAnotherLocale) {
+  const CScopedGlobalLocale latin1(Latin1Locale());
+  ExpectAgreementOnExpressions(false);
+}
+
+constexpr size_t kLongName = 200'000;
+
+/// The answer on a long name; nothing when the match ended for want of stack. Any other error passes.
+std::optional<bool> AnswerOnLongName(const char* pattern, const std::string& name) {
+  try {
+    return Matches(pattern, name);
+  } catch (const std::regex_error& error) {
+    EXPECT_EQ(error.code(), std::regex_constants::error_stack) << pattern;
+    return std::nullopt;
+  }
+}
+
+void ExpectAnswerOnLongName(const char* pattern, const std::string& name, bool expected) {
+  const std::optional<bool> answer = AnswerOnLongName(pattern, name);
+  const bool hasOtherWay = VIF_REGEX_WITHOUT_RECURSION != std::regex_constants::syntax_option_type{};
+  if (hasOtherWay) {
+    EXPECT_TRUE(answer.has_value()) << pattern;
+  }
+  EXPECT_EQ(answer.value_or(expected), expected) << pattern;
+}
+
+TEST(NamePatternOnLongNames, AnswersWhereNoGroupIsReferredTo) {
+  const std::string name(kLongName, 'a');
+  ExpectAnswerOnLongName(".*", name, true);
+  ExpectAnswerOnLongName("(a|b)*", name, true);
+  ExpectAnswerOnLongName("A+", name, true);
+  ExpectAnswerOnLongName("[a-z]*", name, true);
+  ExpectAnswerOnLongName(".*x", name, false);
+  ExpectAnswerOnLongName("(b|a)*c", name, false);
+  ExpectAnswerOnLongName(".*x", name + "x", true);
+  ExpectAnswerOnLongName("(.*a)?", name, true);
+}
+
+TEST(NamePatternOnLongNames, EndsWhereAGroupIsReferredTo) {
+  const std::string name(kLongName, 'a');
+  EXPECT_EQ(AnswerOnLongName("(a)\\1*", name).value_or(true), true);
+  EXPECT_EQ(AnswerOnLongName("(a)\\1*", name + "b").value_or(false), false);
+  EXPECT_EQ(AnswerOnLongName("(a*)\\1", name).value_or(true), true);
+}
+
+TEST(NamePatternOnLongNames, IsOfUseForShortNamesAfterwards) {
+  const std::string longName(kLongName, 'a');
+  for (const char* text : {"(a)\\1*", "(a|b)*"}) {
+    vif::CNamePattern pattern(text);
+    try {
+      EXPECT_TRUE(pattern.Matches(longName.c_str()));
+    } catch (const std::regex_error& error) {
+      EXPECT_EQ(error.code(), std::regex_constants::error_stack);
+    }
+    EXPECT_TRUE(pattern.Matches("aaa"));
+    EXPECT_FALSE(pattern.Matches("aac"));
+  }
+}
+
+TEST(NamePatternOnLongNames, KeepsTheLocaleOfTheMomentItWasMadeIn) {
+  std::optional<vif::CNamePattern> pattern;
+  {
+    const CScopedGlobalLocale latin1(Latin1Locale());
+    pattern.emplace("\xC9*");
+  }
+  ASSERT_TRUE(pattern->Matches("\xE9\xE9"));
+  const std::string longName(kLongName, '\xE9');
+  try {
+    EXPECT_TRUE(pattern->Matches(longName.c_str()));
+  } catch (const std::regex_error& error) {
+    EXPECT_EQ(error.code(), std::regex_constants::error_stack);
+  }
+  EXPECT_TRUE(pattern->Matches("\xE9\xE9"));
+}
+
+}  // namespace

@@ -1,0 +1,104 @@
+#include "BaseUtilities/SafeString.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+
+namespace {
+
+using namespace std::string_literals;
+
+static_assert(std::is_nothrow_default_constructible_v<CSafeString>);
+static_assert(std::is_nothrow_move_constructible_v<CSafeString>);
+static_assert(std::is_nothrow_move_assignable_v<CSafeString>);
+static_assert(std::is_convertible_v<const char*, CSafeString>);
+static_assert(std::is_convertible_v<std::string, CSafeString>);
+
+// Too long to be held inside the string object, so that moving it moves its memory.
+const std::string kLongText(1000, 'x');
+
+TEST(SafeString, IsEmptyByDefault) { EXPECT_STREQ(CSafeString().get(), ""); }
+
+TEST(SafeString, CopiesTheTextThatItIsMadeFrom) {
+  char text[] = "narrow";
+  const CSafeString made(text);
+  text[0] = 'h';
+  EXPECT_STREQ(made.get(), "narrow");
+}
+
+TEST(SafeString, TakesNullForTheEmptyString) { EXPECT_STREQ(CSafeString(nullptr).get(), ""); }
+
+TEST(SafeString, IsMadeFromAStandardString) {
+  EXPECT_STREQ(CSafeString("standard"s).get(), "standard");
+  EXPECT_STREQ(CSafeString(""s).get(), "");
+  EXPECT_EQ(CSafeString(kLongText).get(), kLongText);
+}
+
+TEST(SafeString, DropsTextBehindAnEmbeddedNul) {
+  const CSafeString fromStandard("kept\0dropped"s);
+  EXPECT_STREQ(fromStandard.get(), "kept");
+  EXPECT_STREQ(CSafeString("kept\0dropped").get(), "kept");
+  EXPECT_STREQ(CSafeString("\0dropped"s).get(), "");
+}
+
+TEST(SafeString, KeepsBytesThatAreNotUtf8) { EXPECT_STREQ(CSafeString("\xFF\x80"s).get(), "\xFF\x80"); }
+
+TEST(SafeString, GivesTheSameTextUntilItIsChanged) {
+  const CSafeString text(kLongText);
+  const char* before = text.get();
+  EXPECT_EQ(text.get(), before);
+}
+
+TEST(SafeString, CopiesAreIndependent) {
+  CSafeString original("first");
+  const CSafeString constructed(original);
+  CSafeString assigned;
+  assigned = original;
+  original = "other";
+  EXPECT_STREQ(constructed.get(), "first");
+  EXPECT_STREQ(assigned.get(), "first");
+}
+
+TEST(SafeString, MovingLeavesTheSourceEmpty) {
+  for (const std::string& text : {"short"s, kLongText}) {
+    CSafeString source(text);
+    CSafeString constructed(std::move(source));
+    EXPECT_EQ(constructed.get(), text);
+    EXPECT_STREQ(source.get(), "");
+
+    CSafeString assigned("other");
+    assigned = std::move(constructed);
+    EXPECT_EQ(assigned.get(), text);
+    EXPECT_STREQ(constructed.get(), "");
+  }
+}
+
+TEST(SafeString, MovedFromStringMayBeUsedAgain) {
+  CSafeString source(kLongText);
+  const CSafeString target(std::move(source));
+  source = "again";
+  EXPECT_STREQ(source.get(), "again");
+  EXPECT_EQ(target.get(), kLongText);
+}
+
+TEST(SafeString, AssigningItToItselfChangesNothing) {
+  for (const std::string& text : {"short"s, kLongText}) {
+    CSafeString string(text);
+    CSafeString& same = string;
+    string = same;
+    EXPECT_EQ(string.get(), text);
+    string = std::move(same);
+    EXPECT_EQ(string.get(), text);
+  }
+}
+
+TEST(SafeString, TakesItsOwnTextInAssignment) {
+  CSafeString string("prefix and rest");
+  string = string.get() + 7;
+  EXPECT_STREQ(string.get(), "and rest");
+}
+
+}  // namespace

@@ -1,0 +1,67 @@
+// What `vif` says of itself, and how it refuses.
+#include "support/RunProgram.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+using testsupport::Lines;
+using testsupport::ProgramResult;
+using testsupport::RunProgram;
+
+ProgramResult Vif(std::vector<std::string> arguments) {
+  arguments.insert(arguments.begin(), VIF_COMMAND);
+  return RunProgram(arguments);
+}
+
+void ExpectUsageError(const ProgramResult& result, const std::string& reason) {
+  EXPECT_EQ(result.status, 2);
+  EXPECT_THAT(result.output, IsEmpty());
+  EXPECT_EQ(Lines(result.error).size(), 1U) << result.error;
+  EXPECT_THAT(result.error, StartsWith("vif: "));
+  EXPECT_THAT(result.error, HasSubstr(reason));
+}
+
+TEST(Usage, HelpGoesToStandardOutput) {
+  const ProgramResult result = Vif({"--help"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.error, IsEmpty());
+  EXPECT_THAT(result.output, HasSubstr("Vendor Info Files"));
+  EXPECT_THAT(result.output, HasSubstr("list "));
+  EXPECT_THAT(result.output, HasSubstr("Exit status: 0 done; 1 looked and found wanting; 2 could not do it"));
+}
+
+TEST(Usage, HelpOfACommandNamesItsOptionsAndGivesExamples) {
+  const ProgramResult result = Vif({"list", "--help"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.output, HasSubstr("Usage: vif list [OPTIONS] FILE..."));
+  EXPECT_THAT(result.output, HasSubstr("--format FORMAT"));
+  EXPECT_THAT(result.output, HasSubstr("vif list --format json"));
+}
+
+TEST(Usage, VersionIsThatOfTheProject) {
+  const ProgramResult result = Vif({"--version"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.output, "vif " VIF_VERSION "\n");
+}
+
+TEST(Usage, NoCommandIsAUsageError) { ExpectUsageError(Vif({}), "no command given"); }
+
+TEST(Usage, AnUnknownCommandIsNamed) { ExpectUsageError(Vif({"lst", "a.txt"}), "'lst'"); }
+
+TEST(Usage, AnUnknownOptionIsNamed) { ExpectUsageError(Vif({"list", "--frmat", "a.txt"}), "--frmat"); }
+
+TEST(Usage, AnUnknownFormatIsNamedWithTheKnownOnes) {
+  ExpectUsageError(Vif({"list", "--format", "yaml", "a.txt"}), "yaml not in {table,json,csv}");
+}
+
+TEST(Usage, ListNeedsAFile) { ExpectUsageError(Vif({"list"}), "FILE is required"); }
+
+TEST(Usage, LineFeedsInAMessageDoNotBreakItsOneLine) {
+  ExpectUsageError(Vif({"list", "a\nb\x1b[2J.txt"}), "a\\nb\\x1b[2J.txt");
+}
+
+}  // namespace
