@@ -23,4 +23,4 @@ CZoDOMDocException::CZoDOMDocException(const char* message)
 
 CZoDOMDocException::~CZoDOMDocException() = default;
 
-const char* CZoDOMDocException::what() const noexcept { return m_message.c_str(); }
+const char* CZoDOMDocException::what() const noexcept { return m_message.what(); }

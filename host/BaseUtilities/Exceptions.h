@@ -5,7 +5,6 @@
 
 #include <exception>
 #include <stdexcept>
-#include <string>
 
 /// What every exception of the host has in common. It is no `std::exception` of its own accord, so that the
 /// classes below can be caught both as this and, without ambiguity, as `std::exception`.
@@ -53,5 +52,5 @@ class ZO_API CZoDOMDocException : public CZoException, public std::exception {
   const char* what() const noexcept override;
 
  private:
-  std::string m_message;
+  std::runtime_error m_message;  // holds the text so that copying the exception cannot fail
 };

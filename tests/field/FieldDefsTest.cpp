@@ -145,6 +145,17 @@ TEST(FieldDefs, FitWhatTheReferencePatternsFitAmongChangedNames) {
   }
 }
 
+TEST(FieldDefs, AreNotFoundWithinALongerText) {
+  ASSERT_EQ(GetVifFieldDefs().size(), std::size(kReferenceFields));
+  for (size_t i = 0; i < std::size(kReferenceFields); ++i) {
+    const std::wregex& pattern = GetVifFieldDefs()[i].pattern;
+    const std::wstring name = kReferenceFields[i].name;
+    EXPECT_TRUE(std::regex_search(name, pattern)) << "row " << i + 1;
+    EXPECT_FALSE(std::regex_search(L"x" + name, pattern)) << "row " << i + 1;
+    EXPECT_FALSE(std::regex_search(name + L"x", pattern)) << "row " << i + 1;
+  }
+}
+
 TEST(FieldDefs, FitNoNameTwice) {
   for (const std::string& name : NamesOfAllFields()) EXPECT_EQ(FittingDefinitions(name), 1) << name;
 }

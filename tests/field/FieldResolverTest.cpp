@@ -175,9 +175,13 @@ TEST_P(BuiltInTable, IsAppliedByManyThreadsAtOnce) {
   for (const std::string& result : results) EXPECT_EQ(result, "SVID_Mode_Recog_Mask_SOP 6.5 9.3 10.2");
 }
 
-TEST(BuiltInTableWithoutPatterns, TakesANumberOfAMillionDigits) {
-  EXPECT_EQ(Resolved(nullptr, "Src_PDO_Voltage" + std::string(1'000'000, '9')), "Src_PDO_Voltage 6.5 7.- -");
-  EXPECT_EQ(Resolved(nullptr, "Src_PDO_Voltage" + std::string(1'000'000, '0') + "1"), "Src_PDO_Voltage 6.5 7.1 -");
+TEST(FieldResolver, TakesANumberOfAMillionDigitsWithoutTryingThePatternsOfTheBuiltInTable) {
+  const std::string nines(1'000'000, '9');
+  const std::string zeros(1'000'000, '0');
+  for (const Table* table : {static_cast<const Table*>(nullptr), &VifFieldDefs::GetVifFieldDefs()}) {
+    EXPECT_EQ(Resolved(table, "Src_PDO_Voltage" + nines), "Src_PDO_Voltage 6.5 7.- -");
+    EXPECT_EQ(Resolved(table, "Src_PDO_Voltage" + zeros + "1"), "Src_PDO_Voltage 6.5 7.1 -");
+  }
 }
 
 TEST(FieldResolver, LeavesNothingOfTheNameBefore) {

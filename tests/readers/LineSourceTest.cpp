@@ -25,7 +25,7 @@ using testing::ElementsAre;
 using testsupport::RunTimeErrorOf;
 using testsupport::ScriptedBuffer;
 
-constexpr std::size_t kChunkSize = 64 * 1024;
+constexpr std::size_t kChunkSize = 0x10000;
 
 std::vector<std::string> LinesOf(CLineSource& source) {
   std::vector<std::string> lines;

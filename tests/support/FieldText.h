@@ -25,6 +25,7 @@ inline std::string FieldText(const CVIFField& field) {
 
 inline std::vector<std::string> FieldTexts(const std::vector<CVIFField>& fields) {
   std::vector<std::string> texts;
+  texts.reserve(fields.size());
   for (const CVIFField& field : fields) texts.push_back(FieldText(field));
   return texts;
 }

@@ -22,7 +22,9 @@ class TempDir {
   }
 
   TempDir(const TempDir&) = delete;
+  TempDir(TempDir&&) = delete;
   TempDir& operator=(const TempDir&) = delete;
+  TempDir& operator=(TempDir&&) = delete;
 
   ~TempDir() {
     std::error_code ignored;

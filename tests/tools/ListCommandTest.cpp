@@ -12,10 +12,8 @@
 namespace {
 
 using nlohmann::json;
-using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::Not;
 using testing::StartsWith;
 using testsupport::Lines;
 using testsupport::ProgramResult;

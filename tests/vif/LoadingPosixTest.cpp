@@ -35,7 +35,9 @@ class Alarm {
  public:
   explicit Alarm(unsigned seconds = 20) { alarm(seconds); }
   Alarm(const Alarm&) = delete;
+  Alarm(Alarm&&) = delete;
   Alarm& operator=(const Alarm&) = delete;
+  Alarm& operator=(Alarm&&) = delete;
   ~Alarm() { alarm(0); }
 };
 
@@ -47,7 +49,9 @@ class OrdinaryUser {
     if (m_former == 0 && seteuid(nobody) != 0) throw std::system_error(errno, std::generic_category(), "seteuid");
   }
   OrdinaryUser(const OrdinaryUser&) = delete;
+  OrdinaryUser(OrdinaryUser&&) = delete;
   OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+  OrdinaryUser& operator=(OrdinaryUser&&) = delete;
   ~OrdinaryUser() {
     if (geteuid() != m_former && seteuid(m_former) != 0) std::abort();
   }
@@ -63,7 +67,9 @@ class Permissions {
     fs::permissions(path, permissions);
   }
   Permissions(const Permissions&) = delete;
+  Permissions(Permissions&&) = delete;
   Permissions& operator=(const Permissions&) = delete;
+  Permissions& operator=(Permissions&&) = delete;
   ~Permissions() { fs::permissions(m_path, m_former); }
 
  private:
@@ -86,7 +92,9 @@ class Socket {
     }
   }
   Socket(const Socket&) = delete;
+  Socket(Socket&&) = delete;
   Socket& operator=(const Socket&) = delete;
+  Socket& operator=(Socket&&) = delete;
   ~Socket() { close(m_socket); }
 
  private:

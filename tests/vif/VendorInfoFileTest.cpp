@@ -430,8 +430,7 @@ TEST_F(VendorInfoFileTest, MovesThrowNothing) {
 }
 
 TEST_F(VendorInfoFileTest, ObjectsMayBeKeptInAVector) {
-  std::vector<CVendorInfoFile> vifs;
-  for (int i = 0; i < 10; ++i) vifs.emplace_back(m_first);
+  std::vector<CVendorInfoFile> vifs(10, CVendorInfoFile(m_first));
   vifs.erase(vifs.begin());
   for (const CVendorInfoFile& vif : vifs) EXPECT_EQ(vif.Count(), 2U);
 }
