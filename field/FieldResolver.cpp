@@ -5,6 +5,7 @@
 #include "GuardedRegex.h"
 #include "KnownFieldIndex.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstddef>
 
@@ -50,6 +51,15 @@ void FillSlots(const std::array<EVifLocation, CVIFField::MAX_INDEX_DEPTH>& locat
   }
 }
 
+/// The first definition whose pattern fits the whole name, with the captures in `match`; null when there is none.
+const VifFieldDef* FindDefinition(const std::vector<VifFieldDef>& table, std::wstring_view name,
+                                  GuardedMatch<wchar_t>& match) {
+  const auto found = std::find_if(table.begin(), table.end(), [&](const VifFieldDef& definition) {
+    return GuardedRegexMatch(name, match, definition.pattern);
+  });
+  return found != table.end() ? &*found : nullptr;
+}
+
 }  // namespace
 
 CFieldResolver::CFieldResolver(const std::vector<VifFieldDef>* table, std::uint32_t component)
@@ -66,6 +76,12 @@ void CFieldResolver::Resolve(std::string_view name, ResolvedName& result) const 
   }
 }
 
+bool CFieldResolver::Knows(std::string_view name) const {
+  if (m_ownTable == nullptr) return BuiltInFieldIndex().Find(name).field != nullptr;
+  GuardedMatch<wchar_t> match;
+  return FindDefinition(*m_ownTable, Utf8ToUtf16(name), match) != nullptr;
+}
+
 void CFieldResolver::ResolveBuiltIn(std::string_view name, ResolvedName& result) const {
   const KnownFieldMatch match = BuiltInFieldIndex().Find(name);
   if (match.field == nullptr) return;
@@ -78,20 +94,18 @@ void CFieldResolver::ResolveBuiltIn(std::string_view name, ResolvedName& result)
 void CFieldResolver::ResolveByPatterns(std::string_view name, ResolvedName& result) const {
   const std::wstring wideName = Utf8ToUtf16(name);
   GuardedMatch<wchar_t> match;
-  for (const VifFieldDef& definition : *m_ownTable) {
-    if (!GuardedRegexMatch<wchar_t>(wideName, match, definition.pattern)) continue;
-    result.isKnown = true;
-    result.name = definition.name != nullptr ? Utf16ToUtf8(definition.name) : std::string();
-    std::string captured;
-    const auto capture = [&](size_t group) -> std::string_view {
-      captured.clear();
-      if (group >= match.size() || !match[group].matched) return captured;
-      captured = Utf16ToUtf8({match[group].first.Position(), match[group].second.Position()});
-      return captured;
-    };
-    FillSlots(definition.locations, m_component, capture, result);
-    return;
-  }
+  const VifFieldDef* definition = FindDefinition(*m_ownTable, wideName, match);
+  if (definition == nullptr) return;
+  result.isKnown = true;
+  result.name = definition->name != nullptr ? Utf16ToUtf8(definition->name) : std::string();
+  std::string captured;
+  const auto capture = [&](size_t group) -> std::string_view {
+    captured.clear();
+    if (group >= match.size() || !match[group].matched) return captured;
+    captured = Utf16ToUtf8({match[group].first.Position(), match[group].second.Position()});
+    return captured;
+  };
+  FillSlots(definition->locations, m_component, capture, result);
 }
 
 }  // namespace vif

@@ -30,6 +30,10 @@ class CFieldResolver {
   /// \throws std::regex_error when a definition of the caller's own cannot be matched with the stack at hand
   void Resolve(std::string_view name, ResolvedName& result) const;
 
+  /// Whether a definition knows the name.
+  /// \throws std::regex_error as `Resolve` does
+  bool Knows(std::string_view name) const;
+
  private:
   void ResolveBuiltIn(std::string_view name, ResolvedName& result) const;
   void ResolveByPatterns(std::string_view name, ResolvedName& result) const;

@@ -32,8 +32,9 @@ struct Declaration {
 ///     ^([[:alnum:]_']+)\s*:\s*(0x[[:xdigit:]]+|[[:digit:]]+|YES|NO)$
 ///
 /// matched by plain code. The character classes and the letter case are those of the global locale at the time
-/// the grammar is made, as they would be for a regular expression compiled then. A locale in which ":" or the
-/// double quote is a letter, a digit or white space is the one thing that would make a difference.
+/// the grammar is made, as they would be for a regular expression compiled then. Only a locale that no system has
+/// would make a difference: one in which ":" or the double quote is a letter, a digit or white space or the other
+/// letter case of one, or in which a character is both white space and a digit.
 class CLineGrammar {
  public:
   CLineGrammar();

@@ -41,8 +41,14 @@ bool CLineSource::Refill() {
   if (!AwaitData()) return false;
   // Only what has been read already, so that an error further on costs none of it.
   const std::streamsize count = m_stream.readsome(m_chunk.data(), static_cast<std::streamsize>(m_chunk.size()));
-  m_unread = {m_chunk.data(), static_cast<size_t>(count)};
-  return count > 0;
+  if (count > 0) {
+    m_unread = {m_chunk.data(), static_cast<size_t>(count)};
+  } else {
+    // A stream that reads without a buffer never has anything ready but the character that was seen.
+    m_chunk[0] = static_cast<char>(m_stream.get());
+    m_unread = {m_chunk.data(), 1};
+  }
+  return true;
 }
 
 bool CLineSource::AwaitData() {

@@ -31,7 +31,7 @@ class CLineReader {
       Report(line, eVifLineNotUnderstood);
       return;
     }
-    m_resolver.Resolve(declaration->name, m_resolved);
+    Resolve(declaration->name);
     if (m_observer != nullptr && !IsKnown(*declaration)) Report(line, eVifLineUnknownName);
     AppendField(*declaration, split.comment);
   }
@@ -61,13 +61,18 @@ class CLineReader {
     m_fields.emplace_back(!declaration.isString, m_resolved.name, m_value, m_description, m_resolved.slots);
   }
 
+  void Resolve(std::string_view name) {
+    try {
+      m_resolver.Resolve(name, m_resolved);
+    } catch (const std::regex_error& error) {
+      ThrowRunTimeError(error.what());
+    }
+  }
+
   /// Whether a definition knows the name. The built-in definitions know the names of string declarations without
   /// the "$", although they are stored with it and in no group.
-  bool IsKnown(const Declaration& declaration) {
-    if (m_resolved.isKnown || !declaration.isString) return m_resolved.isKnown;
-    ResolvedName withoutMark;
-    m_resolver.Resolve(declaration.name.substr(1), withoutMark);
-    return withoutMark.isKnown;
+  bool IsKnown(const Declaration& declaration) const {
+    return m_resolved.isKnown || (declaration.isString && m_resolver.Knows(declaration.name.substr(1)));
   }
 
   void Report(std::string_view line, EVifLineProblem problem) const {
@@ -103,15 +108,11 @@ void ReadTextVif(std::istream& stream, const std::string& pathText, const std::v
                  FieldSink sink, const VifLineObserver* observer) {
   ++sink.componentCount;
   CLineReader reader(table, sink, observer);
-  try {
-    CLineSource lines(stream, pathText);
-    std::string_view line;
-    while (lines.Next(line)) reader.ReadLine(line);
-    // A read error of which the stream makes no exception ends the file quietly.
-    if (lines.HasFailed()) reader.ReportReadFailure();
-  } catch (const std::regex_error& error) {
-    ThrowRunTimeError(error.what());
-  }
+  CLineSource lines(stream, pathText);
+  std::string_view line;
+  while (lines.Next(line)) reader.ReadLine(line);
+  // A read error of which the stream makes no exception ends the file quietly.
+  if (lines.HasFailed()) reader.ReportReadFailure();
 }
 
 }  // namespace vif

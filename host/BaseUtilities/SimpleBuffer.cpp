@@ -53,14 +53,20 @@ std::string NumberText(const CFormatArgument& argument, char conversion) {
   return text;
 }
 
-std::string CharacterText(const CFormatArgument& argument, char conversion) {
-  if (!IsOneOf(conversion, "csS")) return NumberText(argument, conversion);
-  const auto character = static_cast<wchar_t>(argument.Number());
-  return Utf16ToUtf8(std::wstring_view(&character, 1));
+/// Whether the argument prints as a number under that conversion.
+bool PrintsAsNumber(const CFormatArgument& argument, char conversion) {
+  switch (argument.GetKind()) {
+    case CFormatArgument::Kind::Signed:
+    case CFormatArgument::Kind::Unsigned: return true;
+    case CFormatArgument::Kind::Character: return !IsOneOf(conversion, "csS");
+    default: return false;
+  }
 }
 
-bool IsNumber(const CFormatArgument& argument) {
-  return argument.GetKind() == CFormatArgument::Kind::Signed || argument.GetKind() == CFormatArgument::Kind::Unsigned;
+std::string CharacterText(const CFormatArgument& argument, char conversion) {
+  if (PrintsAsNumber(argument, conversion)) return NumberText(argument, conversion);
+  const auto character = static_cast<wchar_t>(argument.Number());
+  return Utf16ToUtf8(std::wstring_view(&character, 1));
 }
 
 std::string ArgumentText(const CFormatArgument& argument, char conversion) {
@@ -115,7 +121,8 @@ std::string FormatText(std::string_view format, std::span<const CFormatArgument>
       continue;
     }
     const CFormatArgument& argument = arguments[used++];
-    AppendPadded(out, ArgumentText(argument, placeholder->conversion), *placeholder, IsNumber(argument));
+    AppendPadded(out, ArgumentText(argument, placeholder->conversion), *placeholder,
+                 PrintsAsNumber(argument, placeholder->conversion));
     format.remove_prefix(placeholder->length);
   }
   return out;

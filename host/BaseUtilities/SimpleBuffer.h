@@ -67,7 +67,8 @@ class CFormatArgument {
 ///   of its own size, so that the 32-bit -2147467261 is 80004003 under `%08X`;
 /// - a character prints as itself under `c s S` and as its code under the number conversions.
 /// A placeholder for which there is no argument, or that is none of the above, is printed as it stands.
-/// Widths count Unicode characters and are held to at most 1,000. `%s` inside an argument is text like any other.
+/// Widths count Unicode characters and are held to at most 1,000; `0` fills numbers only. `%s` inside an argument is
+/// text like any other.
 ///
 /// A buffer is for one thread at a time. Only `std::bad_alloc` is thrown.
 class ZO_API CSimpleBuffer {

@@ -213,6 +213,8 @@ TEST(SimpleBuffer, FillsNumbersWithZerosOnRequest) { EXPECT_EQ(Narrow("%05d|%04X
 
 TEST(SimpleBuffer, PutsTheSignBeforeTheZeros) { EXPECT_EQ(Narrow("%05d", -42), "-0042"); }
 
+TEST(SimpleBuffer, FillsTheCodeOfACharacterWithZeros) { EXPECT_EQ(Narrow("%04X", 'A'), "0041"); }
+
 TEST(SimpleBuffer, FillsWithZerosNeitherBehindNorBeforeText) {
   EXPECT_EQ(Narrow("%-05d|%0-5d|", 42, 42), "42   |42   |");
   EXPECT_EQ(Narrow("%05s", "ab"), "   ab");

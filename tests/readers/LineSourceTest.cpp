@@ -12,8 +12,10 @@
 #include <istream>
 #include <new>
 #include <sstream>
+#include <streambuf>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace vif {
@@ -250,6 +252,39 @@ TEST(LineSourceTest, OtherExceptionsOfTheStreamPass) {
   std::istream stream(&buffer);
   stream.exceptions(std::ios::badbit);
   EXPECT_THROW(LinesOf(stream), std::bad_alloc);
+}
+
+/// Hands out one character after the other and never has one ready.
+class UnbufferedBuffer : public std::streambuf {
+ public:
+  explicit UnbufferedBuffer(std::string content) : m_content(std::move(content)) {}
+
+ protected:
+  int_type underflow() override {
+    return m_next < m_content.size() ? traits_type::to_int_type(m_content[m_next]) : traits_type::eof();
+  }
+  int_type uflow() override {
+    const int_type character = underflow();
+    ++m_next;
+    return character;
+  }
+
+ private:
+  std::string m_content;
+  std::size_t m_next = 0;
+};
+
+TEST(LineSourceTest, StreamWithoutABufferIsReadToItsEnd) {
+  UnbufferedBuffer buffer("one\ntwo");
+  std::istream stream(&buffer);
+  CLineSource source(stream, "a.txt");
+  std::string_view line;
+  ASSERT_TRUE(source.Next(line));
+  EXPECT_EQ(line, "one");
+  ASSERT_TRUE(source.Next(line));
+  EXPECT_EQ(line, "two");
+  EXPECT_FALSE(source.Next(line));
+  EXPECT_FALSE(source.HasFailed());
 }
 
 }  // namespace

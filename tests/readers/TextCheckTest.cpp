@@ -195,6 +195,22 @@ TEST(TextCheckTest, WhatTheObserverThrowsEndsTheReading) {
   EXPECT_EQ(calls, 1);
 }
 
+TEST(TextCheckTest, StringNameIsOnlyLookedUpWithoutItsMark) {
+  // Loading never sees "Bad", so its definition's location, which is none, is nobody's business here either.
+  const std::vector<VifFieldDef> table = {{L"Bad", std::wregex(L"Bad"), {static_cast<EVifLocation>(13)}}};
+  EXPECT_THAT(Check("$Bad: \"x\"\n", &table), IsEmpty());
+}
+
+TEST(TextCheckTest, RegexErrorOfTheObserverComesThrough) {
+  std::istringstream stream("no declaration\n");
+  std::vector<CVIFField> fields;
+  std::uint32_t componentCount = 0;
+  const VifLineObserver observer = [](const VifLineReport&) {
+    throw std::regex_error(std::regex_constants::error_brace);
+  };
+  EXPECT_THROW(ReadTextVif(stream, "a.txt", nullptr, {fields, componentCount}, &observer), std::regex_error);
+}
+
 }  // namespace
 
 }  // namespace vif
