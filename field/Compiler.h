@@ -13,9 +13,9 @@
 #endif
 
 #if defined(__GLIBCXX__)
-/// A syntax option under which matching takes no stack per character, in exchange for back references; 0 where
-/// the standard library has none.
-#define VIF_REGEX_WITHOUT_RECURSION std::regex_constants::__polynomial
+/// A syntax option under which a match goes through the text character by character, in time and stack that do not
+/// run away, in exchange for references back to groups; 0 where the standard library has none.
+#define VIF_REGEX_STEPWISE std::regex_constants::__polynomial
 #else
-#define VIF_REGEX_WITHOUT_RECURSION (std::regex_constants::syntax_option_type{})
+#define VIF_REGEX_STEPWISE (std::regex_constants::syntax_option_type{})
 #endif

@@ -1,4 +1,4 @@
-// Runs std::regex on text of any length without running off the stack.
+// Runs std::regex on text of any length without running off the stack or for ever.
 #pragma once
 
 #include "Compiler.h"
@@ -15,9 +15,25 @@ namespace vif {
 /// is likely to have is several times as large.
 constexpr std::uintptr_t kMatchStackBudget = std::uintptr_t{256} * 1024;
 
-/// Walks over text for a regular expression and, whenever a character is read, looks how deep the matcher has
-/// gone. libstdc++ recurses for every character it matches, so this is the one place that sees every step;
-/// where the standard library guards its own stack, this guard is merely never the first to act.
+/// How often one match may read a character. Patterns that are not pathological read each character of a name a few
+/// times.
+constexpr std::size_t kMatchReadBudget = 1'000'000;
+
+/// What is left to a match.
+struct MatchBudget {
+  std::uintptr_t lowestFrame = 0;
+  std::size_t readsLeft = kMatchReadBudget;
+
+  /// Throws `std::regex_error` when the match has gone too deep or on for too long.
+  void Check() {
+    if (VIF_FRAME_ADDRESS() < lowestFrame) throw std::regex_error(std::regex_constants::error_stack);
+    if (readsLeft-- == 0) throw std::regex_error(std::regex_constants::error_complexity);
+  }
+};
+
+/// Walks over text for a regular expression and, whenever a character is read, looks at what is left to the match.
+/// libstdc++ recurses for every character it matches, so this is the one place that sees every step; where the
+/// standard library guards its own stack, this guard is merely never the first to act.
 template <typename Char>
 class CGuardedIterator {
  public:
@@ -28,14 +44,12 @@ class CGuardedIterator {
   using reference = const Char&;
 
   CGuardedIterator() = default;
-  CGuardedIterator(const Char* position, std::uintptr_t lowestFrame)
-      : m_position(position), m_lowestFrame(lowestFrame) {}
+  CGuardedIterator(const Char* position, MatchBudget& budget) : m_position(position), m_budget(&budget) {}
 
   reference operator*() const {
-    if (VIF_FRAME_ADDRESS() < m_lowestFrame) throw std::regex_error(std::regex_constants::error_stack);
+    m_budget->Check();
     return *m_position;
   }
-  pointer operator->() const { return m_position; }
   CGuardedIterator& operator++() {
     ++m_position;
     return *this;
@@ -60,21 +74,23 @@ class CGuardedIterator {
 
  private:
   const Char* m_position = nullptr;
-  std::uintptr_t m_lowestFrame = 0;
+  MatchBudget* m_budget = nullptr;
 };
 
 template <typename Char>
 using GuardedMatch = std::match_results<CGuardedIterator<Char>>;
 
-/// `std::regex_match` of the whole text, with the captures in `match`.
-/// \throws std::regex_error (`error_stack`) when the match would need more stack than the budget
+/// `std::regex_match` of the whole text, with the captures in `match`, of which only the positions may be used.
+/// \throws std::regex_error when the match would need more stack (`error_stack`) or more reads (`error_complexity`)
+///   than its budget
 template <typename Char>
 bool GuardedRegexMatch(std::basic_string_view<Char> text, GuardedMatch<Char>& match,
                        const std::basic_regex<Char>& expression) {
   const std::uintptr_t here = VIF_FRAME_ADDRESS();
-  const std::uintptr_t lowest = here > kMatchStackBudget ? here - kMatchStackBudget : 0;
-  const CGuardedIterator<Char> first(text.data(), lowest);
-  const CGuardedIterator<Char> last(text.data() + text.size(), lowest);
+  MatchBudget budget;
+  budget.lowestFrame = here > kMatchStackBudget ? here - kMatchStackBudget : 0;
+  const CGuardedIterator<Char> first(text.data(), budget);
+  const CGuardedIterator<Char> last(text.data() + text.size(), budget);
   return std::regex_match(first, last, match, expression);
 }
 

@@ -1,66 +1,75 @@
 #include "NamePattern.h"
 
 #include "GuardedRegex.h"
+#include "PatternDepth.h"
 
 #include <cstring>
 #include <string_view>
-#include <utility>
 
 namespace vif {
 
 namespace {
 
-constexpr std::string_view kSpecialCharacters = "^$\\.*+?()[]{}|";
+constexpr const char* kSpecialCharacters = "^$\\.*+?()[]{}|";
 constexpr auto kSyntax = std::regex_constants::ECMAScript | std::regex_constants::icase;
 
-bool MatchesWhole(const char* name, const std::regex& expression) {
-  GuardedMatch<char> match;
-  return GuardedRegexMatch(std::string_view(name), match, expression);
+/// The expression for the letter case of that locale; the global one may be another by now.
+std::regex CompileStepwise(const char* pattern, const std::locale& locale) {
+  std::regex expression;
+  expression.imbue(locale);
+  expression.assign(pattern, kSyntax | VIF_REGEX_STEPWISE);
+  return expression;
 }
+
+bool IsPlain(const char* pattern) { return std::strpbrk(pattern, kSpecialCharacters) == nullptr; }
+
+// libstdc++ fills the character tables of the locale, which all threads share, while it compiles the first
+// expressions, and takes no lock for it. So they are filled here, while the library is loaded and before threads can
+// come. The second argument of `narrow` is a character that no other is narrowed to, or the result is not kept.
+[[maybe_unused]] const bool characterTablesAreFilled = [] {
+  const std::locale locale;
+  const auto& ctype = std::use_facet<std::ctype<char>>(locale);
+  for (int c = 1; c < 256; ++c) ctype.narrow(static_cast<char>(c), '\0');
+  return ctype.widen('a') == 'a';
+}();
 
 }  // namespace
 
 CNamePattern::CNamePattern(const char* pattern)
     : m_pattern(pattern), m_ctype(std::use_facet<std::ctype<char>>(m_locale)) {
-  if (m_pattern.find_first_of(kSpecialCharacters) == std::string::npos) {
-    m_lowerCase = m_pattern;
-    m_ctype.tolower(m_lowerCase.data(), m_lowerCase.data() + m_lowerCase.size());
-  } else {
-    m_expression.emplace(m_pattern, kSyntax);
-  }
+  if (IsPlain(pattern)) return;
+  if (PatternDepth(pattern) > kMaxPatternDepth) throw std::regex_error(std::regex_constants::error_stack);
+  m_expression.emplace(pattern, kSyntax);
 }
 
 bool CNamePattern::Matches(const char* name) {
   if (!m_expression) return MatchesPlain(name);
-  if (m_withoutRecursion) return MatchesWhole(name, *m_withoutRecursion);
+  GuardedMatch<char> match;
   try {
-    return MatchesWhole(name, *m_expression);
+    return GuardedRegexMatch(std::string_view(name), match, *m_expression);
   } catch (const std::regex_error& error) {
-    if (error.code() != std::regex_constants::error_stack) throw;
+    if (VIF_REGEX_STEPWISE == std::regex_constants::syntax_option_type{}) throw;
+    return MatchesStepwise(name, error.code());
   }
-  return MatchesLong(name);
 }
 
 bool CNamePattern::MatchesPlain(const char* name) const {
-  if (std::strlen(name) != m_lowerCase.size()) return false;
-  for (size_t i = 0; i < m_lowerCase.size(); ++i) {
-    if (name[i] != m_pattern[i] && m_ctype.tolower(name[i]) != m_lowerCase[i]) return false;
+  const char* expected = m_pattern;
+  for (; *name != '\0' && *expected != '\0'; ++name, ++expected) {
+    if (*name != *expected && m_ctype.tolower(*name) != m_ctype.tolower(*expected)) return false;
   }
-  return true;
+  return *name == *expected;
 }
 
-bool CNamePattern::MatchesLong(const char* name) {
+bool CNamePattern::MatchesStepwise(const char* name, std::regex_constants::error_type reason) {
   try {
-    std::regex expression;
-    expression.imbue(m_locale);  // the global locale may be another one by now
-    expression.assign(m_pattern, kSyntax | VIF_REGEX_WITHOUT_RECURSION);
-    m_withoutRecursion = std::move(expression);
+    if (!m_stepwise) m_stepwise = CompileStepwise(m_pattern, m_locale);
   } catch (const std::regex_error&) {
-    // The pattern itself is sound, or it would have failed before: it refers back to a group, and for that
-    // there is no way without recursion.
-    throw std::regex_error(std::regex_constants::error_stack);
+    // The pattern is sound, or it would not have come this far: it refers back to a group, and that cannot be
+    // matched stepwise.
+    throw std::regex_error(reason);
   }
-  return MatchesWhole(name, *m_withoutRecursion);
+  return std::regex_match(name, *m_stepwise);
 }
 
 }  // namespace vif

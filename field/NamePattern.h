@@ -4,35 +4,34 @@
 #include <locale>
 #include <optional>
 #include <regex>
-#include <string>
 
 namespace vif {
 
 /// A regular expression (ECMAScript) for whole names, without regard to letter case as the global locale has it
 /// when the pattern is made. A pattern without special characters is compared character by character, the way
-/// the expression would, and needs no regular expression.
+/// the expression would, and needs neither a regular expression nor memory.
 ///
 /// Not for use by several threads at once.
 class CNamePattern {
  public:
-  /// \param pattern neither null nor empty
-  /// \throws std::regex_error when it is no regular expression
+  /// \param pattern neither null nor empty; borrowed, so it must outlive the object
+  /// \throws std::regex_error when it is no regular expression, or one too deep for the stack (`error_stack`)
   explicit CNamePattern(const char* pattern);
 
   /// Whether the whole name fits.
-  /// \throws std::regex_error when the match would need too much stack
+  /// \throws std::regex_error (`error_stack`, `error_complexity`) when the pattern refers back to a group and the
+  ///   match would take too much stack or time; any other pattern gives an answer for a name of any length
   bool Matches(const char* name);
 
  private:
   bool MatchesPlain(const char* name) const;
-  bool MatchesLong(const char* name);
+  bool MatchesStepwise(const char* name, std::regex_constants::error_type reason);
 
-  std::string m_pattern;
+  const char* m_pattern;
   std::locale m_locale;
   const std::ctype<char>& m_ctype;
-  std::string m_lowerCase;                       // of a plain pattern
-  std::optional<std::regex> m_expression;        // of any other
-  std::optional<std::regex> m_withoutRecursion;  // the same for names too long for it, made when one comes
+  std::optional<std::regex> m_expression;  // nothing for a plain pattern
+  std::optional<std::regex> m_stepwise;    // the same for names that are too much for it; made when one comes
 };
 
 }  // namespace vif

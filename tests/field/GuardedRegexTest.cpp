@@ -2,10 +2,15 @@
 
 #include "RandomExpression.h"
 #include "ReferenceNames.h"
+#include "RegexOutcome.h"
 #include "support/Random.h"
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+#include <limits>
 #include <optional>
 #include <random>
 #include <regex>
@@ -16,6 +21,33 @@
 namespace {
 
 using namespace std::string_literals;
+using testsupport::GuardedOutcome;
+using testsupport::RegexOutcome;
+using testsupport::RegexOutcomeOf;
+using vif::CGuardedIterator;
+using vif::GuardedMatch;
+using vif::GuardedRegexMatch;
+using vif::MatchBudget;
+
+// For narrow and wide text alike
+
+template <typename Char>
+std::basic_string<Char> Converted(const std::string& text) {
+  std::basic_string<Char> converted;
+  for (const char c : text) converted += static_cast<Char>(static_cast<unsigned char>(c));
+  return converted;
+}
+
+/// The text between two positions, of which a guarded match gives no more than where they are.
+template <typename Char>
+std::basic_string<Char> Between(const CGuardedIterator<Char>& first, const CGuardedIterator<Char>& second) {
+  return {first.Position(), second.Position()};
+}
+
+template <typename Iterator>
+auto Between(const Iterator& first, const Iterator& second) {
+  return std::basic_string<typename std::iterator_traits<Iterator>::value_type>(first, second);
+}
 
 /// What a match captured, as text; a group that took no part has none.
 template <typename Results>
@@ -23,16 +55,9 @@ auto Captures(const Results& match) {
   std::vector<std::optional<std::basic_string<typename Results::value_type::value_type>>> captures;
   for (const auto& group : match) {
     captures.emplace_back();
-    if (group.matched) captures.back().emplace(group.first, group.second);
+    if (group.matched) captures.back() = Between(group.first, group.second);
   }
   return captures;
-}
-
-template <typename Char>
-std::basic_string<Char> Converted(const std::string& text) {
-  std::basic_string<Char> converted;
-  for (const char c : text) converted += static_cast<Char>(static_cast<unsigned char>(c));
-  return converted;
 }
 
 template <typename Char>
@@ -43,10 +68,10 @@ TYPED_TEST_SUITE(GuardedRegex, CharacterTypes);
 
 TYPED_TEST(GuardedRegex, MatchesTheWholeText) {
   const std::basic_regex<TypeParam> expression(Converted<TypeParam>("a+"));
-  vif::GuardedMatch<TypeParam> match;
-  EXPECT_TRUE(vif::GuardedRegexMatch<TypeParam>(Converted<TypeParam>("aaa"), match, expression));
-  EXPECT_FALSE(vif::GuardedRegexMatch<TypeParam>(Converted<TypeParam>("aab"), match, expression));
-  EXPECT_FALSE(vif::GuardedRegexMatch<TypeParam>({}, match, expression));
+  GuardedMatch<TypeParam> match;
+  EXPECT_TRUE(GuardedRegexMatch<TypeParam>(Converted<TypeParam>("aaa"), match, expression));
+  EXPECT_FALSE(GuardedRegexMatch<TypeParam>(Converted<TypeParam>("aab"), match, expression));
+  EXPECT_FALSE(GuardedRegexMatch<TypeParam>({}, match, expression));
 }
 
 TYPED_TEST(GuardedRegex, AgreesWithTheUnguardedMatch) {
@@ -58,10 +83,9 @@ TYPED_TEST(GuardedRegex, AgreesWithTheUnguardedMatch) {
     for (int j = 0; expression && j < 8; ++j) {
       const std::string subject = randomexpression::Subject(generator);
       const std::basic_string<TypeParam> text = Converted<TypeParam>(subject);
-      vif::GuardedMatch<TypeParam> match;
+      GuardedMatch<TypeParam> match;
       std::match_results<typename std::basic_string<TypeParam>::const_iterator> expected;
-      ASSERT_EQ(vif::GuardedRegexMatch<TypeParam>(text, match, *expression),
-                std::regex_match(text, expected, *expression))
+      ASSERT_EQ(GuardedRegexMatch<TypeParam>(text, match, *expression), std::regex_match(text, expected, *expression))
           << reference::Shown(pattern) << " on " << reference::Shown(subject);
       ASSERT_EQ(Captures(match), Captures(expected))
           << reference::Shown(pattern) << " on " << reference::Shown(subject);
@@ -71,22 +95,121 @@ TYPED_TEST(GuardedRegex, AgreesWithTheUnguardedMatch) {
 
 TYPED_TEST(GuardedRegex, TakesNamesOfAnyLikelyLength) {
   const std::basic_regex<TypeParam> expression(Converted<TypeParam>(".*"));
-  vif::GuardedMatch<TypeParam> match;
-  EXPECT_TRUE(vif::GuardedRegexMatch<TypeParam>(std::basic_string<TypeParam>(100, 'a'), match, expression));
+  GuardedMatch<TypeParam> match;
+  EXPECT_TRUE(GuardedRegexMatch<TypeParam>(std::basic_string<TypeParam>(100, 'a'), match, expression));
 }
 
 TYPED_TEST(GuardedRegex, FailsInsteadOfRunningOffTheStack) {
   const std::basic_string<TypeParam> text(1'000'000, 'a');
   for (const std::string& pattern : {".*"s, "[a-z]*"s, "(a|b)*"s, "(a)\\1*"s, "(?=.*b).*"s, ".*b"s, "(.*)*"s}) {
     const std::basic_regex<TypeParam> expression(Converted<TypeParam>(pattern));
-    vif::GuardedMatch<TypeParam> match;
-    try {
-      EXPECT_FALSE(vif::GuardedRegexMatch<TypeParam>(text, match, expression)) << pattern;
-      ADD_FAILURE() << pattern;
-    } catch (const std::regex_error& error) {
-      EXPECT_EQ(error.code(), std::regex_constants::error_stack) << pattern;
-    }
+    GuardedMatch<TypeParam> match;
+    const RegexOutcome outcome = RegexOutcomeOf([&] { return GuardedRegexMatch<TypeParam>(text, match, expression); });
+    EXPECT_FALSE(outcome.answer.has_value()) << pattern;
+    EXPECT_EQ(outcome.error, std::regex_constants::error_stack) << pattern;
   }
+}
+
+// With narrow text
+
+TEST(GuardedRegexMatch, FitsTheWholeText) {
+  EXPECT_TRUE(*GuardedOutcome("Src_(.*)", "SRC_PDO").answer);
+  EXPECT_FALSE(*GuardedOutcome("Src", "Src_PDO").answer);
+  EXPECT_FALSE(*GuardedOutcome("PDO", "Src_PDO").answer);
+  EXPECT_TRUE(*GuardedOutcome(".*", "").answer);
+  EXPECT_FALSE(*GuardedOutcome(".+", "").answer);
+  EXPECT_TRUE(*GuardedOutcome("a.b", "a\0b"s).answer);
+}
+
+TEST(GuardedRegexMatch, LooksBehindAsWellAsAhead) {
+  EXPECT_TRUE(*GuardedOutcome("a\\b-\\bb", "a-b").answer);
+  EXPECT_FALSE(*GuardedOutcome("a\\bb", "ab").answer);
+  EXPECT_TRUE(*GuardedOutcome("a(?=b)b", "ab").answer);
+  EXPECT_TRUE(*GuardedOutcome("(a|b)\\1", "bb").answer);
+}
+
+TEST(GuardedRegexMatch, TellsWhereTheGroupsAre) {
+  const std::string text = "Src_PDO_12";
+  const std::regex expression("(\\w+?)_([A-Z]+)_(\\d+)(x)?");
+  GuardedMatch<char> match;
+  ASSERT_TRUE(GuardedRegexMatch(std::string_view(text), match, expression));
+  ASSERT_EQ(match.size(), 5U);
+  EXPECT_EQ(std::string(match[1].first.Position(), match[1].second.Position()), "Src");
+  EXPECT_EQ(std::string(match[2].first.Position(), match[2].second.Position()), "PDO");
+  EXPECT_EQ(std::string(match[3].first.Position(), match[3].second.Position()), "12");
+  EXPECT_EQ(match[2].first.Position(), text.data() + 4);
+  EXPECT_FALSE(match[4].matched);
+}
+
+TEST(GuardedRegexMatch, MatchesWideText) {
+  const std::wregex expression(L"Ger(\u00E4|ae)t.*");
+  GuardedMatch<wchar_t> match;
+  EXPECT_TRUE(GuardedRegexMatch(std::wstring_view(L"Ger\u00E4t 1"), match, expression));
+  EXPECT_EQ(match[1].first.Position()[0], L'\u00E4');
+  EXPECT_FALSE(GuardedRegexMatch(std::wstring_view(L"Gerat"), match, expression));
+}
+
+TEST(GuardedRegexMatch, EndsForWantOfTimeOnTextThatTakesTooManySteps) {
+  for (const char* pattern :
+       {"(a|aa)*x", "(a*)*x", "(a+)+x", "(a|a)*x", "(.*)(.*)(.*)(.*)(.*)(.*)(.*)x", "(a|aa)*\\1x"}) {
+    const RegexOutcome outcome = GuardedOutcome(pattern, std::string(100, 'a'));
+    EXPECT_TRUE(outcome.answer == false || outcome.error == std::regex_constants::error_complexity) << pattern;
+#if defined(__GLIBCXX__)
+    EXPECT_FALSE(outcome.answer.has_value()) << pattern;
+#endif
+  }
+}
+
+TEST(GuardedRegexMatch, HasTheWholeBudgetEveryTime) {
+  const std::regex expression("(a|aa)*x");
+  const std::string difficult(100, 'a');
+  const std::string easy = "aaaax";
+  GuardedMatch<char> match;
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_NE(RegexOutcomeOf([&] { return GuardedRegexMatch<char>(difficult, match, expression); }).answer, true);
+    EXPECT_TRUE(GuardedRegexMatch<char>(easy, match, expression));
+  }
+}
+
+TEST(GuardedRegexMatch, HasStackAndTimeForAnyUsualName) {
+  const std::string name =
+      "SOP_PP_Discovered_Modes_Of_A_Cable_With_A_Name_Of_Ninety_Characters_Or_So_In_All_Supported_1";
+  for (const char* pattern :
+       {".*", "(\\w+_)*\\d", "(.*)_(.*)_(.*)_\\d", "(?:[a-z]|_|\\d)*", "SOP(_[A-Z][a-z]*)*.*_1"}) {
+    const RegexOutcome outcome = GuardedOutcome(pattern, name);
+    EXPECT_EQ(outcome.answer, true) << pattern;
+  }
+}
+
+TEST(GuardedIterator, WalksBothWays) {
+  MatchBudget budget;
+  const std::string text = "abc";
+  CGuardedIterator<char> position(text.data(), budget);
+  const CGuardedIterator<char> first = position;
+  EXPECT_EQ(*position++, 'a');
+  EXPECT_EQ(*position, 'b');
+  EXPECT_EQ(*++position, 'c');
+  EXPECT_EQ(*position--, 'c');
+  EXPECT_EQ(*--position, 'a');
+  EXPECT_TRUE(position == first);
+  EXPECT_EQ(std::distance(first, CGuardedIterator<char>(text.data() + 3, budget)), 3);
+}
+
+TEST(GuardedIterator, FailsWhenItHasReadTooOften) {
+  MatchBudget budget;
+  budget.readsLeft = 2;
+  const CGuardedIterator<char> position("a", budget);
+  EXPECT_EQ(*position, 'a');
+  EXPECT_EQ(*position, 'a');
+  const RegexOutcome outcome = RegexOutcomeOf([&] { return *position == 'a'; });
+  EXPECT_EQ(outcome.error, std::regex_constants::error_complexity);
+}
+
+TEST(GuardedIterator, FailsWhenTheStackIsTooDeep) {
+  MatchBudget budget;
+  budget.lowestFrame = std::numeric_limits<std::uintptr_t>::max();
+  const CGuardedIterator<char> position("a", budget);
+  EXPECT_EQ(RegexOutcomeOf([&] { return *position == 'a'; }).error, std::regex_constants::error_stack);
 }
 
 }  // namespace

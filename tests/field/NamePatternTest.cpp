@@ -230,7 +230,7 @@ std::optional<bool> AnswerOnLongName(const char* pattern, const std::string& nam
 
 void ExpectAnswerOnLongName(const char* pattern, const std::string& name, bool expected) {
   const std::optional<bool> answer = AnswerOnLongName(pattern, name);
-  const bool hasOtherWay = VIF_REGEX_WITHOUT_RECURSION != std::regex_constants::syntax_option_type{};
+  const bool hasOtherWay = VIF_REGEX_STEPWISE != std::regex_constants::syntax_option_type{};
   if (hasOtherWay) {
     EXPECT_TRUE(answer.has_value()) << pattern;
   }
