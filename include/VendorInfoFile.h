@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <tuple>
 #include <vector>
 
 class CVIFImpl;
@@ -84,15 +85,121 @@ class VIF_API CVendorInfoFile {
   /// The number of fields held.
   std::size_t Count() const noexcept;
 
+  // Queries.
+  //
+  // A query is a name pattern and three slots, and `CVIFField::Match` says which fields pass it. The pattern is
+  // UTF-8, or wide text, which is converted to UTF-8; null or empty, a literal null included, means any name. A slot
+  // (eVifLocSrcPdo, 2) asks for source PDO 2, (eVifLocSrcPdo, INDEX_NOT_SPECIFIED) for any source PDO, and
+  // UNSPECIFIED_INDEX for nothing. Slots given one by one or as an array mean the same.
+  //
+  // A query never changes the object, and its results are copies. The pattern is compiled at most once, when the
+  // first field's locations pass, so that a query by location alone takes no notice of it. Besides what is said
+  // below, every query throws `std::regex_error` when that happens and the pattern is no regular expression or is too
+  // complex for the stack at hand, and `std::bad_alloc`.
+
+  /// The number of matching fields.
+  std::size_t Count(const char* pattern, const VifIndex& index1, const VifIndex& index2, const VifIndex& index3) const;
+  std::size_t Count(const wchar_t* pattern, const VifIndex& index1, const VifIndex& index2,
+                    const VifIndex& index3) const;
+  std::size_t Count(const char* pattern, const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
+  std::size_t Count(const wchar_t* pattern, const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
+  std::size_t Count(std::nullptr_t, const VifIndex& index1, const VifIndex& index2, const VifIndex& index3) const;
+  std::size_t Count(std::nullptr_t, const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
+
   /// Copies of all fields held.
   VifFieldList GetFields() const;
+
+  /// Copies of all matching fields.
+  VifFieldList GetFields(const char* pattern, const VifIndex& index1, const VifIndex& index2,
+                         const VifIndex& index3) const;
+  VifFieldList GetFields(const wchar_t* pattern, const VifIndex& index1, const VifIndex& index2,
+                         const VifIndex& index3) const;
+  VifFieldList GetFields(const char* pattern, const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
+  VifFieldList GetFields(const wchar_t* pattern, const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
+  VifFieldList GetFields(std::nullptr_t, const VifIndex& index1, const VifIndex& index2, const VifIndex& index3) const;
+  VifFieldList GetFields(std::nullptr_t, const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
+
+  /// The one matching field.
+  /// \throws CZoRunTimeException "Couldn't find field in \"<file>\" that matched with \"<pattern>\"." or
+  ///   "<n> fields in \"<file>\" matched with \"<pattern>\"."; an object without a file name is "this VIF"
+  CVIFField GetUniqueField(const char* pattern, const VifIndex& index1, const VifIndex& index2,
+                           const VifIndex& index3) const;
+  CVIFField GetUniqueField(const wchar_t* pattern, const VifIndex& index1, const VifIndex& index2,
+                           const VifIndex& index3) const;
+  CVIFField GetUniqueField(const char* pattern, const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
+  CVIFField GetUniqueField(const wchar_t* pattern, const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
+  CVIFField GetUniqueField(std::nullptr_t, const VifIndex& index1, const VifIndex& index2,
+                           const VifIndex& index3) const;
+  CVIFField GetUniqueField(std::nullptr_t, const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
+
+  /// The one matching field and true, or the empty field and false when none matches.
+  /// \throws CZoRunTimeException "<n> fields in \"<file>\" matched with \"<pattern>\"." when more than one matches
+  std::tuple<CVIFField, bool> GetSingleField(const char* pattern, const VifIndex& index1, const VifIndex& index2,
+                                             const VifIndex& index3) const;
+  std::tuple<CVIFField, bool> GetSingleField(const wchar_t* pattern, const VifIndex& index1, const VifIndex& index2,
+                                             const VifIndex& index3) const;
+  std::tuple<CVIFField, bool> GetSingleField(const char* pattern,
+                                             const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
+  std::tuple<CVIFField, bool> GetSingleField(const wchar_t* pattern,
+                                             const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
+  std::tuple<CVIFField, bool> GetSingleField(std::nullptr_t, const VifIndex& index1, const VifIndex& index2,
+                                             const VifIndex& index3) const;
+  std::tuple<CVIFField, bool> GetSingleField(std::nullptr_t,
+                                             const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
+
+  /// Copies of the matching fields of the first component that has any, the slots being those besides the component.
+  ///
+  /// Only the component numbers 0 to `ComponentCount() - 1` are searched. Since components are numbered from 1, the one
+  /// with the highest number is not: with one component loaded nothing is found. Ask for it by its number.
+  VifFieldList GetFirstFields(const char* pattern, const VifIndex& index2, const VifIndex& index3) const;
+  VifFieldList GetFirstFields(const wchar_t* pattern, const VifIndex& index2, const VifIndex& index3) const;
+  VifFieldList GetFirstFields(std::nullptr_t, const VifIndex& index2, const VifIndex& index3) const;
+
+  /// The one field that `GetFirstFields` finds.
+  /// \throws CZoRunTimeException "<n> fields in \"<pattern>\" matched with \"<pattern>\"." when it finds several
+  /// \throws std::out_of_range "invalid vector subscript" when it finds none
+  CVIFField GetFirstUniqueField(const char* pattern, const VifIndex& index2, const VifIndex& index3) const;
+  CVIFField GetFirstUniqueField(const wchar_t* pattern, const VifIndex& index2, const VifIndex& index3) const;
+  CVIFField GetFirstUniqueField(std::nullptr_t, const VifIndex& index2, const VifIndex& index3) const;
 
   /// The number of components read so far from all files loaded, which is also the highest component number
   /// given out.
   std::uint32_t ComponentCount() const noexcept;
 
+  // The fields of one group of the file, and of the groups inside it. `INDEX_NOT_SPECIFIED` as a number asks for any.
+  // Components, PDOs, SVIDs, modes and endpoints are numbered from 1, USB4 routers from 0; in a text VIF the numbers
+  // are those written in the names.
+
+  /// The fields of a component.
+  VifFieldList GetComponent(std::size_t component) const;
+
+  /// The fields of a USB4 router of product 0.
+  VifFieldList GetRouter(std::size_t router) const;
+
+  /// The fields of a PCIe endpoint of a USB4 router of product 0.
+  VifFieldList GetPcieEndpointIds(std::size_t router, std::size_t endpoint) const;
+
+  /// The fields of a source PDO.
+  VifFieldList GetSrcPdo(std::size_t component, std::size_t pdo) const;
+
+  /// The fields of a sink PDO.
+  VifFieldList GetSnkPdo(std::size_t component, std::size_t pdo) const;
+
+  /// The fields of an SOP SVID.
+  VifFieldList GetSopSvid(std::size_t component, std::size_t svid) const;
+
+  /// The fields of a mode of an SOP SVID.
+  VifFieldList GetSopSvidMode(std::size_t component, std::size_t svid, std::size_t mode) const;
+
+  /// The fields of a cable SVID.
+  VifFieldList GetCableSvid(std::size_t component, std::size_t svid) const;
+
+  /// The fields of a mode of a cable SVID.
+  VifFieldList GetCableSvidMode(std::size_t component, std::size_t svid, std::size_t mode) const;
+
  private:
   CVIFImpl& Content();
+  const std::vector<CVIFField>& Fields() const noexcept;
 
   CVIFImpl* m_impl;  // owned; null, which stands for empty content, after a move or a failed append
 };

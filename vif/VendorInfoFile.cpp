@@ -40,6 +40,11 @@ CVIFImpl& CVendorInfoFile::Content() {
   return *m_impl;
 }
 
+const std::vector<CVIFField>& CVendorInfoFile::Fields() const noexcept {
+  static const std::vector<CVIFField> none;
+  return m_impl != nullptr ? m_impl->Fields() : none;
+}
+
 void CVendorInfoFile::Append(const char* fileName) { Content().Append(vif::PathFromUtf8(fileName)); }
 
 void CVendorInfoFile::Append(const std::vector<CVIFField>& fields) {
@@ -56,14 +61,6 @@ const wchar_t* CVendorInfoFile::FileName() const noexcept {
   return m_impl != nullptr ? m_impl->FileName().c_str() : L"";
 }
 
-std::size_t CVendorInfoFile::Count() const noexcept { return m_impl != nullptr ? m_impl->Fields().size() : 0; }
-
 std::uint32_t CVendorInfoFile::ComponentCount() const noexcept {
   return m_impl != nullptr ? m_impl->ComponentCount() : 0;
-}
-
-VifFieldList CVendorInfoFile::GetFields() const {
-  const auto release = [](std::vector<CVIFField>* fields) { delete fields; };
-  if (m_impl == nullptr) return {new std::vector<CVIFField>, release};
-  return {new std::vector<CVIFField>(m_impl->Fields()), release};
 }

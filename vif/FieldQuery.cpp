@@ -1,0 +1,39 @@
+#include "FieldQuery.h"
+
+#include <map>
+
+namespace vif {
+
+bool CFieldQuery::PassesName(const CVIFField& field) {
+  if (m_pattern == nullptr || *m_pattern == '\0') return true;
+  if (!m_compiled) m_compiled.emplace(m_pattern);
+  return m_compiled->Matches(field.Name());
+}
+
+FoundFields FindFields(const std::vector<CVIFField>& fields, CFieldQuery query) {
+  FoundFields found;
+  for (const CVIFField& field : fields) {
+    if (query.Passes(field) && found.count++ == 0) found.first = &field;
+  }
+  return found;
+}
+
+std::vector<CVIFField> FirstComponentFields(const std::vector<CVIFField>& fields, std::uint32_t componentCount,
+                                            CFieldQuery query) {
+  // Sorted by component before a name is looked at: a name in a later component must not be able to fail the query.
+  std::map<std::size_t, std::vector<const CVIFField*>> byComponent;
+  for (const CVIFField& field : fields) {
+    const std::size_t component = field.Index(eVifLocComponent);
+    if (component < componentCount && query.PassesLocations(field)) byComponent[component].push_back(&field);
+  }
+  std::vector<CVIFField> passing;
+  for (const auto& [component, candidates] : byComponent) {
+    for (const CVIFField* field : candidates) {
+      if (query.PassesName(*field)) passing.push_back(*field);
+    }
+    if (!passing.empty()) break;
+  }
+  return passing;
+}
+
+}  // namespace vif
