@@ -1,3 +1,4 @@
+#include "FieldText.h"
 #include "Output.h"
 #include "Text.h"
 #include "Writers.h"

@@ -5,6 +5,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <clocale>
 #include <cstdio>
 
@@ -24,9 +25,9 @@ constexpr const char* kFooter =
     "Exit status: 0 done; 1 looked and found wanting; 2 could not do it, with one line on\n"
     "standard error that says why.";
 
-Status Fail(std::string_view reason) {
+Status Fail(std::string_view reason, Status status = kFailed) {
   std::fprintf(stderr, "vif: %s\n", tool::Printable(reason).c_str());
-  return kFailed;
+  return status;
 }
 
 std::string UsageProblem(const CLI::App& app, const CLI::ParseError& error) {
@@ -45,8 +46,12 @@ Status Run(int argc, char** argv) {
   app.get_formatter()->label("SUBCOMMAND", "COMMAND ...");
   app.get_formatter()->label("Subcommands", "Commands");
   tool::AddListCommand(app, status);
+  tool::AddGetCommand(app, status);
+  tool::AddShowCommand(app, status);
   try {
-    app.parse(argc, argv);
+    std::vector<std::string> arguments = tool::CompleteLocationOptions({argv + 1, argv + argc});
+    std::reverse(arguments.begin(), arguments.end());  // as CLI11 wants them
+    app.parse(std::move(arguments));
   } catch (const CLI::ParseError& error) {
     if (error.get_exit_code() != 0) return Fail(UsageProblem(app, error) + " (see 'vif --help')");
     app.exit(error);  // prints what was asked for: help or the version
@@ -62,6 +67,8 @@ int main(int argc, char** argv) {
   std::setlocale(LC_CTYPE, "C.UTF-8");  // for the width of characters; the library asks the C++ locale, not this one
   try {
     return Run(argc, argv);
+  } catch (const tool::Wanting& finding) {
+    return Fail(finding.what(), tool::kWanting);
   } catch (const std::bad_alloc&) {
     return Fail("out of memory");
   } catch (const std::exception& error) {

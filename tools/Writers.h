@@ -17,16 +17,4 @@ void WriteJson(const std::vector<std::string>& fileNames, const CVendorInfoFile&
 /// Comma-separated values with a header line, as RFC 4180 has them.
 void WriteCsv(const CVendorInfoFile& vif);
 
-/// The short name of a location, such as "SrcPdo".
-std::string LocationName(const VifIndex& slot);
-
-/// Whether the slot is in use.
-bool IsUsed(const VifIndex& slot);
-
-/// Whether the slot has a number.
-bool HasNumber(const VifIndex& slot);
-
-/// Whether the field is numeric and its value gives a number.
-bool HasNumber(const CVIFField& field);
-
 }  // namespace tool

@@ -1,6 +1,6 @@
 // `vif list`, run as a user runs it.
-#include "support/RunProgram.h"
 #include "support/TempDir.h"
+#include "support/VifCommand.h"
 
 #include <VendorInfoFile.h>
 
@@ -15,17 +15,18 @@ using nlohmann::json;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::StartsWith;
+using testsupport::Example;
 using testsupport::Lines;
 using testsupport::ProgramResult;
 using testsupport::TempDir;
 
 ProgramResult List(std::vector<std::string> arguments) {
-  arguments.insert(arguments.begin(), {VIF_COMMAND, "list"});
-  return testsupport::RunProgram(arguments);
+  arguments.insert(arguments.begin(), "list");
+  return testsupport::Vif(arguments);
 }
 
 ProgramResult ListOnTerminal(const std::string& file, unsigned short columns) {
-  return testsupport::RunOnTerminal({VIF_COMMAND, "list", file}, columns);
+  return testsupport::VifOnTerminal({"list", file}, columns);
 }
 
 json ListJson(const std::string& file) {
@@ -41,7 +42,7 @@ size_t Characters(const std::string& utf8) {
 class ListExample : public testing::TestWithParam<std::string> {};
 
 TEST_P(ListExample, JsonHoldsEveryFieldThatTheLibraryHolds) {
-  const std::string file = std::string(VIF_EXAMPLES) + "/" + GetParam();
+  const std::string file = Example(GetParam());
   const json listed = ListJson(file);
   const CVendorInfoFile vif(file);
   EXPECT_EQ(listed["files"], json::array({file}));
@@ -179,7 +180,7 @@ class ListOnTerminalOf : public testing::TestWithParam<unsigned short> {
 };
 
 TEST_P(ListOnTerminalOf, EveryLineFitsAndNamesItsField) {
-  const ProgramResult result = ListOnTerminal(std::string(VIF_EXAMPLES) + "/gan-charger-65w.txt", GetParam());
+  const ProgramResult result = ListOnTerminal(Example("gan-charger-65w.txt"), GetParam());
   EXPECT_EQ(result.status, 0);
   const std::vector<std::string> lines = Lines(result.output);
   EXPECT_GT(lines.size(), 20U);
@@ -248,7 +249,7 @@ TEST(List, AFileNameIsNeverTakenForAFormat) {
 
 TEST(List, AFullDiskIsAFailure) {
   const ProgramResult result = testsupport::RunProgram(
-      {"/bin/sh", "-c", "\"$0\" list \"$1\" >/dev/full", VIF_COMMAND, std::string(VIF_EXAMPLES) + "/active-cable.txt"});
+      {"/bin/sh", "-c", "\"$0\" list \"$1\" >/dev/full", VIF_COMMAND, Example("active-cable.txt")});
   EXPECT_EQ(result.status, 2);
   EXPECT_THAT(result.error, StartsWith("vif: cannot write the output: "));
 }

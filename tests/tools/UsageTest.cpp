@@ -1,5 +1,5 @@
 // What `vif` says of itself, and how it refuses.
-#include "support/RunProgram.h"
+#include "support/VifCommand.h"
 
 #include <gmock/gmock.h>
 
@@ -10,12 +10,7 @@ using testing::IsEmpty;
 using testing::StartsWith;
 using testsupport::Lines;
 using testsupport::ProgramResult;
-using testsupport::RunProgram;
-
-ProgramResult Vif(std::vector<std::string> arguments) {
-  arguments.insert(arguments.begin(), VIF_COMMAND);
-  return RunProgram(arguments);
-}
+using testsupport::Vif;
 
 void ExpectUsageError(const ProgramResult& result, const std::string& reason) {
   EXPECT_EQ(result.status, 2);
@@ -59,6 +54,28 @@ TEST(Usage, AnUnknownFormatIsNamedWithTheKnownOnes) {
 }
 
 TEST(Usage, ListNeedsAFile) { ExpectUsageError(Vif({"list"}), "FILE is required"); }
+
+TEST(Usage, GetNeedsAFile) { ExpectUsageError(Vif({"get"}), "FILE is required"); }
+
+TEST(Usage, GetTakesAtMostThreeLocations) {
+  ExpectUsageError(Vif({"get", "--component", "1", "--src-pdo", "1", "--snk-pdo", "1", "--router", "0", "a.txt"}),
+                   "at most three location options");
+}
+
+TEST(Usage, ALocationOptionTakesANumber) {
+  ExpectUsageError(Vif({"get", "--src-pdo=two", "a.txt"}), "--src-pdo takes a number or 'any', not 'two'");
+}
+
+TEST(Usage, ALocationOptionIsGivenOnce) {
+  ExpectUsageError(Vif({"get", "--src-pdo", "1", "--src-pdo", "2", "a.txt"}), "--src-pdo");
+}
+
+TEST(Usage, APatternThatIsNoRegularExpressionIsRefusedEvenWhereNoPlaceFits) {
+  ExpectUsageError(Vif({"get", "--router", "7", testsupport::Example("active-cable.txt"), "("}),
+                   "the pattern '(' cannot be used: ");
+}
+
+TEST(Usage, ShowNeedsAFile) { ExpectUsageError(Vif({"show"}), "FILE is required"); }
 
 TEST(Usage, LineFeedsInAMessageDoNotBreakItsOneLine) {
   ExpectUsageError(Vif({"list", "a\nb\x1b[2J.txt"}), "a\\nb\\x1b[2J.txt");

@@ -1,4 +1,4 @@
-#include "Writers.h"
+#include "FieldText.h"
 
 namespace tool {
 
@@ -10,6 +10,16 @@ bool HasNumber(const VifIndex& slot) { return std::get<1>(slot) != CVIFField::IN
 
 bool HasNumber(const CVIFField& field) {
   return field.IsNumeric() && field.GetULongNumericValue() != CVIFField::VIF_VALUE_UNSET_64;
+}
+
+std::string LocationText(const CVIFField& field) {
+  std::string text;
+  for (const VifIndex& slot : field.Indexes()) {
+    if (!IsUsed(slot)) continue;
+    if (!text.empty()) text += " \u00B7 ";
+    text += LocationName(slot) + ' ' + (HasNumber(slot) ? std::to_string(std::get<1>(slot)) : "?");
+  }
+  return text;
 }
 
 }  // namespace tool

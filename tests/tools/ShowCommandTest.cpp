@@ -1,0 +1,155 @@
+// `vif show`, run as a user runs it. What it shows of whole examples is held by the transcripts.
+#include "support/TempDir.h"
+#include "support/VifCommand.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+using testsupport::Example;
+using testsupport::Lines;
+using testsupport::ProgramResult;
+using testsupport::TempDir;
+using testsupport::Vif;
+
+std::string Show(const std::string& content) {
+  const TempDir dir;
+  const ProgramResult result = Vif({"show", dir.Write("a.txt", content).string()});
+  EXPECT_EQ(result.status, 0) << result.error;
+  return result.output;
+}
+
+struct PdoCase {
+  std::string content;
+  std::string line;
+};
+
+class ShowPdo : public testing::TestWithParam<PdoCase> {};
+
+TEST_P(ShowPdo, IsInVoltsAmperesAndWatts) { EXPECT_THAT(Lines(Show(GetParam().content)), Contains(GetParam().line)); }
+
+INSTANTIATE_TEST_SUITE_P(
+    Source, ShowPdo,
+    testing::Values(
+        PdoCase{"Src_PDO_Supply_Type1: 0\nSrc_PDO_Voltage1: 180\nSrc_PDO_Max_Current1: 325\n",
+                "    1    Fixed   9 V      3.25 A   29.25 W"},
+        PdoCase{
+            "Src_PDO_Supply_Type2: 1\nSrc_PDO_Min_Voltage2: 95\nSrc_PDO_Max_Voltage2: 300\nSrc_PDO_Max_Power2: 61\n",
+            "    2    Battery  4.75 to 15 V           15.25 W"},
+        PdoCase{
+            "Src_PDO_Supply_Type2: 2\nSrc_PDO_Min_Voltage2: 95\nSrc_PDO_Max_Voltage2: 300\nSrc_PDO_Max_Current2: 1\n",
+            "    2    Variable  4.75 to 15 V  0.01 A"},
+        PdoCase{"Src_PDO_Supply_Type2: 3\nSrc_PDO_APDO_Type2: 0\nSrc_PDO_Min_Voltage2: 33\nSrc_PDO_Max_Voltage2: 110\n"
+                "Src_PDO_Max_Current2: 61\n",
+                "    2    PPS     3.3 to 11 V  3.05 A"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Sink, ShowPdo,
+    testing::Values(PdoCase{"Snk_PDO_Supply_Type1: 0\nSnk_PDO_Voltage1: 100\nSnk_PDO_Op_Current1: 50\n",
+                            "    1    Fixed   5 V      0.5 A    2.5 W"},
+                    PdoCase{"Snk_PDO_Supply_Type1: 1\nSnk_PDO_Min_Voltage1: 100\nSnk_PDO_Max_Voltage1: 200\n"
+                            "Snk_PDO_Op_Power1: 40\n",
+                            "    1    Battery  5 to 10 V           10 W"},
+                    PdoCase{"Snk_PDO_Supply_Type1: 3\nSnk_PDO_Min_Voltage1: 33\nSnk_PDO_Max_Voltage1: 59\n"
+                            "Snk_PDO_Op_Current1: 20\n",
+                            "    1    PPS     3.3 to 5.9 V  1 A"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Unsettled, ShowPdo,
+    testing::Values(PdoCase{"Src_PDO_Voltage1: 100\nSrc_PDO_Max_Current1: 300\n", "    1    ?       ?        ?"},
+                    PdoCase{"Src_PDO_Supply_Type1: 4\nSrc_PDO_Voltage1: 100\n", "    1    ?       ?"},
+                    PdoCase{"Src_PDO_Supply_Type1: 3\nSrc_PDO_APDO_Type1: 1\nSrc_PDO_Min_Voltage1: 9\n",
+                            "    1    ?       ? to ? V                  Src_PDO_APDO_Type=1"},
+                    PdoCase{"Src_PDO_Supply_Type1: 0\nSrc_PDO_Voltage1: 99999999999999999999\n", "    1    Fixed   ?"},
+                    PdoCase{"Src_PDO_Supply_Type1: 0\nSrc_PDO_Voltage1: 18446744073709551614\n", "    1    Fixed   ?"},
+                    PdoCase{"Src_PDO_Supply_Type: 0\nSrc_PDO_Voltage: 100\n", "    ?    Fixed   5 V"}));
+
+TEST(Show, OtherFieldsOfAPdoAreNotLost) {
+  EXPECT_THAT(Show("Src_PDO_Supply_Type1: 0\nSrc_PDO_Peak_Current1: 2\nSrc_PD_OCP_UV_Debounce1: 5\n"),
+              HasSubstr("Src_PDO_Peak_Current=2, Src_PD_OCP_UV_Debounce=5"));
+}
+
+TEST(Show, PdosStandInTheOrderOfTheirNumbers) {
+  const std::string output = Show("Src_PDO_Supply_Type10: 0\nSrc_PDO_Supply_Type9: 1\n");
+  EXPECT_LT(output.find("9    Battery"), output.find("10   Fixed"));
+}
+
+TEST(Show, ProductHoldsItsRoutersAndTheyTheirEndpoints) {
+  EXPECT_THAT(Lines(Show("USB4_Dock: YES\n"
+                         "USB4_Router_ID1: 7\n"
+                         "USB4_PCIe_Endpoint1_Vendor_ID2: 0x8086\n")),
+              testing::Contains("Product"));
+  EXPECT_THAT(Show("USB4_Dock: YES\nUSB4_Router_ID1: 7\nUSB4_PCIe_Endpoint1_Vendor_ID2: 0x8086\n"),
+              HasSubstr("Product\n"
+                        "  USB4_Dock  1  YES\n"
+                        "  Router 1\n"
+                        "    USB4_Router_ID  7\n"
+                        "    RouterPcie 2\n"
+                        "      USB4_PCIe_Endpoint_Vendor_ID  0x8086\n"));
+}
+
+TEST(Show, ComponentHoldsItsSvidsAndTheyTheirModes) {
+  EXPECT_THAT(Show("SVID1: 0xFF01\nSVID1_Mode2_Enter: YES\nSVID3_SOP: 0x8087\n"),
+              HasSubstr("Component 1\n"
+                        "  SopSvid 3\n"
+                        "    SVID_SOP  0x8087\n"
+                        "  CableSvid 1\n"
+                        "    SVID  0xFF01\n"
+                        "    CableSvidMode 2\n"
+                        "      SVID_Mode_Enter  1  YES\n"));
+}
+
+TEST(Show, SeveralFilesAreSeveralComponents) {
+  const TempDir dir;
+  const std::string first = dir.Write("a.txt", "PID: 1\n").string();
+  const std::string second = dir.Write("b.txt", "PID: 2\n").string();
+  const std::string output = Vif({"show", first, second}).output;
+  EXPECT_THAT(output, HasSubstr("Component 1\n  PID  1\n"));
+  EXPECT_THAT(output, HasSubstr("Component 2\n  PID  2\n"));
+}
+
+TEST(Show, EveryFieldOfEveryExampleAppears) {
+  for (const char* name : {"gan-charger-65w.txt", "dual-role-tablet.txt", "active-cable.txt"}) {
+    const std::string shown = Vif({"show", Example(name)}).output;
+    const std::vector<std::string> values = Lines(Vif({"get", Example(name), "(?!S(rc|nk)_PDO_).*"}).output);
+    EXPECT_GT(values.size(), 50U);
+    EXPECT_TRUE(std::all_of(values.begin(), values.end(), [&](const std::string& value) {
+      return shown.find(value) != std::string::npos;
+    })) << name;
+  }
+}
+
+TEST(Show, APipeHasNoColour) { EXPECT_THAT(Show("PID: 1\n"), Not(HasSubstr("\x1b"))); }
+
+class ShowOnTerminal : public testing::Test {
+ protected:
+  void SetUp() override {
+    if (!testsupport::HasTerminals()) GTEST_SKIP() << "this machine has no pseudo-terminals";
+  }
+};
+
+TEST_F(ShowOnTerminal, HasBoldHeadings) {
+  const ProgramResult result = testsupport::VifOnTerminal({"show", Example("active-cable.txt")}, 100);
+  EXPECT_THAT(result.output, HasSubstr("\x1b[1mComponent 1\x1b[0m"));
+}
+
+TEST_F(ShowOnTerminal, HonoursNoColor) {
+  const ProgramResult result =
+      testsupport::RunOnTerminal({"/usr/bin/env", "NO_COLOR=1", VIF_COMMAND, "show", Example("active-cable.txt")}, 100);
+  EXPECT_THAT(result.output, HasSubstr("Component 1"));
+  EXPECT_THAT(result.output, Not(HasSubstr("\x1b")));
+}
+
+TEST_F(ShowOnTerminal, AnEmptyNoColorDoesNotCount) {
+  const ProgramResult result =
+      testsupport::RunOnTerminal({"/usr/bin/env", "NO_COLOR=", VIF_COMMAND, "show", Example("active-cable.txt")}, 100);
+  EXPECT_THAT(result.output, HasSubstr("\x1b[1m"));
+}
+
+}  // namespace
