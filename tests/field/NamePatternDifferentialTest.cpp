@@ -47,11 +47,11 @@ void PrintTo(const LongNameCase& value, std::ostream* stream) {
 class LongName : public testing::TestWithParam<LongNameCase> {};
 
 TEST_P(LongName, IsAnswered) {
-  const auto& [pattern, end, expected] = GetParam();
-  const std::string name = std::string(kLong, 'a') + end;
+  const LongNameCase& tried = GetParam();
+  const std::string name = std::string(kLong, 'a') + tried.end;
   const auto expectAnswer = [&] {
-    const RegexOutcome outcome = NamePatternOutcome(pattern, name);
-    EXPECT_TRUE(outcome.answer == expected || (!kHasStepwise && outcome.IsWantOfStackOrTime()));
+    const RegexOutcome outcome = NamePatternOutcome(tried.pattern, name);
+    EXPECT_TRUE(outcome.answer == tried.expected || (!kHasStepwise && outcome.IsWantOfStackOrTime()));
   };
   expectAnswer();
   RunOnSmallStack(expectAnswer);
@@ -74,11 +74,11 @@ INSTANTIATE_TEST_SUITE_P(Without, LongName,
 class LongNameWithReference : public testing::TestWithParam<LongNameCase> {};
 
 TEST_P(LongNameWithReference, EndsInTheAnswerOrForWantOfStackOrTime) {
-  const auto& [pattern, end, expected] = GetParam();
-  const std::string name = std::string(kLong, 'a') + end;
+  const LongNameCase& tried = GetParam();
+  const std::string name = std::string(kLong, 'a') + tried.end;
   const auto expectAnEnd = [&] {
-    const RegexOutcome outcome = NamePatternOutcome(pattern, name);
-    EXPECT_TRUE(outcome.answer == expected || outcome.IsWantOfStackOrTime());
+    const RegexOutcome outcome = NamePatternOutcome(tried.pattern, name);
+    EXPECT_TRUE(outcome.answer == tried.expected || outcome.IsWantOfStackOrTime());
   };
   expectAnEnd();
   RunOnSmallStack(expectAnEnd);

@@ -158,7 +158,8 @@ struct NarrowForm {
 
 template <typename Forms>
 void ExpectAgreement(const Subject& subject, const Query& query) {
-  const auto& [vif, model] = subject;
+  const CVendorInfoFile& vif = subject.vif;
+  const CQueryModel& model = subject.model;
   SCOPED_TRACE(Shown(query) + " on " + Shown(vif));
   const char* pattern = query.pattern ? query.pattern->c_str() : nullptr;
   const Slots& slots = query.slots;
@@ -178,7 +179,8 @@ void ExpectAgreement(const Subject& subject, const Query& query) {
 
 /// The group getters with these three numbers, of which most take fewer.
 void ExpectAgreementOfGetters(const Subject& subject, std::size_t first, std::size_t second, std::size_t third) {
-  const auto& [vif, model] = subject;
+  const CVendorInfoFile& vif = subject.vif;
+  const CQueryModel& model = subject.model;
   SCOPED_TRACE(
       Shown(Query{std::nullopt, {VifIndex{eVifLocUnset, first}, {eVifLocUnset, second}, {eVifLocUnset, third}}}) +
       " on " + Shown(vif));
