@@ -15,25 +15,25 @@ namespace vif {
 /// is likely to have is several times as large.
 constexpr std::uintptr_t kMatchStackBudget = std::uintptr_t{256} * 1024;
 
-/// How often one match may read a character. Patterns that are not pathological read each character of a name a few
-/// times.
-constexpr std::size_t kMatchReadBudget = 1'000'000;
+/// How often one match may read a character or compare positions. Patterns that are not pathological do so a few times
+/// for each character of a name.
+constexpr std::size_t kMatchStepBudget = 1'000'000;
 
 /// What is left to a match.
 struct MatchBudget {
   std::uintptr_t lowestFrame = 0;
-  std::size_t readsLeft = kMatchReadBudget;
+  std::size_t stepsLeft = kMatchStepBudget;
 
   /// Throws `std::regex_error` when the match has gone too deep or on for too long.
   void Check() {
     if (VIF_FRAME_ADDRESS() < lowestFrame) throw std::regex_error(std::regex_constants::error_stack);
-    if (readsLeft-- == 0) throw std::regex_error(std::regex_constants::error_complexity);
+    if (stepsLeft-- == 0) throw std::regex_error(std::regex_constants::error_complexity);
   }
 };
 
-/// Walks over text for a regular expression and, whenever a character is read, looks at what is left to the match.
-/// libstdc++ recurses for every character it matches, so this is the one place that sees every step; where the
-/// standard library guards its own stack, this guard is merely never the first to act.
+/// Walks over text for a regular expression and, whenever a character is read or positions are compared, looks at what
+/// is left to the match. libstdc++ recurses for every character and every repetition it matches, and this is the one
+/// place that sees both; where the standard library guards its own stack, this guard is merely never the first to act.
 template <typename Char>
 class CGuardedIterator {
  public:
@@ -68,7 +68,10 @@ class CGuardedIterator {
     --m_position;
     return before;
   }
-  friend bool operator==(const CGuardedIterator& a, const CGuardedIterator& b) { return a.m_position == b.m_position; }
+  friend bool operator==(const CGuardedIterator& a, const CGuardedIterator& b) {
+    if (a.m_budget != nullptr) a.m_budget->Check();
+    return a.m_position == b.m_position;
+  }
 
   pointer Position() const { return m_position; }
 
@@ -81,7 +84,7 @@ template <typename Char>
 using GuardedMatch = std::match_results<CGuardedIterator<Char>>;
 
 /// `std::regex_match` of the whole text, with the captures in `match`, of which only the positions may be used.
-/// \throws std::regex_error when the match would need more stack (`error_stack`) or more reads (`error_complexity`)
+/// \throws std::regex_error when the match would need more stack (`error_stack`) or more steps (`error_complexity`)
 ///   than its budget
 template <typename Char>
 bool GuardedRegexMatch(std::basic_string_view<Char> text, GuardedMatch<Char>& match,

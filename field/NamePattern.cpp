@@ -26,6 +26,7 @@ bool IsPlain(const char* pattern) { return std::strpbrk(pattern, kSpecialCharact
 // libstdc++ fills the character tables of the locale, which all threads share, while it compiles the first
 // expressions, and takes no lock for it. So they are filled here, while the library is loaded and before threads can
 // come. The second argument of `narrow` is a character that no other is narrowed to, or the result is not kept.
+// NOLINTNEXTLINE(cert-err58-cpp): a program without a locale does not come this far
 [[maybe_unused]] const bool characterTablesAreFilled = [] {
   const std::locale locale;
   const auto& ctype = std::use_facet<std::ctype<char>>(locale);

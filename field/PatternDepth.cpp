@@ -41,13 +41,13 @@ std::size_t BehindBrackets(std::string_view pattern, std::size_t begin) {
   return std::min(i + 1, pattern.size());
 }
 
-/// The largest number between braces that begin at `begin`, at least 1.
-std::size_t LargestCount(std::string_view pattern, std::size_t begin) {
+/// The largest number in the text between two braces, at least 1.
+std::size_t LargestNumber(std::string_view text) {
   std::size_t largest = 1;
   std::size_t number = 0;
-  for (std::size_t i = begin + 1; i < pattern.size() && pattern[i] != '}'; ++i) {
-    const bool isDigit = pattern[i] >= '0' && pattern[i] <= '9';
-    number = isDigit ? std::min(kTooDeep, number * 10 + static_cast<std::size_t>(pattern[i] - '0')) : 0;
+  for (const char c : text) {
+    const bool isDigit = c >= '0' && c <= '9';
+    number = isDigit ? std::min(kTooDeep, number * 10 + static_cast<std::size_t>(c - '0')) : 0;
     largest = std::max(largest, number);
   }
   return largest;
@@ -82,10 +82,12 @@ std::size_t PatternDepth(std::string_view pattern) {
         group.Add(1);
         i = BehindBrackets(pattern, i);
         break;
-      case '{':
-        group.lastTerm = std::min(kTooDeep, group.lastTerm * LargestCount(pattern, i));
-        ++i;
+      case '{': {
+        const std::size_t end = std::min(pattern.find('}', i), pattern.size());
+        group.lastTerm = std::min(kTooDeep, group.lastTerm * LargestNumber(pattern.substr(i, end - i)));
+        i = end + 1;
         break;
+      }
       case '*':
       case '+':
       case '?':

@@ -19,7 +19,8 @@ CZoRunTimeException::~CZoRunTimeException() = default;
 const char* CZoRunTimeException::what() const noexcept { return std::runtime_error::what(); }
 
 CZoDOMDocException::CZoDOMDocException(const char* message)
-    : m_message(TextOr(message, "DOM document exception thrown")) {}
+    : m_message(  // NOLINT(bugprone-throw-keyword-missing): it only holds the text
+          TextOr(message, "DOM document exception thrown")) {}
 
 CZoDOMDocException::~CZoDOMDocException() = default;
 

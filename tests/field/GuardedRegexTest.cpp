@@ -197,12 +197,25 @@ TEST(GuardedIterator, WalksBothWays) {
 
 TEST(GuardedIterator, FailsWhenItHasReadTooOften) {
   MatchBudget budget;
-  budget.readsLeft = 2;
+  budget.stepsLeft = 2;
   const CGuardedIterator<char> position("a", budget);
   EXPECT_EQ(*position, 'a');
   EXPECT_EQ(*position, 'a');
   const RegexOutcome outcome = RegexOutcomeOf([&] { return *position == 'a'; });
   EXPECT_EQ(outcome.error, std::regex_constants::error_complexity);
+}
+
+TEST(GuardedIterator, FailsWhenItHasBeenComparedTooOften) {
+  MatchBudget budget;
+  budget.stepsLeft = 1;
+  const CGuardedIterator<char> position("a", budget);
+  const CGuardedIterator<char> same = position;
+  EXPECT_TRUE(position == same);
+  EXPECT_EQ(RegexOutcomeOf([&] { return position == same; }).error, std::regex_constants::error_complexity);
+}
+
+TEST(GuardedIterator, OfNoTextIsComparedWithoutABudget) {
+  EXPECT_TRUE(CGuardedIterator<char>() == CGuardedIterator<char>());
 }
 
 TEST(GuardedIterator, FailsWhenTheStackIsTooDeep) {

@@ -177,7 +177,7 @@ class CPatternGenerator {
 /// What the plain engine answers when it may use any amount of stack; nothing when it takes too many steps.
 std::optional<bool> PlainAnswer(const std::regex& expression, const std::string& text) {
   MatchBudget budget;
-  budget.readsLeft = 100'000;
+  budget.stepsLeft = 100'000;
   const CGuardedIterator<char> first(text.data(), budget);
   const CGuardedIterator<char> last(text.data() + text.size(), budget);
   return RegexOutcomeOf([&] { return std::regex_match(first, last, expression); }).answer;

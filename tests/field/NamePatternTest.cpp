@@ -286,4 +286,19 @@ TEST(NamePatternOnLongNames, KeepsTheLocaleOfTheMomentItWasMadeIn) {
   EXPECT_TRUE(pattern->Matches("\xE9\xE9"));
 }
 
+TEST(NamePatternOfRepeatedNothing, EndsAlthoughItReadsNoCharacter) {
+  for (const char* pattern : {"(()+){20}", "((()+){5}){5}", "(()*|()+){15}x"}) {
+    EXPECT_FALSE(vif::CNamePattern(pattern).Matches("aaa")) << pattern;
+  }
+}
+
+TEST(NamePatternOfRepeatedNothing, IsRefusedWhenItIsTooDeep) {
+  try {
+    vif::CNamePattern("()+{20}{20}").Matches("aaa");
+    ADD_FAILURE() << "not refused";
+  } catch (const std::regex_error& error) {
+    EXPECT_EQ(error.code(), std::regex_constants::error_stack);
+  }
+}
+
 }  // namespace

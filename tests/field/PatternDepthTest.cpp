@@ -112,6 +112,11 @@ TEST(PatternDepth, CountsARepetitionAsOftenAsItsBracesSay) {
   EXPECT_PRED2(isOnceAsOften, Depth("a{0}"), 1U);
 }
 
+TEST(PatternDepth, CountsEveryRepetitionOfARepetition) {
+  EXPECT_GT(PatternDepth("a{30}{30}"), 900U);
+  EXPECT_GT(PatternDepth("(a{30}){30}"), 900U);
+}
+
 TEST(PatternDepth, OfBracesGrowsNoFurtherThanNumbersDo) {
   for (const char* pattern :
        {"a{99999999999999999999999999}", "(a{999999999}){999999999}", "((((a{99999}){99999}){99999}){99999}){99999}",
