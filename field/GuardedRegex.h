@@ -11,8 +11,8 @@
 
 namespace vif {
 
-/// How far one match may go down the stack. Field names need a few kilobytes; the smallest stack a host's thread
-/// is likely to have is several times as large.
+/// How far one match may go down the stack. Field names need a few kilobytes. With what compiling the deepest pattern
+/// takes, half a megabyte of free stack is enough for any query.
 constexpr std::uintptr_t kMatchStackBudget = std::uintptr_t{256} * 1024;
 
 /// How often one match may read a character or compare positions. Patterns that are not pathological do so a few times
@@ -84,13 +84,14 @@ template <typename Char>
 using GuardedMatch = std::match_results<CGuardedIterator<Char>>;
 
 /// `std::regex_match` of the whole text, with the captures in `match`, of which only the positions may be used.
+/// \param steps how often it may read a character or compare positions
 /// \throws std::regex_error when the match would need more stack (`error_stack`) or more steps (`error_complexity`)
-///   than its budget
 template <typename Char>
 bool GuardedRegexMatch(std::basic_string_view<Char> text, GuardedMatch<Char>& match,
-                       const std::basic_regex<Char>& expression) {
+                       const std::basic_regex<Char>& expression, std::size_t steps = kMatchStepBudget) {
   const std::uintptr_t here = VIF_FRAME_ADDRESS();
   MatchBudget budget;
+  budget.stepsLeft = steps;
   budget.lowestFrame = here > kMatchStackBudget ? here - kMatchStackBudget : 0;
   const CGuardedIterator<Char> first(text.data(), budget);
   const CGuardedIterator<Char> last(text.data() + text.size(), budget);

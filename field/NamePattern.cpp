@@ -11,6 +11,10 @@ namespace vif {
 namespace {
 
 constexpr const char* kSpecialCharacters = "^$\\.*+?()[]{}|";
+/// A stepwise match takes a few steps for each character, and more than one for each pair of them only where a pattern
+/// looks ahead. This ends the longest after a second or two.
+constexpr std::size_t kStepwiseStepBudget = 100'000'000;
+
 constexpr auto kSyntax = std::regex_constants::ECMAScript | std::regex_constants::icase;
 
 /// The expression for the letter case of that locale; the global one may be another by now.
@@ -45,6 +49,7 @@ CNamePattern::CNamePattern(const char* pattern)
 
 bool CNamePattern::Matches(const char* name) {
   if (!m_expression) return MatchesPlain(name);
+  if (m_stepwise) return MatchesStepwise(name, std::regex_constants::error_complexity);
   GuardedMatch<char> match;
   try {
     return GuardedRegexMatch(std::string_view(name), match, *m_expression);
@@ -70,7 +75,8 @@ bool CNamePattern::MatchesStepwise(const char* name, std::regex_constants::error
     // matched stepwise.
     throw std::regex_error(reason);
   }
-  return std::regex_match(name, *m_stepwise);
+  GuardedMatch<char> match;
+  return GuardedRegexMatch(std::string_view(name), match, *m_stepwise, kStepwiseStepBudget);
 }
 
 }  // namespace vif

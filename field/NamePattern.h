@@ -19,8 +19,8 @@ class CNamePattern {
   explicit CNamePattern(const char* pattern);
 
   /// Whether the whole name fits.
-  /// \throws std::regex_error (`error_stack`, `error_complexity`) when the pattern refers back to a group and the
-  ///   match would take too much stack or time; any other pattern gives an answer for a name of any length
+  /// \throws std::regex_error (`error_stack`, `error_complexity`) when the match would take too much stack or time.
+  ///   A pattern that neither refers back to a group nor looks ahead gives an answer for names of millions of bytes.
   bool Matches(const char* name);
 
  private:
@@ -31,7 +31,7 @@ class CNamePattern {
   std::locale m_locale;
   const std::ctype<char>& m_ctype;
   std::optional<std::regex> m_expression;  // nothing for a plain pattern
-  std::optional<std::regex> m_stepwise;    // the same for names that are too much for it; made when one comes
+  std::optional<std::regex> m_stepwise;    // takes its place from the first name that was too much for it
 };
 
 }  // namespace vif

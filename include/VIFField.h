@@ -123,8 +123,9 @@ class VIF_API CVIFField {
   /// unless that is `INDEX_NOT_SPECIFIED`.
   /// \param pattern a regular expression (ECMAScript) that must fit the whole name, without regard to letter case
   ///   as the global locale has it; null or empty means any name
-  /// \throws std::regex_error when the locations pass and the pattern is no regular expression, or is too complex
-  ///   to be matched with the stack at hand (`error_stack`)
+  /// \throws std::regex_error when the locations pass and the pattern is no regular expression, or when matching it
+  ///   would take too much stack (`error_stack`), time (`error_complexity`) or memory (`error_space`). Half a megabyte
+  ///   of free stack is enough for any pattern and any name.
   bool Match(const char* pattern, const VifIndex& index1, const VifIndex& index2, const VifIndex& index3) const;
 
   /// The same with the three query slots as one array.

@@ -21,7 +21,7 @@ enum EVifLineProblem : std::int32_t {
 /// One line that is neither blank nor a comment and has a problem.
 struct VifLineReport {
   std::size_t line;         ///< its number, from 1
-  std::string_view text;    ///< its text without the blanks around it; valid during the observer's call only
+  std::string_view text;    ///< its bytes without the blanks around them, NUL and all; valid during the call only
   EVifLineProblem problem;  ///< what is wrong with it
 };
 
@@ -30,6 +30,7 @@ using VifLineObserver = std::function<void(const VifLineReport&)>;
 
 /// Reads a text VIF as loading it would and reports every line that loading passes over without an error, and
 /// every name that no definition knows. A `$Name` counts as known when `Name` is.
+/// \param observer is told of each; when it is empty, nobody is
 /// \param fieldDefs the definitions to resolve names through, borrowed for the call; null means the built-in table
 /// \throws CZoRunTimeException as loading does ("Couldn't open Vendor Info File: <path>." and so on), and whatever
 ///   the observer throws, which ends the reading

@@ -31,7 +31,8 @@ using VifFieldList = std::unique_ptr<std::vector<CVIFField>, std::function<void(
 /// ".xml" as an XML VIF. Components are numbered from 1 over all files loaded into the object.
 ///
 /// Threads may call the `const` members of one object at once, as long as none changes it: appending to it,
-/// assigning it and destroying it need it alone. A moved-from object is an empty one and may be used again.
+/// assigning it and destroying it need it alone. A host that sets a global C++ locale does so before its threads ask.
+/// A moved-from object is an empty one and may be used again, with the built-in definitions.
 class VIF_API CVendorInfoFile {
  public:
   /// No fields, no file name, the built-in field definitions.
@@ -75,7 +76,8 @@ class VIF_API CVendorInfoFile {
   void Append(const char* fileName);
 
   /// Appends copies of the given fields. The file name and the component count stay.
-  /// \throws std::bad_alloc when memory runs out; the object is then empty, the fields held before included
+  /// \throws std::bad_alloc when memory runs out; the object is then empty: the fields held before, the file name and
+  ///   the definitions are gone too
   void Append(const std::vector<CVIFField>& fields);
 
   /// The name of the first file loaded, empty when there was none; never null. Bytes that are not UTF-8 appear as
@@ -88,14 +90,14 @@ class VIF_API CVendorInfoFile {
   // Queries.
   //
   // A query is a name pattern and three slots, and `CVIFField::Match` says which fields pass it. The pattern is
-  // UTF-8, or wide text, which is converted to UTF-8; null or empty, a literal null included, means any name. A slot
-  // (eVifLocSrcPdo, 2) asks for source PDO 2, (eVifLocSrcPdo, INDEX_NOT_SPECIFIED) for any source PDO, and
-  // UNSPECIFIED_INDEX for nothing. Slots given one by one or as an array mean the same.
+  // UTF-8, or wide text, which is converted to UTF-8; null or empty, the literal nullptr included (but not NULL), means
+  // any name. A slot (eVifLocSrcPdo, 2) asks for source PDO 2, (eVifLocSrcPdo, INDEX_NOT_SPECIFIED) for any source PDO,
+  // and UNSPECIFIED_INDEX for nothing. Slots given one by one or as an array mean the same.
   //
   // A query never changes the object, and its results are copies. The pattern is compiled at most once, when the
   // first field's locations pass, so that a query by location alone takes no notice of it. Besides what is said
   // below, every query throws `std::regex_error` when that happens and the pattern is no regular expression or is too
-  // complex for the stack at hand, and `std::bad_alloc`.
+  // complex (see `CVIFField::Match`), and `std::bad_alloc`.
 
   /// The number of matching fields.
   std::size_t Count(const char* pattern, const VifIndex& index1, const VifIndex& index2, const VifIndex& index3) const;

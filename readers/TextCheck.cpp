@@ -4,5 +4,5 @@ void CheckTextVif(const std::filesystem::path& fileName, const VifLineObserver& 
                   const std::vector<VifFieldDef>* fieldDefs) {
   std::vector<CVIFField> fields;
   std::uint32_t componentCount = 0;
-  vif::ReadTextVif(fileName, fieldDefs, {fields, componentCount}, &observer);
+  vif::ReadTextVif(fileName, fieldDefs, {fields, componentCount}, observer ? &observer : nullptr);
 }

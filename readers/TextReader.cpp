@@ -72,7 +72,12 @@ class CLineReader {
   /// Whether a definition knows the name. The built-in definitions know the names of string declarations without
   /// the "$", although they are stored with it and in no group.
   bool IsKnown(const Declaration& declaration) const {
-    return m_resolved.isKnown || (declaration.isString && m_resolver.Knows(declaration.name.substr(1)));
+    if (m_resolved.isKnown || !declaration.isString) return m_resolved.isKnown;
+    try {
+      return m_resolver.Knows(declaration.name.substr(1));
+    } catch (const std::regex_error&) {
+      return false;  // loading never asks this, so it cannot fail the file
+    }
   }
 
   void Report(std::string_view line, EVifLineProblem problem) const {

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t kGap = 2;
 
-/// Longer cells are not cut in a pipe, but they do not widen the column for all the others either.
+/// In a pipe longer cells are not cut, but they do not widen the column for all the others either.
 constexpr std::size_t kWidestColumn = 60;
 constexpr std::size_t kNarrowestColumn = 6;
 
@@ -31,17 +31,17 @@ void Fit(std::vector<std::size_t>& widths, std::size_t lineWidth) {
 
 void CColumns::Write() const {
   if (m_rows.empty()) return;
-  std::vector<std::size_t> widths = NaturalWidths();
   const std::optional<std::size_t> lineWidth = TerminalWidth();
+  std::vector<std::size_t> widths = NaturalWidths(lineWidth.value_or(kWidestColumn));
   if (lineWidth) Fit(widths, *lineWidth > m_indent ? *lineWidth - m_indent : 0);
   for (const std::vector<std::string>& row : m_rows) WriteRow(row, widths, lineWidth.has_value());
 }
 
-std::vector<std::size_t> CColumns::NaturalWidths() const {
+std::vector<std::size_t> CColumns::NaturalWidths(std::size_t widest) const {
   std::vector<std::size_t> widths(m_rows.front().size());
   for (const std::vector<std::string>& row : m_rows) {
     for (std::size_t i = 0; i < row.size(); ++i) {
-      widths[i] = std::max(widths[i], std::min(DisplayWidth(row[i]), kWidestColumn));
+      widths[i] = std::max(widths[i], std::min(DisplayWidth(row[i]), widest));
     }
   }
   return widths;

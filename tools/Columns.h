@@ -17,13 +17,11 @@ class CColumns {
   /// Every row must have as many cells as the first.
   void Add(std::vector<std::string> row) { m_rows.push_back(std::move(row)); }
 
-  bool IsEmpty() const { return m_rows.empty(); }
-
   /// Writes all rows to standard output.
   void Write() const;
 
  private:
-  std::vector<std::size_t> NaturalWidths() const;
+  std::vector<std::size_t> NaturalWidths(std::size_t widest) const;
   void WriteRow(const std::vector<std::string>& row, const std::vector<std::size_t>& widths, bool cut) const;
 
   std::size_t m_indent;

@@ -12,12 +12,14 @@ bool HasNumber(const CVIFField& field) {
   return field.IsNumeric() && field.GetULongNumericValue() != CVIFField::VIF_VALUE_UNSET_64;
 }
 
+std::string NumberText(const VifIndex& slot) { return HasNumber(slot) ? std::to_string(std::get<1>(slot)) : "?"; }
+
 std::string LocationText(const CVIFField& field) {
   std::string text;
   for (const VifIndex& slot : field.Indexes()) {
     if (!IsUsed(slot)) continue;
     if (!text.empty()) text += " \u00B7 ";
-    text += LocationName(slot) + ' ' + (HasNumber(slot) ? std::to_string(std::get<1>(slot)) : "?");
+    text += LocationName(slot) + ' ' + NumberText(slot);
   }
   return text;
 }

@@ -19,6 +19,9 @@ bool HasNumber(const VifIndex& slot);
 /// Whether the field is numeric and its value gives a number.
 bool HasNumber(const CVIFField& field);
 
+/// The slot's number, "?" when it has none.
+std::string NumberText(const VifIndex& slot);
+
 /// The field's place, outermost group first, such as "Component 1 · SrcPdo 2"; "?" stands for a number that the file
 /// does not give. Empty for a field in no group.
 std::string LocationText(const CVIFField& field);

@@ -57,7 +57,8 @@ constexpr const char* kFooter =
     "PATTERN is a regular expression (ECMAScript) that must fit the whole name, in any letter\n"
     "case; without it, or when it is empty, any name will do. The location options say where\n"
     "the field must stand, at most three of them; each takes a number, or 'any' or nothing\n"
-    "when any number will do. Components, PDOs, SVIDs, modes and endpoints are numbered from 1,\n"
+    "when any number will do ('--' ends the options before a FILE named 1). Components, PDOs, SVIDs, modes and "
+    "endpoints are numbered from 1,\n"
     "routers from 0.\n"
     "\n"
     "Examples:\n"
@@ -124,7 +125,8 @@ Status RunGet(const GetOptions& options) {
   RequireSoundPattern(options.pattern);
   const CVendorInfoFile vif = LoadFiles({options.file});
   const VifFieldList fields = Find(vif, options, query);
-  bool complete = !fields->empty();
+  if (fields->empty()) throw Wanting("no field in \"" + options.file + "\" matches");
+  bool complete = true;
   for (const CVIFField& field : *fields) {
     if (options.withName) Write(Printable(field.Name()) + '\t' + LocationText(field) + '\t');
     Write(ValueText(field, options.asNumber) + '\n');
@@ -149,6 +151,10 @@ std::vector<std::string> CompleteLocationOptions(std::vector<std::string> argume
       break;
     }
     completed.push_back(arguments[i]);
+    if (arguments[i].ends_with('=') &&
+        IsLocationOption(std::string_view(arguments[i]).substr(0, arguments[i].size() - 1))) {
+      throw Failure(arguments[i] + " takes a number or 'any' (see 'vif get --help')");
+    }
     if (!IsLocationOption(arguments[i])) continue;
     const bool hasNumber =
         i + 1 < arguments.size() && (arguments[i + 1] == kAny || ParseNumber(arguments[i + 1]).has_value());
@@ -160,6 +166,7 @@ std::vector<std::string> CompleteLocationOptions(std::vector<std::string> argume
 void AddGetCommand(CLI::App& app, Status& status) {
   CLI::App* command = app.add_subcommand("get", kDescription);
   command->footer(kFooter);
+  command->group("Commands");
   const auto options = std::make_shared<GetOptions>();
   for (size_t i = 0; i < options->numbers.size(); ++i) {
     command->add_option(kLocationOptions[i].name, options->numbers[i], kLocationOptions[i].help)

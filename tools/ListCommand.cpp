@@ -53,6 +53,7 @@ void RunList(const ListOptions& options) {
 void AddListCommand(CLI::App& app, Status& status) {
   CLI::App* command = app.add_subcommand("list", kDescription);
   command->footer(kFooter);
+  command->group("Commands");
   const auto options = std::make_shared<ListOptions>();
   command->add_option("--format", options->format, "How to print them: table (the default), json or csv")
       ->check(CLI::IsMember({"table", "json", "csv"}).description(""))

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <clocale>
 #include <cstdio>
+#include <iostream>
 
 namespace {
 
@@ -44,7 +45,6 @@ Status Run(int argc, char** argv) {
   app.set_help_flag("-h,--help", "Print this help and exit");
   app.require_subcommand(1);
   app.get_formatter()->label("SUBCOMMAND", "COMMAND ...");
-  app.get_formatter()->label("Subcommands", "Commands");
   tool::AddListCommand(app, status);
   tool::AddGetCommand(app, status);
   tool::AddShowCommand(app, status);
@@ -55,6 +55,7 @@ Status Run(int argc, char** argv) {
   } catch (const CLI::ParseError& error) {
     if (error.get_exit_code() != 0) return Fail(UsageProblem(app, error) + " (see 'vif --help')");
     app.exit(error);  // prints what was asked for: help or the version
+    if (!std::cout.flush()) return Fail("cannot write the output");
     status = kDone;
   }
   tool::Flush();

@@ -59,13 +59,12 @@ std::optional<std::uint64_t> Number(const CVIFField* field) {
 const Supply* FindSupply(const CPdoFields& fields) {
   const std::optional<std::uint64_t> type = Number(fields.Find("Supply_Type"));
   if (!type) return nullptr;
-  const CVIFField* augmented = fields.Find("APDO_Type");
   switch (*type) {
     case 0: return &kFixed;
     case 1: return &kBattery;
     case 2: return &kVariable;
     // Of the augmented supplies only the programmable one has units that are settled here.
-    case 3: return augmented == nullptr || Number(augmented) == 0U ? &kProgrammable : nullptr;
+    case 3: return Number(fields.Find("APDO_Type")) == 0U ? &kProgrammable : nullptr;
     default: return nullptr;
   }
 }

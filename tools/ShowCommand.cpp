@@ -59,8 +59,6 @@ void WriteHeading(size_t depth, const std::string& text) {
   Write(std::string(depth * kIndent, ' ') + Heading(text) + '\n');
 }
 
-std::string NumberText(const VifIndex& slot) { return HasNumber(slot) ? std::to_string(std::get<1>(slot)) : "?"; }
-
 /// Name, value and, where it says more than the value, the description.
 void WriteFields(size_t depth, const FieldPointers& fields) {
   CColumns columns(depth * kIndent);
@@ -159,6 +157,7 @@ void RunShow(const std::vector<std::string>& files) {
 void AddShowCommand(CLI::App& app, Status& status) {
   CLI::App* command = app.add_subcommand("show", kDescription);
   command->footer(kFooter);
+  command->group("Commands");
   const auto files = std::make_shared<std::vector<std::string>>();
   command->add_option("FILE", *files, "The files, text (.txt) or XML (.xml)")->required()->option_text("...");
   command->callback([files, &status] {

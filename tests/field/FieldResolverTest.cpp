@@ -374,6 +374,12 @@ TEST(OwnTable, FailsInsteadOfRunningOffTheStack) {
   EXPECT_EQ(ErrorOnAMillionCharacters(L"(?=.*b).*"), std::regex_constants::error_stack);
 }
 
+TEST(OwnTable, FailsOnAPatternThatGoesDeepWithoutReadingAnything) {
+  const std::vector<VifFieldDef> table = {{L"Deep", std::wregex(L"(?:()+){9000}Abc"), {}}};
+  vif::ResolvedName result;
+  EXPECT_THROW(vif::CFieldResolver(&table, 1).Resolve("Abc", result), std::regex_error);
+}
+
 TEST(OwnTable, FailsInAThreadInsteadOfRunningOffItsStack) {
   std::regex_constants::error_type code{};
   std::thread([&] { code = ErrorOnAMillionCharacters(L".*"); }).join();

@@ -211,6 +211,17 @@ TEST(TextCheckTest, RegexErrorOfTheObserverComesThrough) {
   EXPECT_THROW(ReadTextVif(stream, "a.txt", nullptr, {fields, componentCount}, &observer), std::regex_error);
 }
 
+TEST(TextCheckTest, LookUpWithoutTheMarkCannotFailTheFile) {
+  // Reads on into the name only behind a letter, so the name with its mark is no trouble.
+  const std::vector<VifFieldDef> table = {{L"Long", std::wregex(L"(a|b)*c"), {}}};
+  EXPECT_THAT(Check("$" + std::string(200'000, 'a') + ": \"x\"\n", &table), testing::SizeIs(1));
+}
+
+TEST(TextCheckTest, ChecksAFileWithoutAnObserver) {
+  const TempDir dir;
+  EXPECT_NO_THROW(CheckTextVif(dir.Write("a.txt", "no declaration\n"), nullptr));
+}
+
 }  // namespace
 
 }  // namespace vif

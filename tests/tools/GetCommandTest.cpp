@@ -73,11 +73,12 @@ TEST(Get, UniqueSaysThatThereIsNone) {
   EXPECT_EQ(result.error, "vif: Couldn't find field in \"" + file + "\" that matched with \"Snk_PDO_Voltage\".\n");
 }
 
-TEST(Get, NoMatchIsStatusOneWithoutAWord) {
-  const ProgramResult result = Get({Example("gan-charger-65w.txt"), "Snk_.*"});
+TEST(Get, NoMatchIsStatusOne) {
+  const std::string file = Example("gan-charger-65w.txt");
+  const ProgramResult result = Get({file, "Snk_.*"});
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.output, "");
-  EXPECT_EQ(result.error, "");
+  EXPECT_EQ(result.error, "vif: no field in \"" + file + "\" matches\n");
 }
 
 TEST(Get, AMissingFileIsAFailure) { EXPECT_EQ(Get({"/nonexistent/a.txt", "PID"}).status, 2); }

@@ -189,6 +189,14 @@ TEST_P(ListOnTerminalOf, EveryLineFitsAndNamesItsField) {
 
 INSTANTIATE_TEST_SUITE_P(Widths, ListOnTerminalOf, testing::Values(40, 60, 80, 132));
 
+TEST(ListTable, CutsNothingThatATerminalHasRoomFor) {
+  if (!testsupport::HasTerminals()) GTEST_SKIP() << "this machine has no pseudo-terminals";
+  const TempDir dir;
+  const std::string value(90, 'v');
+  const std::string file = dir.Write("a.txt", "$TID: \"" + value + "\"\n").string();
+  EXPECT_THAT(ListOnTerminal(file, 200).output, HasSubstr(value));
+}
+
 TEST(ListTable, ShowsInAnEllipsisThatATerminalWasTooNarrow) {
   if (!testsupport::HasTerminals()) GTEST_SKIP() << "this machine has no pseudo-terminals";
   const TempDir dir;

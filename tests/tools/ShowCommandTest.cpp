@@ -50,14 +50,15 @@ INSTANTIATE_TEST_SUITE_P(
 
 INSTANTIATE_TEST_SUITE_P(
     Sink, ShowPdo,
-    testing::Values(PdoCase{"Snk_PDO_Supply_Type1: 0\nSnk_PDO_Voltage1: 100\nSnk_PDO_Op_Current1: 50\n",
-                            "    1    Fixed   5 V      0.5 A    2.5 W"},
-                    PdoCase{"Snk_PDO_Supply_Type1: 1\nSnk_PDO_Min_Voltage1: 100\nSnk_PDO_Max_Voltage1: 200\n"
-                            "Snk_PDO_Op_Power1: 40\n",
-                            "    1    Battery  5 to 10 V           10 W"},
-                    PdoCase{"Snk_PDO_Supply_Type1: 3\nSnk_PDO_Min_Voltage1: 33\nSnk_PDO_Max_Voltage1: 59\n"
-                            "Snk_PDO_Op_Current1: 20\n",
-                            "    1    PPS     3.3 to 5.9 V  1 A"}));
+    testing::Values(
+        PdoCase{"Snk_PDO_Supply_Type1: 0\nSnk_PDO_Voltage1: 100\nSnk_PDO_Op_Current1: 50\n",
+                "    1    Fixed   5 V      0.5 A    2.5 W"},
+        PdoCase{"Snk_PDO_Supply_Type1: 1\nSnk_PDO_Min_Voltage1: 100\nSnk_PDO_Max_Voltage1: 200\n"
+                "Snk_PDO_Op_Power1: 40\n",
+                "    1    Battery  5 to 10 V           10 W"},
+        PdoCase{"Snk_PDO_Supply_Type1: 3\nSnk_PDO_APDO_Type1: 0\nSnk_PDO_Min_Voltage1: 33\nSnk_PDO_Max_Voltage1: 59\n"
+                "Snk_PDO_Op_Current1: 20\n",
+                "    1    PPS     3.3 to 5.9 V  1 A"}));
 
 INSTANTIATE_TEST_SUITE_P(
     Unsettled, ShowPdo,
@@ -65,6 +66,7 @@ INSTANTIATE_TEST_SUITE_P(
                     PdoCase{"Src_PDO_Supply_Type1: 4\nSrc_PDO_Voltage1: 100\n", "    1    ?       ?"},
                     PdoCase{"Src_PDO_Supply_Type1: 3\nSrc_PDO_APDO_Type1: 1\nSrc_PDO_Min_Voltage1: 9\n",
                             "    1    ?       ? to ? V                  Src_PDO_APDO_Type=1"},
+                    PdoCase{"Src_PDO_Supply_Type1: 3\nSrc_PDO_Max_Current1: 60\n", "    1    ?                ?"},
                     PdoCase{"Src_PDO_Supply_Type1: 0\nSrc_PDO_Voltage1: 99999999999999999999\n", "    1    Fixed   ?"},
                     PdoCase{"Src_PDO_Supply_Type1: 0\nSrc_PDO_Voltage1: 18446744073709551614\n", "    1    Fixed   ?"},
                     PdoCase{"Src_PDO_Supply_Type: 0\nSrc_PDO_Voltage: 100\n", "    ?    Fixed   5 V"}));

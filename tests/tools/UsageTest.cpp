@@ -66,6 +66,18 @@ TEST(Usage, ALocationOptionTakesANumber) {
   ExpectUsageError(Vif({"get", "--src-pdo=two", "a.txt"}), "--src-pdo takes a number or 'any', not 'two'");
 }
 
+TEST(Usage, ALocationOptionWithAnEqualsSignTakesANumber) {
+  ExpectUsageError(Vif({"get", "--src-pdo=", "a.txt"}), "--src-pdo= takes a number or 'any'");
+}
+
+TEST(Usage, AFullDiskFailsHelpAndVersion) {
+  for (const char* option : {"--help", "--version"}) {
+    const ProgramResult result =
+        testsupport::RunProgram({"/bin/sh", "-c", "exec \"$0\" \"$1\" >/dev/full", VIF_COMMAND, option});
+    EXPECT_EQ(result.status, 2) << option;
+  }
+}
+
 TEST(Usage, ALocationOptionIsGivenOnce) {
   ExpectUsageError(Vif({"get", "--src-pdo", "1", "--src-pdo", "2", "a.txt"}), "--src-pdo");
 }
