@@ -19,11 +19,16 @@ namespace testsupport {
 #define VIF_TEST_HAS_FEATURE(feature) 0
 #endif
 
+#if defined(__SANITIZE_THREAD__) || VIF_TEST_HAS_FEATURE(thread_sanitizer)
+constexpr bool kIsThreadSanitized = true;
+#else
+constexpr bool kIsThreadSanitized = false;
+#endif
+
 // A stack as small as a host's threads may have. Without optimisation, and with sanitizers, stack frames are several
 // times as large as those of a delivered library.
-#if defined(NDEBUG) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) && \
-    !VIF_TEST_HAS_FEATURE(address_sanitizer) && !VIF_TEST_HAS_FEATURE(thread_sanitizer)
-constexpr std::size_t kSmallStack = 512 * 1024;
+#if defined(NDEBUG) && !defined(__SANITIZE_ADDRESS__) && !VIF_TEST_HAS_FEATURE(address_sanitizer)
+constexpr std::size_t kSmallStack = kIsThreadSanitized ? 8 * 1024 * 1024 : 512 * 1024;
 #else
 constexpr std::size_t kSmallStack = 8 * 1024 * 1024;
 #endif
