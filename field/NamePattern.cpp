@@ -5,25 +5,19 @@
 
 #include <cstring>
 #include <string_view>
+#include <utility>
 
 namespace vif {
 
 namespace {
 
 constexpr const char* kSpecialCharacters = "^$\\.*+?()[]{}|";
+
 /// A stepwise match takes a few steps for each character, and more than one for each pair of them only where a pattern
 /// looks ahead. This ends the longest after a second or two.
 constexpr std::size_t kStepwiseStepBudget = 100'000'000;
 
 constexpr auto kSyntax = std::regex_constants::ECMAScript | std::regex_constants::icase;
-
-/// The expression for the letter case of that locale; the global one may be another by now.
-std::regex CompileStepwise(const char* pattern, const std::locale& locale) {
-  std::regex expression;
-  expression.imbue(locale);
-  expression.assign(pattern, kSyntax | VIF_REGEX_STEPWISE);
-  return expression;
-}
 
 bool IsPlain(const char* pattern) { return std::strpbrk(pattern, kSpecialCharacters) == nullptr; }
 
@@ -49,14 +43,15 @@ CNamePattern::CNamePattern(const char* pattern)
 
 bool CNamePattern::Matches(const char* name) {
   if (!m_expression) return MatchesPlain(name);
-  if (m_stepwise) return MatchesStepwise(name, std::regex_constants::error_complexity);
   GuardedMatch<char> match;
-  try {
-    return GuardedRegexMatch(std::string_view(name), match, *m_expression);
-  } catch (const std::regex_error& error) {
-    if (VIF_REGEX_STEPWISE == std::regex_constants::syntax_option_type{}) throw;
-    return MatchesStepwise(name, error.code());
+  if (!m_stepwise) {
+    try {
+      return GuardedRegexMatch(std::string_view(name), match, *m_expression);
+    } catch (const std::regex_error&) {
+      if (!CompileStepwise()) throw;
+    }
   }
+  return GuardedRegexMatch(std::string_view(name), match, *m_stepwise, kStepwiseStepBudget);
 }
 
 bool CNamePattern::MatchesPlain(const char* name) const {
@@ -67,16 +62,17 @@ bool CNamePattern::MatchesPlain(const char* name) const {
   return *name == *expected;
 }
 
-bool CNamePattern::MatchesStepwise(const char* name, std::regex_constants::error_type reason) {
+bool CNamePattern::CompileStepwise() {
+  if (VIF_REGEX_STEPWISE == std::regex_constants::syntax_option_type{}) return false;
   try {
-    if (!m_stepwise) m_stepwise = CompileStepwise(m_pattern, m_locale);
+    std::regex expression;
+    expression.imbue(m_locale);  // the global locale may be another one by now
+    expression.assign(m_pattern, kSyntax | VIF_REGEX_STEPWISE);
+    m_stepwise = std::move(expression);
+    return true;
   } catch (const std::regex_error&) {
-    // The pattern is sound, or it would not have come this far: it refers back to a group, and that cannot be
-    // matched stepwise.
-    throw std::regex_error(reason);
+    return false;  // the pattern is sound, or it would not have come this far: it refers back to a group
   }
-  GuardedMatch<char> match;
-  return GuardedRegexMatch(std::string_view(name), match, *m_stepwise, kStepwiseStepBudget);
 }
 
 }  // namespace vif

@@ -25,7 +25,9 @@ class CNamePattern {
 
  private:
   bool MatchesPlain(const char* name) const;
-  bool MatchesStepwise(const char* name, std::regex_constants::error_type reason);
+
+  /// Makes `m_stepwise`; false when there is no such way for the pattern.
+  bool CompileStepwise();
 
   const char* m_pattern;
   std::locale m_locale;

@@ -126,16 +126,16 @@ PowerProfile DescribePdo(const std::vector<const CVIFField*>& list) {
     profile.power = Decimal(*volts * units.milliVolt * *amperes * units.milliAmpere / 1000) + " W";
   }
 
+  const auto shown = {fields.Find("Supply_Type"),
+                      voltage,
+                      lowest,
+                      highest,
+                      current,
+                      operatingCurrent,
+                      power,
+                      operatingPower,
+                      isKnown ? fields.Find("APDO_Type") : nullptr};
   for (const CVIFField* field : list) {
-    const auto shown = {fields.Find("Supply_Type"),
-                        voltage,
-                        lowest,
-                        highest,
-                        current,
-                        operatingCurrent,
-                        power,
-                        operatingPower,
-                        isKnown ? fields.Find("APDO_Type") : nullptr};
     if (std::find(shown.begin(), shown.end(), field) == shown.end()) profile.others.push_back(field);
   }
   return profile;
