@@ -10,9 +10,13 @@ install(TARGETS VendorInfoFile VendorInfoFileHost EXPORT VendorInfoFileTargets
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 install(DIRECTORY include/ DESTINATION "${header_dir}" FILES_MATCHING PATTERN "*.h")
 install(DIRECTORY host/BaseUtilities DESTINATION "${header_dir}" FILES_MATCHING PATTERN "*.h")
+install(FILES host/TestUtilities/DOMDoc.h host/TestUtilities/DOMDocProblem.h
+  DESTINATION "${header_dir}/TestUtilities")
+install(FILES host/msxml/ComError.h host/msxml/ComPointer.h host/msxml/ComTypes.h host/msxml/MsXml.h
+  DESTINATION "${header_dir}/msxml")
 install(FILES LICENSE README.md CHANGELOG.md DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 install(DIRECTORY examples/vif/ DESTINATION "${CMAKE_INSTALL_DATADIR}/vendorinfofile/examples"
-  FILES_MATCHING PATTERN "*.txt")
+  FILES_MATCHING PATTERN "*.txt" PATTERN "*.xml")
 
 install(EXPORT VendorInfoFileTargets NAMESPACE VendorInfoFile:: DESTINATION "${package_dir}")
 configure_package_config_file(cmake/VendorInfoFileConfig.cmake.in

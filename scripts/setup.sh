@@ -6,7 +6,7 @@
 # Each task includes the ones before it.
 set -euo pipefail
 
-build_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
+build_packages=(g++ cmake ninja-build libcli11-dev libxml2-dev nlohmann-json3-dev)
 test_packages=(libgtest-dev libgmock-dev pkg-config)
 check_packages=(clang clang-format clang-tidy libclang-rt-14-dev)
 

@@ -1,0 +1,43 @@
+// Reference counting for the objects behind the interfaces.
+#pragma once
+
+#include "msxml/ComTypes.h"
+
+#include <atomic>
+
+namespace msxml {
+
+/// Implements the count; the object starts with one reference and deletes itself with the last.
+template <typename Interface>
+class CCounted : public Interface {
+ public:
+  CCounted() = default;
+  CCounted(const CCounted&) = delete;
+  CCounted& operator=(const CCounted&) = delete;
+  virtual ~CCounted() = default;
+
+  ULONG AddRef() override { return ++m_references; }
+
+  ULONG Release() override {
+    const ULONG left = --m_references;
+    if (left == 0) delete this;
+    return left;
+  }
+
+ private:
+  std::atomic<ULONG> m_references{1};
+};
+
+/// Answers QueryInterface for an object that can be asked for it.
+inline HRESULT Answer(IUnknown* interface, void** object) {
+  interface->AddRef();
+  *object = interface;
+  return S_OK;
+}
+
+inline HRESULT RefuseInterface(void** object) {
+  *object = nullptr;
+  return E_NOINTERFACE;
+}
+
+}  // namespace msxml

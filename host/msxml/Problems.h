@@ -1,0 +1,37 @@
+// Collects the reasons why a document is not valid.
+#pragma once
+
+#include "TestUtilities/DOMDocProblem.h"
+
+#include <libxml/xmlerror.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace msxml {
+
+/// Is filled from libxml2's callbacks, which no exception may leave: memory that runs out is kept and raised later.
+class CProblems {
+ public:
+  /// What libxml2 reports. Warnings are passed over.
+  void Add(const xmlError& error, std::size_t line, std::size_t column, std::string_view element) noexcept;
+
+  void Add(std::size_t line, std::size_t column, std::string_view element, std::string_view reason) noexcept;
+
+  /// Remembers that memory ran out.
+  void RanOutOfMemory() noexcept { m_isOutOfMemory = true; }
+
+  bool IsOutOfMemory() const noexcept { return m_isOutOfMemory; }
+  bool IsEmpty() const noexcept { return m_list.empty() && !m_isOutOfMemory; }
+
+  /// \throws std::bad_alloc when memory ran out on the way
+  std::vector<DOMDocProblem> Take();
+
+ private:
+  std::vector<DOMDocProblem> m_list;
+  std::size_t m_omitted = 0;
+  bool m_isOutOfMemory = false;
+};
+
+}  // namespace msxml

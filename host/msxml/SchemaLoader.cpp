@@ -1,0 +1,111 @@
+#include "msxml/SchemaLoader.h"
+
+#include "msxml/XmlText.h"
+
+#include <libxml/parserInternals.h>
+#include <libxml/uri.h>
+#include <libxml/xmlIO.h>
+
+#include <atomic>
+#include <memory>
+#include <new>
+#include <string_view>
+
+namespace msxml {
+
+namespace {
+
+constexpr std::string_view kFileScheme = "file://";
+
+/// Where schemas say that the namespace of `xml:space` and its like is described. What it says is fixed, so it is here.
+constexpr std::string_view kXmlNamespaceUrl = "http://www.w3.org/2001/xml.xsd";
+constexpr std::string_view kXmlNamespaceSchema =
+    "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' targetNamespace='http://www.w3.org/XML/1998/namespace'>"
+    "<xs:attribute name='lang' type='xs:string'/>"
+    "<xs:attribute name='space'><xs:simpleType><xs:restriction base='xs:NCName'>"
+    "<xs:enumeration value='default'/><xs:enumeration value='preserve'/>"
+    "</xs:restriction></xs:simpleType></xs:attribute>"
+    "<xs:attribute name='base' type='xs:anyURI'/>"
+    "<xs:attribute name='id' type='xs:ID'/>"
+    "<xs:attributeGroup name='specialAttrs'><xs:attribute ref='xml:base'/><xs:attribute ref='xml:lang'/>"
+    "<xs:attribute ref='xml:space'/><xs:attribute ref='xml:id'/></xs:attributeGroup>"
+    "</xs:schema>";
+
+/// The loader of the thread that is compiling schemas; null on any other.
+thread_local CSchemaLoader* g_loader = nullptr;
+
+/// What libxml2 loaded with before, and what other threads go on to load with.
+std::atomic<xmlExternalEntityLoader> g_before = nullptr;
+
+struct FreeXml {
+  void operator()(void* memory) const { xmlFree(memory); }
+};
+
+/// The file that a URL or a plain path stands for; empty when it stands for none of this machine.
+std::filesystem::path FileOf(std::string_view url) {
+  if (!url.starts_with(kFileScheme)) {
+    return url.find("://") == std::string_view::npos ? std::filesystem::path(url) : std::filesystem::path();
+  }
+  const std::string escaped(url.substr(kFileScheme.size()));
+  const std::unique_ptr<char, FreeXml> path(xmlURIUnescapeString(escaped.c_str(), 0, nullptr));
+  if (path == nullptr) throw std::bad_alloc();
+  return path.get();
+}
+
+}  // namespace
+
+CSchemaLoader::CSchemaLoader() {
+  g_before = xmlGetExternalEntityLoader();
+  g_loader = this;
+  xmlSetExternalEntityLoader(Load);
+}
+
+CSchemaLoader::~CSchemaLoader() {
+  xmlSetExternalEntityLoader(g_before);
+  g_loader = nullptr;
+}
+
+xmlParserInputPtr CSchemaLoader::Load(const char* url, const char* id, xmlParserCtxtPtr context) {
+  if (g_loader == nullptr) return g_before.load()(url, id, context);
+  try {
+    return url != nullptr ? g_loader->LoadFile(url, context) : nullptr;
+  } catch (const std::bad_alloc&) {
+    g_loader->m_isOutOfMemory = true;
+    return nullptr;
+  }
+}
+
+xmlParserInputPtr CSchemaLoader::LoadFile(const std::string& url, xmlParserCtxtPtr context) {
+  if (url == kXmlNamespaceUrl) return xmlNewStringInputStream(context, Xml(kXmlNamespaceSchema.data()));
+  const std::filesystem::path path = FileOf(url);
+  if (path.empty()) {
+    m_failures.push_back(url + ": nothing is loaded from the network");
+    return nullptr;
+  }
+  CInputFile& file = m_open.emplace_back(path);
+  if (!file.IsOpen()) {
+    m_failures.push_back(path.native() + ": the file " + file.Error());
+    return nullptr;
+  }
+  m_files.push_back({path, file.GetStamp()});
+  xmlParserInputBuffer* buffer =
+      xmlParserInputBufferCreateIO(CInputFile::Read, nullptr, &file, XML_CHAR_ENCODING_NONE);
+  if (buffer == nullptr) throw std::bad_alloc();
+  xmlParserInput* input = xmlNewIOInputStream(context, buffer, XML_CHAR_ENCODING_NONE);
+  if (input == nullptr) {
+    xmlFreeParserInputBuffer(buffer);
+    throw std::bad_alloc();
+  }
+  // What the schema refers to is found relative to this.
+  input->filename = reinterpret_cast<char*>(xmlStrdup(Xml(url.c_str())));
+  return input;
+}
+
+std::string FileUrl(const std::filesystem::path& file) {
+  const std::string path = std::filesystem::absolute(file).native();
+  const std::unique_ptr<xmlChar, FreeXml> escaped(xmlURIEscapeStr(Xml(path.c_str()), Xml("/")));
+  if (escaped == nullptr) throw std::bad_alloc();
+  return std::string(kFileScheme) + std::string(View(escaped.get()));
+}
+
+}  // namespace msxml

@@ -1,0 +1,51 @@
+// What libxml2 may read while it compiles schemas.
+#pragma once
+
+#include "msxml/InputFile.h"
+
+#include <libxml/parser.h>
+
+#include <deque>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace msxml {
+
+/// A file that was read, as it was then.
+struct SchemaFile {
+  std::filesystem::path path;
+  CInputFile::Stamp stamp;
+};
+
+/// While it lives, what this thread has libxml2 load comes from regular files of this machine and from nowhere else;
+/// other threads load as before. Only one may live at a time in the process.
+class CSchemaLoader {
+ public:
+  CSchemaLoader();
+  CSchemaLoader(const CSchemaLoader&) = delete;
+  CSchemaLoader& operator=(const CSchemaLoader&) = delete;
+  ~CSchemaLoader();
+
+  /// The files read so far.
+  const std::vector<SchemaFile>& Files() const { return m_files; }
+
+  /// Why something could not be loaded, in order; each text names what.
+  const std::vector<std::string>& Failures() const { return m_failures; }
+
+  bool IsOutOfMemory() const { return m_isOutOfMemory; }
+
+ private:
+  static xmlParserInputPtr Load(const char* url, const char* id, xmlParserCtxtPtr context);
+  xmlParserInputPtr LoadFile(const std::string& url, xmlParserCtxtPtr context);
+
+  std::deque<CInputFile> m_open;  // libxml2 reads from them while it parses
+  std::vector<SchemaFile> m_files;
+  std::vector<std::string> m_failures;
+  bool m_isOutOfMemory = false;
+};
+
+/// The URL of a file.
+std::string FileUrl(const std::filesystem::path& file);
+
+}  // namespace msxml

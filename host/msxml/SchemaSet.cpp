@@ -1,0 +1,148 @@
+#include "msxml/SchemaSet.h"
+
+#include "BaseUtilities/Exceptions.h"
+#include "BaseUtilities/SimpleBuffer.h"
+#include "msxml/XmlParser.h"
+#include "msxml/XmlText.h"
+
+#include <algorithm>
+#include <map>
+#include <mutex>
+#include <new>
+#include <string_view>
+#include <utility>
+
+namespace msxml {
+
+namespace {
+
+struct FreeParserContext {
+  void operator()(xmlSchemaParserCtxt* context) const { xmlSchemaFreeParserCtxt(context); }
+};
+struct FreeValidContext {
+  void operator()(xmlSchemaValidCtxt* context) const { xmlSchemaFreeValidCtxt(context); }
+};
+
+std::string EscapeAttribute(std::string_view text) {
+  std::string escaped;
+  for (const char c : text) {
+    switch (c) {
+      case '&': escaped += "&amp;"; break;
+      case '<': escaped += "&lt;"; break;
+      case '"': escaped += "&quot;"; break;
+      default: escaped += c;
+    }
+  }
+  return escaped;
+}
+
+/// A schema that does nothing but import the others, each under its namespace.
+std::string ImportingSchema(const std::vector<SchemaSource>& sources) {
+  std::string schema = R"(<xs:schema xmlns:xs="http://www.w3.org/2001/XMLSchema">)";
+  for (const SchemaSource& source : sources) {
+    schema += R"(<xs:import namespace=")" + EscapeAttribute(source.targetNamespace) + R"(" schemaLocation=")" +
+              EscapeAttribute(FileUrl(source.file)) + R"("/>)";
+  }
+  return schema + "</xs:schema>";
+}
+
+[[noreturn]] void ThrowSchemaError(const std::string& what) {
+  CSimpleBuffer message;
+  throw CZoDOMDocException(message.Printf("Couldn't load the schema %s", what));
+}
+
+void CollectProblem(void* data, xmlErrorPtr error) {
+  auto& problems = *static_cast<CProblems*>(data);
+  std::string_view place = error->file != nullptr ? error->file : "";
+  problems.Add(*error, static_cast<std::size_t>(std::max(error->line, 0)), 0, place);
+}
+
+struct Validation {
+  const CXmlTree& tree;
+  const std::vector<SchemaSource>& sources;
+  CProblems& problems;
+};
+
+/// libxml2 writes names with their namespace in braces; of the schemas' own names, the local part says enough.
+std::string WithoutNamespaces(std::string text, const std::vector<SchemaSource>& sources) {
+  for (const SchemaSource& source : sources) {
+    const std::string braced = '{' + source.targetNamespace + '}';
+    std::size_t at = 0;
+    while ((at = text.find(braced, at)) != std::string::npos) text.erase(at, braced.size());
+  }
+  return text;
+}
+
+void CollectInvalidity(void* data, xmlErrorPtr error) {
+  auto& validation = *static_cast<Validation*>(data);
+  const auto* node = static_cast<const xmlNode*>(error->node);
+  const Position* position = validation.tree.Locate(node);
+  const Position place = position != nullptr ? *position : Position{};
+  try {
+    std::string message = error->message != nullptr ? error->message : "";
+    message = WithoutNamespaces(std::move(message), validation.sources);
+    if (node != nullptr && node->type == XML_ATTRIBUTE_NODE) node = node->parent;
+    std::string element;
+    if (node != nullptr && node->ns != nullptr && node->ns->prefix != nullptr) {
+      element = std::string(View(node->ns->prefix)) + ':';
+    }
+    if (node != nullptr) element += View(node->name);
+    xmlError readable = *error;
+    readable.message = message.data();
+    validation.problems.Add(readable, place.line, place.column, element);
+  } catch (const std::bad_alloc&) {
+    validation.problems.RanOutOfMemory();
+  }
+}
+
+}  // namespace
+
+CSchemaSet::CSchemaSet(const std::vector<SchemaSource>& sources) : m_sources(sources) {
+  InitializeXmlLibrary();
+  CSchemaLoader loader;
+  const std::string driver = ImportingSchema(sources);
+  const std::unique_ptr<xmlSchemaParserCtxt, FreeParserContext> context(
+      xmlSchemaNewMemParserCtxt(driver.data(), static_cast<int>(driver.size())));
+  if (context == nullptr) throw std::bad_alloc();
+  CProblems problems;
+  xmlSchemaSetParserStructuredErrors(context.get(), CollectProblem, &problems);
+  m_schema.reset(xmlSchemaParse(context.get()));
+  m_files = loader.Files();
+  if (loader.IsOutOfMemory() || problems.IsOutOfMemory()) throw std::bad_alloc();
+  if (!loader.Failures().empty()) ThrowSchemaError(loader.Failures().front());
+  for (const DOMDocProblem& problem : problems.Take()) {
+    ThrowSchemaError(problem.element + ", line " + std::to_string(problem.line) + ": " + problem.reason);
+  }
+  if (m_schema == nullptr) throw std::bad_alloc();
+}
+
+bool CSchemaSet::IsCurrent() const {
+  return std::all_of(m_files.begin(), m_files.end(), [](const SchemaFile& file) {
+    const CInputFile now(file.path);
+    return now.IsOpen() && now.GetStamp() == file.stamp;
+  });
+}
+
+std::shared_ptr<const CSchemaSet> CSchemaSet::Get(const std::vector<SchemaSource>& sources) {
+  static std::mutex mutex;
+  static std::map<std::vector<SchemaSource>, std::shared_ptr<const CSchemaSet>> compiled;
+  const std::lock_guard lock(mutex);
+  std::shared_ptr<const CSchemaSet>& set = compiled[sources];
+  if (set == nullptr || !set->IsCurrent()) {
+    set = nullptr;
+    set = std::make_shared<const CSchemaSet>(sources);
+  }
+  return set;
+}
+
+void CSchemaSet::Validate(const CXmlTree& tree, CProblems& problems) const {
+  const std::unique_ptr<xmlSchemaValidCtxt, FreeValidContext> context(xmlSchemaNewValidCtxt(m_schema.get()));
+  if (context == nullptr) throw std::bad_alloc();
+  Validation validation{tree, m_sources, problems};
+  xmlSchemaSetValidStructuredErrors(context.get(), CollectInvalidity, &validation);
+  const int result = xmlSchemaValidateDoc(context.get(), tree.Document());
+  if (result < 0 && problems.IsEmpty()) problems.RanOutOfMemory();
+  if (result > 0 && problems.IsEmpty()) problems.Add(0, 0, {}, "The document does not fit its schema.");
+}
+
+}  // namespace msxml

@@ -1,0 +1,141 @@
+#include "msxml/XmlParser.h"
+
+#include "msxml/InputFile.h"
+#include "msxml/XmlText.h"
+
+#include <libxml/SAX2.h>
+#include <libxml/parser.h>
+#include <libxml/parserInternals.h>
+#include <libxml/xmlschemastypes.h>
+
+#include <algorithm>
+#include <mutex>
+#include <new>
+#include <string>
+#include <utility>
+
+namespace msxml {
+
+namespace {
+
+// The limits that libxml2 sets on the length of texts and names are lifted: a text takes no more memory than the file
+// has, and entities, which could multiply it, cannot be declared.
+constexpr int kOptions = XML_PARSE_NONET | XML_PARSE_HUGE;
+
+struct FreeContext {
+  void operator()(xmlParserCtxt* context) const { xmlFreeParserCtxt(context); }
+};
+using ContextPointer = std::unique_ptr<xmlParserCtxt, FreeContext>;
+
+/// One run of the parser. It stands behind the parser's `_private` pointer.
+struct Run {
+  CProblems& problems;
+  std::vector<Position> positions;
+};
+
+Run& RunOf(const xmlParserCtxt& context) { return *static_cast<Run*>(context._private); }
+
+std::uint32_t CountCharacters(const xmlChar* begin, const xmlChar* end) {
+  return static_cast<std::uint32_t>(std::count_if(begin, end, [](xmlChar c) { return (c & 0xC0) != 0x80; }));
+}
+
+/// Where the start tag begins whose attributes have just been parsed. The column is 0 when the beginning of its line
+/// is no longer in the parser's buffer.
+Position StartTagPosition(const xmlParserInput& input) {
+  const xmlChar* tag = input.cur;
+  while (tag > input.base && *tag != '<') --tag;  // no attribute's value can contain one
+  const auto line = static_cast<std::uint32_t>(std::max(input.line, 1));
+  const auto lineFeeds = static_cast<std::uint32_t>(std::count(tag, input.cur, '\n'));
+  if (lineFeeds == 0) {
+    const std::uint32_t behind = CountCharacters(tag, input.cur);
+    const auto column = static_cast<std::uint32_t>(std::max(input.col, 1));
+    return {line, column > behind ? column - behind : 0};
+  }
+  const xmlChar* lineBegin = tag;
+  while (lineBegin > input.base && lineBegin[-1] != '\n') --lineBegin;
+  const bool isKnown = lineBegin > input.base || line == lineFeeds + 1;
+  return {line - std::min(line, lineFeeds), isKnown ? CountCharacters(lineBegin, tag) + 1 : 0};
+}
+
+void Stop(xmlParserCtxt& context, std::string_view element, std::string_view reason) {
+  const Position position = context.input != nullptr ? StartTagPosition(*context.input) : Position{};
+  RunOf(context).problems.Add(position.line, position.column, element, reason);
+  xmlStopParser(&context);
+}
+
+std::string QualifiedName(const xmlChar* prefix, const xmlChar* name) {
+  std::string text(View(prefix));
+  if (!text.empty()) text += ':';
+  return text += View(name);
+}
+
+void StartElement(void* data, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri, int namespaceCount,
+                  const xmlChar** namespaces, int attributeCount, int defaultedCount, const xmlChar** attributes) {
+  auto& context = *static_cast<xmlParserCtxt*>(data);
+  Run& run = RunOf(context);
+  try {
+    if (context.nodeNr >= kGreatestDepth) {
+      Stop(context, QualifiedName(prefix, name),
+           "Elements are nested more than " + std::to_string(kGreatestDepth) + " deep.");
+      return;
+    }
+    run.positions.push_back(StartTagPosition(*context.input));
+  } catch (const std::bad_alloc&) {
+    run.problems.RanOutOfMemory();
+    xmlStopParser(&context);
+    return;
+  }
+  xmlSAX2StartElementNs(data, name, prefix, uri, namespaceCount, namespaces, attributeCount, defaultedCount,
+                        attributes);
+  if (context.node != nullptr) CXmlTree::SetNumber(*context.node, run.positions.size());
+}
+
+void RefuseDocumentType(void* data, const xmlChar* name, const xmlChar*, const xmlChar*) {
+  Stop(*static_cast<xmlParserCtxt*>(data), View(name), "A document type declaration is not allowed.");
+}
+
+void ReportError(void* data, xmlErrorPtr error) {
+  const auto& context = *static_cast<xmlParserCtxt*>(data);
+  const std::string_view element = context.node != nullptr ? View(context.node->name) : std::string_view();
+  RunOf(context).problems.Add(*error, static_cast<std::size_t>(std::max(error->line, 0)),
+                              static_cast<std::size_t>(std::max(error->int2, 0)), element);
+}
+
+ContextPointer MakeContext(Run& run) {
+  ContextPointer context(xmlNewParserCtxt());
+  if (context == nullptr) throw std::bad_alloc();
+  context->_private = &run;
+  context->sax->startElementNs = StartElement;
+  context->sax->internalSubset = RefuseDocumentType;
+  context->sax->serror = ReportError;
+  return context;
+}
+
+}  // namespace
+
+std::shared_ptr<const CXmlTree> ParseXmlFile(const std::filesystem::path& path, CProblems& problems) {
+  InitializeXmlLibrary();
+  CInputFile file(path);
+  if (!file.IsOpen()) {
+    problems.Add(0, 0, {}, "The file " + file.Error() + ".");
+    return nullptr;
+  }
+  Run run{problems, {}};
+  const ContextPointer context = MakeContext(run);
+  DocumentPointer document(xmlCtxtReadIO(context.get(), CInputFile::Read, nullptr, &file, nullptr, nullptr, kOptions));
+  if (file.HasFailed()) problems.Add(0, 0, {}, "The file " + file.Error() + ".");
+  const bool isSound = document != nullptr && context->wellFormed == 1 && context->nsWellFormed == 1;
+  if (!isSound && problems.IsEmpty()) problems.Add(0, 0, {}, "The file is not well-formed XML.");
+  if (!problems.IsEmpty()) return nullptr;
+  return std::make_shared<const CXmlTree>(std::move(document), std::move(run.positions));
+}
+
+void InitializeXmlLibrary() {
+  static std::once_flag once;
+  std::call_once(once, [] {
+    xmlInitParser();
+    xmlSchemaInitTypes();  // has no lock of its own
+  });
+}
+
+}  // namespace msxml

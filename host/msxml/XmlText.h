@@ -1,0 +1,18 @@
+// Text as libxml2 has it, UTF-8 in unsigned characters.
+#pragma once
+
+#include <libxml/xmlstring.h>
+
+#include <string_view>
+
+namespace msxml {
+
+/// The text, borrowed; null counts as empty.
+inline std::string_view View(const xmlChar* text) {
+  return text != nullptr ? std::string_view(reinterpret_cast<const char*>(text)) : std::string_view();
+}
+
+/// The UTF-8 text as libxml2 takes it, borrowed. It must end in a NUL where libxml2 expects that.
+inline const xmlChar* Xml(const char* text) { return reinterpret_cast<const xmlChar*>(text); }
+
+}  // namespace msxml
