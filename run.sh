@@ -12,7 +12,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 
 vif=$root/build/release/tools/vif
 if [ $# -eq 0 ]; then
-  set -- list "$root/examples/vif/gan-charger-65w.txt"
+  set -- show "$root/examples/vif/usb4-dock.xml"
   echo "==> vif $*" >&2
 fi
 exec "$vif" "$@"

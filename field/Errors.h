@@ -15,4 +15,10 @@ template <typename... Arguments>
   throw CZoRunTimeException(MessageBuffer().Printf(format, arguments...));
 }
 
+/// Throws `CZoDOMDocException` with the formatted message.
+template <typename... Arguments>
+[[noreturn]] void ThrowDomDocError(const char* format, const Arguments&... arguments) {
+  throw CZoDOMDocException(MessageBuffer().Printf(format, arguments...));
+}
+
 }  // namespace vif

@@ -1,6 +1,7 @@
 #include "PathText.h"
 
 #include "BaseUtilities/StringConvert.h"
+#include "SystemText.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -11,13 +12,7 @@ namespace vif {
 #ifdef _WIN32
 
 std::string NarrowPathText(const std::filesystem::path& path) {
-  const std::wstring& wide = path.native();
-  const UINT codePage = AreFileApisANSI() ? CP_ACP : CP_OEMCP;
-  const int wideLength = static_cast<int>(wide.size());
-  const int length = WideCharToMultiByte(codePage, 0, wide.data(), wideLength, nullptr, 0, nullptr, nullptr);
-  std::string narrow(static_cast<size_t>(length), '\0');
-  WideCharToMultiByte(codePage, 0, wide.data(), wideLength, narrow.data(), length, nullptr, nullptr);
-  return narrow;
+  return CodePageText(path.native(), AreFileApisANSI() ? CP_ACP : CP_OEMCP);
 }
 
 std::wstring WidePathText(const std::filesystem::path& path) { return path.native(); }

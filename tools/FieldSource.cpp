@@ -2,9 +2,48 @@
 
 #include "Command.h"
 
+#include <VIFInvalidFile.h>
+#include <msxml/ComPointer.h>
+
 #include <new>
 
 namespace tool {
+
+namespace {
+
+/// The first reason why a file is not valid, and how many more there are.
+std::string ReasonText(const std::vector<DOMDocProblem>& problems) {
+  const DOMDocProblem& first = problems.front();
+  std::string text;
+  if (first.line != 0) text += "line " + std::to_string(first.line);
+  if (first.column != 0) text += ", column " + std::to_string(first.column);
+  if (!text.empty()) text += ": ";
+  text += first.reason;
+  if (problems.size() > 1) text += " (and " + std::to_string(problems.size() - 1) + " more; see 'vif check')";
+  return text;
+}
+
+std::string ComErrorText(const _com_error& error) {
+  return "the XML document failed with code " + std::to_string(error.Error());
+}
+
+}  // namespace
+
+void RethrowAsFailure(const std::string& fileName) {
+  try {
+    throw;
+  } catch (const std::bad_alloc&) {
+    throw;
+  } catch (const CVIFInvalidFile& error) {
+    throw Failure(std::string(error.what()).append(" ").append(ReasonText(error.Problems())));
+  } catch (const _com_error& error) {
+    throw Failure(fileName + ": " + ComErrorText(error));
+  } catch (const std::exception& error) {
+    const std::string reason = error.what();
+    if (reason.find(fileName) != std::string::npos) throw Failure(reason);
+    throw Failure(std::string(fileName).append(": ").append(reason));
+  }
+}
 
 CVendorInfoFile LoadFiles(const std::vector<std::string>& fileNames) {
   CVendorInfoFile vif;
@@ -12,12 +51,8 @@ CVendorInfoFile LoadFiles(const std::vector<std::string>& fileNames) {
     if (fileName.empty()) throw Failure("a file name is empty");
     try {
       vif.Append(fileName.c_str());
-    } catch (const std::bad_alloc&) {
-      throw;
-    } catch (const std::exception& error) {
-      const std::string reason = error.what();
-      if (reason.find(fileName) != std::string::npos) throw Failure(reason);
-      throw Failure(std::string(fileName).append(": ").append(reason));
+    } catch (...) {
+      RethrowAsFailure(fileName);
     }
   }
   return vif;

@@ -12,4 +12,8 @@ namespace tool {
 /// \throws Failure that names the file which could not be loaded, and why
 CVendorInfoFile LoadFiles(const std::vector<std::string>& fileNames);
 
+/// To be called where an exception of loading a file has been caught.
+/// \throws Failure that names the file and says why, but for std::bad_alloc, which passes
+[[noreturn]] void RethrowAsFailure(const std::string& fileName);
+
 }  // namespace tool

@@ -4,6 +4,7 @@
 #include "Errors.h"
 #include "PathText.h"
 #include "TextReader.h"
+#include "XmlReader.h"
 
 #include <system_error>
 #include <utility>
@@ -59,6 +60,5 @@ void CVIFImpl::ReadTextFile(const std::filesystem::path& fileName) {
 }
 
 void CVIFImpl::ReadXmlFile(const std::filesystem::path& fileName) {
-  vif::ThrowRunTimeError("Reading XML Vendor Info Files is not supported yet. (name: %s)",
-                         vif::NarrowPathText(fileName));
+  vif::ReadXmlVif(fileName, {m_fields, m_componentCount});
 }

@@ -1,14 +1,31 @@
 #include "VendorInfoFile.h"
 
+#include "Errors.h"
 #include "PathText.h"
 #include "VIFImpl.h"
+#include "msxml/ComPointer.h"
 
 #include <utility>
 
 CVendorInfoFile::CVendorInfoFile() : m_impl(new CVIFImpl) {}
 
-CVendorInfoFile::CVendorInfoFile(const std::filesystem::path& fileName, std::vector<VifFieldDef>* fieldDefs)
-    : m_impl(new CVIFImpl(fileName, fieldDefs)) {}
+namespace {
+
+[[noreturn]] void ThrowCreateError(const std::filesystem::path& fileName, const _com_error& error) {
+  CSimpleBuffer reason;
+  const auto* text = error.ErrorMessage();
+  if (text == nullptr) text = reason.Printf(L"COM Error Code 0x%08X", error.Error());
+  vif::ThrowDomDocError(R"(Vendor Info File Create Exception (file name: "%ls") - %ls)", vif::WidePathText(fileName),
+                        text);
+}
+
+}  // namespace
+
+CVendorInfoFile::CVendorInfoFile(const std::filesystem::path& fileName, std::vector<VifFieldDef>* fieldDefs) try
+    : m_impl(new CVIFImpl(fileName, fieldDefs)) {
+} catch (const _com_error& error) {
+  ThrowCreateError(fileName, error);
+}
 
 CVendorInfoFile::CVendorInfoFile(std::nullptr_t, std::vector<VifFieldDef>* fieldDefs)
     : CVendorInfoFile(std::filesystem::path(), fieldDefs) {}

@@ -136,7 +136,8 @@ TEST(ExampleFiles, AreAllTested) {
   const std::filesystem::directory_iterator folder(std::filesystem::path(EXAMPLES_FOLDER) / "vif");
   std::set<std::string> names;
   for (const auto& entry : folder) names.insert(entry.path().filename().string());
-  EXPECT_THAT(names, testing::ElementsAre("active-cable.txt", "dual-role-tablet.txt", "gan-charger-65w.txt"));
+  EXPECT_THAT(names, testing::ElementsAre("active-cable.txt", "dual-role-tablet.txt", "gan-charger-65w.txt",
+                                          "gan-charger-65w.xml", "two-port-laptop.xml", "usb4-dock.xml"));
 }
 
 TEST(ExampleFiles, KeepTheLineEndsOfTheirEditors) {

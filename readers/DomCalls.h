@@ -1,0 +1,32 @@
+// The calls on XML documents that the reader makes, with their failures as exceptions.
+#pragma once
+
+#include "msxml/MsXml.h"
+
+#include <optional>
+#include <string>
+
+namespace vif {
+
+// Every function throws `_com_error` with the result of a call that fails and the interface that it was made on, and
+// with E_POINTER where a pointer is missing that must not be.
+
+DOMNodeListPtr SelectNodes(IXMLDOMNode& node, const CBstr& xpath);
+
+/// Empty when nothing is found.
+DOMNodePtr SelectSingleNode(IXMLDOMNode& node, const CBstr& xpath);
+
+LONG Length(IXMLDOMNodeList& nodes);
+
+DOMNodePtr Item(IXMLDOMNodeList& nodes, LONG index);
+
+/// The name without its prefix, in the system code page.
+std::string LocalName(IXMLDOMNode& node);
+
+/// The text content, in the system code page.
+std::string Text(IXMLDOMNode& node);
+
+/// The attribute as UTF-8; nothing when the element has none of that name.
+std::optional<std::string> Attribute(IXMLDOMNode& element, const CBstr& name);
+
+}  // namespace vif

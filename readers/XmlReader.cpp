@@ -1,0 +1,205 @@
+#include "XmlReader.h"
+
+#include "DOMDocVIF.h"
+#include "DomCalls.h"
+#include "Errors.h"
+#include "GroupNames.h"
+#include "PathText.h"
+#include "VIFInvalidFile.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace vif {
+
+namespace {
+
+constexpr std::size_t kDepth = CVIFField::MAX_INDEX_DEPTH;
+constexpr std::string_view kYes = "YES";
+constexpr std::string_view kNo = "NO";
+
+using Slots = std::array<VifIndex, kDepth>;
+
+constexpr Slots kNoSlots = {CVIFField::UNSPECIFIED_INDEX, CVIFField::UNSPECIFIED_INDEX, CVIFField::UNSPECIFIED_INDEX};
+constexpr Slots kVifSlots = {VifIndex{eVifLocVif, 0}, CVIFField::UNSPECIFIED_INDEX, CVIFField::UNSPECIFIED_INDEX};
+constexpr Slots kProductSlots = {VifIndex{eVifLocProduct, 0}, CVIFField::UNSPECIFIED_INDEX,
+                                 CVIFField::UNSPECIFIED_INDEX};
+
+/// Products and routers are numbered from 0, as the format counts them; everything else from 1.
+constexpr std::uint64_t FirstNumber(EVifLocation location) {
+  return location == eVifLocProduct || location == eVifLocRouter ? 0 : 1;
+}
+
+/// The location of a list element's items, by the list's own name; what the items are called does not matter.
+EVifLocation ListLocation(IXMLDOMNode& list) {
+  CBstr name;
+  if (FAILED(list.get_nodeName(name.Receive())) || name.get() == nullptr) {
+    ThrowDomDocError("ERROR:  Couldn't get node name.\r\n");
+  }
+  std::wstring_view localName = name.View();
+  if (const std::size_t colon = localName.find(L':'); colon != std::wstring_view::npos) {
+    localName.remove_prefix(colon + 1);
+  }
+  const std::optional<EVifLocation> location = FindGroupLocation(localName);
+  if (!location) ThrowDomDocError("Unexpected list element name: %ls", std::wstring(localName));
+  return *location;
+}
+
+/// Moves all fields to the end of the list. When memory runs out, the list is as it was.
+void MoveBehind(std::vector<CVIFField>& list, std::vector<CVIFField>& fields) {
+  const std::size_t needed = list.size() + fields.size();
+  // At least doubled, so that a list that grows file by file is not copied for each.
+  if (needed > list.capacity()) list.reserve(std::max(needed, 2 * list.capacity()));
+  for (CVIFField& field : fields) list.push_back(std::move(field));
+}
+
+/// A list element and the items in it.
+struct GroupList {
+  DOMNodePtr element;
+  DOMNodeListPtr items;
+};
+
+/// Turns one document into fields, in the order of its `Run`.
+class CExtraction {
+ public:
+  CExtraction(IXMLDOMElement& root, FieldSink sink, const XmlFieldObserver* observer)
+      : m_root(root), m_sink(sink), m_observer(observer) {}
+
+  void Run() {
+    ReadApplication();
+    ReadSpecification();
+    for (const wchar_t* xpath : {L"vif:Vendor_Name", L"vif:Model_Part_Number", L"vif:Product_Revision", L"vif:TID",
+                                 L"vif:VIF_Product_Type"}) {
+      ReadHeaderElement(xpath, kVifSlots);
+    }
+    // The certification is the product's and not the file's.
+    ReadHeaderElement(L"vif:Certification_Type", kProductSlots);
+    Walk(*SelectNodes(m_root, CBstr(L"vif:Product")), 0, kNoSlots, eVifLocProduct, nullptr, m_header);
+    MoveBehind(m_sink.fields, m_header);
+    Walk(*SelectNodes(m_root, CBstr(L"vif:Component")), 0, kNoSlots, eVifLocComponent, &m_sink.componentCount,
+         m_sink.fields);
+  }
+
+ private:
+  /// The application that wrote the file: its description alone if there is one, else its vendor, name and version in
+  /// one field.
+  void ReadApplication() {
+    if (ReadHeaderElement(L"vif:VIF_App/vif:Description", kNoSlots)) return;
+    const std::optional<std::string> vendor = HeaderText(L"vif:VIF_App/vif:Vendor");
+    const std::optional<std::string> name = HeaderText(L"vif:VIF_App/vif:Name");
+    const std::optional<std::string> version = HeaderText(L"vif:VIF_App/vif:Version");
+    if (!vendor && !name && !version) return;
+    const std::string text =
+        MessageBuffer().Printf("%s %s %s", vendor.value_or("--"), name.value_or("--"), version.value_or("--"));
+    AddText(*SelectSingleNode(m_root, CBstr(L"vif:VIF_App")), "VIF_Producer", text);
+  }
+
+  void ReadSpecification() {
+    const DOMNodePtr element = SelectSingleNode(m_root, CBstr(L"vif:VIF_Specification"));
+    if (element != nullptr) AddText(*element, "VIF_Specification", "Version " + Text(*element));
+  }
+
+  /// Returns whether there is such an element.
+  bool ReadHeaderElement(const wchar_t* xpath, const Slots& slots) {
+    const DOMNodePtr element = SelectSingleNode(m_root, CBstr(xpath));
+    if (element != nullptr) ReadLeaf(*element, slots, m_header);
+    return element != nullptr;
+  }
+
+  std::optional<std::string> HeaderText(const wchar_t* xpath) {
+    const DOMNodePtr element = SelectSingleNode(m_root, CBstr(xpath));
+    if (element == nullptr) return std::nullopt;
+    return Text(*element);
+  }
+
+  /// A header field that is made of texts.
+  void AddText(IXMLDOMNode& element, const std::string& name, const std::string& text) {
+    Add(element, CVIFField(false, name, text, text, kVifSlots), m_header);
+  }
+
+  /// A leaf is a field. It is numeric when it has a value, whatever that is.
+  void ReadLeaf(IXMLDOMNode& element, const Slots& slots, std::vector<CVIFField>& fields) {
+    const std::string name = LocalName(element);
+    // Unlike the name and the text, the value is UTF-8 on every system. Kept as it has always been.
+    std::optional<std::string> value = Attribute(element, m_value);
+    std::string description = Text(element);
+    if (value == "true" || value == "false") {
+      const bool isTrue = value == "true";
+      value.emplace(1, isTrue ? '1' : '0');
+      if (description.empty()) description = isTrue ? kYes : kNo;
+    }
+    Add(element, CVIFField(value.has_value(), name, value.value_or(std::string()), description, slots), fields);
+  }
+
+  void Add(IXMLDOMNode& element, CVIFField field, std::vector<CVIFField>& fields) {
+    if (m_observer != nullptr) (*m_observer)(element, field);
+    fields.push_back(std::move(field));
+  }
+
+  /// Reads the items of one list: all leaves of an item first, then the lists in it, wherever they stand.
+  /// \param slots those of the groups around the items, filled up to the depth
+  /// \param counter counts the items over several lists and files; null numbers them within the list
+  void Walk(IXMLDOMNodeList& items, std::size_t depth, Slots slots, EVifLocation location, std::uint32_t* counter,
+            std::vector<CVIFField>& fields) {
+    const LONG count = Length(items);
+    if (depth >= kDepth) {
+      if (count == 0) return;
+      ThrowRunTimeError("Invalid node depth: groupLists should only be nested %u level%s deep.", kDepth, "s");
+    }
+    for (LONG i = 0; i < count; ++i) {
+      const std::uint64_t number = counter != nullptr ? (*counter)++ : static_cast<std::uint64_t>(i);
+      slots[depth] = {location, number + FirstNumber(location)};
+      ReadItem(*Item(items, i), depth, slots, fields);
+    }
+  }
+
+  void ReadItem(IXMLDOMNode& item, std::size_t depth, const Slots& slots, std::vector<CVIFField>& fields) {
+    const DOMNodeListPtr children = SelectNodes(item, m_anyChild);
+    const LONG count = Length(*children);
+    std::vector<GroupList> lists;
+    for (LONG i = 0; i < count; ++i) {
+      DOMNodePtr child = Item(*children, i);
+      DOMNodeListPtr grandchildren = SelectNodes(*child, m_anyChild);
+      if (Length(*grandchildren) == 0) {
+        ReadLeaf(*child, slots, fields);
+      } else {
+        lists.push_back({std::move(child), std::move(grandchildren)});
+      }
+    }
+    for (const GroupList& list : lists) {
+      Walk(*list.items, depth + 1, slots, ListLocation(*list.element), nullptr, fields);
+    }
+  }
+
+  IXMLDOMElement& m_root;
+  FieldSink m_sink;
+  const XmlFieldObserver* m_observer;
+  std::vector<CVIFField> m_header;  // put into the sink all together, once the product has been read
+  const CBstr m_anyChild{L"vif:*"};
+  const CBstr m_value{L"value"};
+};
+
+}  // namespace
+
+void ReadXmlVif(const std::filesystem::path& path, FieldSink sink) {
+  CDOMDocVIF document;
+  LoadXmlVif(path, document);
+  ExtractFields(*document.GetRootElement(), sink);
+}
+
+void LoadXmlVif(const std::filesystem::path& path, CDOMDocVIF& document) {
+  if (document.ValidateDoc(path)) return;
+  throw CVIFInvalidFile(MessageBuffer().Printf("%s is not a valid Vendor Info File.", NarrowPathText(path)),
+                        document.Problems());
+}
+
+void ExtractFields(IXMLDOMElement& root, FieldSink sink, const XmlFieldObserver* observer) {
+  CExtraction(root, sink, observer).Run();
+}
+
+}  // namespace vif

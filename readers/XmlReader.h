@@ -1,0 +1,38 @@
+// Reads an XML VIF.
+#pragma once
+
+#include "FieldSink.h"
+#include "msxml/MsXml.h"
+
+#include <filesystem>
+#include <functional>
+
+class CDOMDocVIF;
+
+namespace vif {
+
+/// Is told of every field when it is made, and of the element that it is made from: for the header's "VIF_Producer",
+/// `VIF_App`.
+using XmlFieldObserver = std::function<void(IXMLDOMNode& element, const CVIFField& field)>;
+
+/// Appends the fields of an XML VIF to the sink and counts its components.
+///
+/// After a failure, either nothing has been appended, or the header and the product are there with the fields of the
+/// components as far as they were read; the components begun are counted.
+/// \throws CVIFInvalidFile "<path> is not a valid Vendor Info File."
+///   CZoRunTimeException "Invalid node depth: groupLists should only be nested 3 levels deep."
+///   CZoDOMDocException "Unexpected list element name: <name>", "ERROR:  Couldn't get node name.\r\n", or
+///     "Couldn't load the schema <file>: <reason>"
+///   _com_error when a call on the document fails
+void ReadXmlVif(const std::filesystem::path& path, FieldSink sink);
+
+/// Loads and validates the file.
+/// \throws as above
+void LoadXmlVif(const std::filesystem::path& path, CDOMDocVIF& document);
+
+/// Appends the fields of a validated document to the sink and counts its components.
+/// \param observer may be null
+/// \throws as above
+void ExtractFields(IXMLDOMElement& root, FieldSink sink, const XmlFieldObserver* observer = nullptr);
+
+}  // namespace vif
