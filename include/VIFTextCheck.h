@@ -1,7 +1,8 @@
-// Finds the lines of a text VIF that loading passes over.
+// Follows how a text VIF becomes fields, and finds the lines that loading passes over.
 #pragma once
 
 #include "VIFExport.h"
+#include "VIFField.h"
 #include "VIFFieldDefs.h"
 
 #include <cstddef>
@@ -20,19 +21,29 @@ enum EVifLineProblem : std::int32_t {
 
 /// One line that is neither blank nor a comment and has a problem.
 struct VifLineReport {
-  std::size_t line;         ///< its number, from 1
-  std::string_view text;    ///< its bytes without the blanks around them, NUL and all; valid during the call only
-  EVifLineProblem problem;  ///< what is wrong with it
+  std::size_t line;          ///< its number, from 1
+  std::string_view text;     ///< its bytes without the blanks around them, NUL and all; valid during the call only
+  EVifLineProblem problem;   ///< what is wrong with it
+  std::string_view content;  ///< the part of the text that is read as a declaration: without the comment and the
+                             ///< blanks before it; valid during the call only
 };
 
 /// Is told of each such line, in the order of the file, on the thread that reads it.
 using VifLineObserver = std::function<void(const VifLineReport&)>;
 
-/// Reads a text VIF as loading it would and reports every line that loading passes over without an error, and
-/// every name that no definition knows. A `$Name` counts as known when `Name` is.
-/// \param observer is told of each; when it is empty, nobody is
+/// Is told of each field with the number of the line, from 1, that yields it, in the order of the file, on the thread
+/// that reads it. The field is valid during the call only.
+using VifFieldObserver = std::function<void(std::size_t line, const CVIFField& field)>;
+
+/// Reads a text VIF as loading it would and reports every line that loading passes over without an error, every
+/// name that no definition knows, and every field. A `$Name` counts as known when `Name` is.
+///
+/// The file is component 1. No field is kept, so a file of any length takes no more memory than its longest line.
+/// \param observer is told of the lines, of an unknown name before its field; when it is empty, nobody is
 /// \param fieldDefs the definitions to resolve names through, borrowed for the call; null means the built-in table
+/// \param fieldObserver is told of the fields; when it is empty, none is made
 /// \throws CZoRunTimeException as loading does ("Couldn't open Vendor Info File: <path>." and so on), and whatever
-///   the observer throws, which ends the reading
+///   an observer throws, which ends the reading
 VIF_API void CheckTextVif(const std::filesystem::path& fileName, const VifLineObserver& observer,
-                          const std::vector<VifFieldDef>* fieldDefs = nullptr);
+                          const std::vector<VifFieldDef>* fieldDefs = nullptr,
+                          const VifFieldObserver& fieldObserver = nullptr);

@@ -1,8 +1,6 @@
 #include "TextReader.h"
 
 void CheckTextVif(const std::filesystem::path& fileName, const VifLineObserver& observer,
-                  const std::vector<VifFieldDef>* fieldDefs) {
-  std::vector<CVIFField> fields;
-  std::uint32_t componentCount = 0;
-  vif::ReadTextVif(fileName, fieldDefs, {fields, componentCount}, observer ? &observer : nullptr);
+                  const std::vector<VifFieldDef>* fieldDefs, const VifFieldObserver& fieldObserver) {
+  vif::FollowTextVif(fileName, fieldDefs, {observer, fieldObserver});
 }

@@ -19,8 +19,15 @@ namespace {
 /// Turns the lines of one file into fields. What it works with from line to line is kept, to save allocations.
 class CLineReader {
  public:
-  CLineReader(const std::vector<VifFieldDef>* table, FieldSink sink, const VifLineObserver* observer)
-      : m_resolver(table, sink.componentCount), m_fields(sink.fields), m_observer(observer) {}
+  /// For loading: the fields go to a list.
+  CLineReader(const std::vector<VifFieldDef>* table, FieldSink sink)
+      : m_resolver(table, sink.componentCount), m_fields(&sink.fields) {}
+
+  /// For checking: whoever wants to know is told.
+  CLineReader(const std::vector<VifFieldDef>* table, std::uint32_t component, TextObservers observers)
+      : m_resolver(table, component),
+        m_lineObserver(observers.lines ? &observers.lines : nullptr),
+        m_fieldObserver(observers.fields ? &observers.fields : nullptr) {}
 
   void ReadLine(std::string_view line) {
     ++m_lineNumber;
@@ -28,23 +35,24 @@ class CLineReader {
     if (split.content.empty()) return;
     const std::optional<Declaration> declaration = m_grammar.Parse(split.content);
     if (!declaration) {
-      Report(line, eVifLineNotUnderstood);
+      Report(line, eVifLineNotUnderstood, split.content);
       return;
     }
     Resolve(declaration->name);
-    if (m_observer != nullptr && !IsKnown(*declaration)) Report(line, eVifLineUnknownName);
-    AppendField(*declaration, split.comment);
+    if (m_lineObserver != nullptr && !IsKnown(*declaration)) Report(line, eVifLineUnknownName, split.content);
+    HandOutField(*declaration, split.comment);
   }
 
   /// Reports that the file could not be read on behind the last line. The piece of a line that may have come
   /// before the error is not taken for a line: its number might have gone on.
   void ReportReadFailure() {
     ++m_lineNumber;
-    Report({}, eVifLineReadFailed);
+    Report({}, eVifLineReadFailed, {});
   }
 
  private:
-  void AppendField(const Declaration& declaration, std::string_view comment) {
+  void HandOutField(const Declaration& declaration, std::string_view comment) {
+    if (m_fields == nullptr && m_fieldObserver == nullptr) return;
     std::string_view value = declaration.value;
     std::string_view description = comment;
     // Just these spellings: others, such as "Yes", stay as they are written and are read by CVIFField. The
@@ -58,7 +66,12 @@ class CLineReader {
     }
     m_value = value;
     m_description = description;
-    m_fields.emplace_back(!declaration.isString, m_resolved.name, m_value, m_description, m_resolved.slots);
+    if (m_fields != nullptr) {
+      m_fields->emplace_back(!declaration.isString, m_resolved.name, m_value, m_description, m_resolved.slots);
+    } else {
+      const CVIFField field(!declaration.isString, m_resolved.name, m_value, m_description, m_resolved.slots);
+      (*m_fieldObserver)(m_lineNumber, field);
+    }
   }
 
   void Resolve(std::string_view name) {
@@ -80,44 +93,63 @@ class CLineReader {
     }
   }
 
-  void Report(std::string_view line, EVifLineProblem problem) const {
-    if (m_observer != nullptr) (*m_observer)({m_lineNumber, TrimBlanks(line), problem});
+  void Report(std::string_view line, EVifLineProblem problem, std::string_view content) const {
+    if (m_lineObserver != nullptr) (*m_lineObserver)({m_lineNumber, TrimBlanks(line), problem, content});
   }
 
   CLineGrammar m_grammar;
   CFieldResolver m_resolver;
-  std::vector<CVIFField>& m_fields;
-  const VifLineObserver* m_observer;
+  std::vector<CVIFField>* m_fields = nullptr;         // the list when loading, null when checking
+  const VifLineObserver* m_lineObserver = nullptr;    // null when nobody wants to know
+  const VifFieldObserver* m_fieldObserver = nullptr;  // the same
   size_t m_lineNumber = 0;
   ResolvedName m_resolved;
   std::string m_value;
   std::string m_description;
 };
 
-}  // namespace
-
-void ReadTextVif(const std::filesystem::path& path, const std::vector<VifFieldDef>* table, FieldSink sink,
-                 const VifLineObserver* observer) {
+std::ifstream Open(const std::filesystem::path& path) {
   if (path.empty()) ThrowRunTimeError("%s: Internal error: NULL file name.", "CVIFImpl::ReadTextFile");
 
   std::error_code statusError;
   std::ifstream stream;
   if (std::filesystem::is_regular_file(path, statusError)) stream.open(path);
-  const std::string pathText = NarrowPathText(path);
-  if (!stream.is_open()) ThrowRunTimeError("Couldn't open Vendor Info File: %S.", pathText);
-
-  ReadTextVif(stream, pathText, table, sink, observer);
+  if (!stream.is_open()) ThrowRunTimeError("Couldn't open Vendor Info File: %S.", NarrowPathText(path));
+  return stream;
 }
 
-void ReadTextVif(std::istream& stream, const std::string& pathText, const std::vector<VifFieldDef>* table,
-                 FieldSink sink, const VifLineObserver* observer) {
-  ++sink.componentCount;
-  CLineReader reader(table, sink, observer);
+void ReadLines(std::istream& stream, const std::string& pathText, CLineReader& reader) {
   CLineSource lines(stream, pathText);
   std::string_view line;
   while (lines.Next(line)) reader.ReadLine(line);
   // A read error of which the stream makes no exception ends the file quietly.
   if (lines.HasFailed()) reader.ReportReadFailure();
+}
+
+}  // namespace
+
+void ReadTextVif(const std::filesystem::path& path, const std::vector<VifFieldDef>* table, FieldSink sink) {
+  std::ifstream stream = Open(path);
+  ReadTextVif(stream, NarrowPathText(path), table, sink);
+}
+
+void ReadTextVif(std::istream& stream, const std::string& pathText, const std::vector<VifFieldDef>* table,
+                 FieldSink sink) {
+  ++sink.componentCount;
+  CLineReader reader(table, sink);
+  ReadLines(stream, pathText, reader);
+}
+
+void FollowTextVif(const std::filesystem::path& path, const std::vector<VifFieldDef>* table, TextObservers observers) {
+  std::ifstream stream = Open(path);
+  FollowTextVif(stream, NarrowPathText(path), table, observers);
+}
+
+void FollowTextVif(std::istream& stream, const std::string& pathText, const std::vector<VifFieldDef>* table,
+                   TextObservers observers) {
+  constexpr std::uint32_t onlyComponent = 1;
+  CLineReader reader(table, onlyComponent, observers);
+  ReadLines(stream, pathText, reader);
 }
 
 }  // namespace vif

@@ -35,6 +35,7 @@ class Failure : public std::runtime_error {
 void AddListCommand(CLI::App& app, Status& status);
 void AddGetCommand(CLI::App& app, Status& status);
 void AddShowCommand(CLI::App& app, Status& status);
+void AddCheckCommand(CLI::App& app, Status& status);
 
 /// Makes up for what CLI11 cannot know: a location option of `vif get` may stand without a number. Gives each such
 /// option its number, or "any", with an equals sign.

@@ -2,6 +2,7 @@
 
 #include "Command.h"
 
+#include <BaseUtilities/SimpleBuffer.h>
 #include <VIFInvalidFile.h>
 #include <msxml/ComPointer.h>
 
@@ -23,21 +24,27 @@ std::string ReasonText(const std::vector<DOMDocProblem>& problems) {
   return text;
 }
 
-std::string ComErrorText(const _com_error& error) {
-  return "the XML document failed with code " + std::to_string(error.Error());
-}
-
 }  // namespace
 
-void RethrowAsFailure(const std::string& fileName) {
+CVendorInfoFile LoadFiles(const std::vector<std::string>& fileNames) {
+  CVendorInfoFile vif;
+  for (const std::string& fileName : fileNames) {
+    ReadFile(fileName, [&] { vif.Append(fileName.c_str()); });
+  }
+  return vif;
+}
+
+void ReadFile(const std::string& fileName, const std::function<void()>& read) {
+  if (fileName.empty()) throw Failure("a file name is empty");
   try {
-    throw;
+    read();
   } catch (const std::bad_alloc&) {
     throw;
   } catch (const CVIFInvalidFile& error) {
     throw Failure(std::string(error.what()).append(" ").append(ReasonText(error.Problems())));
   } catch (const _com_error& error) {
-    throw Failure(fileName + ": " + ComErrorText(error));
+    CSimpleBuffer reason;
+    throw Failure(reason.Printf("%s: COM error 0x%08X", fileName, error.Error()));
   } catch (const std::exception& error) {
     const std::string reason = error.what();
     if (reason.find(fileName) != std::string::npos) throw Failure(reason);
@@ -45,17 +52,6 @@ void RethrowAsFailure(const std::string& fileName) {
   }
 }
 
-CVendorInfoFile LoadFiles(const std::vector<std::string>& fileNames) {
-  CVendorInfoFile vif;
-  for (const std::string& fileName : fileNames) {
-    if (fileName.empty()) throw Failure("a file name is empty");
-    try {
-      vif.Append(fileName.c_str());
-    } catch (...) {
-      RethrowAsFailure(fileName);
-    }
-  }
-  return vif;
-}
+std::filesystem::path PathOf(const std::string& fileName) { return std::u8string(fileName.begin(), fileName.end()); }
 
 }  // namespace tool

@@ -3,6 +3,8 @@
 
 #include <VendorInfoFile.h>
 
+#include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -12,8 +14,11 @@ namespace tool {
 /// \throws Failure that names the file which could not be loaded, and why
 CVendorInfoFile LoadFiles(const std::vector<std::string>& fileNames);
 
-/// To be called where an exception of loading a file has been caught.
-/// \throws Failure that names the file and says why, but for std::bad_alloc, which passes
-[[noreturn]] void RethrowAsFailure(const std::string& fileName);
+/// Runs what reads one file.
+/// \throws Failure that names the file, and why it could not be read
+void ReadFile(const std::string& fileName, const std::function<void()>& read);
+
+/// The path that a UTF-8 name stands for; outside Windows its bytes are taken as they are.
+std::filesystem::path PathOf(const std::string& fileName);
 
 }  // namespace tool

@@ -2,6 +2,7 @@
 #include "FieldSource.h"
 #include "FieldText.h"
 #include "Output.h"
+#include "SchemasOption.h"
 #include "Text.h"
 
 #include <BaseUtilities/Exceptions.h>
@@ -176,6 +177,7 @@ void AddGetCommand(CLI::App& app, Status& status) {
   command->add_flag("--number", options->asNumber, "Print the number that each value stands for");
   command->add_flag("--with-name", options->withName, "Print name, place and value, separated by tabs");
   command->add_flag("--unique", options->unique, "Insist on exactly one matching field");
+  AddSchemasOption(*command);
   command->add_option("FILE", options->file, "The file, text (.txt) or XML (.xml)")->required()->option_text(" ");
   command->add_option("PATTERN", options->pattern, "The names wanted")->option_text(" ");
   command->callback([options, &status] { status = RunGet(*options); });

@@ -1,17 +1,11 @@
 #include "FieldText.h"
+#include "Json.h"
 #include "Output.h"
 #include "Writers.h"
-
-#include <nlohmann/json.hpp>
 
 namespace tool {
 
 namespace {
-
-using Json = nlohmann::ordered_json;
-
-/// On one line; bytes that are not UTF-8 become U+FFFD.
-std::string Dump(const Json& json) { return json.dump(-1, ' ', false, Json::error_handler_t::replace); }
 
 Json ToJson(const CVIFField& field) {
   Json indexes = Json::array();

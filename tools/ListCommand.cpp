@@ -1,5 +1,6 @@
 #include "Command.h"
 #include "FieldSource.h"
+#include "SchemasOption.h"
 #include "Writers.h"
 
 #include <CLI/CLI.hpp>
@@ -58,6 +59,7 @@ void AddListCommand(CLI::App& app, Status& status) {
   command->add_option("--format", options->format, "How to print them: table (the default), json or csv")
       ->check(CLI::IsMember({"table", "json", "csv"}).description(""))
       ->option_text("FORMAT");
+  AddSchemasOption(*command);
   command->add_option("FILE", options->files, "The files, text (.txt) or XML (.xml)")->required()->option_text("...");
   command->callback([options, &status] {
     RunList(*options);

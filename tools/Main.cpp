@@ -48,6 +48,7 @@ Status Run(int argc, char** argv) {
   tool::AddListCommand(app, status);
   tool::AddGetCommand(app, status);
   tool::AddShowCommand(app, status);
+  tool::AddCheckCommand(app, status);
   try {
     std::vector<std::string> arguments = tool::CompleteLocationOptions({argv + 1, argv + argc});
     std::reverse(arguments.begin(), arguments.end());  // as CLI11 wants them

@@ -4,6 +4,7 @@
 #include "FieldText.h"
 #include "Output.h"
 #include "PowerProfile.h"
+#include "SchemasOption.h"
 #include "Style.h"
 #include "Text.h"
 
@@ -159,6 +160,7 @@ void AddShowCommand(CLI::App& app, Status& status) {
   command->footer(kFooter);
   command->group("Commands");
   const auto files = std::make_shared<std::vector<std::string>>();
+  AddSchemasOption(*command);
   command->add_option("FILE", *files, "The files, text (.txt) or XML (.xml)")->required()->option_text("...");
   command->callback([files, &status] {
     RunShow(*files);

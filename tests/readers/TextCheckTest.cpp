@@ -10,7 +10,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdint>
+#include <cstddef>
 #include <filesystem>
 #include <ios>
 #include <istream>
@@ -56,11 +56,8 @@ class Reports {
 };
 
 std::vector<std::string> Check(std::istream& stream, const std::vector<VifFieldDef>* table = nullptr) {
-  std::vector<CVIFField> fields;
-  std::uint32_t componentCount = 0;
   Reports reports;
-  const VifLineObserver observer = reports.Observer();
-  ReadTextVif(stream, "x.txt", table, {fields, componentCount}, &observer);
+  FollowTextVif(stream, "x.txt", table, {reports.Observer(), nullptr});
   return reports.Texts();
 }
 
@@ -91,10 +88,9 @@ TEST(TextCheckTest, NamesThatNoDefinitionKnowsAreReported) {
 TEST(TextCheckTest, LineOfAnUnknownNameYieldsItsFieldAllTheSame) {
   std::istringstream stream("usb_vid: 5\nPID: 1");
   std::vector<CVIFField> fields;
-  std::uint32_t componentCount = 0;
+  const auto keep = [&](std::size_t, const CVIFField& field) { fields.push_back(field); };
   Reports reports;
-  const VifLineObserver observer = reports.Observer();
-  ReadTextVif(stream, "x.txt", nullptr, {fields, componentCount}, &observer);
+  FollowTextVif(stream, "x.txt", nullptr, {reports.Observer(), keep});
   EXPECT_THAT(testsupport::FieldTexts(fields), ElementsAre("usb_vid=5", "PID=1 @6.1"));
   EXPECT_THAT(reports.Texts(), ElementsAre("1: unknown name: usb_vid: 5"));
 }
@@ -203,18 +199,52 @@ TEST(TextCheckTest, StringNameIsOnlyLookedUpWithoutItsMark) {
 
 TEST(TextCheckTest, RegexErrorOfTheObserverComesThrough) {
   std::istringstream stream("no declaration\n");
-  std::vector<CVIFField> fields;
-  std::uint32_t componentCount = 0;
-  const VifLineObserver observer = [](const VifLineReport&) {
-    throw std::regex_error(std::regex_constants::error_brace);
-  };
-  EXPECT_THROW(ReadTextVif(stream, "a.txt", nullptr, {fields, componentCount}, &observer), std::regex_error);
+  const auto observer = [](const VifLineReport&) { throw std::regex_error(std::regex_constants::error_brace); };
+  EXPECT_THROW(FollowTextVif(stream, "a.txt", nullptr, {observer, nullptr}), std::regex_error);
 }
 
 TEST(TextCheckTest, LookUpWithoutTheMarkCannotFailTheFile) {
   // Reads on into the name only behind a letter, so the name with its mark is no trouble.
   const std::vector<VifFieldDef> table = {{L"Long", std::wregex(L"(a|b)*c"), {}}};
   EXPECT_THAT(Check("$" + std::string(200'000, 'a') + ": \"x\"\n", &table), testing::SizeIs(1));
+}
+
+TEST(TextCheckTest, ContentIsWhatIsReadAsADeclaration) {
+  const TempDir dir;
+  std::vector<std::string> contents;
+  CheckTextVif(dir.Write("x.txt", " oops ; comment\n$TID: \"a\";b\nmy_own: 1 ;c\n"),
+               [&](const VifLineReport& report) { contents.emplace_back(report.content); });
+  EXPECT_THAT(contents, ElementsAre("oops", "$TID: \"a\";", "my_own: 1"));
+}
+
+TEST(TextCheckTest, FieldsAreReportedWithTheirLines) {
+  const TempDir dir;
+  std::vector<std::string> fields;
+  CheckTextVif(dir.Write("x.txt", "PID: 1\n; comment\n\noops\nSrc_PDO_Voltage2: 100 ; 5 V\n$TID: \"7\""), nullptr,
+               nullptr, [&](std::size_t line, const CVIFField& field) {
+                 fields.push_back(std::to_string(line) + ": " + testsupport::FieldText(field));
+               });
+  EXPECT_THAT(fields, ElementsAre("1: PID=1 @6.1", "5: Src_PDO_Voltage=100 ; 5 V @6.1 @7.2", "6: $TID=\"7\""));
+}
+
+TEST(TextCheckTest, AnUnknownNameIsReportedBeforeItsField) {
+  const TempDir dir;
+  std::vector<std::string> calls;
+  CheckTextVif(
+      dir.Write("x.txt", "my_own: 1\nPID: 1\n"), [&](const VifLineReport&) { calls.emplace_back("line"); }, nullptr,
+      [&](std::size_t, const CVIFField& field) { calls.emplace_back(field.Name()); });
+  EXPECT_THAT(calls, ElementsAre("line", "my_own", "PID"));
+}
+
+TEST(TextCheckTest, WhatTheFieldObserverThrowsEndsTheReading) {
+  const TempDir dir;
+  int calls = 0;
+  const auto observer = [&](std::size_t, const CVIFField&) {
+    ++calls;
+    throw std::logic_error("enough");
+  };
+  EXPECT_THROW(CheckTextVif(dir.Write("x.txt", "PID: 1\nPID: 2\n"), nullptr, nullptr, observer), std::logic_error);
+  EXPECT_EQ(calls, 1);
 }
 
 TEST(TextCheckTest, ChecksAFileWithoutAnObserver) {

@@ -87,6 +87,8 @@ TEST(Usage, APatternThatIsNoRegularExpressionIsRefusedEvenWhereNoPlaceFits) {
                    "the pattern '(' cannot be used: ");
 }
 
+TEST(Usage, HelpListsTheCheck) { EXPECT_THAT(Vif({"--help"}).output, HasSubstr("check ")); }
+
 TEST(Usage, ShowNeedsAFile) { ExpectUsageError(Vif({"show"}), "FILE is required"); }
 
 TEST(Usage, LineFeedsInAMessageDoNotBreakItsOneLine) {

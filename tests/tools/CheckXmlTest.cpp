@@ -1,0 +1,245 @@
+// What `vif check` finds in XML files.
+#include "FindingTexts.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+namespace {
+
+using nlohmann::json;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testsupport::FindingTexts;
+using testsupport::ProgramResult;
+using testsupport::TempDir;
+
+/// The parts of a file that a test fills in, each of them on lines of its own.
+struct Document {
+  std::string application = "<vif:Vendor>Acme</vif:Vendor>\n<vif:Name>Editor</vif:Name>\n<vif:Version>1</vif:Version>";
+  std::string component = "<vif:Port_Label>0</vif:Port_Label>";
+  std::string behindComponent;
+
+  std::string Text() const {
+    return R"(<?xml version="1.0" encoding="utf-8"?>
+<vif:VIF xmlns:vif="http://usb.org/VendorInfoFile.xsd" xmlns:opt="http://usb.org/VendorInfoFileOptionalContent.xsd">
+<vif:VIF_Specification>3.26</vif:VIF_Specification>
+<vif:VIF_App>
+)" + application +
+           R"(
+</vif:VIF_App>
+<vif:Vendor_Name>Acme</vif:Vendor_Name>
+<vif:Model_Part_Number>A-1</vif:Model_Part_Number>
+<vif:Product_Revision>1</vif:Product_Revision>
+<vif:TID>5</vif:TID>
+<vif:VIF_Product_Type value="0">Port Product</vif:VIF_Product_Type>
+<vif:Certification_Type value="0">End Product</vif:Certification_Type>
+<vif:Product>
+<vif:USB4_Dock value="false"/>
+</vif:Product>
+<vif:Component>
+)" + component +
+           "\n</vif:Component>\n" + behindComponent + "\n</vif:VIF>\n";
+  }
+};
+
+Document Component(const std::string& content) {
+  Document document;
+  document.component = content;
+  return document;
+}
+
+json Check(const Document& document) { return testsupport::FindingsIn("a.xml", document.Text()); }
+
+/// The number of the line of a document that has that text in it.
+std::size_t LineOf(const Document& document, const std::string& text) {
+  const std::string all = document.Text();
+  const auto end = all.begin() + static_cast<std::ptrdiff_t>(all.find(text));
+  return 1 + static_cast<std::size_t>(std::count(all.begin(), end, '\n'));
+}
+
+void ExpectOne(const json& findings, std::size_t line, const std::string& what) {
+  EXPECT_THAT(FindingTexts(findings), ElementsAre(std::to_string(line) + ' ' + what));
+  ASSERT_EQ(findings.size(), 1U);
+  EXPECT_GT(findings[0]["column"], 0);
+}
+
+TEST(CheckXml, FindsNothingInAFileThatIsInOrder) {
+  EXPECT_THAT(Check(Component("<vif:Num_Src_PDOs value=\"1\"/>\n"
+                              "<vif:SrcPdoList><vif:SrcPDO><vif:Src_PDO_Voltage value=\"100\">5 V</vif:Src_PDO_Voltage>"
+                              "</vif:SrcPDO></vif:SrcPdoList>")),
+              IsEmpty());
+}
+
+TEST(CheckXml, PrintsLineAndColumn) {
+  const Document document = Component("<vif:Num_Src_PDOs value=\"2\"/>");
+  const TempDir dir;
+  const std::string file = dir.Write("a.xml", document.Text()).string();
+  const ProgramResult result = testsupport::Vif({"check", file});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.output,
+              testing::ContainsRegex("a\\.xml:" + std::to_string(LineOf(document, "Num_Src")) +
+                                     ":[0-9]+: error: 'Num_Src_PDOs' is 2, but Component 1 has 0 SrcPdo groups"));
+}
+
+TEST(CheckXml, TheApplicationsDescriptionNeedsNoDefinition) {
+  Document document;
+  document.application = "<vif:Description>An editor</vif:Description>";
+  EXPECT_THAT(Check(document), IsEmpty());
+}
+
+TEST(CheckXmlName, ThatNoDefinitionKnowsIsAWarning) {
+  const Document document = Component("<vif:Num_Snc_PDOs value=\"0\"/>");
+  const json findings = Check(document);
+  ExpectOne(findings, LineOf(document, "Num_Snc"), "warning unknown-name");
+  EXPECT_EQ(findings[0]["message"], "no definition knows the name 'Num_Snc_PDOs'; the nearest one is 'Num_Snk_PDOs'");
+  EXPECT_THAT(findings[0]["element"].get<std::string>(), EndsWith("Component/Num_Snc_PDOs"));
+}
+
+TEST(CheckXmlPlace, WhereAFieldDoesNotBelongIsAnError) {
+  const Document document = Component("<vif:Src_PDO_Voltage value=\"100\"/>");
+  const json findings = Check(document);
+  ExpectOne(findings, LineOf(document, "Src_PDO"), "error misplaced");
+  EXPECT_EQ(
+      findings[0]["message"],
+      "'Src_PDO_Voltage' (Component 1) belongs in Component \u00B7 SrcPdo; a query for it there will not find it");
+}
+
+TEST(CheckXmlPlace, AFieldOfAComponentInAPdoIsMisplaced) {
+  const Document document =
+      Component("<vif:SrcPdoList><vif:SrcPDO>\n<vif:Num_Src_PDOs value=\"1\"/>\n</vif:SrcPDO></vif:SrcPdoList>");
+  ExpectOne(Check(document), LineOf(document, "Num_Src"), "error misplaced");
+}
+
+TEST(CheckXmlDuplicate, NamesTheFirstLine) {
+  const Document document = Component("<vif:Num_Src_PDOs value=\"0\"/>\n<vif:Num_Src_PDOs  value=\"0\"/>");
+  const json findings = Check(document);
+  ExpectOne(findings, LineOf(document, "PDOs  value"), "error declared-twice");
+  EXPECT_THAT(findings[0]["message"].get<std::string>(),
+              HasSubstr("line " + std::to_string(LineOf(document, "PDOs value"))));
+}
+
+TEST(CheckXmlDuplicate, TheSameNameInAnotherComponentIsNone) {
+  Document document = Component("<vif:Num_Src_PDOs value=\"0\"/>");
+  document.behindComponent = "<vif:Component><vif:Num_Src_PDOs value=\"0\"/></vif:Component>";
+  EXPECT_THAT(Check(document), IsEmpty());
+}
+
+TEST(CheckXmlCount, IsHeldAgainstTheGroupsOfItsComponent) {
+  Document document = Component("<vif:Num_Snk_PDOs value=\"0\"/>");
+  document.behindComponent =
+      "<vif:Component>\n<vif:Num_Snk_PDOs  value=\"1\"/>\n"
+      "<vif:SnkPdoList><vif:SnkPDO><vif:Snk_PDO_Voltage value=\"1\"/></vif:SnkPDO>"
+      "<vif:SnkPDO><vif:Snk_PDO_Voltage value=\"1\"/></vif:SnkPDO></vif:SnkPdoList></vif:Component>";
+  const json findings = Check(document);
+  ExpectOne(findings, LineOf(document, "PDOs  value"), "error count-mismatch");
+  EXPECT_EQ(findings[0]["message"], "'Num_Snk_PDOs' is 1, but Component 2 has 2 SnkPdo groups");
+}
+
+struct ValueCase {
+  std::string value;
+  std::string finding;
+  std::string message;
+};
+
+class CheckXmlValue : public testing::TestWithParam<ValueCase> {};
+
+// Of a field that no definition knows, because the schema lets it have any value.
+TEST_P(CheckXmlValue, ThatIsNotWhollyANumberIsFound) {
+  const Document document = Component("<vif:Brand_New value=\"" + GetParam().value + "\"/>");
+  const json findings = Check(document);
+  const std::string line = std::to_string(LineOf(document, "Brand_New")) + ' ';
+  EXPECT_THAT(FindingTexts(findings), ElementsAre(line + "warning unknown-name", line + GetParam().finding));
+  ASSERT_EQ(findings.size(), 2U);
+  EXPECT_EQ(findings[1]["message"], GetParam().message);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Values, CheckXmlValue,
+    testing::Values(
+        ValueCase{"", "error no-number", "'Brand_New' (Component 1) has no number: its value '' is empty"},
+        ValueCase{"-5", "error no-number", "'Brand_New' (Component 1) has no number: its value '-5' is negative"},
+        ValueCase{"+5", "error no-number",
+                  "'Brand_New' (Component 1) has no number: its value '+5' begins with a sign"},
+        ValueCase{" 5", "error no-number",
+                  "'Brand_New' (Component 1) has no number: its value ' 5' begins with a blank"},
+        ValueCase{"x", "error no-number",
+                  "'Brand_New' (Component 1) has no number: its value 'x' does not begin with a number"},
+        ValueCase{"0x", "error no-number",
+                  "'Brand_New' (Component 1) has no number: its value '0x' does not begin with a number"},
+        ValueCase{"18446744073709551616", "error no-number",
+                  "'Brand_New' (Component 1) has no number: its value '18446744073709551616' has more than 64 bits"},
+        ValueCase{"12 V", "warning number-partly-read",
+                  "of the value '12 V' of 'Brand_New' (Component 1) only '12' is read as its number"},
+        ValueCase{"0x1FG", "warning number-partly-read",
+                  "of the value '0x1FG' of 'Brand_New' (Component 1) only '0x1F' is read as its number"}));
+
+TEST(CheckXmlElement, UnderTheRootThatYieldsNoFieldIsAWarning) {
+  Document document;
+  document.behindComponent = "<vif:Remark>x</vif:Remark>";
+  const json findings = Check(document);
+  ExpectOne(findings, LineOf(document, "Remark"), "warning no-field");
+  EXPECT_EQ(findings[0]["element"], "VIF/Remark");
+  EXPECT_EQ(findings[0]["message"],
+            "the element 'VIF/Remark' yields no field: it is not one that is read directly under the root element");
+}
+
+TEST(CheckXmlElement, BesideTheDescriptionYieldsNoField) {
+  Document document;
+  document.application = "<vif:Description>An editor</vif:Description>\n<vif:Vendor>Acme</vif:Vendor>";
+  const json findings = Check(document);
+  ExpectOne(findings, LineOf(document, "vif:Vendor>"), "warning no-field");
+  EXPECT_THAT(findings[0]["message"].get<std::string>(), EndsWith("it gives way to the description beside it"));
+}
+
+TEST(CheckXmlElement, AnEmptyItemYieldsNoField) {
+  const Document document = Component("<vif:SrcPdoList>\n<vif:SrcPDO/></vif:SrcPdoList>");
+  const json findings = Check(document);
+  ExpectOne(findings, LineOf(document, "vif:SrcPDO/"), "warning no-field");
+  EXPECT_THAT(findings[0]["message"].get<std::string>(), EndsWith("it is an item of a list with nothing in it"));
+}
+
+void ExpectNotValid(const Document& document, std::size_t line) {
+  const TempDir dir;
+  const std::string file = dir.Write("a.xml", document.Text()).string();
+  const ProgramResult result = testsupport::Vif({"check", file});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.error, "");
+  EXPECT_THAT(result.output, HasSubstr("a.xml:" + std::to_string(line) + ':'));
+  EXPECT_THAT(result.output, HasSubstr(": error: "));
+  EXPECT_THAT(result.output, HasSubstr(" [not-valid]\n"));
+}
+
+TEST(CheckXmlValidity, AFileThatIsNotWellFormedHasAnError) {
+  const Document document = Component("<vif:Port_Label>0</vif:Oops>");
+  ExpectNotValid(document, LineOf(document, "Oops"));
+}
+
+TEST(CheckXmlValidity, AValueThatTheSchemaForbidsIsAnError) {
+  const Document document = Component("<vif:USB_VID_SOP value=\"18d1\"/>");
+  ExpectNotValid(document, LineOf(document, "18d1"));
+  const json findings = Check(document);
+  EXPECT_EQ(findings[0]["element"], "vif:USB_VID_SOP");
+}
+
+TEST(CheckXmlValidity, AnotherRootIsAnError) {
+  EXPECT_THAT(FindingTexts(testsupport::FindingsIn("a.xml", "<a/>\n")), Contains("1 error not-valid"));
+}
+
+TEST(CheckXmlValidity, AnUnknownListIsAnError) {
+  const json findings = Check(Component("<vif:Strange><vif:PID value=\"1\"/></vif:Strange>"));
+  ASSERT_GE(findings.size(), 1U);
+  EXPECT_EQ(findings[0]["code"], "not-valid");
+  EXPECT_THAT(findings[0]["message"].get<std::string>(), HasSubstr("Strange"));
+}
+
+TEST(CheckXmlFailure, AMissingFile) {
+  const ProgramResult result = testsupport::Vif({"check", "/nonexistent/a.xml"});
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.error, "vif: /nonexistent/a.xml: there is no such file\n");
+}
+
+}  // namespace

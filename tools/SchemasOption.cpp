@@ -1,0 +1,34 @@
+#include "SchemasOption.h"
+
+#include "Command.h"
+#include "FieldSource.h"
+
+#include <TestUtilities/DOMDoc.h>
+
+#include <CLI/CLI.hpp>
+
+#include <filesystem>
+#include <string>
+#include <system_error>
+
+namespace tool {
+
+namespace {
+
+void UseSchemas(const std::string& name) {
+  const std::filesystem::path directory = PathOf(name);
+  std::error_code error;
+  if (!std::filesystem::is_directory(directory, error)) throw Failure("--schemas: \"" + name + "\" is no directory");
+  CDOMDoc::SetSchemaDirectory(directory);
+}
+
+}  // namespace
+
+void AddSchemasOption(CLI::App& command) {
+  command
+      .add_option_function<std::string>("--schemas", UseSchemas,
+                                        "Where the schemas for XML files are, instead of where they are installed")
+      ->option_text("DIR");
+}
+
+}  // namespace tool

@@ -1,0 +1,65 @@
+#include "CheckFile.h"
+
+#include "Command.h"
+#include "FieldSource.h"
+
+#include <BaseUtilities/StringConvert.h>
+
+#include <algorithm>
+#include <system_error>
+#include <tuple>
+
+namespace tool {
+
+namespace {
+
+Findings CheckText(const std::filesystem::path& path) {
+  auto [fields, findings] = ReadTextFile(path);
+  FindBadNumbering(fields, findings);
+  FindTextsForGroups(fields, findings);
+  FindDuplicates(fields, findings);
+  FindBadNumbers(fields, findings);
+  FindWrongCounts(fields, findings);
+  return findings;
+}
+
+Findings CheckXml(const std::filesystem::path& path) {
+  auto [fields, findings] = ReadXmlFile(path);
+  FindUnknownNames(fields, findings);
+  FindMisplaced(fields, findings);
+  FindDuplicates(fields, findings);
+  FindBadNumbers(fields, findings);
+  FindWrongCounts(fields, findings);
+  return findings;
+}
+
+std::string Extension(const std::filesystem::path& path) {
+  const std::u8string extension = path.extension().u8string();
+  std::string text(extension.begin(), extension.end());
+  ToLower(text);
+  return text;
+}
+
+Findings CheckPath(const std::filesystem::path& path) {
+  std::error_code error;
+  const std::filesystem::file_status status = std::filesystem::status(path, error);
+  if (status.type() == std::filesystem::file_type::not_found) throw Failure("there is no such file");
+  if (!std::filesystem::status_known(status)) throw Failure(error.message());
+  const std::string extension = Extension(path);
+  if (extension != ".txt" && extension != ".xml") throw Failure("a VIF is a text (*.txt) or XML (*.xml) file");
+  if (!std::filesystem::is_regular_file(status)) throw Failure("only a regular file can be read");
+  return extension == ".txt" ? CheckText(path) : CheckXml(path);
+}
+
+}  // namespace
+
+CheckedFile CheckFile(const std::string& fileName) {
+  CheckedFile checked = {fileName, {}};
+  ReadFile(fileName, [&] { checked.findings = CheckPath(PathOf(fileName)); });
+  std::stable_sort(checked.findings.begin(), checked.findings.end(), [](const Finding& a, const Finding& b) {
+    return std::tie(a.line, a.column) < std::tie(b.line, b.column);
+  });
+  return checked;
+}
+
+}  // namespace tool
