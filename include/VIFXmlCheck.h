@@ -26,7 +26,7 @@ using VifElementObserver = std::function<void(const VifElementReport&)>;
 ///
 /// - one directly under the root that is not known there, or not the first of its name, with all that is in it;
 /// - the application's vendor, name or version beside a description, which is preferred to them;
-/// - an item of a list, a product or a component without any element in it.
+/// - an item of a list or a component without any element in it (many a product has none, so that is not reported).
 ///
 /// The field made of the application's vendor, name and version is reported for `VIF_App`. Elements of other namespaces,
 /// such as optional content, are not reported.

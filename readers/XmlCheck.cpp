@@ -30,7 +30,9 @@ class CElementReporter {
     for (LONG i = 0; i < count; ++i) {
       const DOMNodePtr child = vif::Item(*children, i);
       const std::string name = vif::LocalName(*child);
-      if (name == "Product" || name == "Component" || name == "VIF_App") {
+      if (name == "Product") {
+        if (!IsLeaf(*child)) ReportWithoutField(*child);
+      } else if (name == "Component" || name == "VIF_App") {
         ReportWithoutField(*child);
       } else if (!HasField(*child)) {
         Report(*child);
@@ -50,6 +52,8 @@ class CElementReporter {
   void Report(IXMLDOMNode& element) const {
     if (m_observer) m_observer(Describe(element));
   }
+
+  bool IsLeaf(IXMLDOMNode& element) const { return vif::Length(*vif::SelectNodes(element, m_anyChild)) == 0; }
 
   /// Reports the leaves of a group that have yielded no field, the group itself when it is a leaf.
   void ReportWithoutField(IXMLDOMNode& group) const {

@@ -10,6 +10,7 @@
 #include <memory>
 #include <new>
 #include <string_view>
+#include <utility>
 
 namespace msxml {
 
@@ -75,16 +76,42 @@ xmlParserInputPtr CSchemaLoader::Load(const char* url, const char* id, xmlParser
   }
 }
 
+void CSchemaLoader::ReportError(void*, xmlErrorPtr error) {
+  if (g_loader == nullptr) return;
+  if (error->code == XML_ERR_NO_MEMORY) g_loader->m_isOutOfMemory = true;
+  if (error->level == XML_ERR_WARNING || error->message == nullptr) return;
+  try {
+    std::string_view reason = error->message;
+    while (reason.ends_with('\n')) reason.remove_suffix(1);
+    g_loader->Fail(g_loader->Place(*error) + ": " + std::string(reason));
+  } catch (const std::bad_alloc&) {
+    g_loader->m_isOutOfMemory = true;
+  }
+}
+
+std::string CSchemaLoader::Place(const xmlError& error) const {
+  const std::string_view url = error.file != nullptr ? error.file : "";
+  if (url.starts_with(kFileScheme)) return FileOf(url).native() + ": line " + std::to_string(error.line);
+  // An error in how the schemas are put together is about the one that was just added.
+  return m_files.empty() ? std::string(url) : m_files.back().path.native();
+}
+
+void CSchemaLoader::Fail(std::string reason) {
+  if (m_failure.empty()) m_failure = std::move(reason);
+}
+
 xmlParserInputPtr CSchemaLoader::LoadFile(const std::string& url, xmlParserCtxtPtr context) {
   if (url == kXmlNamespaceUrl) return xmlNewStringInputStream(context, Xml(kXmlNamespaceSchema.data()));
+  // This parser is one of libxml2's own, which would write what it finds to standard error.
+  if (context != nullptr && context->sax != nullptr) context->sax->serror = ReportError;
   const std::filesystem::path path = FileOf(url);
   if (path.empty()) {
-    m_failures.push_back(url + ": nothing is loaded from the network");
+    Fail(url + ": nothing is loaded from the network");
     return nullptr;
   }
   CInputFile& file = m_open.emplace_back(path);
   if (!file.IsOpen()) {
-    m_failures.push_back(path.native() + ": the file " + file.Error());
+    Fail(path.native() + ": the file " + file.Error());
     return nullptr;
   }
   m_files.push_back({path, file.GetStamp()});

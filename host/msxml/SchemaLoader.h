@@ -30,18 +30,23 @@ class CSchemaLoader {
   /// The files read so far.
   const std::vector<SchemaFile>& Files() const { return m_files; }
 
-  /// Why something could not be loaded, in order; each text names what.
-  const std::vector<std::string>& Failures() const { return m_failures; }
+  /// Why the schemas cannot be used: the first thing that was wrong, behind the name of its file. Empty when nothing was.
+  const std::string& Failure() const { return m_failure; }
+
+  /// Takes an error of libxml2's; of this thread's loader, wherever the callback comes from.
+  static void ReportError(void* data, xmlErrorPtr error);
 
   bool IsOutOfMemory() const { return m_isOutOfMemory; }
 
  private:
   static xmlParserInputPtr Load(const char* url, const char* id, xmlParserCtxtPtr context);
   xmlParserInputPtr LoadFile(const std::string& url, xmlParserCtxtPtr context);
+  std::string Place(const xmlError& error) const;
+  void Fail(std::string reason);
 
   std::deque<CInputFile> m_open;  // libxml2 reads from them while it parses
   std::vector<SchemaFile> m_files;
-  std::vector<std::string> m_failures;
+  std::string m_failure;
   bool m_isOutOfMemory = false;
 };
 

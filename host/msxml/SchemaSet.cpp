@@ -51,10 +51,27 @@ std::string ImportingSchema(const std::vector<SchemaSource>& sources) {
   throw CZoDOMDocException(message.Printf("Couldn't load the schema %s", what));
 }
 
-void CollectProblem(void* data, xmlErrorPtr error) {
-  auto& problems = *static_cast<CProblems*>(data);
-  std::string_view place = error->file != nullptr ? error->file : "";
-  problems.Add(*error, static_cast<std::size_t>(std::max(error->line, 0)), 0, place);
+std::string_view AttributeOf(const xmlNode& element, std::string_view name) {
+  for (const xmlAttr* attribute = element.properties; attribute != nullptr; attribute = attribute->next) {
+    if (attribute->ns != nullptr || View(attribute->name) != name) continue;
+    return attribute->children != nullptr ? View(attribute->children->content) : std::string_view();
+  }
+  return {};
+}
+
+/// libxml2 says little of a schema that cannot be read, and nothing of one for another namespace.
+void CheckSource(const SchemaSource& source) {
+  CProblems problems;
+  const std::shared_ptr<const CXmlTree> tree = ParseXmlFile(source.file, problems);
+  if (tree == nullptr) {
+    const DOMDocProblem problem = problems.Take().front();
+    const std::string line = problem.line != 0 ? ": line " + std::to_string(problem.line) : std::string();
+    ThrowSchemaError(source.file.native() + line + ": " + problem.reason);
+  }
+  const std::string_view described = AttributeOf(*tree->Root(), "targetNamespace");
+  if (described == source.targetNamespace) return;
+  ThrowSchemaError(source.file.native() + ": it describes the namespace '" + std::string(described) + "', not '" +
+                   source.targetNamespace + "'");
 }
 
 struct Validation {
@@ -98,22 +115,17 @@ void CollectInvalidity(void* data, xmlErrorPtr error) {
 }  // namespace
 
 CSchemaSet::CSchemaSet(const std::vector<SchemaSource>& sources) : m_sources(sources) {
-  InitializeXmlLibrary();
+  for (const SchemaSource& source : sources) CheckSource(source);
   CSchemaLoader loader;
   const std::string driver = ImportingSchema(sources);
   const std::unique_ptr<xmlSchemaParserCtxt, FreeParserContext> context(
       xmlSchemaNewMemParserCtxt(driver.data(), static_cast<int>(driver.size())));
   if (context == nullptr) throw std::bad_alloc();
-  CProblems problems;
-  xmlSchemaSetParserStructuredErrors(context.get(), CollectProblem, &problems);
+  xmlSchemaSetParserStructuredErrors(context.get(), CSchemaLoader::ReportError, nullptr);
   m_schema.reset(xmlSchemaParse(context.get()));
   m_files = loader.Files();
-  if (loader.IsOutOfMemory() || problems.IsOutOfMemory()) throw std::bad_alloc();
-  if (!loader.Failures().empty()) ThrowSchemaError(loader.Failures().front());
-  for (const DOMDocProblem& problem : problems.Take()) {
-    ThrowSchemaError(problem.element + ", line " + std::to_string(problem.line) + ": " + problem.reason);
-  }
-  if (m_schema == nullptr) throw std::bad_alloc();
+  if (!loader.IsOutOfMemory() && !loader.Failure().empty()) ThrowSchemaError(loader.Failure());
+  if (loader.IsOutOfMemory() || m_schema == nullptr) throw std::bad_alloc();
 }
 
 bool CSchemaSet::IsCurrent() const {

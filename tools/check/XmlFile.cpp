@@ -16,6 +16,7 @@ namespace {
 
 std::string WhyNoField(std::string_view path) {
   const std::string_view inRoot = path.substr(std::min(path.find('/'), path.size() - 1) + 1);
+  if (inRoot == "Component" || inRoot.starts_with("Component[")) return "is a component with nothing in it";
   if (inRoot.find('/') == std::string_view::npos) return "is not one that is read directly under the root element";
   if (inRoot.starts_with("VIF_App")) return "gives way to the description beside it";
   return "is an item of a list with nothing in it";
