@@ -38,9 +38,9 @@ constexpr std::uint64_t FirstNumber(EVifLocation location) {
 /// The location of a list element's items, by the list's own name; what the items are called does not matter.
 EVifLocation ListLocation(IXMLDOMNode& list) {
   CBstr name;
-  if (FAILED(list.get_nodeName(name.Receive())) || name.get() == nullptr) {
-    ThrowDomDocError("ERROR:  Couldn't get node name.\r\n");
-  }
+  const HRESULT result = list.get_nodeName(name.Receive());
+  if (result == E_OUTOFMEMORY) _com_issue_errorex(result, &list, IID_IXMLDOMNode);  // not the document's fault
+  if (FAILED(result) || name.get() == nullptr) ThrowDomDocError("ERROR:  Couldn't get node name.\r\n");
   std::wstring_view localName = name.View();
   if (const std::size_t colon = localName.find(L':'); colon != std::wstring_view::npos) {
     localName.remove_prefix(colon + 1);

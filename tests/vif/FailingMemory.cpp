@@ -1,0 +1,68 @@
+// The replacements of the global operator new and of the allocation of BSTRs. In a file of its own, so that the
+// compiler does not see half of a pair of allocation and release where it inlines.
+#include "FailingMemory.h"
+
+#include "msxml/ComTypes.h"
+
+#include <dlfcn.h>
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+using testsupport::Memory;
+
+bool g_isArmed = false;
+Memory g_kind = Memory::OperatorNew;
+std::size_t g_left = 0;
+bool g_hasFailed = false;
+
+bool MustFail(Memory kind) {
+  if (!g_isArmed || kind != g_kind || g_left == 0 || --g_left != 0) return false;
+  g_hasFailed = true;
+  return true;
+}
+
+void* Allocate(std::size_t size) { return MustFail(Memory::OperatorNew) ? nullptr : std::malloc(size != 0 ? size : 1); }
+
+void* AllocateOrThrow(std::size_t size) {
+  void* memory = Allocate(size);
+  if (memory == nullptr) throw std::bad_alloc();
+  return memory;
+}
+
+}  // namespace
+
+namespace testsupport {
+
+CFailingMemory::CFailingMemory(Memory kind, std::size_t k) {
+  g_kind = kind;
+  g_left = k;
+  g_hasFailed = false;
+  g_isArmed = true;
+}
+
+CFailingMemory::~CFailingMemory() { g_isArmed = false; }
+
+bool CFailingMemory::HasFailed() const { return g_hasFailed; }
+
+}  // namespace testsupport
+
+void* operator new(std::size_t size) { return AllocateOrThrow(size); }
+void* operator new[](std::size_t size) { return AllocateOrThrow(size); }
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept { return Allocate(size); }
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept { return Allocate(size); }
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete[](void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }
+void operator delete(void* memory, const std::nothrow_t&) noexcept { std::free(memory); }
+void operator delete[](void* memory, const std::nothrow_t&) noexcept { std::free(memory); }
+
+// Stands in front of the library's own, which it calls.
+BSTR SysAllocStringLen(const wchar_t* text, UINT length) {
+  if (MustFail(Memory::Bstr)) return nullptr;
+  static const auto real =
+      reinterpret_cast<decltype(&SysAllocStringLen)>(dlsym(RTLD_NEXT, "_Z17SysAllocStringLenPKwj"));
+  return real(text, length);
+}

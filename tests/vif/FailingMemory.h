@@ -1,0 +1,23 @@
+// Memory that runs out on demand.
+#pragma once
+
+#include <cstddef>
+
+namespace testsupport {
+
+/// Which allocations count.
+enum class Memory { OperatorNew, Bstr };
+
+/// While it lives, the k-th allocation of that kind fails, counted from 1 and from now. One at a time, on one thread.
+class CFailingMemory {
+ public:
+  CFailingMemory(Memory kind, std::size_t k);
+  CFailingMemory(const CFailingMemory&) = delete;
+  CFailingMemory& operator=(const CFailingMemory&) = delete;
+  ~CFailingMemory();
+
+  /// Whether the k-th allocation was asked for.
+  bool HasFailed() const;
+};
+
+}  // namespace testsupport

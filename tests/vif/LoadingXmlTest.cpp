@@ -1,0 +1,124 @@
+// Loading XML files into a CVendorInfoFile.
+#include "BaseUtilities/Exceptions.h"
+#include "VIFInvalidFile.h"
+#include "VendorInfoFile.h"
+#include "support/FieldText.h"
+#include "support/RunTimeErrorOf.h"
+#include "support/TempDir.h"
+#include "support/XmlVif.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <regex>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using testing::ElementsAre;
+using testsupport::RunTimeErrorOf;
+using testsupport::TempDir;
+using testsupport::XmlVif;
+
+std::vector<std::string> Texts(const CVendorInfoFile& vif) { return testsupport::FieldTexts(*vif.GetFields()); }
+
+/// A VIF of one component whose source power is that number.
+std::string Component(int power) {
+  return XmlVif("<vif:Component><vif:PD_Power_As_Source value=\"" + std::to_string(power) + "\"/></vif:Component>");
+}
+
+TEST(LoadingXmlTest, ExtensionMayBeInAnyLetterCase) {
+  const TempDir dir;
+  for (const char* name : {"a.xml", "b.XML", "c.Xml", "d.txt.xml"}) {
+    EXPECT_THAT(Texts(CVendorInfoFile(dir.Write(name, Component(7)))), ElementsAre("PD_Power_As_Source=7 @6.1"))
+        << name;
+  }
+}
+
+TEST(LoadingXmlTest, FileNameIsKept) {
+  const TempDir dir;
+  const std::filesystem::path path = dir.Write("dock 1.xml", Component(7));
+  EXPECT_EQ(CVendorInfoFile(path).FileName(), path.wstring());
+}
+
+TEST(LoadingXmlTest, TextAndXmlFilesAreNumberedOn) {
+  const TempDir dir;
+  const std::filesystem::path first = dir.Write("a.txt", "PID: 1\n");
+  CVendorInfoFile vif;
+  vif.Append(first.c_str());
+  vif.Append(dir.Write("b.xml", Component(2)).c_str());
+  vif.Append(dir.Write("c.txt", "PID: 3\n").c_str());
+  EXPECT_THAT(Texts(vif), ElementsAre("PID=1 @6.1", "PD_Power_As_Source=2 @6.2", "PID=3 @6.3"));
+  EXPECT_EQ(vif.ComponentCount(), 3u);
+  EXPECT_EQ(vif.FileName(), first.wstring());
+}
+
+TEST(LoadingXmlTest, OwnDefinitionsAreNotUsed) {
+  const TempDir dir;
+  std::vector<VifFieldDef> table = {{L"Renamed", std::wregex(L"PD_Power_As_Source"), {}}};
+  EXPECT_THAT(Texts(CVendorInfoFile(dir.Write("a.xml", Component(7)), &table)),
+              ElementsAre("PD_Power_As_Source=7 @6.1"));
+}
+
+TEST(LoadingXmlTest, InvalidFileMakesNoObject) {
+  const TempDir dir;
+  const std::filesystem::path path = dir.Write("a.xml", XmlVif("<vif:USB_VID_SOP value=\"18d1\"/>"));
+  EXPECT_EQ(RunTimeErrorOf([&] { CVendorInfoFile vif(path); }), path.string() + " is not a valid Vendor Info File.");
+  EXPECT_THROW(CVendorInfoFile{path}, CVIFInvalidFile);
+}
+
+TEST(LoadingXmlTest, InvalidFileLeavesTheObjectAsItWas) {
+  const TempDir dir;
+  CVendorInfoFile vif(dir.Write("a.xml", Component(7)));
+  const std::filesystem::path path = dir.Write("b.xml", "<VIF/>");
+  EXPECT_EQ(RunTimeErrorOf([&] { vif.Append(path.c_str()); }), path.string() + " is not a valid Vendor Info File.");
+  EXPECT_THAT(Texts(vif), ElementsAre("PD_Power_As_Source=7 @6.1"));
+  EXPECT_EQ(vif.ComponentCount(), 1u);
+}
+
+TEST(LoadingXmlTest, InvalidFirstFileLeavesTheObjectWithoutAName) {
+  const TempDir dir;
+  CVendorInfoFile vif;
+  EXPECT_THROW(vif.Append(dir.Write("b.xml", "<VIF/>").c_str()), CVIFInvalidFile);
+  EXPECT_STREQ(vif.FileName(), L"");
+}
+
+TEST(LoadingXmlTest, FailureInAComponentLeavesWhatCameBefore) {
+  const TempDir dir;
+  CVendorInfoFile vif(dir.Write("a.xml", Component(7)));
+  const std::filesystem::path path =
+      dir.Write("b.xml", XmlVif("<vif:TID>9</vif:TID><vif:Component><vif:A value=\"1\"/></vif:Component>"
+                                "<vif:Component><vif:B value=\"2\"/><vif:Foo><vif:X/></vif:Foo></vif:Component>"));
+  EXPECT_THROW(vif.Append(path.c_str()), CZoDOMDocException);
+  EXPECT_THAT(Texts(vif), ElementsAre("PD_Power_As_Source=7 @6.1", "TID=\"\" ; 9 @1.0", "A=1 @6.2", "B=2 @6.3"));
+  EXPECT_EQ(vif.ComponentCount(), 3u);
+}
+
+TEST(LoadingXmlTest, DirectoryIsNotValid) {
+  const TempDir dir;
+  const std::filesystem::path path = dir.Path() / "d.xml";
+  std::filesystem::create_directory(path);
+  EXPECT_EQ(RunTimeErrorOf([&] { CVendorInfoFile vif(path); }), path.string() + " is not a valid Vendor Info File.");
+}
+
+TEST(LoadingXmlTest, ConcurrentLoadsOfManyThreadsAreIndependent) {
+  const TempDir dir;
+  std::vector<std::filesystem::path> files;
+  for (int i = 0; i < 8; ++i) files.push_back(dir.Write(std::to_string(i) + ".xml", Component(i)));
+  std::vector<std::vector<std::string>> loaded(files.size());
+  std::vector<std::thread> threads;
+  for (std::size_t i = 0; i < files.size(); ++i) {
+    threads.emplace_back([&, i] {
+      for (int round = 0; round < 20; ++round) loaded[i] = Texts(CVendorInfoFile(files[i]));
+    });
+  }
+  for (std::thread& thread : threads) thread.join();
+  for (std::size_t i = 0; i < files.size(); ++i) {
+    EXPECT_THAT(loaded[i], ElementsAre("PD_Power_As_Source=" + std::to_string(i) + " @6.1"));
+  }
+}
+
+}  // namespace
