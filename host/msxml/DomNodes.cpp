@@ -118,8 +118,8 @@ class CDomNode final : public CCounted<IXMLDOMElement> {
       *object = this;
       return S_OK;
     }
-    const bool isMine =
-        iid == IID_IUnknown || iid == IID_IXMLDOMNode || (iid == IID_IXMLDOMElement && m_node->type == XML_ELEMENT_NODE);
+    const bool isMine = iid == IID_IUnknown || iid == IID_IXMLDOMNode ||
+                        (iid == IID_IXMLDOMElement && m_node->type == XML_ELEMENT_NODE);
     return isMine ? Answer(this, object) : RefuseInterface(object);
   }
 

@@ -70,8 +70,8 @@ class CTextJoiner {
            section.prev->prev->type == XML_CDATA_SECTION_NODE;
   }
 
-  /// Appends an element's text, behind a blank if one is pending and there is something before it. When there is no text,
-  /// the blank waits for the next.
+  /// Appends an element's text, behind a blank if one is pending and there is something before it. When there is no
+  /// text, the blank waits for the next.
   void AppendElement(const xmlNode& element, bool isPreserving, bool hasBefore, Joined& joined) {
     const std::size_t before = m_text.size();
     if (joined.isPending && hasBefore) m_text += ' ';

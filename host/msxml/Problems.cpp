@@ -1,5 +1,7 @@
 #include "msxml/Problems.h"
 
+#include "BaseUtilities/StringConvert.h"
+
 #include <new>
 #include <utility>
 
@@ -13,7 +15,8 @@ constexpr std::size_t kMostProblems = 10'000;
 /// A reason quotes the file's own text, which may be of any length.
 constexpr std::size_t kLongestText = 1'000;
 
-/// The text on one line, without blanks at its end, and cut to a length that a person can read.
+/// The text on one line, without blanks at its end, cut to a length that a person can read, and as valid UTF-8: libxml2
+/// quotes the bytes of a file as they are.
 std::string ReadableText(std::string_view text) {
   while (!text.empty() && static_cast<unsigned char>(text.back()) <= ' ') text.remove_suffix(1);
   const bool isCut = text.size() > kLongestText;
@@ -22,7 +25,7 @@ std::string ReadableText(std::string_view text) {
     while (!text.empty() && (static_cast<unsigned char>(text.back()) & 0xC0) == 0x80) text.remove_suffix(1);
     if (!text.empty() && static_cast<unsigned char>(text.back()) >= 0xC0) text.remove_suffix(1);
   }
-  std::string readable(text);
+  std::string readable = Utf16ToUtf8(Utf8ToUtf16(text));
   for (char& c : readable) {
     if (static_cast<unsigned char>(c) < ' ') c = ' ';
   }

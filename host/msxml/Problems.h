@@ -19,6 +19,12 @@ class CProblems {
 
   void Add(std::size_t line, std::size_t column, std::string_view element, std::string_view reason) noexcept;
 
+  /// Forgets the problems, but not that memory ran out.
+  void Clear() noexcept {
+    m_list.clear();
+    m_omitted = 0;
+  }
+
   /// Remembers that memory ran out.
   void RanOutOfMemory() noexcept { m_isOutOfMemory = true; }
 

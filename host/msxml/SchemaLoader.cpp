@@ -115,8 +115,7 @@ xmlParserInputPtr CSchemaLoader::LoadFile(const std::string& url, xmlParserCtxtP
     return nullptr;
   }
   m_files.push_back({path, file.GetStamp()});
-  xmlParserInputBuffer* buffer =
-      xmlParserInputBufferCreateIO(CInputFile::Read, nullptr, &file, XML_CHAR_ENCODING_NONE);
+  xmlParserInputBuffer* buffer = xmlParserInputBufferCreateIO(CInputFile::Read, nullptr, &file, XML_CHAR_ENCODING_NONE);
   if (buffer == nullptr) throw std::bad_alloc();
   xmlParserInput* input = xmlNewIOInputStream(context, buffer, XML_CHAR_ENCODING_NONE);
   if (input == nullptr) {

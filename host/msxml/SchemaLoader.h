@@ -30,7 +30,8 @@ class CSchemaLoader {
   /// The files read so far.
   const std::vector<SchemaFile>& Files() const { return m_files; }
 
-  /// Why the schemas cannot be used: the first thing that was wrong, behind the name of its file. Empty when nothing was.
+  /// Why the schemas cannot be used: the first thing that was wrong, behind the name of its file. Empty when nothing
+  /// was.
   const std::string& Failure() const { return m_failure; }
 
   /// Takes an error of libxml2's; of this thread's loader, wherever the callback comes from.

@@ -2,6 +2,7 @@
 
 #include "BaseUtilities/Exceptions.h"
 #include "BaseUtilities/SimpleBuffer.h"
+#include "msxml/ThreadErrors.h"
 #include "msxml/XmlParser.h"
 #include "msxml/XmlText.h"
 
@@ -117,6 +118,7 @@ void CollectInvalidity(void* data, xmlErrorPtr error) {
 CSchemaSet::CSchemaSet(const std::vector<SchemaSource>& sources) : m_sources(sources) {
   for (const SchemaSource& source : sources) CheckSource(source);
   CSchemaLoader loader;
+  const CThreadErrors otherErrors(CSchemaLoader::ReportError, nullptr);
   const std::string driver = ImportingSchema(sources);
   const std::unique_ptr<xmlSchemaParserCtxt, FreeParserContext> context(
       xmlSchemaNewMemParserCtxt(driver.data(), static_cast<int>(driver.size())));
@@ -151,6 +153,7 @@ void CSchemaSet::Validate(const CXmlTree& tree, CProblems& problems) const {
   const std::unique_ptr<xmlSchemaValidCtxt, FreeValidContext> context(xmlSchemaNewValidCtxt(m_schema.get()));
   if (context == nullptr) throw std::bad_alloc();
   Validation validation{tree, m_sources, problems};
+  const CThreadErrors otherErrors(CollectInvalidity, &validation);
   xmlSchemaSetValidStructuredErrors(context.get(), CollectInvalidity, &validation);
   const int result = xmlSchemaValidateDoc(context.get(), tree.Document());
   if (result < 0 && problems.IsEmpty()) problems.RanOutOfMemory();

@@ -1,5 +1,6 @@
 #include "msxml/Selection.h"
 
+#include "msxml/ThreadErrors.h"
 #include "msxml/XmlText.h"
 
 #include <libxml/parserInternals.h>
@@ -129,6 +130,7 @@ Outcome SelectByXPath(xmlNode* from, std::string_view xpath, const Prefixes& pre
   if (context == nullptr) return Outcome::OutOfMemory;
   context->node = from;
   context->error = IgnoreError;
+  const CThreadErrors otherErrors(IgnoreError, nullptr);
   for (const auto& [prefix, uri] : prefixes) {
     if (xmlXPathRegisterNs(context.get(), Xml(prefix.c_str()), Xml(uri.c_str())) != 0) return Outcome::OutOfMemory;
   }

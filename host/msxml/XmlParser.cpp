@@ -1,6 +1,8 @@
 #include "msxml/XmlParser.h"
 
 #include "msxml/InputFile.h"
+#include "msxml/TagGuard.h"
+#include "msxml/ThreadErrors.h"
 #include "msxml/XmlText.h"
 
 #include <libxml/SAX2.h>
@@ -21,6 +23,21 @@ namespace {
 // The limits that libxml2 sets on the length of texts and names are lifted: a text takes no more memory than the file
 // has, and entities, which could multiply it, cannot be declared.
 constexpr int kOptions = XML_PARSE_NONET | XML_PARSE_HUGE;
+
+// The parser looks through them for every name with a prefix.
+constexpr int kMostNamespaces = 1'000;
+
+/// What the parser reads from: a file whose tags are kept within bounds.
+struct Source {
+  CInputFile file;
+  CTagGuard guard;
+
+  static int Read(void* context, char* buffer, int length) noexcept {
+    auto& source = *static_cast<Source*>(context);
+    const int count = CInputFile::Read(&source.file, buffer, length);
+    return count <= 0 || source.guard.Take(buffer, static_cast<std::size_t>(count)) ? count : -1;
+  }
+};
 
 struct FreeContext {
   void operator()(xmlParserCtxt* context) const { xmlFreeParserCtxt(context); }
@@ -79,6 +96,12 @@ void StartElement(void* data, const xmlChar* name, const xmlChar* prefix, const 
            "Elements are nested more than " + std::to_string(kGreatestDepth) + " deep.");
       return;
     }
+    if (context.nsNr / 2 > kMostNamespaces) {
+      Stop(context, QualifiedName(prefix, name),
+           "There are declarations of more than " + std::to_string(kMostNamespaces) +
+               " namespaces around this element.");
+      return;
+    }
     run.positions.push_back(StartTagPosition(*context.input));
   } catch (const std::bad_alloc&) {
     run.problems.RanOutOfMemory();
@@ -97,7 +120,9 @@ void RefuseDocumentType(void* data, const xmlChar* name, const xmlChar*, const x
 void ReportError(void* data, xmlErrorPtr error) {
   const auto& context = *static_cast<xmlParserCtxt*>(data);
   const std::string_view element = context.node != nullptr ? View(context.node->name) : std::string_view();
-  RunOf(context).problems.Add(*error, static_cast<std::size_t>(std::max(error->line, 0)),
+  // What concerns the decoding knows no line of its own.
+  const int line = error->line > 0 || context.input == nullptr ? error->line : context.input->line;
+  RunOf(context).problems.Add(*error, static_cast<std::size_t>(std::max(line, 0)),
                               static_cast<std::size_t>(std::max(error->int2, 0)), element);
 }
 
@@ -115,15 +140,22 @@ ContextPointer MakeContext(Run& run) {
 
 std::shared_ptr<const CXmlTree> ParseXmlFile(const std::filesystem::path& path, CProblems& problems) {
   InitializeXmlLibrary();
-  CInputFile file(path);
-  if (!file.IsOpen()) {
-    problems.Add(0, 0, {}, "The file " + file.Error() + ".");
+  Source source{CInputFile(path), {}};
+  if (!source.file.IsOpen()) {
+    problems.Add(0, 0, {}, "The file " + source.file.Error() + ".");
     return nullptr;
   }
   Run run{problems, {}};
   const ContextPointer context = MakeContext(run);
-  DocumentPointer document(xmlCtxtReadIO(context.get(), CInputFile::Read, nullptr, &file, nullptr, nullptr, kOptions));
-  if (file.HasFailed()) problems.Add(0, 0, {}, "The file " + file.Error() + ".");
+  const CThreadErrors otherErrors(ReportError, context.get());
+  DocumentPointer document(xmlCtxtReadIO(context.get(), Source::Read, nullptr, &source, nullptr, nullptr, kOptions));
+  // What the parser says of a file that ends too early is of no interest.
+  if (source.file.HasFailed() || source.guard.HasTripped()) problems.Clear();
+  if (source.file.HasFailed()) problems.Add(0, 0, {}, "The file " + source.file.Error() + ".");
+  if (source.guard.HasTripped()) {
+    problems.Add(source.guard.Line(), 0, {},
+                 "An element has more than " + std::to_string(CTagGuard::kMostAttributes) + " attributes.");
+  }
   const bool isSound = document != nullptr && context->wellFormed == 1 && context->nsWellFormed == 1;
   if (!isSound && problems.IsEmpty()) problems.Add(0, 0, {}, "The file is not well-formed XML.");
   if (!problems.IsEmpty()) return nullptr;
