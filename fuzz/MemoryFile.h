@@ -1,0 +1,27 @@
+// A regular file that is only in memory.
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+namespace fuzz {
+
+/// Can be opened by its path as long as the object lives.
+class CMemoryFile {
+ public:
+  CMemoryFile();
+  CMemoryFile(const CMemoryFile&) = delete;
+  CMemoryFile& operator=(const CMemoryFile&) = delete;
+  ~CMemoryFile();
+
+  const std::filesystem::path& Path() const { return m_path; }
+
+  /// Replaces the content.
+  void Write(std::string_view content) const;
+
+ private:
+  int m_descriptor;
+  std::filesystem::path m_path;
+};
+
+}  // namespace fuzz
