@@ -10,8 +10,14 @@ install(TARGETS VendorInfoFile VendorInfoFileHost EXPORT VendorInfoFileTargets
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 install(DIRECTORY include/ DESTINATION "${header_dir}" FILES_MATCHING PATTERN "*.h")
 install(DIRECTORY host/BaseUtilities DESTINATION "${header_dir}" FILES_MATCHING PATTERN "*.h")
-install(FILES host/TestUtilities/DOMDoc.h host/TestUtilities/DOMDocProblem.h
+install(FILES
+  host/TestUtilities/AppState.h
+  host/TestUtilities/DOMDoc.h
+  host/TestUtilities/DOMDocProblem.h
+  host/TestUtilities/TULog.h
+  host/TestUtilities/TUUserInput.h
   DESTINATION "${header_dir}/TestUtilities")
+install(FILES host/ZorvenLog/TestSuiteLog.h DESTINATION "${header_dir}/ZorvenLog")
 install(FILES host/msxml/ComError.h host/msxml/ComPointer.h host/msxml/ComTypes.h host/msxml/MsXml.h
   DESTINATION "${header_dir}/msxml")
 install(FILES LICENSE README.md CHANGELOG.md DESTINATION "${CMAKE_INSTALL_DOCDIR}")

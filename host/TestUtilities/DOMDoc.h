@@ -14,8 +14,8 @@
 
 /// An XML document that is validated against a set of schemas.
 ///
-/// Files are taken for hostile: a document with a document type declaration, with elements nested more than 256 deep, or
-/// in anything but a regular file is not valid. Nothing but the file and the schemas is read, and never the network.
+/// Files are taken for hostile: a document with a document type declaration, with elements nested more than 256 deep,
+/// or in anything but a regular file is not valid. Nothing but the file and the schemas is read, and never the network.
 ///
 /// One object is for one thread at a time. Any number of threads may use objects of their own at once; compiled schemas
 /// are shared between them and kept until the process ends, or until a schema file changes. On Windows, COM must be
@@ -60,15 +60,14 @@ class ZO_API CDOMDoc {
   /// \return false, with 0 for both, when the node is none of this document or the platform does not tell
   bool Locate(IXMLDOMNode& node, std::size_t& line, std::size_t& column) const;
 
-  /// Names an element of this document by its way from the root, such as "VIF/Component[2]/SrcPdoList": local names, each
-  /// with its number where the element has siblings of the same name and namespace. Empty when the node is none of this
-  /// document or the platform does not tell.
+  /// Names an element of this document by its way from the root, such as "VIF/Component[2]/SrcPdoList": local names,
+  /// each with its number where the element has siblings of the same name and namespace. Empty when the node is none of
+  /// this document or the platform does not tell.
   std::string PathOf(IXMLDOMNode& node) const;
 
   /// The full path of a schema file: in the directory set by `SetSchemaDirectory` if it is there, else in the installed
-  /// data directory if it is there, else beside this library. When it is in none of these, the path that it would have in
-  /// the first of them, so that an error can name it.
-  /// \param fileName its name; null counts as empty
+  /// data directory if it is there, else beside this library. When it is in none of these, the path that it would have
+  /// in the first of them, so that an error can name it. \param fileName its name; null counts as empty
   static std::wstring MakeFullSchemaPath(const wchar_t* fileName);
 
   /// Sets the directory in which schemas are looked for first, for documents constructed from now on; empty for none.
@@ -79,8 +78,8 @@ class ZO_API CDOMDoc {
   /// The document's interface; never null, lives as long as this object.
   IXMLDOMDocument2& Document() const noexcept;
 
-  /// Lets only documents be valid whose root element has this name. A schema cannot say that: by it, any element that it
-  /// declares globally may be the root.
+  /// Lets only documents be valid whose root element has this name. A schema cannot say that: by it, any element that
+  /// it declares globally may be the root.
   void RequireRoot(const std::wstring& namespaceUri, const std::wstring& localName);
 
  private:

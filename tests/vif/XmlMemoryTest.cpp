@@ -1,6 +1,6 @@
 // What becomes of an object when memory runs out while it loads an XML VIF. Needs a program of its own, because it is
 // linked with an operator new and an allocation of BSTRs that fail.
-#include "FailingMemory.h"
+#include "support/FailingMemory.h"
 #include "TextlessErrors.h"
 #include "VendorInfoFile.h"
 

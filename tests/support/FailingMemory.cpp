@@ -1,6 +1,6 @@
 // The replacements of the global operator new and of the allocation of BSTRs. In a file of its own, so that the
 // compiler does not see half of a pair of allocation and release where it inlines.
-#include "FailingMemory.h"
+#include "support/FailingMemory.h"
 
 #include "msxml/ComTypes.h"
 

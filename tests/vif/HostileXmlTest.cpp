@@ -1,0 +1,435 @@
+// XML files that nobody writes by accident, or only a broken program does.
+#include "BaseUtilities/Exceptions.h"
+#include "VIFInvalidFile.h"
+#include "VendorInfoFile.h"
+#include "support/FieldText.h"
+#include "support/LoopbackListener.h"
+#include "support/Random.h"
+#include "support/TempDir.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::StartsWith;
+using testsupport::CLoopbackListener;
+using testsupport::FieldTexts;
+using testsupport::RandomBelow;
+using testsupport::TempDir;
+
+namespace fs = std::filesystem;
+
+const std::string kBegin = "<VIF xmlns='http://usb.org/VendorInfoFile.xsd'>";
+const std::string kEnd = "</VIF>";
+const std::string kRefusal = "A document type declaration is not allowed.";
+
+std::string Repeated(std::string_view text, std::size_t count) {
+  std::string all;
+  all.reserve(text.size() * count);
+  for (std::size_t i = 0; i < count; ++i) all += text;
+  return all;
+}
+
+/// Ends the program when the test takes too long.
+class CAlarm {
+ public:
+  CAlarm() { alarm(120); }
+  CAlarm(const CAlarm&) = delete;
+  CAlarm& operator=(const CAlarm&) = delete;
+  ~CAlarm() { alarm(0); }
+};
+
+/// Appends files to an object that holds fields already.
+class HostileXmlTest : public testing::Test {
+ protected:
+  HostileXmlTest()
+      : m_vif(m_dir.Write("held.txt", "Vendor_Name: \"held\"\r\n")), m_held(FieldTexts(*m_vif.GetFields())) {}
+
+  /// Appends a file. Either it is loaded, or the error has its form and reasons that can be printed, and the object is
+  /// as it was.
+  /// \return whether it was loaded
+  bool AppendFile(const fs::path& path) {
+    m_reasons.clear();
+    const auto countBefore = m_vif.Count();
+    try {
+      m_vif.Append(path.c_str());
+      return true;
+    } catch (const CVIFInvalidFile& error) {
+      EXPECT_EQ(error.what(), path.string() + " is not a valid Vendor Info File.");
+      EXPECT_FALSE(error.Problems().empty());
+      for (const DOMDocProblem& problem : error.Problems()) CheckProblem(problem);
+    }
+    EXPECT_EQ(m_vif.Count(), countBefore);
+    return false;
+  }
+
+  bool Append(std::string_view content) { return AppendFile(m_dir.Write("x.xml", content)); }
+
+  /// Appends a VIF with that content.
+  bool AppendVif(const std::string& content) { return Append(kBegin + content + kEnd); }
+
+  /// Whether the content was refused for that reason alone.
+  bool IsRefused(const std::string& content, const std::string& reason) {
+    return !Append(content) && m_reasons == std::vector<std::string>{reason};
+  }
+
+  const std::vector<std::string>& Reasons() const { return m_reasons; }
+  const TempDir& Dir() const { return m_dir; }
+  CVendorInfoFile& Vif() { return m_vif; }
+
+  /// The fields that the last file appended.
+  std::vector<std::string> NewFields() const {
+    std::vector<std::string> fields = FieldTexts(*m_vif.GetFields());
+    fields.erase(fields.begin(), fields.begin() + static_cast<std::ptrdiff_t>(m_held.size()));
+    return fields;
+  }
+
+ private:
+  void CheckProblem(const DOMDocProblem& problem) {
+    EXPECT_NE(problem.reason, "");
+    EXPECT_LT(problem.reason.size(), 2000U);
+    EXPECT_LT(problem.element.size(), 2000U);
+    for (const char c : problem.reason + problem.element) ASSERT_GE(static_cast<unsigned char>(c), 0x20U);
+    m_reasons.push_back(problem.reason);
+  }
+
+  CAlarm m_alarm;
+  TempDir m_dir;
+  CVendorInfoFile m_vif;
+  std::vector<std::string> m_held;
+  std::vector<std::string> m_reasons;
+};
+
+// Document types and what they could bring.
+
+TEST_F(HostileXmlTest, AnyDocumentTypeIsRefused) {
+  for (const char* type : {"<!DOCTYPE VIF>", "<!DOCTYPE VIF []>", "<!DOCTYPE VIF SYSTEM 'vif.dtd'>",
+                           "<!DOCTYPE VIF PUBLIC '-//X//Y' 'vif.dtd'>", "<!DOCTYPE VIF [<!ENTITY e 'x'>]>",
+                           "<!DOCTYPE VIF [<!ATTLIST VIF x CDATA 'y'>]>"}) {
+    EXPECT_TRUE(IsRefused(type + kBegin + kEnd, kRefusal)) << type;
+  }
+}
+
+TEST_F(HostileXmlTest, EntitiesThatMultiplyAreNotExpanded) {
+  std::string entities = "<!ENTITY e0 'lol'>";
+  for (int i = 1; i <= 20; ++i) {
+    entities += "<!ENTITY e" + std::to_string(i) + " '" + Repeated("&e" + std::to_string(i - 1) + ";", 10) + "'>";
+  }
+  EXPECT_TRUE(IsRefused("<!DOCTYPE VIF [" + entities + "]>" + kBegin + "<TID>&e20;</TID>" + kEnd, kRefusal));
+}
+
+TEST_F(HostileXmlTest, ExternalEntityOfAFileIsNotRead) {
+  const fs::path secret = Dir().Write("secret", "<TID>secret</TID>");
+  EXPECT_TRUE(IsRefused("<!DOCTYPE VIF [<!ENTITY e SYSTEM 'file://" + secret.string() + "'>]>" + kBegin + "&e;" + kEnd,
+                        kRefusal));
+}
+
+TEST_F(HostileXmlTest, NothingIsFetchedForADocumentType) {
+  const CLoopbackListener listener;
+  const std::string url = listener.Url("http");
+  EXPECT_FALSE(Append("<!DOCTYPE VIF SYSTEM '" + url + "/x.dtd'>" + kBegin + kEnd));
+  EXPECT_FALSE(Append("<!DOCTYPE VIF [<!ENTITY e SYSTEM '" + url + "/e'>]>" + kBegin + "&e;" + kEnd));
+  EXPECT_FALSE(Append("<!DOCTYPE VIF [<!ENTITY % p SYSTEM '" + url + "/p'> %p;]>" + kBegin + kEnd));
+  EXPECT_FALSE(listener.WasCalled());
+}
+
+TEST_F(HostileXmlTest, UndeclaredEntityIsNotValid) { EXPECT_FALSE(AppendVif("<TID>&nbsp;</TID>")); }
+
+// References to other files.
+
+TEST_F(HostileXmlTest, SchemaLocationsAreNotFollowed) {
+  const CLoopbackListener listener;
+  const std::string instance = " xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xsi:schemaLocation='";
+  for (const std::string& location : {listener.Url("http") + "/x.xsd", std::string("missing.xsd")}) {
+    EXPECT_TRUE(AppendVif("<Component" + instance + "http://usb.org/VendorInfoFile.xsd " + location + "'/>"));
+    EXPECT_TRUE(AppendVif("<o:x xmlns:o='urn:o'" + instance + "urn:o " + location + "'/>"));
+  }
+  EXPECT_FALSE(listener.WasCalled());
+}
+
+TEST_F(HostileXmlTest, InclusionsAreNotFollowed) {
+  const CLoopbackListener listener;
+  const fs::path other = Dir().Write("other.xml", "<TID xmlns='http://usb.org/VendorInfoFile.xsd'>7</TID>");
+  for (const std::string& location : {other.string(), listener.Url("http") + "/x.xml"}) {
+    EXPECT_TRUE(AppendVif("<xi:include xmlns:xi='http://www.w3.org/2001/XInclude' href='" + location + "'/>"));
+  }
+  EXPECT_THAT(NewFields(), testing::IsEmpty());
+  EXPECT_FALSE(listener.WasCalled());
+}
+
+TEST_F(HostileXmlTest, StyleSheetsAreNotFollowed) {
+  const CLoopbackListener listener;
+  EXPECT_TRUE(Append("<?xml-stylesheet href='" + listener.Url("http") + "/x.xsl'?>" + kBegin + kEnd));
+  EXPECT_FALSE(listener.WasCalled());
+}
+
+// Depth.
+
+TEST_F(HostileXmlTest, ElementsMayBeNested256Deep) {
+  EXPECT_TRUE(AppendVif(Repeated("<o:o xmlns:o='urn:o'>", 255) + Repeated("</o:o>", 255)));
+}
+
+TEST_F(HostileXmlTest, ElementsNestedDeeperAreRefused) {
+  for (const std::size_t depth : {256, 299, 99'999}) {
+    EXPECT_FALSE(AppendVif(Repeated("<o>", depth) + Repeated("</o>", depth))) << depth;
+    EXPECT_THAT(Reasons(), ElementsAre("Elements are nested more than 256 deep.")) << depth;
+  }
+}
+
+TEST_F(HostileXmlTest, StartTagsWithoutEndAreRefused) { EXPECT_FALSE(Append(kBegin + Repeated("<a>", 1'000'000))); }
+
+// Size.
+
+TEST_F(HostileXmlTest, HundredThousandSiblingsAreLoaded) {
+  EXPECT_TRUE(AppendVif("<Component>" + Repeated("<TID>1</TID>", 100'000) + "</Component>"));
+  EXPECT_EQ(NewFields().size(), 100'000U);
+}
+
+TEST_F(HostileXmlTest, LongTextIsLoaded) {
+  EXPECT_TRUE(AppendVif("<TID>" + std::string(20'000'000, 'x') + "</TID>"));
+  EXPECT_EQ(Vif().Count(), 2U);
+}
+
+TEST_F(HostileXmlTest, LongAttributeIsLoaded) {
+  EXPECT_TRUE(AppendVif("<TID value='" + std::string(20'000'000, 'x') + "'/>"));
+  EXPECT_EQ(Vif().Count(), 2U);
+}
+
+TEST_F(HostileXmlTest, LongNameIsRefusedOrLoaded) {
+  const std::string name(1'000'000, 'x');
+  if (AppendVif("<" + name + " " + name + "='1'>1</" + name + ">")) EXPECT_EQ(Vif().Count(), 1U);
+  EXPECT_FALSE(AppendVif("<" + name + ">"));
+}
+
+TEST_F(HostileXmlTest, ManyReferencesInOneTextAreLoaded) {
+  EXPECT_TRUE(AppendVif("<TID>" + Repeated("&amp;", 500'000) + "</TID>"));
+}
+
+TEST_F(HostileXmlTest, ManyPiecesOfOneTextAreLoaded) {
+  EXPECT_TRUE(AppendVif("<TID>" + Repeated("x<!---->", 20'000) + "</TID>"));
+}
+
+TEST_F(HostileXmlTest, DISABLED_MillionPiecesOfOneTextTakeBoundedTime) {
+  AppendVif("<TID>" + Repeated("x<!---->", 1'000'000) + "</TID>");
+}
+
+TEST_F(HostileXmlTest, DISABLED_HundredThousandAttributesTakeBoundedTime) {
+  std::string attributes;
+  for (int i = 0; i < 100'000; ++i) attributes += " a" + std::to_string(i) + "=''";
+  AppendVif("<Component" + attributes + "/>");
+}
+
+TEST_F(HostileXmlTest, ManyReasonsAreListedUpToABound) {
+  EXPECT_FALSE(AppendVif(Repeated("<TID a='1'/>", 200'000)));
+  EXPECT_EQ(Reasons().size(), 10'001U);
+  EXPECT_EQ(Reasons().back(), "and 190000 more");
+}
+
+// Broken files.
+
+TEST_F(HostileXmlTest, OnlyTheWholeOfAFileIsValid) {
+  const std::string whole =
+      "<?xml version='1.0' encoding='utf-8'?>\n<v:VIF xmlns:v='http://usb.org/VendorInfoFile.xsd'>"
+      "<!--\u00E4--><v:Component><v:TID value='1'>\u20AC</v:TID></v:Component></v:VIF>";
+  for (std::size_t size = 0; size < whole.size(); ++size) {
+    EXPECT_FALSE(Append(std::string_view(whole).substr(0, size))) << size;
+  }
+  EXPECT_TRUE(Append(whole));
+}
+
+TEST_F(HostileXmlTest, ChangedBytesNeverCrash) {
+  SCOPED_TRACE(testsupport::SeedMessage());
+  std::mt19937_64 generator = testsupport::SeededGenerator();
+  const std::string whole =
+      "<?xml version='1.0' encoding='utf-8'?>\n" + kBegin +
+      "<Vendor_Name>\u00E4</Vendor_Name><Component><SrcPdoList><SrcPDO><Src_PDO_Voltage value='100'>5 V"
+      "</Src_PDO_Voltage></SrcPDO></SrcPdoList><![CDATA[ ]]><?p?></Component>" +
+      kEnd;
+  std::size_t loaded = 0;
+  constexpr std::size_t runs = 2000;
+  for (std::size_t i = 0; i < runs; ++i) {
+    std::string changed = whole;
+    for (std::size_t j = 0; j <= RandomBelow(generator, 3); ++j) {
+      const std::size_t at = RandomBelow(generator, changed.size());
+      switch (RandomBelow(generator, 3)) {
+        case 0: changed[at] = static_cast<char>(generator()); break;
+        case 1: changed.erase(at, 1 + RandomBelow(generator, 8)); break;
+        default: changed.insert(at, changed.substr(RandomBelow(generator, changed.size()), 8));
+      }
+    }
+    try {
+      if (Append(changed)) ++loaded;
+    } catch (const CZoDOMDocException&) {
+      ++loaded;  // valid by the schemas, but no list of the format
+    }
+  }
+  EXPECT_GT(loaded, 0U);
+  EXPECT_LT(loaded, runs);
+}
+
+TEST_F(HostileXmlTest, WhatIsNotWellFormedIsNotValid) {
+  for (const char* content : {"<TID a='1' a='2'/>", "<p:TID/>", "<TID p:a='1'/>", "<TID a=1/>", "<TID>]]></TID>",
+                              "<TID/", "<TID xmlns:p='u' xmlns:q='u' p:a='1' q:a='1'/>", "<TID><!-- -- --></TID>",
+                              "<1/>", "<TID>&#0;</TID>", "<TID>\x01</TID>", "<TID>&#xFFFF;</TID>", "<TID>&</TID>",
+                              "<?xml?>", "<TID a='<'/>", "<TID>&#x110000;</TID>", "<TID xmlns:p=''/>"}) {
+    EXPECT_FALSE(AppendVif(content)) << content;
+  }
+}
+
+TEST_F(HostileXmlTest, ContentBehindTheRootIsNotValid) {
+  EXPECT_FALSE(Append(kBegin + kEnd + "text"));
+  EXPECT_FALSE(Append(kBegin + kEnd + kBegin + kEnd));
+  EXPECT_FALSE(Append(kBegin + kEnd + std::string(1, '\0')));
+  EXPECT_TRUE(Append(kBegin + kEnd + "\n<!--c-->\n"));
+}
+
+TEST_F(HostileXmlTest, EmptyFileIsNotValid) {
+  EXPECT_FALSE(Append(""));
+  EXPECT_FALSE(Append(" \n"));
+  EXPECT_FALSE(Append("\xEF\xBB\xBF"));
+}
+
+// Encodings.
+
+/// As UTF-16, without a byte order mark.
+std::string Utf16(std::string_view ascii, bool isBigEndian) {
+  std::string bytes;
+  for (const char c : ascii) bytes += isBigEndian ? std::string{'\0', c} : std::string{c, '\0'};
+  return bytes;
+}
+
+const std::string kField = kBegin + "<TID>x</TID>" + kEnd;
+
+TEST_F(HostileXmlTest, Utf8IsLoadedHoweverItIsDeclared) {
+  for (const char* declaration : {"", "<?xml version='1.0'?>", "<?xml version='1.0' encoding='utf-8'?>",
+                                  "<?xml version='1.0' encoding='UTF-8' standalone='yes'?>"}) {
+    for (const char* mark : {"", "\xEF\xBB\xBF"}) EXPECT_TRUE(Append(mark + (declaration + kField))) << declaration;
+  }
+}
+
+TEST_F(HostileXmlTest, Utf8MisspelledIsRefusedOrLoaded) {
+  if (Append("<?xml version='1.0' encoding='utf8'?>" + kField)) EXPECT_THAT(NewFields().size(), 1U);
+}
+
+TEST_F(HostileXmlTest, Utf16IsLoaded) {
+  for (const bool isBigEndian : {false, true}) {
+    const std::string mark = isBigEndian ? "\xFE\xFF" : "\xFF\xFE";
+    const std::string declared = "<?xml version='1.0' encoding='UTF-16'?>" + kField;
+    EXPECT_TRUE(Append(mark + Utf16(kField, isBigEndian))) << isBigEndian;
+    EXPECT_TRUE(Append(mark + Utf16(declared, isBigEndian))) << isBigEndian;
+    EXPECT_TRUE(Append(Utf16(declared, isBigEndian))) << isBigEndian;
+  }
+}
+
+TEST_F(HostileXmlTest, Utf16WithoutAnySignIsRefused) {
+  EXPECT_FALSE(Append(Utf16(kField, false)));
+  EXPECT_FALSE(Append(Utf16(kField, true)));
+}
+
+TEST_F(HostileXmlTest, Utf16CutInACharacterIsNotValid) {
+  const std::string file = "\xFF\xFE" + Utf16(kField, false);
+  EXPECT_FALSE(Append(std::string_view(file).substr(0, file.size() - 1)));
+}
+
+TEST_F(HostileXmlTest, Utf8DeclaredAsUtf16IsRefusedOrLoadedAsItIs) {
+  if (Append("<?xml version='1.0' encoding='UTF-16'?>" + kField)) EXPECT_THAT(NewFields().size(), 1U);
+}
+
+TEST_F(HostileXmlTest, Latin1IsLoaded) {
+  EXPECT_TRUE(Append("<?xml version='1.0' encoding='ISO-8859-1'?>" + kBegin + "<TID>\xE4</TID>" + kEnd));
+  EXPECT_THAT(NewFields(), ElementsAre(HasSubstr("\u00E4")));
+}
+
+TEST_F(HostileXmlTest, UnknownEncodingIsNotValid) {
+  EXPECT_FALSE(Append("<?xml version='1.0' encoding='no-such-encoding'?>" + kField));
+  EXPECT_FALSE(Append("<?xml version='1.0' encoding=''?>" + kField));
+}
+
+TEST_F(HostileXmlTest, InvalidUtf8IsNotValid) {
+  for (const char* bytes : {"\xFF", "\xC3", "\xC0\x80", "\xED\xA0\x80", "\xF5\x80\x80\x80", "\x80"}) {
+    EXPECT_FALSE(AppendVif("<TID>" + std::string(bytes) + "</TID>"));
+    EXPECT_FALSE(AppendVif("<TID value='" + std::string(bytes) + "'/>"));
+    EXPECT_FALSE(AppendVif("<!--" + std::string(bytes) + "-->"));
+    EXPECT_FALSE(AppendVif("<T" + std::string(bytes) + "/>"));
+  }
+}
+
+TEST_F(HostileXmlTest, NulIsNotValid) {
+  const std::string nul(1, '\0');
+  EXPECT_FALSE(AppendVif("<TID>" + nul + "</TID>"));
+  EXPECT_FALSE(AppendVif("<TID value='" + nul + "'/>"));
+  EXPECT_FALSE(Append(nul + kField));
+  EXPECT_FALSE(Append(std::string(1000, '\0')));
+}
+
+TEST_F(HostileXmlTest, ControlCharactersOfTheFileAreNotInReasons) {
+  EXPECT_FALSE(AppendVif("<TID \x1B[31m='1'/>"));
+  EXPECT_FALSE(AppendVif("<Connector_Type value='&#9;&#10;&#13;x'/>"));
+}
+
+// What is no regular file.
+
+TEST_F(HostileXmlTest, DirectoryIsNoFile) {
+  fs::create_directory(Dir().Path() / "d.xml");
+  EXPECT_FALSE(AppendFile(Dir().Path() / "d.xml"));
+  EXPECT_THAT(Reasons(), ElementsAre("The file is not a regular file."));
+}
+
+TEST_F(HostileXmlTest, PipeIsNotWaitedFor) {
+  const fs::path path = Dir().Path() / "p.xml";
+  ASSERT_EQ(mkfifo(path.c_str(), S_IRUSR | S_IWUSR), 0);
+  EXPECT_FALSE(AppendFile(path));
+  EXPECT_THAT(Reasons(), ElementsAre("The file is not a regular file."));
+}
+
+TEST_F(HostileXmlTest, DeviceWithoutEndIsNotRead) {
+  const fs::path path = Dir().Path() / "z.xml";
+  fs::create_symlink("/dev/zero", path);
+  EXPECT_FALSE(AppendFile(path));
+  EXPECT_THAT(Reasons(), ElementsAre("The file is not a regular file."));
+}
+
+TEST_F(HostileXmlTest, SocketCannotBeOpened) {
+  const fs::path path = Dir().Path() / "s.xml";
+  const int bound = socket(AF_UNIX, SOCK_STREAM, 0);
+  sockaddr_un address{};
+  address.sun_family = AF_UNIX;
+  path.native().copy(address.sun_path, sizeof address.sun_path - 1);
+  // The socket interface asks for addresses of every family as one general type.
+  ASSERT_EQ(bind(bound, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+  EXPECT_FALSE(AppendFile(path));
+  EXPECT_THAT(Reasons(), ElementsAre(StartsWith("The file cannot be opened: ")));
+  close(bound);
+}
+
+TEST_F(HostileXmlTest, FileThatMayNotBeReadSaysWhy) {
+  const fs::path path = Dir().Write("x.xml", kField);
+  fs::permissions(path, fs::perms::none);
+  if (access(path.c_str(), R_OK) == 0) GTEST_SKIP() << "the superuser may read everything";
+  EXPECT_FALSE(AppendFile(path));
+  EXPECT_THAT(Reasons(), ElementsAre("The file cannot be opened: Permission denied."));
+}
+
+TEST_F(HostileXmlTest, ReadErrorSaysWhy) {
+  const fs::path path = Dir().Path() / "x.xml";
+  fs::create_symlink("/proc/self/mem", path);  // a regular file, whose first byte is never readable
+  if (!fs::is_regular_file(path)) GTEST_SKIP() << "only Linux has this file";
+  EXPECT_FALSE(AppendFile(path));
+  EXPECT_THAT(Reasons(), testing::Contains(StartsWith("The file cannot be read: ")));
+}
+
+}  // namespace

@@ -1,0 +1,136 @@
+#include "TestSuiteVIF.h"
+
+#include "BaseUtilities/StringConvert.h"
+#include "TestUtilities/AppState.h"
+#include "TestUtilities/TUUserInput.h"
+#include "VendorInfoFile.h"
+#include "ZorvenLog/TestSuiteLog.h"
+#include "msxml/ComPointer.h"
+
+#include <exception>
+#include <filesystem>
+#include <memory>
+#include <new>
+#include <string>
+#include <utility>
+
+namespace {
+
+constexpr TEST_STATUS kDone = 1;
+constexpr TEST_STATUS kInformation = 0x4000000;
+constexpr TEST_STATUS kRefused = 0x40000000;
+
+constexpr const wchar_t* kPrompt = L"Select a Vendor Info File for the qualifying product under test";
+constexpr const wchar_t* kCaption = L"Choose VIF for test suite";
+
+/// Writes one line; a wide format makes a wide line.
+template <typename Character, typename... Arguments>
+void Write(CTULog& log, TEST_STATUS status, const Character* format, const Arguments&... arguments) {
+  const Character* text = CTULog::GetSimpleBuffer().Printf(format, arguments...);
+  log.DoWrite(status, CTULog::GetDefaultLogVerbosity(status), nullptr, text);
+}
+
+/// The same where nothing can be done about a log that fails: the line is lost, the status is what counts.
+template <typename Character, typename... Arguments>
+void TryToWrite(CTULog& log, TEST_STATUS status, const Character* format, const Arguments&... arguments) {
+  try {
+    Write(log, status, format, arguments...);
+  } catch (const std::bad_alloc&) {
+    throw;
+  } catch (...) {
+  }
+}
+
+TEST_STATUS Refuse(CTULog& log, const char* reason) {
+  TryToWrite(log, kRefused, reason);
+  return kRefused;
+}
+
+/// To be called where an exception has been caught: writes what it says. Out-of-memory passes.
+/// \param fileName narrow, as the host gave it. It goes to a wide placeholder as it stands, and appears as it is
+/// because
+///   the buffer looks at what it is given.
+void WriteCreateError(CTULog& log, const char* fileName) {
+  constexpr const wchar_t* unexpected = L"Unexpected error creating %ls: %ls.";
+  try {
+    throw;
+  } catch (const std::bad_alloc&) {
+    throw;
+  } catch (const _com_error& error) {
+    const auto* message = error.ErrorMessage();
+    if (message != nullptr) {
+      TryToWrite(log, kRefused, L"Attempt to load valid VIF did not succeed: COM Exception - %ls", message);
+    } else {
+      TryToWrite(log, kRefused, L"Attempt to load valid VIF did not succeed: %ls", L"[Unknown COM Exception]");
+    }
+  } catch (const std::exception& error) {
+    TryToWrite(log, kInformation, unexpected, fileName, Utf8ToUtf16(error.what()));
+  } catch (...) {
+    TryToWrite(log, kInformation, unexpected, fileName, L"<unknown error>");
+  }
+}
+
+/// Loads the file that the operator chose and publishes it.
+void LoadAndPublish(CTULog& log, const char* fileName) {
+  Write(log, kInformation, "Initializing VIF...");
+  auto vif = std::make_unique<CVendorInfoFile>(std::filesystem::path(fileName));
+  CAppState::TestSuiteVIF(vif.get());
+  static_cast<void>(vif.release());  // the application state's from here on
+}
+
+TEST_STATUS Initialize(const TestSuiteContext& context) {
+  CTULog& log = *context.log;
+  if (CAppState::UserInput() == nullptr) return Refuse(log, "Internal error: NULL user input module.");
+  const CTestSuiteLog* suiteLog = CAppState::TestSuiteLog();
+  if (suiteLog == nullptr) return Refuse(log, "Internal error: NULL test suite log.");
+  if (!context.userInput->ChooseFile(kPrompt, kCaption, 0, 0))
+    return Refuse(log, "No VIF selected for this test suite.");
+  const CSafeString fileName = suiteLog->VifFileName();
+  try {
+    Write(log, kInformation, "Selected VIF: %s.", fileName);
+    LoadAndPublish(log, fileName.get());
+  } catch (...) {
+    WriteCreateError(log, fileName.get());
+  }
+  return kDone;
+}
+
+/// Writes the farewell line and deletes the VIF.
+void Delete(CTULog* log, std::unique_ptr<CVendorInfoFile> vif) {
+  std::wstring fileName = L"<unknown file>";
+  try {
+    fileName = vif->FileName();
+    if (log != nullptr) Write(*log, kInformation, L"Deleting Test Suite VIF: %ls", fileName);
+    vif = nullptr;
+  } catch (const std::bad_alloc&) {
+    throw;
+  } catch (const std::exception& error) {
+    if (log == nullptr) return;
+    TryToWrite(*log, kInformation, L"Unexpected error deleting %ls: %ls.", fileName, Utf8ToUtf16(error.what()));
+  } catch (...) {
+    if (log != nullptr) TryToWrite(*log, kInformation, L"Unexpected error deleting %ls: <unknown>.", fileName);
+  }
+}
+
+}  // namespace
+
+TEST_STATUS TestSuiteVIF_Initialize(const TestSuiteContext* context) {
+  if (context == nullptr || context->log == nullptr) return kRefused;
+  try {
+    return Initialize(*context);
+  } catch (const std::bad_alloc&) {
+    throw;
+  } catch (...) {
+    // The host's own modules failed before a file was chosen.
+    WriteCreateError(*context->log, "");
+    return kRefused;
+  }
+}
+
+TEST_STATUS TestSuiteVIF_Cleanup(const TestSuiteContext* context) {
+  CTULog* log = context != nullptr ? context->log : nullptr;
+  std::unique_ptr<CVendorInfoFile> vif(CAppState::TestSuiteVIF());
+  CAppState::TestSuiteVIF(nullptr);  // before anything can fail
+  if (vif != nullptr) Delete(log, std::move(vif));
+  return kDone;
+}
