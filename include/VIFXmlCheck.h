@@ -28,8 +28,9 @@ using VifElementObserver = std::function<void(const VifElementReport&)>;
 /// - the application's vendor, name or version beside a description, which is preferred to them;
 /// - an item of a list or a component without any element in it (many a product has none, so that is not reported).
 ///
-/// The field made of the application's vendor, name and version is reported for `VIF_App`. Elements of other namespaces,
-/// such as optional content, are not reported.
+/// The field made of the application's vendor, name and version is reported for `VIF_App`. Elements of other
+/// namespaces, such as optional content, are not reported.
+///
 /// \param observer is told of each; when it is empty, nobody is
 /// \throws CVIFInvalidFile and the other exceptions of loading, _com_error included, and whatever the observer throws,
 ///   which ends the reading

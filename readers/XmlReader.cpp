@@ -73,8 +73,8 @@ class CExtraction {
   void Run() {
     ReadApplication();
     ReadSpecification();
-    for (const wchar_t* xpath : {L"vif:Vendor_Name", L"vif:Model_Part_Number", L"vif:Product_Revision", L"vif:TID",
-                                 L"vif:VIF_Product_Type"}) {
+    for (const wchar_t* xpath :
+         {L"vif:Vendor_Name", L"vif:Model_Part_Number", L"vif:Product_Revision", L"vif:TID", L"vif:VIF_Product_Type"}) {
       ReadHeaderElement(xpath, kVifSlots);
     }
     // The certification is the product's and not the file's.

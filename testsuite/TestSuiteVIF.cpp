@@ -47,9 +47,8 @@ TEST_STATUS Refuse(CTULog& log, const char* reason) {
 }
 
 /// To be called where an exception has been caught: writes what it says. Out-of-memory passes.
-/// \param fileName narrow, as the host gave it. It goes to a wide placeholder as it stands, and appears as it is
-/// because
-///   the buffer looks at what it is given.
+/// \param fileName narrow, as the host gave it. It goes to a wide placeholder as it stands: the buffer looks at what it
+///   is given and prints it as it is.
 void WriteCreateError(CTULog& log, const char* fileName) {
   constexpr const wchar_t* unexpected = L"Unexpected error creating %ls: %ls.";
   try {

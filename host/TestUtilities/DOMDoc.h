@@ -57,6 +57,8 @@ class ZO_API CDOMDoc {
   const std::vector<DOMDocProblem>& Problems() const noexcept;
 
   /// Finds out where an element of this document stands in its file: the line and the column of its start tag, from 1.
+  /// The column is 0 where it cannot be told, as for some start tags that go over several lines, and may be too large
+  /// behind an end tag on the same line whose name is not ASCII.
   /// \return false, with 0 for both, when the node is none of this document or the platform does not tell
   bool Locate(IXMLDOMNode& node, std::size_t& line, std::size_t& column) const;
 
@@ -67,7 +69,8 @@ class ZO_API CDOMDoc {
 
   /// The full path of a schema file: in the directory set by `SetSchemaDirectory` if it is there, else in the installed
   /// data directory if it is there, else beside this library. When it is in none of these, the path that it would have
-  /// in the first of them, so that an error can name it. \param fileName its name; null counts as empty
+  /// in the first of them, so that an error can name it.
+  /// \param fileName its name; null counts as empty
   static std::wstring MakeFullSchemaPath(const wchar_t* fileName);
 
   /// Sets the directory in which schemas are looked for first, for documents constructed from now on; empty for none.

@@ -29,7 +29,10 @@ class CComPointer {
   CComPointer(const CComPointer& other) noexcept : CComPointer(other.m_pointer) {}
   CComPointer(CComPointer&& other) noexcept : m_pointer(std::exchange(other.m_pointer, nullptr)) {}
 
-  CComPointer& operator=(const CComPointer& other) noexcept { return *this = CComPointer(other); }
+  CComPointer& operator=(const CComPointer& other) noexcept {
+    if (this != &other) *this = CComPointer(other);
+    return *this;
+  }
   CComPointer& operator=(CComPointer&& other) noexcept {
     std::swap(m_pointer, other.m_pointer);
     return *this;

@@ -65,13 +65,13 @@ HRESULT CDomDocument::get_text(BSTR* text) {
 HRESULT CDomDocument::selectNodes(BSTR xpath, IXMLDOMNodeList** nodes) {
   if (Tree() != nullptr) return SelectList(m_state, Node(), xpath, nodes);
   if (nodes != nullptr) *nodes = nullptr;
-  return nodes != nullptr ? S_FALSE : E_INVALIDARG;
+  return nodes != nullptr && xpath != nullptr ? S_FALSE : E_INVALIDARG;
 }
 
 HRESULT CDomDocument::selectSingleNode(BSTR xpath, IXMLDOMNode** node) {
   if (Tree() != nullptr) return SelectFirst(m_state, Node(), xpath, node);
   if (node != nullptr) *node = nullptr;
-  return node != nullptr ? S_FALSE : E_INVALIDARG;
+  return node != nullptr && xpath != nullptr ? S_FALSE : E_INVALIDARG;
 }
 
 HRESULT CDomDocument::get_namespaceURI(BSTR* uri) {

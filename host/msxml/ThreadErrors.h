@@ -11,16 +11,28 @@ namespace msxml {
 class CThreadErrors {
  public:
   CThreadErrors(xmlStructuredErrorFunc function, void* data)
-      : m_functionBefore(xmlStructuredError), m_dataBefore(xmlStructuredErrorContext) {
+      : m_functionBefore(xmlStructuredError),
+        m_dataBefore(xmlStructuredErrorContext),
+        m_printBefore(xmlGenericError),
+        m_printDataBefore(xmlGenericErrorContext) {
     xmlSetStructuredErrorFunc(data, function);
+    xmlSetGenericErrorFunc(nullptr, PrintNothing);
   }
   CThreadErrors(const CThreadErrors&) = delete;
   CThreadErrors& operator=(const CThreadErrors&) = delete;
-  ~CThreadErrors() { xmlSetStructuredErrorFunc(m_dataBefore, m_functionBefore); }
+  ~CThreadErrors() {
+    xmlSetStructuredErrorFunc(m_dataBefore, m_functionBefore);
+    xmlSetGenericErrorFunc(m_printDataBefore, m_printBefore);
+  }
 
  private:
+  // What libxml2 prints without a structure says no more than what it reports with one.
+  static void PrintNothing(void*, const char*, ...) {}
+
   xmlStructuredErrorFunc m_functionBefore;
   void* m_dataBefore;
+  xmlGenericErrorFunc m_printBefore;
+  void* m_printDataBefore;
 };
 
 }  // namespace msxml

@@ -22,10 +22,15 @@ namespace {
 
 // The limits that libxml2 sets on the length of texts and names are lifted: a text takes no more memory than the file
 // has, and entities, which could multiply it, cannot be declared.
-constexpr int kOptions = XML_PARSE_NONET | XML_PARSE_HUGE;
+// That the five entities of every document are replaced everywhere has to be asked for.
+constexpr int kOptions = XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_NOENT;
 
 // The parser looks through them for every name with a prefix.
 constexpr int kMostNamespaces = 1'000;
+
+// Comments, processing instructions and CDATA sections in a row. They cut a text in pieces, and libxml2's validation
+// copies all that it has of a value for each piece that is added.
+constexpr int kMostPieces = 1'000;
 
 /// What the parser reads from: a file whose tags are kept within bounds.
 struct Source {
@@ -48,6 +53,7 @@ using ContextPointer = std::unique_ptr<xmlParserCtxt, FreeContext>;
 struct Run {
   CProblems& problems;
   std::vector<Position> positions;
+  int pieces = 0;  // since the last tag
 };
 
 Run& RunOf(const xmlParserCtxt& context) { return *static_cast<Run*>(context._private); }
@@ -90,6 +96,7 @@ void StartElement(void* data, const xmlChar* name, const xmlChar* prefix, const 
                   const xmlChar** namespaces, int attributeCount, int defaultedCount, const xmlChar** attributes) {
   auto& context = *static_cast<xmlParserCtxt*>(data);
   Run& run = RunOf(context);
+  run.pieces = 0;
   try {
     if (context.nodeNr >= kGreatestDepth) {
       Stop(context, QualifiedName(prefix, name),
@@ -113,6 +120,35 @@ void StartElement(void* data, const xmlChar* name, const xmlChar* prefix, const 
   if (context.node != nullptr) CXmlTree::SetNumber(*context.node, run.positions.size());
 }
 
+void EndElement(void* data, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri) {
+  RunOf(*static_cast<const xmlParserCtxt*>(data)).pieces = 0;
+  xmlSAX2EndElementNs(data, name, prefix, uri);
+}
+
+/// Counts what cuts a text in two.
+void CountPiece(void* data) {
+  auto& context = *static_cast<xmlParserCtxt*>(data);
+  if (++RunOf(context).pieces != kMostPieces + 1) return;
+  const xmlChar* name = context.node != nullptr ? context.node->name : nullptr;
+  Stop(context, View(name),
+       "There are more than 1000 comments, processing instructions and CDATA sections without a tag between them.");
+}
+
+void Comment(void* data, const xmlChar* text) {
+  CountPiece(data);
+  xmlSAX2Comment(data, text);
+}
+
+void Instruction(void* data, const xmlChar* target, const xmlChar* text) {
+  CountPiece(data);
+  xmlSAX2ProcessingInstruction(data, target, text);
+}
+
+void CData(void* data, const xmlChar* text, int length) {
+  CountPiece(data);
+  xmlSAX2CDataBlock(data, text, length);
+}
+
 void RefuseDocumentType(void* data, const xmlChar* name, const xmlChar*, const xmlChar*) {
   Stop(*static_cast<xmlParserCtxt*>(data), View(name), "A document type declaration is not allowed.");
 }
@@ -131,6 +167,10 @@ ContextPointer MakeContext(Run& run) {
   if (context == nullptr) throw std::bad_alloc();
   context->_private = &run;
   context->sax->startElementNs = StartElement;
+  context->sax->endElementNs = EndElement;
+  context->sax->comment = Comment;
+  context->sax->processingInstruction = Instruction;
+  context->sax->cdataBlock = CData;
   context->sax->internalSubset = RefuseDocumentType;
   context->sax->serror = ReportError;
   return context;
@@ -157,6 +197,10 @@ std::shared_ptr<const CXmlTree> ParseXmlFile(const std::filesystem::path& path, 
                  "An element has more than " + std::to_string(CTagGuard::kMostAttributes) + " attributes.");
   }
   const bool isSound = document != nullptr && context->wellFormed == 1 && context->nsWellFormed == 1;
+  // The parser takes a NUL for the end.
+  if (isSound && context->input != nullptr && context->input->cur < context->input->end) {
+    problems.Add(static_cast<std::size_t>(std::max(context->input->line, 0)), 0, {}, "There is a NUL in the file.");
+  }
   if (!isSound && problems.IsEmpty()) problems.Add(0, 0, {}, "The file is not well-formed XML.");
   if (!problems.IsEmpty()) return nullptr;
   return std::make_shared<const CXmlTree>(std::move(document), std::move(run.positions));

@@ -56,8 +56,7 @@ class CAlarm {
 /// Appends files to an object that holds fields already.
 class HostileXmlTest : public testing::Test {
  protected:
-  HostileXmlTest()
-      : m_vif(m_dir.Write("held.txt", "Vendor_Name: \"held\"\r\n")), m_held(FieldTexts(*m_vif.GetFields())) {}
+  HostileXmlTest() : m_vif(m_dir.Write("held.txt", "USB_VID: 1")), m_held(FieldTexts(*m_vif.GetFields())) {}
 
   /// Appends a file. Either it is loaded, or the error has its form and reasons that can be printed, and the object is
   /// as it was.
@@ -89,7 +88,6 @@ class HostileXmlTest : public testing::Test {
 
   const std::vector<std::string>& Reasons() const { return m_reasons; }
   const TempDir& Dir() const { return m_dir; }
-  CVendorInfoFile& Vif() { return m_vif; }
 
   /// The fields that the last file appended.
   std::vector<std::string> NewFields() const {
@@ -184,7 +182,7 @@ TEST_F(HostileXmlTest, ElementsMayBeNested256Deep) {
 }
 
 TEST_F(HostileXmlTest, ElementsNestedDeeperAreRefused) {
-  for (const std::size_t depth : {256, 299, 99'999}) {
+  for (const std::size_t depth : {256U, 299U, 99'999U}) {
     EXPECT_FALSE(AppendVif(Repeated("<o>", depth) + Repeated("</o>", depth))) << depth;
     EXPECT_THAT(Reasons(), ElementsAre("Elements are nested more than 256 deep.")) << depth;
   }
@@ -200,37 +198,50 @@ TEST_F(HostileXmlTest, HundredThousandSiblingsAreLoaded) {
 }
 
 TEST_F(HostileXmlTest, LongTextIsLoaded) {
-  EXPECT_TRUE(AppendVif("<TID>" + std::string(20'000'000, 'x') + "</TID>"));
-  EXPECT_EQ(Vif().Count(), 2U);
+  EXPECT_TRUE(AppendVif("<TID>" + Repeated("x", 10'000'000) + "</TID>"));
+  EXPECT_EQ(NewFields().size(), 1U);
 }
 
 TEST_F(HostileXmlTest, LongAttributeIsLoaded) {
-  EXPECT_TRUE(AppendVif("<TID value='" + std::string(20'000'000, 'x') + "'/>"));
-  EXPECT_EQ(Vif().Count(), 2U);
+  EXPECT_TRUE(AppendVif("<TID value='" + Repeated("x", 10'000'000) + "'/>"));
+  EXPECT_EQ(NewFields().size(), 1U);
 }
 
-TEST_F(HostileXmlTest, LongNameIsRefusedOrLoaded) {
+TEST_F(HostileXmlTest, LongNamesAreLoadedAndCutInReasons) {
   const std::string name(1'000'000, 'x');
-  if (AppendVif("<" + name + " " + name + "='1'>1</" + name + ">")) EXPECT_EQ(Vif().Count(), 1U);
+  EXPECT_TRUE(AppendVif("<Component><" + name + " " + name + "='1'>1</" + name + "></Component>"));
+  EXPECT_EQ(NewFields().size(), 1U);
   EXPECT_FALSE(AppendVif("<" + name + ">"));
+  EXPECT_FALSE(AppendVif("<TID " + name + "='1'/>"));
 }
 
 TEST_F(HostileXmlTest, ManyReferencesInOneTextAreLoaded) {
   EXPECT_TRUE(AppendVif("<TID>" + Repeated("&amp;", 500'000) + "</TID>"));
 }
 
-TEST_F(HostileXmlTest, ManyPiecesOfOneTextAreLoaded) {
-  EXPECT_TRUE(AppendVif("<TID>" + Repeated("x<!---->", 20'000) + "</TID>"));
+TEST_F(HostileXmlTest, ThousandPiecesOfOneTextAreLoaded) {
+  EXPECT_TRUE(AppendVif("<TID>" + Repeated("x<!---->", 1'000) + "</TID>"));
+  EXPECT_TRUE(AppendVif("<TID>" + Repeated("<![CDATA[x]]>", 1'000) + "</TID>"));
 }
 
-TEST_F(HostileXmlTest, DISABLED_MillionPiecesOfOneTextTakeBoundedTime) {
-  AppendVif("<TID>" + Repeated("x<!---->", 1'000'000) + "</TID>");
+// Validating them would take time and memory that grow with the square of their number.
+TEST_F(HostileXmlTest, MorePiecesOfOneTextAreRefused) {
+  for (const std::size_t count : {1'001U, 300'000U}) {
+    EXPECT_FALSE(AppendVif("<TID>" + Repeated("x<!---->", count) + "</TID>"));
+    EXPECT_FALSE(AppendVif("<TID>" + Repeated("x<?y?>", count) + "</TID>"));
+    EXPECT_FALSE(AppendVif("<TID>" + Repeated("x<![CDATA[y]]>", count) + "</TID>"));
+  }
 }
 
-TEST_F(HostileXmlTest, DISABLED_HundredThousandAttributesTakeBoundedTime) {
+TEST_F(HostileXmlTest, CommentsBetweenElementsAreLoadedInAnyNumber) {
+  EXPECT_TRUE(AppendVif("<Component>" + Repeated("<!--;;;;--><RP_Value value='1'/>\n", 5'000) + "</Component>"));
+  EXPECT_EQ(NewFields().size(), 5'000U);
+}
+
+TEST_F(HostileXmlTest, HundredThousandAttributesAreRefused) {
   std::string attributes;
   for (int i = 0; i < 100'000; ++i) attributes += " a" + std::to_string(i) + "=''";
-  AppendVif("<Component" + attributes + "/>");
+  EXPECT_FALSE(AppendVif("<Component" + attributes + "/>"));
 }
 
 TEST_F(HostileXmlTest, ManyReasonsAreListedUpToABound) {
@@ -256,11 +267,11 @@ TEST_F(HostileXmlTest, ChangedBytesNeverCrash) {
   std::mt19937_64 generator = testsupport::SeededGenerator();
   const std::string whole =
       "<?xml version='1.0' encoding='utf-8'?>\n" + kBegin +
-      "<Vendor_Name>\u00E4</Vendor_Name><Component><SrcPdoList><SrcPDO><Src_PDO_Voltage value='100'>5 V"
-      "</Src_PDO_Voltage></SrcPDO></SrcPdoList><![CDATA[ ]]><?p?></Component>" +
+      "<Vendor_Name><![CDATA[\u00E4]]></Vendor_Name><Component><SrcPdoList><SrcPDO><Src_PDO_Voltage value='100'>5 V"
+      "</Src_PDO_Voltage></SrcPDO></SrcPdoList><?p?></Component>" +
       kEnd;
   std::size_t loaded = 0;
-  constexpr std::size_t runs = 2000;
+  constexpr std::size_t runs = 1000;
   for (std::size_t i = 0; i < runs; ++i) {
     std::string changed = whole;
     for (std::size_t j = 0; j <= RandomBelow(generator, 3); ++j) {
@@ -293,8 +304,12 @@ TEST_F(HostileXmlTest, WhatIsNotWellFormedIsNotValid) {
 TEST_F(HostileXmlTest, ContentBehindTheRootIsNotValid) {
   EXPECT_FALSE(Append(kBegin + kEnd + "text"));
   EXPECT_FALSE(Append(kBegin + kEnd + kBegin + kEnd));
-  EXPECT_FALSE(Append(kBegin + kEnd + std::string(1, '\0')));
   EXPECT_TRUE(Append(kBegin + kEnd + "\n<!--c-->\n"));
+}
+
+TEST_F(HostileXmlTest, NulBehindTheRootIsNotValid) {
+  EXPECT_FALSE(Append(kBegin + kEnd + std::string(1, '\0')));
+  EXPECT_FALSE(Append(kBegin + kEnd + std::string(1, '\0') + "<TID>"));
 }
 
 TEST_F(HostileXmlTest, EmptyFileIsNotValid) {
@@ -322,7 +337,8 @@ TEST_F(HostileXmlTest, Utf8IsLoadedHoweverItIsDeclared) {
 }
 
 TEST_F(HostileXmlTest, Utf8MisspelledIsRefusedOrLoaded) {
-  if (Append("<?xml version='1.0' encoding='utf8'?>" + kField)) EXPECT_THAT(NewFields().size(), 1U);
+  const bool isLoaded = Append("<?xml version='1.0' encoding='utf8'?>" + kField);
+  EXPECT_EQ(NewFields().size(), isLoaded ? 1U : 0U);
 }
 
 TEST_F(HostileXmlTest, Utf16IsLoaded) {
@@ -346,7 +362,8 @@ TEST_F(HostileXmlTest, Utf16CutInACharacterIsNotValid) {
 }
 
 TEST_F(HostileXmlTest, Utf8DeclaredAsUtf16IsRefusedOrLoadedAsItIs) {
-  if (Append("<?xml version='1.0' encoding='UTF-16'?>" + kField)) EXPECT_THAT(NewFields().size(), 1U);
+  const bool isLoaded = Append("<?xml version='1.0' encoding='UTF-16'?>" + kField);
+  EXPECT_EQ(NewFields().size(), isLoaded ? 1U : 0U);
 }
 
 TEST_F(HostileXmlTest, Latin1IsLoaded) {

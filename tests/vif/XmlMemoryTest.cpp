@@ -1,8 +1,8 @@
 // What becomes of an object when memory runs out while it loads an XML VIF. Needs a program of its own, because it is
 // linked with an operator new and an allocation of BSTRs that fail.
-#include "support/FailingMemory.h"
 #include "TextlessErrors.h"
 #include "VendorInfoFile.h"
+#include "support/FailingMemory.h"
 
 #include "BaseUtilities/Exceptions.h"
 #include "msxml/ComError.h"

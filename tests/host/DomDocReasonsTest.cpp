@@ -1,0 +1,63 @@
+// The reasons why a document is not valid, as texts for people.
+#include "BaseUtilities/StringConvert.h"
+#include "TestUtilities/DOMDoc.h"
+#include "support/TempDir.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace std::literals;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+std::vector<DOMDocProblem> ProblemsOf(const std::string& document) {
+  const testsupport::TempDir dir;
+  CDOMDoc doc({});
+  EXPECT_FALSE(doc.ValidateDoc(dir.Write("x.xml", document)));
+  return doc.Problems();
+}
+
+TEST(DomDocReasonsTest, AreValidUtf8WhateverTheFileHolds) {
+  for (const DOMDocProblem& problem : ProblemsOf("<\xFE\xFEVV")) {
+    EXPECT_EQ(problem.reason, Utf16ToUtf8(Utf8ToUtf16(problem.reason)));
+  }
+}
+
+TEST(DomDocReasonsTest, AreCutWhereTheyQuoteALongText) {
+  const std::vector<DOMDocProblem> problems = ProblemsOf("<a><" + std::string(100'000, 'b') + "></c></a>");
+  ASSERT_THAT(problems, Not(IsEmpty()));
+  for (const DOMDocProblem& problem : problems) {
+    EXPECT_LT(problem.reason.size(), 1100u);
+    EXPECT_LT(problem.element.size(), 1100u);
+  }
+}
+
+TEST(DomDocReasonsTest, AreOnOneLine) {
+  for (const DOMDocProblem& problem : ProblemsOf("<a b='\n\n' b='\n'>\n</c>")) {
+    EXPECT_EQ(problem.reason.find_first_of("\r\n\t"), std::string::npos);
+  }
+}
+
+/// UTF-16 with half of a pair of surrogates in it.
+const std::string kHalfAPair = "\xFF\xFE<\0a\0>\0\x3D\xD8x\0<\0/\0a\0>\0"s;
+
+TEST(DomDocReasonsTest, TellOfTextThatCannotBeDecoded) {
+  EXPECT_THAT(ProblemsOf(kHalfAPair).at(0).reason, HasSubstr("input conversion failed"));
+}
+
+TEST(DomDocReasonsTest, AreNotWrittenToStandardError) {
+  testing::internal::CaptureStderr();
+  ProblemsOf(kHalfAPair);
+  ProblemsOf("<a");
+  ProblemsOf("<a xmlns='relative uri'></b>");
+  ProblemsOf("<!DOCTYPE a><a/>");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+}  // namespace

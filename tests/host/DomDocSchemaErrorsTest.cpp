@@ -1,0 +1,159 @@
+// Schemas that cannot be used.
+#include "BaseUtilities/Exceptions.h"
+#include "support/LoopbackListener.h"
+#include "support/Schemas.h"
+#include "support/XmlDocument.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::StartsWith;
+using testsupport::CLoopbackListener;
+using testsupport::CSchemaDocument;
+using testsupport::Schema;
+using testsupport::TempDir;
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kElement = "<xs:element name='n' type='xs:integer'/>";
+
+class DomDocSchemaErrorsTest : public testing::Test {
+ protected:
+  /// The message of the error that validating against a schema ends with; "<no exception>" when there is none.
+  std::string ErrorOf(const fs::path& schema, const std::string& uri = "urn:t") const {
+    CSchemaDocument document({{schema, uri}});
+    try {
+      document.ValidateDoc(m_dir.Write("x.xml", "<n xmlns='urn:t'>1</n>"));
+    } catch (const CZoDOMDocException& error) {
+      return error.what();
+    }
+    return "<no exception>";
+  }
+
+  std::string ErrorOfText(std::string_view schema) const { return ErrorOf(m_dir.Write("t.xsd", schema)); }
+
+  const TempDir& Dir() const { return m_dir; }
+
+  static std::string Prefix(const fs::path& schema) { return "Couldn't load the schema " + schema.string(); }
+
+ private:
+  TempDir m_dir;
+};
+
+TEST_F(DomDocSchemaErrorsTest, UsableSchemaIsNoError) {
+  EXPECT_EQ(ErrorOfText(Schema("urn:t", kElement)), "<no exception>");
+}
+
+TEST_F(DomDocSchemaErrorsTest, MissingSchema) {
+  const fs::path schema = Dir().Path() / "missing \u00E4 %.xsd";
+  EXPECT_EQ(ErrorOf(schema), Prefix(schema) + ": The file cannot be opened: No such file or directory.");
+}
+
+TEST_F(DomDocSchemaErrorsTest, DirectoryInPlaceOfASchema) {
+  EXPECT_EQ(ErrorOf(Dir().Path()), Prefix(Dir().Path()) + ": The file is not a regular file.");
+}
+
+TEST_F(DomDocSchemaErrorsTest, PipeInPlaceOfASchema) {
+  const fs::path schema = Dir().Path() / "t.xsd";
+  ASSERT_EQ(mkfifo(schema.c_str(), S_IRUSR | S_IWUSR), 0);
+  EXPECT_EQ(ErrorOf(schema), Prefix(schema) + ": The file is not a regular file.");
+}
+
+TEST_F(DomDocSchemaErrorsTest, OneOfManyIsMissing) {
+  const fs::path missing = Dir().Path() / "u.xsd";
+  CSchemaDocument document({{Dir().Write("t.xsd", Schema("urn:t", kElement)), "urn:t"}, {missing, "urn:u"}});
+  const fs::path file = Dir().Write("x.xml", "<n xmlns='urn:t'>1</n>");
+  try {
+    document.ValidateDoc(file);
+    FAIL() << "no exception";
+  } catch (const CZoDOMDocException& error) {
+    EXPECT_THAT(error.what(), StartsWith(Prefix(missing)));
+  }
+}
+
+TEST_F(DomDocSchemaErrorsTest, MalformedSchema) {
+  EXPECT_THAT(ErrorOfText("<xs:schema"), AllOf(StartsWith("Couldn't load the schema "), HasSubstr("t.xsd")));
+  EXPECT_THAT(ErrorOfText(""), AllOf(StartsWith("Couldn't load the schema "), HasSubstr("t.xsd")));
+}
+
+TEST_F(DomDocSchemaErrorsTest, DocumentThatIsNoSchema) {
+  EXPECT_THAT(ErrorOfText("<a/>"), AllOf(StartsWith("Couldn't load the schema "), HasSubstr("t.xsd")));
+}
+
+TEST_F(DomDocSchemaErrorsTest, SchemaOfAnotherNamespace) {
+  EXPECT_THAT(ErrorOfText(Schema("urn:other", kElement)),
+              AllOf(StartsWith("Couldn't load the schema "), HasSubstr("t.xsd"), HasSubstr("urn:other")));
+}
+
+TEST_F(DomDocSchemaErrorsTest, SchemaOfNoNamespace) {
+  EXPECT_THAT(
+      ErrorOfText("<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'>" + std::string(kElement) + "</xs:schema>"),
+      AllOf(StartsWith("Couldn't load the schema "), HasSubstr("t.xsd")));
+}
+
+TEST_F(DomDocSchemaErrorsTest, SchemaThatBreaksTheRulesOfSchemas) {
+  EXPECT_THAT(ErrorOfText(Schema("urn:t", "\n<xs:element name='n' type='missing'/>")),
+              AllOf(StartsWith("Couldn't load the schema "), HasSubstr("t.xsd: line 2: "), HasSubstr("missing")));
+  EXPECT_THAT(ErrorOfText(Schema("urn:t", "<xs:nonsense/>")),
+              AllOf(StartsWith("Couldn't load the schema "), HasSubstr("t.xsd: line 1: "), HasSubstr("not valid")));
+}
+
+TEST_F(DomDocSchemaErrorsTest, MissingIncludedFile) {
+  EXPECT_THAT(ErrorOfText(Schema("urn:t", "<xs:include schemaLocation='gone.xsd'/>")),
+              StartsWith(Prefix(Dir().Path() / "gone.xsd")));
+}
+
+TEST_F(DomDocSchemaErrorsTest, MissingImportedFile) {
+  EXPECT_THAT(ErrorOfText(Schema("urn:t", "<xs:import namespace='urn:u' schemaLocation='gone.xsd'/>")),
+              StartsWith(Prefix(Dir().Path() / "gone.xsd")));
+}
+
+TEST_F(DomDocSchemaErrorsTest, NothingIsFetchedFromTheNetwork) {
+  const CLoopbackListener listener;
+  for (const char* kind : {"include", "import namespace='urn:u'", "redefine"}) {
+    for (const char* scheme : {"http", "ftp", "https"}) {
+      const std::string url = listener.Url(scheme) + "/u.xsd";
+      EXPECT_EQ(ErrorOfText(Schema("urn:t", "<xs:" + std::string(kind) + " schemaLocation='" + url + "'/>")),
+                "Couldn't load the schema " + url + ": nothing is loaded from the network");
+    }
+  }
+  EXPECT_FALSE(listener.WasCalled());
+}
+
+TEST_F(DomDocSchemaErrorsTest, SchemaOnTheNetworkIsAFileThatIsMissing) {
+  const CLoopbackListener listener;
+  EXPECT_THAT(ErrorOf(listener.Url("http") + "/t.xsd"), StartsWith("Couldn't load the schema "));
+  EXPECT_FALSE(listener.WasCalled());
+}
+
+TEST_F(DomDocSchemaErrorsTest, ExternalEntityOfASchemaIsNotFetched) {
+  const CLoopbackListener listener;
+  EXPECT_THAT(ErrorOfText("<!DOCTYPE x SYSTEM '" + listener.Url("http") + "/x.dtd' [<!ENTITY e SYSTEM '" +
+                          listener.Url("http") + "/e'>]>" + Schema("urn:t", "&e;" + std::string(kElement))),
+              StartsWith("Couldn't load the schema "));
+  EXPECT_FALSE(listener.WasCalled());
+}
+
+TEST_F(DomDocSchemaErrorsTest, DocumentIsThereAfterTheError) {
+  CSchemaDocument document({{Dir().Path() / "missing.xsd", "urn:t"}});
+  EXPECT_THROW(document.ValidateDoc(Dir().Write("x.xml", "<n xmlns='urn:t'>1</n>")), CZoDOMDocException);
+  EXPECT_EQ(testsupport::Text(*document.GetRootElement()), "1");
+}
+
+TEST_F(DomDocSchemaErrorsTest, MalformedDocumentIsNotValidWhateverTheSchema) {
+  CSchemaDocument document({{Dir().Path() / "missing.xsd", "urn:t"}});
+  EXPECT_FALSE(document.ValidateDoc(Dir().Write("x.xml", "<n")));
+  EXPECT_EQ(document.Problems().size(), 1U);
+}
+
+}  // namespace
