@@ -39,6 +39,23 @@ int AwaitExit(pid_t child) {
   return WIFEXITED(state) ? WEXITSTATUS(state) : 128 + WTERMSIG(state);
 }
 
+/// Runs a program on a terminal. The keys are there before the program asks; the terminal keeps them for it.
+ProgramResult RunWithKeys(const std::vector<std::string>& command, unsigned short columns, const std::string& keys) {
+  winsize size = {};
+  size.ws_row = 50;
+  size.ws_col = columns;
+  int terminal = -1;
+  const pid_t child = forkpty(&terminal, nullptr, nullptr, &size);
+  if (child < 0) throw std::runtime_error("no terminal");
+  if (child == 0) Execute(command);
+  const bool isTyped = write(terminal, keys.data(), keys.size()) == static_cast<ssize_t>(keys.size());
+  ProgramResult result;
+  result.output = ReadAll(terminal);
+  result.status = AwaitExit(child);
+  if (!isTyped) throw std::runtime_error("the terminal takes no keys");
+  return result;
+}
+
 }  // namespace
 
 ProgramResult RunProgram(const std::vector<std::string>& command) {
@@ -70,17 +87,12 @@ bool HasTerminals() {
 }
 
 ProgramResult RunOnTerminal(const std::vector<std::string>& command, unsigned short columns) {
-  winsize size = {};
-  size.ws_row = 50;
-  size.ws_col = columns;
-  int terminal = -1;
-  const pid_t child = forkpty(&terminal, nullptr, nullptr, &size);
-  if (child < 0) throw std::runtime_error("no terminal");
-  if (child == 0) Execute(command);
-  ProgramResult result;
-  result.output = ReadAll(terminal);
-  result.status = AwaitExit(child);
-  return result;
+  return RunWithKeys(command, columns, {});
+}
+
+ProgramResult RunOnTerminal(const std::vector<std::string>& command, unsigned short columns, const std::string& typed) {
+  constexpr char endOfInput = 4;  // Ctrl-D
+  return RunWithKeys(command, columns, typed + endOfInput);
 }
 
 std::vector<std::string> Lines(const std::string& text) {

@@ -23,6 +23,10 @@ bool HasTerminals();
 /// Runs a program on a terminal of that many columns.
 ProgramResult RunOnTerminal(const std::vector<std::string>& command, unsigned short columns);
 
+/// The same with somebody who types, and then ends the input.
+/// \param typed short text of whole lines; the terminal shows it like all that is typed
+ProgramResult RunOnTerminal(const std::vector<std::string>& command, unsigned short columns, const std::string& typed);
+
 /// The lines of a text, without their line ends (LF, or the CR LF that a terminal makes of it).
 std::vector<std::string> Lines(const std::string& text);
 

@@ -1,0 +1,23 @@
+#include "SharedLibrary.h"
+
+#include <windows.h>
+
+#include <system_error>
+
+namespace host {
+
+CSharedLibrary::CSharedLibrary(const std::string& file) : m_file(file), m_handle(LoadLibraryA(file.c_str())) {
+  if (m_handle != nullptr) return;
+  const auto error = static_cast<int>(GetLastError());
+  throw CLibraryError("Cannot load " + file + ": " + std::system_category().message(error));
+}
+
+CSharedLibrary::~CSharedLibrary() { FreeLibrary(static_cast<HMODULE>(m_handle)); }
+
+CSharedLibrary::AnyFunction CSharedLibrary::FindFunction(const char* name) const {
+  const FARPROC function = GetProcAddress(static_cast<HMODULE>(m_handle), name);
+  if (function == nullptr) throw CLibraryError(m_file + " has no function " + name);
+  return reinterpret_cast<AnyFunction>(function);
+}
+
+}  // namespace host

@@ -1,0 +1,94 @@
+#include "UserInput.h"
+
+#include "Printable.h"
+#include "VifDirectory.h"
+
+#include <BaseUtilities/StringConvert.h>
+#include <TestUtilities/AppState.h>
+#include <ZorvenLog/TestSuiteLog.h>
+
+#include <charconv>
+#include <iostream>
+#include <optional>
+#include <system_error>
+#include <utility>
+
+namespace host {
+
+namespace {
+
+using Files = std::vector<std::filesystem::path>;
+
+/// The library asks the suite's log for the choice, not the user-input module. The name must be one that the system's
+/// file functions understand, just as the operator's file is called: not the text that was made printable.
+bool Record(const std::filesystem::path& file) {
+  CTestSuiteLog* suiteLog = CAppState::TestSuiteLog();
+  if (suiteLog == nullptr) return false;
+  suiteLog->SetVifFileName(CSafeString(file.string()));
+  return true;
+}
+
+std::string Trimmed(const std::string& line) {
+  constexpr const char* blanks = " \t\r";
+  const auto begin = line.find_first_not_of(blanks);
+  return begin == std::string::npos ? std::string() : line.substr(begin, line.find_last_not_of(blanks) - begin + 1);
+}
+
+bool IsNumber(const std::string& answer) { return answer.find_first_not_of("0123456789") == std::string::npos; }
+
+std::optional<std::filesystem::path> FileOfNumber(const std::string& answer, const Files& files) {
+  std::size_t number = 0;
+  const auto [end, error] = std::from_chars(answer.data(), answer.data() + answer.size(), number);
+  if (error == std::errc() && number >= 1 && number <= files.size()) return files[number - 1];
+  std::cout << "The list has no number " << answer << ".\n";
+  return std::nullopt;
+}
+
+std::optional<std::filesystem::path> FileOfPath(const std::string& answer) {
+  std::error_code ignored;
+  if (!std::filesystem::is_regular_file(answer, ignored)) {
+    std::cout << "There is no file " << Printable(answer) << ".\n";
+  } else if (!HasVifExtension(answer)) {
+    std::cout << Printable(answer) << " is no VIF: its name ends neither in .txt nor in .xml.\n";
+  } else {
+    return std::filesystem::path(answer);
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+CTerminalInput::CTerminalInput(std::filesystem::path directory) : m_directory(std::move(directory)) {}
+
+void CTerminalInput::ShowList(const Files& files) const {
+  const std::string directory = Printable(m_directory.string());
+  if (files.empty()) {
+    std::cout << "There are no VIFs in " << directory << ".\n";
+    return;
+  }
+  std::cout << "VIFs in " << directory << ":\n";
+  for (std::size_t i = 0; i < files.size(); ++i) {
+    std::cout << "  " << i + 1 << "  " << Printable(files[i].filename().string()) << '\n';
+  }
+}
+
+bool CTerminalInput::ChooseFile(const wchar_t* prompt, const wchar_t* caption, unsigned long, unsigned long) {
+  const Files files = ListVifs(m_directory);
+  std::cout << Printable(Utf16ToUtf8(caption)) << '\n' << Printable(Utf16ToUtf8(prompt)) << '\n';
+  ShowList(files);
+  for (;;) {
+    std::cout << "Number, or path of a file (nothing to cancel): " << std::flush;
+    std::string line;
+    if (!std::getline(std::cin, line)) std::cout << '\n';  // the end of input leaves the cursor behind the question
+    const std::string answer = Trimmed(line);
+    if (answer.empty() || answer == "q" || answer == "Q") return false;
+    const auto file = IsNumber(answer) ? FileOfNumber(answer, files) : FileOfPath(answer);
+    if (file) return Record(*file);
+  }
+}
+
+CGivenFile::CGivenFile(std::filesystem::path file) : m_file(std::move(file)) {}
+
+bool CGivenFile::ChooseFile(const wchar_t*, const wchar_t*, unsigned long, unsigned long) { return Record(m_file); }
+
+}  // namespace host

@@ -1,0 +1,15 @@
+// The files that an operator may choose.
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+namespace host {
+
+/// Whether a file's extension says that it is a VIF: ".txt" or ".xml" in any letter case. The library goes by it, too.
+bool HasVifExtension(const std::filesystem::path& file);
+
+/// The VIFs of a directory, by name; none when it cannot be read.
+std::vector<std::filesystem::path> ListVifs(const std::filesystem::path& directory);
+
+}  // namespace host
