@@ -3,6 +3,7 @@
 #include "VIFTextCheck.h"
 #include "VendorInfoFile.h"
 #include "support/FieldText.h"
+#include "support/OrdinaryUser.h"
 #include "support/RunTimeErrorOf.h"
 #include "support/TempDir.h"
 
@@ -14,7 +15,6 @@
 #include <sys/un.h>
 #include <unistd.h>
 #include <cerrno>
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <system_error>
@@ -29,6 +29,7 @@ using testsupport::RunTimeErrorOf;
 using testsupport::TempDir;
 
 namespace fs = std::filesystem;
+using testsupport::OrdinaryUser;
 
 /// Ends the program when the test takes too long: reading what has no end is what these tests are afraid of.
 class Alarm {
@@ -39,25 +40,6 @@ class Alarm {
   Alarm& operator=(const Alarm&) = delete;
   Alarm& operator=(Alarm&&) = delete;
   ~Alarm() { alarm(0); }
-};
-
-/// Takes the rights of the superuser away for a while; nothing happens to any other user.
-class OrdinaryUser {
- public:
-  OrdinaryUser() {
-    constexpr uid_t nobody = 65534;
-    if (m_former == 0 && seteuid(nobody) != 0) throw std::system_error(errno, std::generic_category(), "seteuid");
-  }
-  OrdinaryUser(const OrdinaryUser&) = delete;
-  OrdinaryUser(OrdinaryUser&&) = delete;
-  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-  OrdinaryUser& operator=(OrdinaryUser&&) = delete;
-  ~OrdinaryUser() {
-    if (geteuid() != m_former && seteuid(m_former) != 0) std::abort();
-  }
-
- private:
-  uid_t m_former = geteuid();
 };
 
 /// The rights of a file or directory, changed for a while.
