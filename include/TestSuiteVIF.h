@@ -22,7 +22,8 @@ extern "C" {
 /// - "No VIF selected for this test suite." (0x40000000) when the operator chooses no file;
 /// - "Selected VIF: <file>." and "Initializing VIF..." (0x4000000);
 /// - "Unexpected error creating <file>: <reason>." (0x4000000) or "Attempt to load valid VIF did not succeed: <reason>"
-///   (0x40000000) when loading fails.
+///   (0x40000000) when loading fails; the former with "<unknown file>" when the user-input module or the suite's log
+///   throws before a file is known, which counts as a refusal.
 ///
 /// A VIF that is published already is replaced and not deleted: the host calls the hooks by turns.
 /// \param context null, or one without a log, makes the function refuse without a line

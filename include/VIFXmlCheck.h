@@ -5,16 +5,30 @@
 #include "VIFField.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <string>
 
-/// What became of one element of the VIF namespace.
+/// What becomes of an element.
+enum EVifElementFate : std::int32_t {
+  eVifElementField = 0,     ///< it yields a field
+  eVifElementNotRead = 1,   ///< it stands under the root, where it is not known or not the first of its name; it is
+                            ///< passed over with all that is in it
+  eVifElementGivesWay = 2,  ///< it names the application, whose description is preferred to it
+  eVifElementEmpty = 3,     ///< it is a component or an item of a list, with no element of the VIF in it
+  eVifElementForeign = 4,   ///< it stands where elements of the VIF do, but in a namespace that is neither the VIF's
+                            ///< nor that of optional content; it is passed over with all that is in it
+  eVifElementNotUnderstood = 5  ///< it is a group that loading cannot understand; loading fails there
+};
+
+/// One element and its fate.
 struct VifElementReport {
+  EVifElementFate fate;    ///< what becomes of it
   std::size_t line;        ///< of its start tag, from 1; 0 where the platform does not tell
-  std::size_t column;      ///< of its start tag, from 1; 0 where the platform does not tell
+  std::size_t column;      ///< of its start tag, from 1; 0 where that cannot be told
   std::string path;        ///< such as "VIF/Component[2]/SrcPdoList/SrcPDO[1]/Src_PDO_Voltage"; a number where the
-                           ///< element has siblings of its name
+                           ///< element has siblings of its name, and only the beginning of a name that is very long
   const CVIFField* field;  ///< the field that it yields, valid during the call only; null when it yields none
 };
 
@@ -22,16 +36,14 @@ struct VifElementReport {
 using VifElementObserver = std::function<void(const VifElementReport&)>;
 
 /// Reads an XML VIF as loading it would and reports every element that yields a field, in the order of the fields, and
-/// then every element that loading passes over:
+/// then every element that loading passes over, in the order of the file. When loading fails on a group, that group is
+/// the last that is reported.
 ///
-/// - one directly under the root that is not known there, or not the first of its name, with all that is in it;
-/// - the application's vendor, name or version beside a description, which is preferred to them;
-/// - an item of a list or a component without any element in it (many a product has none, so that is not reported).
-///
-/// The field made of the application's vendor, name and version is reported for `VIF_App`. Elements of other
-/// namespaces, such as optional content, are not reported.
+/// The field made of the application's vendor, name and version is reported for `VIF_App`. Optional content and an
+/// empty product, which many files have, are not reported.
 ///
 /// \param observer is told of each; when it is empty, nobody is
-/// \throws CVIFInvalidFile and the other exceptions of loading, _com_error included, and whatever the observer throws,
-///   which ends the reading
+/// \throws CVIFInvalidFile when the file is no valid VIF, CZoRunTimeException and CZoDOMDocException when loading fails
+///   on a group, CZoDOMDocException when a schema cannot be used, _com_error when a call on the document fails, and
+///   whatever the observer throws, which ends the reading
 VIF_API void CheckXmlVif(const std::filesystem::path& fileName, const VifElementObserver& observer);

@@ -43,6 +43,12 @@ std::string LocalName(IXMLDOMNode& node) {
   return SystemText(name.View());
 }
 
+std::string Namespace(IXMLDOMNode& node) {
+  CBstr uri;
+  Require(node.get_namespaceURI(uri.Receive()), node, IID_IXMLDOMNode);
+  return Utf16ToUtf8(uri.View());
+}
+
 std::string Text(IXMLDOMNode& node) {
   CBstr text;
   Require(node.get_text(text.Receive()), node, IID_IXMLDOMNode);

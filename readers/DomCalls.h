@@ -23,6 +23,9 @@ DOMNodePtr Item(IXMLDOMNodeList& nodes, LONG index);
 /// The name without its prefix, in the system code page.
 std::string LocalName(IXMLDOMNode& node);
 
+/// The namespace as UTF-8; empty when there is none.
+std::string Namespace(IXMLDOMNode& node);
+
 /// The text content, in the system code page.
 std::string Text(IXMLDOMNode& node);
 

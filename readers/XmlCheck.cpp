@@ -3,12 +3,20 @@
 #include "VIFXmlCheck.h"
 #include "XmlReader.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
+
+/// The elements under the root of which the first of its name is read as a field.
+constexpr std::string_view kHeaderNames[] = {"VIF_Specification", "Vendor_Name", "Model_Part_Number",
+                                             "Product_Revision",  "TID",         "VIF_Product_Type",
+                                             "Certification_Type"};
 
 /// Reports what becomes of the elements of one document.
 class CElementReporter {
@@ -16,58 +24,88 @@ class CElementReporter {
   CElementReporter(const CDOMDocVIF& document, const VifElementObserver& observer)
       : m_document(document), m_observer(observer) {}
 
-  void ReportField(IXMLDOMNode& element, const CVIFField& field) {
-    VifElementReport report = Describe(element);
-    report.field = &field;
-    m_withField.insert(report.path);
-    if (m_observer) m_observer(report);
+  void Report(EVifElementFate fate, IXMLDOMNode& element, const CVIFField* field = nullptr) const {
+    if (!m_observer) return;
+    VifElementReport report{fate, 0, 0, m_document.PathOf(element), field};
+    m_document.Locate(element, report.line, report.column);
+    m_observer(report);
   }
 
-  /// Reports the elements under the root that loading has passed over.
+  /// Reports the elements that loading has passed over.
   void ReportPassedOver(IXMLDOMElement& root) {
-    const DOMNodeListPtr children = vif::SelectNodes(root, m_anyChild);
-    const LONG count = vif::Length(*children);
-    for (LONG i = 0; i < count; ++i) {
-      const DOMNodePtr child = vif::Item(*children, i);
-      const std::string name = vif::LocalName(*child);
-      if (name == "Product") {
-        if (!IsLeaf(*child)) ReportWithoutField(*child);
-      } else if (name == "Component" || name == "VIF_App") {
-        ReportWithoutField(*child);
-      } else if (!HasField(*child)) {
-        Report(*child);
+    m_vifNamespace = vif::Namespace(root);
+    ForEach(root, m_anyElement, [&](IXMLDOMNode& element) {
+      if (!IsOfVif(element)) {
+        Report(eVifElementForeign, element);
+        return;
       }
-    }
+      const std::string name = vif::LocalName(element);
+      if (name == "Product") {
+        if (!IsEmpty(element)) ReportItem(element);
+      } else if (name == "Component") {
+        ReportItem(element);
+      } else if (!m_seen.insert(name).second || !IsRead(name)) {
+        Report(eVifElementNotRead, element);
+      } else if (name == "VIF_App") {
+        ReportApplication(element);
+      }
+    });
   }
 
  private:
-  VifElementReport Describe(IXMLDOMNode& element) const {
-    VifElementReport report{0, 0, m_document.PathOf(element), nullptr};
-    m_document.Locate(element, report.line, report.column);
-    return report;
+  static bool IsRead(const std::string& name) {
+    return name == "VIF_App" ||
+           std::find(std::begin(kHeaderNames), std::end(kHeaderNames), name) != std::end(kHeaderNames);
   }
 
-  bool HasField(IXMLDOMNode& element) const { return m_withField.contains(m_document.PathOf(element)); }
-
-  void Report(IXMLDOMNode& element) const {
-    if (m_observer) m_observer(Describe(element));
+  template <typename Action>
+  void ForEach(IXMLDOMNode& parent, const CBstr& xpath, const Action& action) const {
+    const DOMNodeListPtr nodes = vif::SelectNodes(parent, xpath);
+    const LONG count = vif::Length(*nodes);
+    for (LONG i = 0; i < count; ++i) action(*vif::Item(*nodes, i));
   }
 
-  bool IsLeaf(IXMLDOMNode& element) const { return vif::Length(*vif::SelectNodes(element, m_anyChild)) == 0; }
+  bool IsEmpty(IXMLDOMNode& element) const { return vif::Length(*vif::SelectNodes(element, m_vifElement)) == 0; }
 
-  /// Reports the leaves of a group that have yielded no field, the group itself when it is a leaf.
-  void ReportWithoutField(IXMLDOMNode& group) const {
-    if (HasField(group)) return;
-    const DOMNodeListPtr children = vif::SelectNodes(group, m_anyChild);
-    const LONG count = vif::Length(*children);
-    if (count == 0) Report(group);
-    for (LONG i = 0; i < count; ++i) ReportWithoutField(*vif::Item(*children, i));
+  bool IsOfVif(IXMLDOMNode& element) const { return vif::Namespace(element) == m_vifNamespace; }
+
+  /// The application is named by its description alone, or by its vendor, name and version.
+  void ReportApplication(IXMLDOMNode& application) const {
+    const bool hasDescription = vif::SelectSingleNode(application, CBstr(L"vif:Description")) != nullptr;
+    std::set<std::string> seen;
+    ForEach(application, m_anyElement, [&](IXMLDOMNode& element) {
+      if (!IsOfVif(element)) {
+        Report(eVifElementForeign, element);
+        return;
+      }
+      const std::string name = vif::LocalName(element);
+      const bool isName = name == "Vendor" || name == "Name" || name == "Version";
+      if (isName && hasDescription) {
+        Report(eVifElementGivesWay, element);
+      } else if (!seen.insert(name).second || (!isName && name != "Description")) {
+        Report(eVifElementNotRead, element);
+      }
+    });
+  }
+
+  /// An item of a list, the product or a component: its leaves are fields, anything else in it is a list.
+  void ReportItem(IXMLDOMNode& item) const {
+    if (IsEmpty(item)) Report(eVifElementEmpty, item);
+    ForEach(item, m_anyElement, [&](IXMLDOMNode& child) {
+      if (!IsOfVif(child)) {
+        Report(eVifElementForeign, child);
+      } else {
+        ForEach(child, m_vifElement, [&](IXMLDOMNode& inner) { ReportItem(inner); });
+      }
+    });
   }
 
   const CDOMDocVIF& m_document;
   const VifElementObserver& m_observer;
-  std::set<std::string> m_withField;  // paths
-  const CBstr m_anyChild{L"vif:*"};
+  std::string m_vifNamespace;
+  std::set<std::string> m_seen;  // names of elements under the root
+  const CBstr m_vifElement{L"vif:*"};
+  const CBstr m_anyElement{L"*[not(self::opt:*)]"};
 };
 
 }  // namespace
@@ -78,10 +116,10 @@ void CheckXmlVif(const std::filesystem::path& fileName, const VifElementObserver
   CElementReporter reporter(document, observer);
   std::vector<CVIFField> fields;
   std::uint32_t componentCount = 0;
-  const vif::XmlFieldObserver reportField = [&](IXMLDOMNode& element, const CVIFField& field) {
-    reporter.ReportField(element, field);
-  };
+  const vif::XmlObserver extraction = {
+      [&](IXMLDOMNode& element, const CVIFField& field) { reporter.Report(eVifElementField, element, &field); },
+      [&](IXMLDOMNode& group) { reporter.Report(eVifElementNotUnderstood, group); }};
   const DOMElementPtr root = document.GetRootElement();
-  vif::ExtractFields(*root, {fields, componentCount}, &reportField);
+  vif::ExtractFields(*root, {fields, componentCount}, &extraction);
   reporter.ReportPassedOver(*root);
 }

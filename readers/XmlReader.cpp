@@ -35,21 +35,6 @@ constexpr std::uint64_t FirstNumber(EVifLocation location) {
   return location == eVifLocProduct || location == eVifLocRouter ? 0 : 1;
 }
 
-/// The location of a list element's items, by the list's own name; what the items are called does not matter.
-EVifLocation ListLocation(IXMLDOMNode& list) {
-  CBstr name;
-  const HRESULT result = list.get_nodeName(name.Receive());
-  if (result == E_OUTOFMEMORY) _com_issue_errorex(result, &list, IID_IXMLDOMNode);  // not the document's fault
-  if (FAILED(result) || name.get() == nullptr) ThrowDomDocError("ERROR:  Couldn't get node name.\r\n");
-  std::wstring_view localName = name.View();
-  if (const std::size_t colon = localName.find(L':'); colon != std::wstring_view::npos) {
-    localName.remove_prefix(colon + 1);
-  }
-  const std::optional<EVifLocation> location = FindGroupLocation(localName);
-  if (!location) ThrowDomDocError("Unexpected list element name: %ls", std::wstring(localName));
-  return *location;
-}
-
 /// Moves all fields to the end of the list. When memory runs out, the list is as it was.
 void MoveBehind(std::vector<CVIFField>& list, std::vector<CVIFField>& fields) {
   const std::size_t needed = list.size() + fields.size();
@@ -67,7 +52,7 @@ struct GroupList {
 /// Turns one document into fields, in the order of its `Run`.
 class CExtraction {
  public:
-  CExtraction(IXMLDOMElement& root, FieldSink sink, const XmlFieldObserver* observer)
+  CExtraction(IXMLDOMElement& root, FieldSink sink, const XmlObserver* observer)
       : m_root(root), m_sink(sink), m_observer(observer) {}
 
   void Run() {
@@ -137,20 +122,16 @@ class CExtraction {
   }
 
   void Add(IXMLDOMNode& element, CVIFField field, std::vector<CVIFField>& fields) {
-    if (m_observer != nullptr) (*m_observer)(element, field);
+    if (m_observer != nullptr) m_observer->onField(element, field);
     fields.push_back(std::move(field));
   }
 
-  /// Reads the items of one list: all leaves of an item first, then the lists in it, wherever they stand.
-  /// \param slots those of the groups around the items, filled up to the depth
-  /// \param counter counts the items over several lists and files; null numbers them within the list
+  /// Reads the items of one list, which is no deeper than there are slots: all leaves of an item first, then the lists
+  /// in it, wherever they stand. \param slots those of the groups around the items, filled up to the depth \param
+  /// counter counts the items over several lists and files; null numbers them within the list
   void Walk(IXMLDOMNodeList& items, std::size_t depth, Slots slots, EVifLocation location, std::uint32_t* counter,
             std::vector<CVIFField>& fields) {
     const LONG count = Length(items);
-    if (depth >= kDepth) {
-      if (count == 0) return;
-      ThrowRunTimeError("Invalid node depth: groupLists should only be nested %u level%s deep.", kDepth, "s");
-    }
     for (LONG i = 0; i < count; ++i) {
       const std::uint64_t number = counter != nullptr ? (*counter)++ : static_cast<std::uint64_t>(i);
       slots[depth] = {location, number + FirstNumber(location)};
@@ -172,13 +153,41 @@ class CExtraction {
       }
     }
     for (const GroupList& list : lists) {
-      Walk(*list.items, depth + 1, slots, ListLocation(*list.element), nullptr, fields);
+      const EVifLocation location = ListLocation(*list.element);
+      if (depth + 1 >= kDepth) {
+        ReportFailure(*list.element);
+        ThrowRunTimeError("Invalid node depth: groupLists should only be nested %u level%s deep.", kDepth, "s");
+      }
+      Walk(*list.items, depth + 1, slots, location, nullptr, fields);
     }
+  }
+
+  /// The location of a list element's items, by the list's own name; what the items are called does not matter.
+  EVifLocation ListLocation(IXMLDOMNode& list) const {
+    CBstr name;
+    const HRESULT result = list.get_nodeName(name.Receive());
+    if (result == E_OUTOFMEMORY) _com_issue_errorex(result, &list, IID_IXMLDOMNode);  // not the document's fault
+    if (FAILED(result) || name.get() == nullptr) {
+      ReportFailure(list);
+      ThrowDomDocError("ERROR:  Couldn't get node name.\r\n");
+    }
+    std::wstring_view localName = name.View();
+    if (const std::size_t colon = localName.find(L':'); colon != std::wstring_view::npos) {
+      localName.remove_prefix(colon + 1);
+    }
+    const std::optional<EVifLocation> location = FindGroupLocation(localName);
+    if (location) return *location;
+    ReportFailure(list);
+    ThrowDomDocError("Unexpected list element name: %ls", std::wstring(localName));
+  }
+
+  void ReportFailure(IXMLDOMNode& group) const {
+    if (m_observer != nullptr) m_observer->onFailure(group);
   }
 
   IXMLDOMElement& m_root;
   FieldSink m_sink;
-  const XmlFieldObserver* m_observer;
+  const XmlObserver* m_observer;
   std::vector<CVIFField> m_header;  // put into the sink all together, once the product has been read
   const CBstr m_anyChild{L"vif:*"};
   const CBstr m_value{L"value"};
@@ -198,7 +207,7 @@ void LoadXmlVif(const std::filesystem::path& path, CDOMDocVIF& document) {
                         document.Problems());
 }
 
-void ExtractFields(IXMLDOMElement& root, FieldSink sink, const XmlFieldObserver* observer) {
+void ExtractFields(IXMLDOMElement& root, FieldSink sink, const XmlObserver* observer) {
   CExtraction(root, sink, observer).Run();
 }
 

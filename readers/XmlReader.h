@@ -11,9 +11,14 @@ class CDOMDocVIF;
 
 namespace vif {
 
-/// Is told of every field when it is made, and of the element that it is made from: for the header's "VIF_Producer",
-/// `VIF_App`.
-using XmlFieldObserver = std::function<void(IXMLDOMNode& element, const CVIFField& field)>;
+/// Is told what elements become.
+struct XmlObserver {
+  /// Every field when it is made, and the element that it is made from: for the header's "VIF_Producer", `VIF_App`.
+  std::function<void(IXMLDOMNode& element, const CVIFField& field)> onField;
+
+  /// The group on which the extraction fails, before it does.
+  std::function<void(IXMLDOMNode& group)> onFailure;
+};
 
 /// Appends the fields of an XML VIF to the sink and counts its components.
 ///
@@ -31,8 +36,8 @@ void ReadXmlVif(const std::filesystem::path& path, FieldSink sink);
 void LoadXmlVif(const std::filesystem::path& path, CDOMDocVIF& document);
 
 /// Appends the fields of a validated document to the sink and counts its components.
-/// \param observer may be null
+/// \param observer may be null; its functions must not be empty
 /// \throws as above
-void ExtractFields(IXMLDOMElement& root, FieldSink sink, const XmlFieldObserver* observer = nullptr);
+void ExtractFields(IXMLDOMElement& root, FieldSink sink, const XmlObserver* observer = nullptr);
 
 }  // namespace vif

@@ -121,7 +121,7 @@ TEST_STATUS TestSuiteVIF_Initialize(const TestSuiteContext* context) {
     throw;
   } catch (...) {
     // The host's own modules failed before a file was chosen.
-    WriteCreateError(*context->log, "");
+    WriteCreateError(*context->log, "<unknown file>");
     return kRefused;
   }
 }

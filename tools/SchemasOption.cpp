@@ -19,6 +19,9 @@ void UseSchemas(const std::string& name) {
   const std::filesystem::path directory = PathOf(name);
   std::error_code error;
   if (!std::filesystem::is_directory(directory, error)) throw Failure("--schemas: \"" + name + "\" is no directory");
+  const bool hasAny = std::filesystem::exists(directory / "VendorInfoFile.xsd", error) ||
+                      std::filesystem::exists(directory / "VendorInfoFileOptionalContent.xsd", error);
+  if (!hasAny) throw Failure("--schemas: there is none of the two schemas in \"" + name + "\"");
   CDOMDoc::SetSchemaDirectory(directory);
 }
 

@@ -15,7 +15,10 @@
 /// An XML document that is validated against a set of schemas.
 ///
 /// Files are taken for hostile: a document with a document type declaration, with elements nested more than 256 deep,
-/// or in anything but a regular file is not valid. Nothing but the file and the schemas is read, and never the network.
+/// or in anything but a regular file is not valid. Nor is one that would take much more time than its size justifies:
+/// with more than 1,000 attributes in a tag or 1,000 namespaces in force, or with a text in very many pieces; or one in
+/// an encoding in which ASCII is not itself, but for UTF-16. Nothing but the file and the schemas is read, and never
+/// the network: while schemas are compiled, libxml2's external entity loader is another for the thread that does it.
 ///
 /// One object is for one thread at a time. Any number of threads may use objects of their own at once; compiled schemas
 /// are shared between them and kept until the process ends, or until a schema file changes. On Windows, COM must be
@@ -63,13 +66,14 @@ class ZO_API CDOMDoc {
   bool Locate(IXMLDOMNode& node, std::size_t& line, std::size_t& column) const;
 
   /// Names an element of this document by its way from the root, such as "VIF/Component[2]/SrcPdoList": local names,
-  /// each with its number where the element has siblings of the same name and namespace. Empty when the node is none of
-  /// this document or the platform does not tell.
+  /// each with its number where the element has siblings of the same name and namespace, and cut after 100 bytes. Empty
+  /// when the node is none of this document or the platform does not tell.
   std::string PathOf(IXMLDOMNode& node) const;
 
   /// The full path of a schema file: in the directory set by `SetSchemaDirectory` if it is there, else in the installed
   /// data directory if it is there, else beside this library. When it is in none of these, the path that it would have
-  /// in the first of them, so that an error can name it.
+  /// in the first of them, so that an error can name it. Where symbolic links lead to this library, these are looked
+  /// for from the link first. A byte of a path that is no part of valid UTF-8 is the lone surrogate U+DC00 + byte.
   /// \param fileName its name; null counts as empty
   static std::wstring MakeFullSchemaPath(const wchar_t* fileName);
 

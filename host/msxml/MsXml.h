@@ -22,6 +22,9 @@ constexpr IID IID_IXMLDOMDocument2 = {0x2933BF95, 0x7B36, 0x11D2, {0xB2, 0x0E, 0
 // Every call gives a negative result when it fails: E_INVALIDARG for a null place to put the answer or a wrong
 // argument, E_OUTOFMEMORY, E_FAIL. S_FALSE with a null answer means that there is none. An answer is the caller's to
 // release or free. Nothing throws.
+//
+// References may be counted from any thread; otherwise the nodes of one document are for one thread at a time. A node
+// keeps the content that it is from, even when the document is gone or has been loaded anew.
 
 /// An element, an attribute or the document.
 struct IXMLDOMNode : IUnknown {

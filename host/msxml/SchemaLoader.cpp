@@ -62,7 +62,8 @@ CSchemaLoader::CSchemaLoader() {
 }
 
 CSchemaLoader::~CSchemaLoader() {
-  xmlSetExternalEntityLoader(g_before);
+  // Somebody else may have set another one meanwhile.
+  if (xmlGetExternalEntityLoader() == Load) xmlSetExternalEntityLoader(g_before);
   g_loader = nullptr;
 }
 

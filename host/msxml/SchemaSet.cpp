@@ -138,8 +138,9 @@ bool CSchemaSet::IsCurrent() const {
 }
 
 std::shared_ptr<const CSchemaSet> CSchemaSet::Get(const std::vector<SchemaSource>& sources) {
-  static std::mutex mutex;
-  static std::map<std::vector<SchemaSource>, std::shared_ptr<const CSchemaSet>> compiled;
+  // Never destroyed: threads may still load when the process ends.
+  static auto& mutex = *new std::mutex;
+  static auto& compiled = *new std::map<std::vector<SchemaSource>, std::shared_ptr<const CSchemaSet>>;
   const std::lock_guard lock(mutex);
   std::shared_ptr<const CSchemaSet>& set = compiled[sources];
   if (set == nullptr || !set->IsCurrent()) {

@@ -30,8 +30,7 @@ class CSchemaSet {
  public:
   /// The compiled schemas: those of an earlier call, unless one of the files has changed since. Threads may call this
   /// at once; one of them compiles.
-  /// \throws CZoDOMDocException "Couldn't load the schema <file>: <reason>" when one is missing, is no schema,
-  /// describes
+  /// \throws CZoDOMDocException "Couldn't load the schema <file>: <reason>" when one is missing, is no schema, is for
   ///   another namespace, or refers to something on the network
   static std::shared_ptr<const CSchemaSet> Get(const std::vector<SchemaSource>& sources);
 

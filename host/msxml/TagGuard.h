@@ -6,8 +6,10 @@
 namespace msxml {
 
 /// Looks at the bytes of an XML file on their way to the parser, for tags with so many attributes that the parser,
-/// which compares each with all others, would take minutes. It knows just enough of XML to find the tags in it, in any
-/// encoding in which ASCII characters have their bytes, with NULs between them or not.
+/// which compares each with all others, would take minutes. It knows just enough of XML to find the tags in it.
+///
+/// It understands UTF-16, by the file's first two bytes, and any encoding in which the bytes of ASCII characters stand
+/// for nothing else.
 class CTagGuard {
  public:
   static constexpr std::size_t kMostAttributes = 1'000;  // in one tag, declarations of namespaces included
@@ -18,15 +20,24 @@ class CTagGuard {
 
   bool HasTripped() const { return m_attributes > kMostAttributes; }
 
-  /// The line of the last byte, from 1.
+  /// The line of the last character, from 1.
   std::size_t Line() const { return m_line; }
 
- private:
-  enum class State { Text, Opening, Tag, Value, Declaration, Comment, CData, Instruction };
+  /// Whether the file is taken for UTF-16.
+  bool IsUtf16() const { return m_form == Form::LittleEndian || m_form == Form::BigEndian; }
 
+ private:
+  enum class Form { Unknown, FirstByte, Bytes, LittleEndian, BigEndian };
+  enum class State { Text, Opening, Tag, Value, Declaration, CommentOpening, Comment, CData, Instruction };
+
+  void TakeByte(char byte);
+  void TakeHalf(char byte);
   void TakeCharacter(char c);
   void LeaveAtTwice(char twice, char c);
 
+  Form m_form = Form::Unknown;
+  char m_firstByte = '\0';  // of the file, or of a character of UTF-16
+  bool m_hasHalf = false;
   State m_state = State::Text;
   char m_quote = '\0';      // of the value
   char m_last = '\0';       // the character before

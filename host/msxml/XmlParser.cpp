@@ -1,5 +1,6 @@
 #include "msxml/XmlParser.h"
 
+#include "BaseUtilities/StringConvert.h"
 #include "msxml/InputFile.h"
 #include "msxml/TagGuard.h"
 #include "msxml/ThreadErrors.h"
@@ -11,9 +12,12 @@
 #include <libxml/xmlschemastypes.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <iterator>
 #include <mutex>
 #include <new>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace msxml {
@@ -28,9 +32,16 @@ constexpr int kOptions = XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_NOENT;
 // The parser looks through them for every name with a prefix.
 constexpr int kMostNamespaces = 1'000;
 
-// Comments, processing instructions and CDATA sections in a row. They cut a text in pieces, and libxml2's validation
-// copies all that it has of a value for each piece that is added.
-constexpr int kMostPieces = 1'000;
+// Comments, processing instructions and CDATA sections cut a text in pieces, and libxml2's validation copies all that
+// it has of a value for each piece that is added. So many bytes may be copied for one value.
+constexpr std::uint64_t kMostCopied = 1'000'000'000;
+
+/// The beginnings of the names of encodings in which the bytes of ASCII characters stand for nothing else, and UTF-16.
+/// In others, tags could hide from the guard.
+constexpr std::string_view kEncodings[] = {
+    "UTF-8",    "UTF8",      "UTF-16", "UTF16",       "US-ASCII", "ASCII", "ISO-8859-", "ISO_8859-",
+    "ISO8859-", "ISO LATIN", "LATIN",  "WINDOWS-125", "CP125",    "CP932", "SHIFT_JIS", "SHIFT-JIS",
+    "SJIS",     "EUC-",      "GB2312", "GBK",         "GB18030",  "BIG5",  "KOI8-",     "TIS-620"};
 
 /// What the parser reads from: a file whose tags are kept within bounds.
 struct Source {
@@ -53,7 +64,12 @@ using ContextPointer = std::unique_ptr<xmlParserCtxt, FreeContext>;
 struct Run {
   CProblems& problems;
   std::vector<Position> positions;
-  int pieces = 0;  // since the last tag
+  const CTagGuard& guard;
+  std::uint64_t textLength = 0;  // since the last tag
+  std::uint64_t copied = 0;      // of that text
+  bool isStopped = false;        // what the parser says then is of no interest
+
+  void BeginText() { textLength = copied = 0; }
 };
 
 Run& RunOf(const xmlParserCtxt& context) { return *static_cast<Run*>(context._private); }
@@ -81,8 +97,10 @@ Position StartTagPosition(const xmlParserInput& input) {
 }
 
 void Stop(xmlParserCtxt& context, std::string_view element, std::string_view reason) {
+  Run& run = RunOf(context);
+  if (std::exchange(run.isStopped, true)) return;
   const Position position = context.input != nullptr ? StartTagPosition(*context.input) : Position{};
-  RunOf(context).problems.Add(position.line, position.column, element, reason);
+  run.problems.Add(position.line, position.column, element, reason);
   xmlStopParser(&context);
 }
 
@@ -96,7 +114,7 @@ void StartElement(void* data, const xmlChar* name, const xmlChar* prefix, const 
                   const xmlChar** namespaces, int attributeCount, int defaultedCount, const xmlChar** attributes) {
   auto& context = *static_cast<xmlParserCtxt*>(data);
   Run& run = RunOf(context);
-  run.pieces = 0;
+  run.BeginText();
   try {
     if (context.nodeNr >= kGreatestDepth) {
       Stop(context, QualifiedName(prefix, name),
@@ -121,32 +139,73 @@ void StartElement(void* data, const xmlChar* name, const xmlChar* prefix, const 
 }
 
 void EndElement(void* data, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri) {
-  RunOf(*static_cast<const xmlParserCtxt*>(data)).pieces = 0;
+  RunOf(*static_cast<const xmlParserCtxt*>(data)).BeginText();
   xmlSAX2EndElementNs(data, name, prefix, uri);
 }
 
-/// Counts what cuts a text in two.
-void CountPiece(void* data) {
+void Characters(void* data, const xmlChar* text, int length) {
+  RunOf(*static_cast<const xmlParserCtxt*>(data)).textLength += static_cast<std::uint64_t>(length);
+  xmlSAX2Characters(data, text, length);
+}
+
+/// Counts what the piece behind costs.
+void EndPiece(void* data) {
   auto& context = *static_cast<xmlParserCtxt*>(data);
-  if (++RunOf(context).pieces != kMostPieces + 1) return;
+  Run& run = RunOf(context);
+  run.copied += run.textLength;
+  if (run.copied <= kMostCopied) return;
   const xmlChar* name = context.node != nullptr ? context.node->name : nullptr;
   Stop(context, View(name),
-       "There are more than 1000 comments, processing instructions and CDATA sections without a tag between them.");
+       "A text is in too many pieces between comments, processing instructions and CDATA sections.");
 }
 
 void Comment(void* data, const xmlChar* text) {
-  CountPiece(data);
+  EndPiece(data);
   xmlSAX2Comment(data, text);
 }
 
 void Instruction(void* data, const xmlChar* target, const xmlChar* text) {
-  CountPiece(data);
+  EndPiece(data);
   xmlSAX2ProcessingInstruction(data, target, text);
 }
 
 void CData(void* data, const xmlChar* text, int length) {
-  CountPiece(data);
+  EndPiece(data);
+  RunOf(*static_cast<const xmlParserCtxt*>(data)).textLength += static_cast<std::uint64_t>(length);
   xmlSAX2CDataBlock(data, text, length);
+}
+
+std::string UpperCase(std::string_view text) {
+  std::string upper(text);
+  ToUpper(upper);
+  return upper;
+}
+
+/// The encoding that the file is decoded from; empty for UTF-8, which needs no decoding.
+std::string Encoding(const xmlParserCtxt& context) {
+  const xmlParserInputBuffer* buffer = context.input != nullptr ? context.input->buf : nullptr;
+  if (buffer == nullptr || buffer->encoder == nullptr || buffer->encoder->name == nullptr) return {};
+  return UpperCase(buffer->encoder->name);
+}
+
+/// Is called behind the XML declaration, when the encoding is settled.
+void StartDocument(void* data) {
+  auto& context = *static_cast<xmlParserCtxt*>(data);
+  try {
+    const std::string encoding = Encoding(context);
+    const bool isKnown = encoding.empty() || std::any_of(std::begin(kEncodings), std::end(kEncodings),
+                                                         [&](auto begin) { return encoding.starts_with(begin); });
+    const bool isUtf16 = encoding.starts_with("UTF-16") || encoding.starts_with("UTF16");
+    if (!isKnown || isUtf16 != RunOf(context).guard.IsUtf16()) {
+      Stop(context, {}, "The encoding " + (encoding.empty() ? "UTF-8" : encoding) + " is not supported here.");
+      return;
+    }
+  } catch (const std::bad_alloc&) {
+    RunOf(context).problems.RanOutOfMemory();
+    xmlStopParser(&context);
+    return;
+  }
+  xmlSAX2StartDocument(data);
 }
 
 void RefuseDocumentType(void* data, const xmlChar* name, const xmlChar*, const xmlChar*) {
@@ -155,6 +214,7 @@ void RefuseDocumentType(void* data, const xmlChar* name, const xmlChar*, const x
 
 void ReportError(void* data, xmlErrorPtr error) {
   const auto& context = *static_cast<xmlParserCtxt*>(data);
+  if (RunOf(context).isStopped && error->code != XML_ERR_NO_MEMORY) return;
   const std::string_view element = context.node != nullptr ? View(context.node->name) : std::string_view();
   // What concerns the decoding knows no line of its own.
   const int line = error->line > 0 || context.input == nullptr ? error->line : context.input->line;
@@ -166,8 +226,11 @@ ContextPointer MakeContext(Run& run) {
   ContextPointer context(xmlNewParserCtxt());
   if (context == nullptr) throw std::bad_alloc();
   context->_private = &run;
+  context->sax->startDocument = StartDocument;
   context->sax->startElementNs = StartElement;
   context->sax->endElementNs = EndElement;
+  context->sax->characters = Characters;
+  context->sax->ignorableWhitespace = Characters;
   context->sax->comment = Comment;
   context->sax->processingInstruction = Instruction;
   context->sax->cdataBlock = CData;
@@ -185,7 +248,7 @@ std::shared_ptr<const CXmlTree> ParseXmlFile(const std::filesystem::path& path, 
     problems.Add(0, 0, {}, "The file " + source.file.Error() + ".");
     return nullptr;
   }
-  Run run{problems, {}};
+  Run run{problems, {}, source.guard};
   const ContextPointer context = MakeContext(run);
   const CThreadErrors otherErrors(ReportError, context.get());
   DocumentPointer document(xmlCtxtReadIO(context.get(), Source::Read, nullptr, &source, nullptr, nullptr, kOptions));

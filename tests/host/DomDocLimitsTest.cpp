@@ -53,6 +53,16 @@ TEST(DomDocLimitsTest, AttributesOfUtf16FilesAreCountedToo) {
   EXPECT_EQ(ProblemOf(Utf16("<a>\n<b" + Attributes(1001) + "/></a>")), kTooMany);
 }
 
+TEST(DomDocLimitsTest, CharactersWithTheBytesOfQuotesHideNoAttributesOfUtf16Files) {
+  const std::string tag = Utf16("\n<b" + Attributes(1001) + "/></a>").substr(2);
+  EXPECT_EQ(ProblemOf(Utf16("<a>") + "\x22\x27\x27\x22" + tag), kTooMany);
+}
+
+TEST(DomDocLimitsTest, FileMayNotChangeToUtf16BehindItsDeclaration) {
+  const std::string declaration = "<?xml version='1.0' encoding='UTF-16LE'?>";
+  EXPECT_NE(ProblemOf(declaration + Utf16("<a/>").substr(2)), "");
+}
+
 TEST(DomDocLimitsTest, AttributesAreCountedForEachTag) {
   EXPECT_EQ(ProblemOf("<a>" + Repeated("<b" + Attributes(400) + "></b>", 5) + "</a>"), "");
 }
@@ -75,7 +85,8 @@ TEST(DomDocLimitsTest, EqualsSignsElsewhereAreNoAttributes) {
 TEST(DomDocLimitsTest, TagsAreFoundAgainBehindEverythingElse) {
   const std::string tag = "\n<b" + Attributes(1001) + "/></a>";
   for (const char* before : {"<a><!-- <x a='>'> -->", "<a><![CDATA[ <x a='>']]>", "<?p <x a='>?><a>",
-                             "<a b='>' c=\">\">", "<a><!----><![CDATA[]]>", "<a><!--x-y--><![CDATA[]]]]>"}) {
+                             "<a b='>' c=\">\">", "<a><!----><![CDATA[]]>", "<a><!--x-y--><![CDATA[]]]]>",
+                             "<a><!--><x a='-->", "<a><!---><x a='-->", "<a><!-- - -- ' -->"}) {
     EXPECT_EQ(ProblemOf(before + tag), kTooMany) << before;
   }
 }

@@ -282,7 +282,7 @@ TEST_F(TestSuiteVifTest, LogThatAlwaysThrowsLetsNothingOut) {
 TEST_F(TestSuiteVifTest, UserInputThatThrowsIsARefusal) {
   m_host.input.onChoice = [] { throw std::runtime_error("no display"); };
   EXPECT_EQ(m_host.Initialize(), kRefused);
-  EXPECT_THAT(m_host.log.Lines(), ElementsAre("4000000 L Unexpected error creating : no display."));
+  EXPECT_THAT(m_host.log.Lines(), ElementsAre("4000000 L Unexpected error creating <unknown file>: no display."));
 }
 
 // Cleanup.

@@ -1,5 +1,6 @@
 // `vif check`, run as a user runs it: its forms and its exit status.
 #include "FindingTexts.h"
+#include "support/XmlVif.h"
 
 #include <gmock/gmock.h>
 
@@ -84,9 +85,13 @@ TEST(Check, EachFileIsCheckedOnItsOwn) {
   EXPECT_EQ(Check({file, file}).output, "no findings\n");
 }
 
-TEST(Check, FindsNothingInAnEmptyFile) {
+TEST(Check, FileWithoutAnyFieldIsAnError) {
   const TempDir dir;
-  EXPECT_EQ(Check({dir.Write("a.txt", "").string()}).output, "no findings\n");
+  const std::string empty = dir.Write("a.txt", "; nothing\n").string();
+  EXPECT_EQ(Check({empty}).output, empty + ": error: the file yields no field at all [nothing-read]\n1 error\n");
+  EXPECT_EQ(Check({empty}).status, 1);
+  EXPECT_THAT(testsupport::FindingTexts(testsupport::FindingsIn("a.xml", testsupport::XmlVif(""))),
+              testing::ElementsAre("- error nothing-read"));
 }
 
 TEST(Check, ControlCharactersDoNotReachTheTerminal) {
@@ -189,6 +194,9 @@ class SchemasOption : public testing::TestWithParam<const char*> {};
 TEST_P(SchemasOption, NamesADirectory) {
   const TempDir dir;
   const std::string file = Example("gan-charger-65w.txt");
+  ExpectFailure(testsupport::Vif({GetParam(), "--schemas", dir.Path().string(), file}),
+                "there is none of the two schemas");
+  dir.Write("VendorInfoFile.xsd", "");
   EXPECT_EQ(testsupport::Vif({GetParam(), "--schemas", dir.Path().string(), file}).status, 0);
   ExpectFailure(testsupport::Vif({GetParam(), "--schemas", "/nonexistent", file}), "\"/nonexistent\" is no directory");
 }

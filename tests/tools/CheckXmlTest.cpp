@@ -184,7 +184,7 @@ TEST(CheckXmlElement, UnderTheRootThatYieldsNoFieldIsAWarning) {
   ExpectOne(findings, LineOf(document, "Remark"), "warning no-field");
   EXPECT_EQ(findings[0]["element"], "VIF/Remark");
   EXPECT_EQ(findings[0]["message"],
-            "the element 'VIF/Remark' yields no field: it is not one that is read directly under the root element");
+            "'VIF/Remark' yields no field: it is not read where it stands, nor is anything in it");
 }
 
 TEST(CheckXmlElement, BesideTheDescriptionYieldsNoField) {
@@ -199,7 +199,42 @@ TEST(CheckXmlElement, AnEmptyItemYieldsNoField) {
   const Document document = Component("<vif:SrcPdoList>\n<vif:SrcPDO/></vif:SrcPdoList>");
   const json findings = Check(document);
   ExpectOne(findings, LineOf(document, "vif:SrcPDO/"), "warning no-field");
-  EXPECT_THAT(findings[0]["message"].get<std::string>(), EndsWith("it is an item of a list with nothing in it"));
+  EXPECT_THAT(findings[0]["message"].get<std::string>(), EndsWith("there is nothing in it"));
+}
+
+TEST(CheckXmlElement, OfAnotherNamespaceIsLost) {
+  Document document;
+  document.behindComponent = "<Component><PID value=\"1\"/></Component>";
+  const json findings = Check(document);
+  ExpectOne(findings, LineOf(document, "<Component>"), "error foreign-element");
+}
+
+TEST(CheckXmlElement, WithoutItsValueIsNoNumber) {
+  const Document document = Component("<vif:Num_Src_PDOs>2</vif:Num_Src_PDOs>");
+  const json findings = Check(document);
+  ExpectOne(findings, LineOf(document, "Num_Src_PDOs"), "error no-value");
+}
+
+TEST(CheckXmlElement, ThatHasATextNeedsNoValue) {
+  EXPECT_EQ(Check(Component("<vif:Port_Label>C1</vif:Port_Label><vif:Retimer_Type>x</vif:Retimer_Type>")).size(), 0u);
+}
+
+TEST(CheckXmlElement, ThatLoadingFailsOnIsNamedBesideWhatElseIsFound) {
+  const Document document = Component("<vif:Remark value=\"1\"/>\n<vif:FooList><vif:Foo/></vif:FooList>");
+  const json findings = Check(document);
+  ASSERT_EQ(findings.size(), 2u);
+  EXPECT_EQ(findings[0]["code"], "unknown-name");
+  EXPECT_EQ(findings[1]["code"], "not-valid");
+  EXPECT_EQ(findings[1]["line"], LineOf(document, "<vif:FooList>"));
+  EXPECT_EQ(findings[1]["element"], "VIF/Component/FooList");
+}
+
+TEST(CheckXmlElement, ManyReasonsAreListedInOrderWithTheirRestAtTheEnd) {
+  Document document;
+  for (int i = 0; i < 10'050; ++i) document.behindComponent += "<vif:TID a=\"1\"/>";
+  const json findings = Check(document);
+  ASSERT_EQ(findings.size(), 10'001u);
+  EXPECT_EQ(findings.back()["message"], "and 50 more");
 }
 
 void ExpectNotValid(const Document& document, std::size_t line) {

@@ -20,6 +20,7 @@ Findings CheckText(const std::filesystem::path& path) {
   FindDuplicates(fields, findings);
   FindBadNumbers(fields, findings);
   FindWrongCounts(fields, findings);
+  FindNothing(fields, findings);
   return findings;
 }
 
@@ -29,7 +30,9 @@ Findings CheckXml(const std::filesystem::path& path) {
   FindMisplaced(fields, findings);
   FindDuplicates(fields, findings);
   FindBadNumbers(fields, findings);
+  FindMissingValues(fields, findings);
   FindWrongCounts(fields, findings);
+  FindNothing(fields, findings);
   return findings;
 }
 
@@ -57,7 +60,8 @@ CheckedFile CheckFile(const std::string& fileName) {
   CheckedFile checked = {fileName, {}};
   ReadFile(fileName, [&] { checked.findings = CheckPath(PathOf(fileName)); });
   std::stable_sort(checked.findings.begin(), checked.findings.end(), [](const Finding& a, const Finding& b) {
-    return std::tie(a.line, a.column) < std::tie(b.line, b.column);
+    // What is at no place is about the whole file, and comes last.
+    return std::make_tuple(a.line == 0, a.line, a.column) < std::make_tuple(b.line == 0, b.line, b.column);
   });
   return checked;
 }

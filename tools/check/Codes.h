@@ -38,8 +38,13 @@ inline constexpr FindingCode kNotValid = {Severity::Error, "not-valid", "why the
 inline constexpr FindingCode kMisplaced = {Severity::Error, "misplaced",
                                            "a field in another group than its definition says"};
 inline constexpr FindingCode kNoField = {Severity::Warning, "no-field", "an element that yields no field"};
+inline constexpr FindingCode kForeign = {Severity::Error, "foreign-element",
+                                         "an element of another namespace, which is lost with all that is in it"};
+inline constexpr FindingCode kNoValue = {Severity::Error, "no-value",
+                                         "a numeric or boolean element without the value attribute"};
 
 // Of both.
+inline constexpr FindingCode kNothingRead = {Severity::Error, "nothing-read", "a file that yields no field at all"};
 inline constexpr FindingCode kDeclaredTwice = {Severity::Error, "declared-twice",
                                                "a field that its group has already, on an earlier line"};
 inline constexpr FindingCode kNoNumber = {Severity::Error, "no-number", "a numeric value that stands for no number"};
@@ -54,9 +59,9 @@ inline constexpr FindingCode kUnknownName = {Severity::Warning, "unknown-name",
 
 /// All of them, in the order in which the help lists them.
 inline constexpr const FindingCode* kAll[] = {
-    &kNotADeclaration, &kReadFailed,    &kNotValid,        &kMisplaced,        &kDeclaredTwice,
-    &kNoNumber,        &kCountMismatch, &kCountOutOfRange, &kNoIndex,          &kNumberingGap,
-    &kNoField,         &kTextInGroup,   &kByteOrderMark,   &kNumberPartlyRead, &kUnknownName,
+    &kNotADeclaration, &kReadFailed, &kNotValid,    &kNothingRead,   &kForeign,          &kMisplaced,
+    &kDeclaredTwice,   &kNoNumber,   &kNoValue,     &kCountMismatch, &kCountOutOfRange,  &kNoIndex,
+    &kNumberingGap,    &kNoField,    &kTextInGroup, &kByteOrderMark, &kNumberPartlyRead, &kUnknownName,
 };
 
 }  // namespace code

@@ -19,6 +19,9 @@ void FindDuplicates(const FoundFields& fields, Findings& findings);
 /// Numeric values that give no number, or not all of what they say.
 void FindBadNumbers(const FoundFields& fields, Findings& findings);
 
+/// A file that yields no field at all and about which nothing else is found that would be an error.
+void FindNothing(const FoundFields& fields, Findings& findings);
+
 /// Counts, such as Num_Src_PDOs, that disagree with the groups that are there.
 void FindWrongCounts(const FoundFields& fields, Findings& findings);
 
@@ -34,6 +37,9 @@ void FindTextsForGroups(const FoundFields& fields, Findings& findings);
 
 /// Names that no definition knows.
 void FindUnknownNames(const FoundFields& fields, Findings& findings);
+
+/// Fields that are known to be numeric or boolean, but have no value.
+void FindMissingValues(const FoundFields& fields, Findings& findings);
 
 /// Fields in another place than their definition says.
 void FindMisplaced(const FoundFields& fields, Findings& findings);

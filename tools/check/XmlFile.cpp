@@ -8,23 +8,27 @@
 #include <VIFXmlCheck.h>
 
 #include <algorithm>
+#include <optional>
 #include <string_view>
+#include <utility>
 
 namespace tool {
 
 namespace {
 
-std::string WhyNoField(std::string_view path) {
-  const std::string_view inRoot = path.substr(std::min(path.find('/'), path.size() - 1) + 1);
-  if (inRoot == "Component" || inRoot.starts_with("Component[")) return "is a component with nothing in it";
-  if (inRoot.find('/') == std::string_view::npos) return "is not one that is read directly under the root element";
-  if (inRoot.starts_with("VIF_App")) return "gives way to the description beside it";
-  return "is an item of a list with nothing in it";
+std::string_view WhyNoField(EVifElementFate fate) {
+  switch (fate) {
+    case eVifElementNotRead: return "it is not read where it stands, nor is anything in it";
+    case eVifElementGivesWay: return "it gives way to the description beside it";
+    case eVifElementForeign: return "it is in another namespace than the VIF's elements, as is anything in it";
+    default: return "there is nothing in it";
+  }
 }
 
 Finding DescribePassedOver(const VifElementReport& report) {
-  return {&code::kNoField, report.line, report.column, report.path,
-          "the element '" + Printable(report.path) + "' yields no field: it " + WhyNoField(report.path)};
+  const FindingCode& code = report.fate == eVifElementForeign ? code::kForeign : code::kNoField;
+  return {&code, report.line, report.column, report.path,
+          Quoted(report.path) + " yields no field: " + std::string(WhyNoField(report.fate))};
 }
 
 Finding DescribeProblem(const DOMDocProblem& problem) {
@@ -36,7 +40,7 @@ Finding DescribeProblem(const DOMDocProblem& problem) {
 }
 
 Findings DescribeProblems(const std::vector<DOMDocProblem>& problems) {
-  // What concerns no place in the file is none of the file's doing: it cannot be opened, or a schema is missing.
+  // What concerns no place in the file is none of the file's doing: it cannot be opened, for instance.
   if (std::none_of(problems.begin(), problems.end(), [](const DOMDocProblem& problem) { return problem.line != 0; })) {
     throw Failure(problems.empty() ? "is not valid for a reason that is not known" : problems.front().reason);
   }
@@ -45,36 +49,46 @@ Findings DescribeProblems(const std::vector<DOMDocProblem>& problems) {
   return findings;
 }
 
-/// Whether loading fails because of the groups of a document that is valid, of which it says the reason but no place.
-bool IsAboutGroups(std::string_view reason) {
-  return reason.starts_with("Invalid node depth: ") || reason.starts_with("Unexpected list element name: ");
-}
+/// Follows the loading of one file.
+class CFollower {
+ public:
+  FileContent Read(const std::filesystem::path& path) {
+    try {
+      CheckXmlVif(path, [this](const VifElementReport& report) { Take(report); });
+    } catch (const CVIFInvalidFile& error) {
+      return {{}, DescribeProblems(error.Problems())};
+    } catch (const CZoRunTimeException& error) {
+      TakeFailure(error);
+    } catch (const CZoDOMDocException& error) {
+      TakeFailure(error);
+    }
+    return std::move(m_content);
+  }
 
-FileContent InvalidGroups(const std::exception& error) {
-  if (!IsAboutGroups(error.what())) throw;
-  return {{}, {{&code::kNotValid, 0, 0, {}, Printable(error.what())}}};
-}
+ private:
+  void Take(const VifElementReport& report) {
+    if (report.field != nullptr) {
+      m_content.fields.push_back({*report.field, report.line, report.column, report.path});
+    } else if (report.fate == eVifElementNotUnderstood) {
+      m_failure = Finding{&code::kNotValid, report.line, report.column, report.path, {}};
+    } else {
+      m_content.findings.push_back(DescribePassedOver(report));
+    }
+  }
+
+  /// Loading has failed: on a group of which it has told before, or for a reason that is none of the file's doing.
+  void TakeFailure(const std::exception& error) {
+    if (!m_failure) throw;
+    m_failure->message = Quoted(m_failure->element) + " is a group that loading fails on: " + Printable(error.what());
+    m_content.findings.push_back(*m_failure);
+  }
+
+  FileContent m_content;
+  std::optional<Finding> m_failure;
+};
 
 }  // namespace
 
-FileContent ReadXmlFile(const std::filesystem::path& path) {
-  FileContent content;
-  try {
-    CheckXmlVif(path, [&](const VifElementReport& report) {
-      if (report.field != nullptr) {
-        content.fields.push_back({*report.field, report.line, report.column, report.path});
-      } else {
-        content.findings.push_back(DescribePassedOver(report));
-      }
-    });
-    return content;
-  } catch (const CVIFInvalidFile& error) {
-    return {{}, DescribeProblems(error.Problems())};
-  } catch (const CZoRunTimeException& error) {
-    return InvalidGroups(error);
-  } catch (const CZoDOMDocException& error) {
-    return InvalidGroups(error);
-  }
-}
+FileContent ReadXmlFile(const std::filesystem::path& path) { return CFollower().Read(path); }
 
 }  // namespace tool
