@@ -32,9 +32,13 @@ CVifSession::~CVifSession() {
 }
 
 bool CVifSession::Start() {
-  // "Done" means that the hook has done its work, not that the file could be loaded. Whether it could is told by the
-  // VIF being there or not.
-  return m_hooks.initialize(&m_context) == kDone && CAppState::TestSuiteVIF() != nullptr;
+  const CVendorInfoFile* before = CAppState::TestSuiteVIF();
+  if (m_hooks.initialize(&m_context) != kDone) return false;
+  // "Done" means that the hook has done its work, not that the file could be loaded. Whether it could is told by a VIF
+  // being there that was not there before: one that is published already stays when the load fails. When it succeeds,
+  // that one is replaced and not deleted, so that the new one has another address.
+  const CVendorInfoFile* now = CAppState::TestSuiteVIF();
+  return now != nullptr && now != before;
 }
 
 }  // namespace host

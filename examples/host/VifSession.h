@@ -22,7 +22,8 @@ VifHooks FindHooks(const CSharedLibrary& library);
 class CVifSession {
  public:
   /// Sets up what the hooks look for: the user-input module and the suite's log in the state of the application, and
-  /// the context. \param log and input are borrowed for the life of the session
+  /// the context.
+  /// \param log borrowed, as is `input`, for the life of the session
   CVifSession(const VifHooks& hooks, CTULog& log, CTUUserInput& input);
   CVifSession(const CVifSession&) = delete;
   CVifSession& operator=(const CVifSession&) = delete;
@@ -32,7 +33,7 @@ class CVifSession {
   ~CVifSession();
 
   /// Has a file chosen and loaded.
-  /// \return whether there is a VIF now; if not, the log says why
+  /// \return whether it was loaded; if not, the log says why
   bool Start();
 
   /// What the suites are handed.

@@ -1,10 +1,12 @@
 // Where schema files are found.
-#include "BaseUtilities/StringConvert.h"
 #include "TestUtilities/DOMDoc.h"
 #include "TestUtilities/LibraryDirectory.h"
+#include "TestUtilities/WidePath.h"
 
 #include <mutex>
 #include <system_error>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -16,38 +18,30 @@ std::filesystem::path SchemaDirectory() {
   return g_schemaDirectory;
 }
 
-std::wstring WideText(const std::filesystem::path& path) {
-#ifdef _WIN32
-  return path.native();
-#else
-  return Utf8ToUtf16(path.native());
-#endif
-}
-
-std::filesystem::path SchemaName(const wchar_t* text) {
-  const std::wstring wide = text != nullptr ? text : L"";
-#ifdef _WIN32
-  return wide;
-#else
-  return Utf16ToUtf8(wide);
-#endif
+/// Where a schema may be, in the order in which it is looked for; never empty.
+std::vector<std::filesystem::path> Directories() {
+  std::vector<std::filesystem::path> directories;
+  if (std::filesystem::path chosen = SchemaDirectory(); !chosen.empty()) directories.push_back(std::move(chosen));
+  const std::vector<std::filesystem::path>& library = LibraryDirectories();
+  for (const std::filesystem::path& directory : library) {
+    directories.push_back((directory / VENDORINFOFILE_SCHEMAS_FROM_LIBRARY).lexically_normal());
+  }
+  directories.insert(directories.end(), library.begin(), library.end());
+  // A schema that can be nowhere still gets a full path: it must not be taken from the current directory.
+  if (directories.empty()) directories.emplace_back("/");
+  return directories;
 }
 
 }  // namespace
 
 std::wstring CDOMDoc::MakeFullSchemaPath(const wchar_t* fileName) {
-  std::vector<std::filesystem::path> directories;
-  if (const std::filesystem::path chosen = SchemaDirectory(); !chosen.empty()) directories.push_back(chosen);
-  const std::filesystem::path library = LibraryDirectory();
-  directories.push_back((library / VENDORINFOFILE_SCHEMAS_FROM_LIBRARY).lexically_normal());
-  directories.push_back(library);
-
-  const std::filesystem::path name = SchemaName(fileName);
+  const std::vector<std::filesystem::path> directories = Directories();
+  const std::filesystem::path name = WideToPath(fileName != nullptr ? fileName : L"");
   for (const std::filesystem::path& directory : directories) {
     std::error_code ignored;
-    if (std::filesystem::exists(directory / name, ignored)) return WideText(directory / name);
+    if (std::filesystem::exists(directory / name, ignored)) return PathToWide(directory / name);
   }
-  return WideText(directories.front() / name);
+  return PathToWide(directories.front() / name);
 }
 
 void CDOMDoc::SetSchemaDirectory(const std::filesystem::path& directory) {

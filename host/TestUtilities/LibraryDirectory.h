@@ -2,6 +2,9 @@
 #pragma once
 
 #include <filesystem>
+#include <vector>
 
-/// The directory that holds this library's file; empty when that cannot be found out.
-std::filesystem::path LibraryDirectory();
+/// The directories of this library's file: that of the path by which it was loaded and, when symbolic links are on that
+/// path, that of the file itself. They are absolute and found out while the library is loaded, because the path may be
+/// relative to the directory that is the current one then. Empty when they cannot be found out.
+const std::vector<std::filesystem::path>& LibraryDirectories() noexcept;

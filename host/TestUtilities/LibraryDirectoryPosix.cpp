@@ -1,12 +1,34 @@
 #include "TestUtilities/LibraryDirectory.h"
 
 #include <dlfcn.h>
+#include <exception>
 
-std::filesystem::path LibraryDirectory() {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::vector<fs::path> Find() {
   Dl_info info = {};
-  const void* here = reinterpret_cast<const void*>(&LibraryDirectory);
+  const void* here = reinterpret_cast<const void*>(&LibraryDirectories);
   if (dladdr(here, &info) == 0 || info.dli_fname == nullptr) return {};
-  std::error_code ignored;
-  const std::filesystem::path library = std::filesystem::absolute(info.dli_fname, ignored);
-  return library.parent_path();
+  const fs::path loaded = fs::absolute(info.dli_fname);
+  const fs::path file = fs::canonical(loaded);
+  std::vector<fs::path> directories = {loaded.parent_path()};
+  if (file.parent_path() != directories.front()) directories.push_back(file.parent_path());
+  return directories;
 }
+
+/// An exception here would end the process before `main`.
+std::vector<fs::path> FindOrNone() noexcept {
+  try {
+    return Find();
+  } catch (const std::exception&) {
+    return {};
+  }
+}
+
+const std::vector<fs::path> kDirectories = FindOrNone();
+
+}  // namespace
+
+const std::vector<fs::path>& LibraryDirectories() noexcept { return kDirectories; }

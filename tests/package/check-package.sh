@@ -6,6 +6,7 @@ lib=$PREFIX/$LIBDIR
 work=$WORK/$1
 rm -rf "$work"
 mkdir -p "$work"
+xml=$PREFIX/share/vendorinfofile/examples/usb4-dock.xml
 flags=()
 [ -z "$SANITIZE" ] || flags=("-fsanitize=$SANITIZE")
 
@@ -43,6 +44,31 @@ case $1 in
       count=$((count + 1))
     done
     [ "$count" -ge 3 ] || fail "only $count examples are installed"
+    ;;
+  SchemasFoundThroughLinks)
+    mkdir "$work/files"
+    ln -s "$lib"/*.so* "$work/files"
+    ln -s "$lib" "$work/directory"
+    for links in files directory; do
+      LD_LIBRARY_PATH=$work/$links "$PREFIX/bin/vif" list "$xml" >"$work/$links.txt" || fail "not through links: $links"
+    done
+    ;;
+  SchemasFoundFromAnotherDirectory)
+    cat >"$work/moving.cpp" <<'EOF'
+#include <VendorInfoFile.h>
+
+#include <filesystem>
+
+int main(int, char** argv) {
+  std::filesystem::current_path(argv[1]);
+  return CVendorInfoFile(argv[2]).Count() == 0 ? 1 : 0;
+}
+EOF
+    "$CXX" -std=c++20 "${flags[@]}" "$work/moving.cpp" -I"$PREFIX/include/vendorinfofile" -L"$lib" \
+      -lVendorInfoFile -lVendorInfoFileHost -o "$work/moving"
+    mkdir "$work/elsewhere"
+    cd "$PREFIX"
+    LD_LIBRARY_PATH=$LIBDIR "$work/moving" "$work/elsewhere" "$xml" || fail 'not from another directory'
     ;;
   HeadersStandAlone)
     count=0

@@ -1,0 +1,66 @@
+#include "TestUtilities/WidePath.h"
+
+#ifdef _WIN32
+
+std::wstring PathToWide(const std::filesystem::path& path) { return path.native(); }
+
+std::filesystem::path WideToPath(std::wstring_view wide) { return wide; }
+
+#else
+
+#include "BaseUtilities/StringConvert.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace {
+
+static_assert(sizeof(wchar_t) == 4, "a surrogate may be one of a pair");
+
+constexpr wchar_t kByteBase = 0xDC00;
+
+bool IsByte(wchar_t character) { return character >= kByteBase + 0x80 && character <= kByteBase + 0xFF; }
+
+/// What comes back from the conversions is always UTF-8.
+bool IsUtf8(std::string_view text) { return Utf16ToUtf8(Utf8ToUtf16(text)) == text; }
+
+/// The number of bytes of the character that a text begins with; 0 when its first byte is no part of one.
+std::size_t CharacterLength(std::string_view text) {
+  const std::size_t longest = std::min<std::size_t>(text.size(), 4);
+  for (std::size_t length = 1; length <= longest; ++length) {
+    if (IsUtf8(text.substr(0, length))) return length;
+  }
+  return 0;
+}
+
+}  // namespace
+
+std::wstring PathToWide(const std::filesystem::path& path) {
+  std::wstring wide;
+  std::string_view rest = path.native();
+  while (!rest.empty()) {
+    const std::size_t length = CharacterLength(rest);
+    if (length == 0) {
+      wide += static_cast<wchar_t>(kByteBase + static_cast<unsigned char>(rest.front()));
+      rest.remove_prefix(1);
+    } else {
+      wide += Utf8ToUtf16(rest.substr(0, length));
+      rest.remove_prefix(length);
+    }
+  }
+  return wide;
+}
+
+std::filesystem::path WideToPath(std::wstring_view wide) {
+  std::string bytes;
+  for (const wchar_t& character : wide) {
+    if (IsByte(character)) {
+      bytes += static_cast<char>(character - kByteBase);
+    } else {
+      bytes += Utf16ToUtf8(std::wstring_view(&character, 1));
+    }
+  }
+  return bytes;
+}
+
+#endif
