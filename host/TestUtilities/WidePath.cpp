@@ -36,7 +36,9 @@ std::size_t CharacterLength(std::string_view text) {
 }  // namespace
 
 std::wstring PathToWide(const std::filesystem::path& path) {
-  std::wstring wide;
+  std::wstring wide = Utf8ToUtf16(path.native());
+  if (Utf16ToUtf8(wide) == path.native()) return wide;  // as almost every path
+  wide.clear();
   std::string_view rest = path.native();
   while (!rest.empty()) {
     const std::size_t length = CharacterLength(rest);
