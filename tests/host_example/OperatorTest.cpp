@@ -92,6 +92,14 @@ TEST_F(Operator, IsAskedAgainAfterAPathThatIsNoVif) {
   EXPECT_EQ(m_host.Log().front(), Selected(vif));
 }
 
+TEST_F(Operator, WhoChoosesAnInvalidFileIsToldSo) {
+  m_host.Dir().Write("a.xml", "<VIF/>");
+  const ProgramResult result = Types("1\n");
+  EXPECT_EQ(result.status, kCouldNotRun);
+  EXPECT_THAT(result.output, HasSubstr("is not a valid Vendor Info File."));
+  EXPECT_THAT(m_host.Log(), testing::Contains(HasSubstr("Unexpected error creating ")));
+}
+
 TEST_F(Operator, CancelsWithAnEmptyLine) {
   m_host.Dir().Write("a.txt", "");
   ExpectNoChoice(Types("\n1\n"));
