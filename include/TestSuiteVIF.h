@@ -12,6 +12,7 @@ struct TestSuiteContext {
   CTUUserInput* userInput;  ///< asks the operator; must not be null in `TestSuiteVIF_Initialize` unless `log` is
 };
 
+// Both take no locks: a host calls them from one thread, and Cleanup while no test reads the published VIF.
 extern "C" {
 
 /// To be called when a test suite that needs a VIF starts: has the operator choose a file, loads it and publishes it as

@@ -12,6 +12,8 @@
 /// "<path> is not a valid Vendor Info File.", with the reasons beside it.
 class VIF_API CVIFInvalidFile : public CZoRunTimeException {
  public:
+  /// \param message the whole message
+  /// \param problems the reasons; must not be empty
   CVIFInvalidFile(const std::string& message, std::vector<DOMDocProblem> problems);
   CVIFInvalidFile(const CVIFInvalidFile&) = default;
   CVIFInvalidFile(CVIFInvalidFile&&) = default;

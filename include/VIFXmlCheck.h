@@ -42,6 +42,7 @@ using VifElementObserver = std::function<void(const VifElementReport&)>;
 /// The field made of the application's vendor, name and version is reported for `VIF_App`. Optional content and an
 /// empty product, which many files have, are not reported.
 ///
+/// May be called from any number of threads at once, each with an observer of its own.
 /// \param observer is told of each; when it is empty, nobody is
 /// \throws CVIFInvalidFile when the file is no valid VIF, CZoRunTimeException and CZoDOMDocException when loading fails
 ///   on a group, CZoDOMDocException when a schema cannot be used, _com_error when a call on the document fails, and

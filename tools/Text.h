@@ -14,6 +14,9 @@ std::string ValidUtf8(std::string_view text);
 /// as \n and \x1b.
 std::string Printable(std::string_view text);
 
+/// Whether the character is one of 0 to 9, in any locale.
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
 /// The columns that printable text takes up on a terminal.
 size_t DisplayWidth(std::string_view text);
 

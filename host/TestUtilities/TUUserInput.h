@@ -6,6 +6,8 @@
 /// Asks the operator. A host derives from it. The library calls `ChooseFile` only; the other operations are the host's,
 /// and their bodies here do what an operator who is not there would: nothing.
 ///
+/// It is asked on the thread that calls a hook.
+///
 /// The order of the operations is part of the interface: `ChooseFile` is the sixth.
 class ZO_API CTUUserInput {
  public:

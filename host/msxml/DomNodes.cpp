@@ -24,12 +24,6 @@ HRESULT GiveText(const xmlChar* text, BSTR* place) {
   return text != nullptr ? S_OK : S_FALSE;
 }
 
-std::string QualifiedName(const xmlNs* ns, const xmlChar* name) {
-  std::string text;
-  if (ns != nullptr && ns->prefix != nullptr) text.append(View(ns->prefix)).append(":");
-  return text.append(View(name));
-}
-
 std::string AttributeValue(const xmlAttr& attribute) {
   std::string value;
   for (const xmlNode* part = attribute.children; part != nullptr; part = part->next) value += View(part->content);

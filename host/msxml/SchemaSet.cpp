@@ -100,11 +100,7 @@ void CollectInvalidity(void* data, xmlErrorPtr error) {
     std::string message = error->message != nullptr ? error->message : "";
     message = WithoutNamespaces(std::move(message), validation.sources);
     if (node != nullptr && node->type == XML_ATTRIBUTE_NODE) node = node->parent;
-    std::string element;
-    if (node != nullptr && node->ns != nullptr && node->ns->prefix != nullptr) {
-      element = std::string(View(node->ns->prefix)) + ':';
-    }
-    if (node != nullptr) element += View(node->name);
+    const std::string element = node != nullptr ? QualifiedName(node->ns, node->name) : std::string();
     xmlError readable = *error;
     readable.message = message.data();
     validation.problems.Add(readable, place.line, place.column, element);

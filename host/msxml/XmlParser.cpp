@@ -104,12 +104,6 @@ void Stop(xmlParserCtxt& context, std::string_view element, std::string_view rea
   xmlStopParser(&context);
 }
 
-std::string QualifiedName(const xmlChar* prefix, const xmlChar* name) {
-  std::string text(View(prefix));
-  if (!text.empty()) text += ':';
-  return text += View(name);
-}
-
 void StartElement(void* data, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri, int namespaceCount,
                   const xmlChar** namespaces, int attributeCount, int defaultedCount, const xmlChar** attributes) {
   auto& context = *static_cast<xmlParserCtxt*>(data);

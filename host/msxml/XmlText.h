@@ -1,8 +1,9 @@
 // Text as libxml2 has it, UTF-8 in unsigned characters.
 #pragma once
 
-#include <libxml/xmlstring.h>
+#include <libxml/tree.h>
 
+#include <string>
 #include <string_view>
 
 namespace msxml {
@@ -14,5 +15,17 @@ inline std::string_view View(const xmlChar* text) {
 
 /// The UTF-8 text as libxml2 takes it, borrowed. It must end in a NUL where libxml2 expects that.
 inline const xmlChar* Xml(const char* text) { return reinterpret_cast<const xmlChar*>(text); }
+
+/// The name with its prefix, if there is one.
+inline std::string QualifiedName(const xmlChar* prefix, const xmlChar* name) {
+  std::string text(View(prefix));
+  if (!text.empty()) text += ':';
+  return text.append(View(name));
+}
+
+/// The same of an element or an attribute.
+inline std::string QualifiedName(const xmlNs* ns, const xmlChar* name) {
+  return QualifiedName(ns != nullptr ? ns->prefix : nullptr, name);
+}
 
 }  // namespace msxml

@@ -20,6 +20,7 @@ std::vector<DOMDocProblem> ProblemsOf(const std::string& document) {
   const testsupport::TempDir dir;
   CDOMDoc doc({});
   EXPECT_FALSE(doc.ValidateDoc(dir.Write("x.xml", document)));
+  EXPECT_THAT(doc.Problems(), Not(IsEmpty()));  // or the loops over them would see nothing
   return doc.Problems();
 }
 

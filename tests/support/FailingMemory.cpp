@@ -5,6 +5,7 @@
 #include "msxml/ComTypes.h"
 
 #include <dlfcn.h>
+#include <atomic>
 #include <cstdlib>
 #include <new>
 
@@ -12,6 +13,7 @@ namespace {
 
 using testsupport::Memory;
 
+std::atomic<std::size_t> g_allocations = 0;
 bool g_isArmed = false;
 Memory g_kind = Memory::OperatorNew;
 std::size_t g_left = 0;
@@ -23,7 +25,10 @@ bool MustFail(Memory kind) {
   return true;
 }
 
-void* Allocate(std::size_t size) { return MustFail(Memory::OperatorNew) ? nullptr : std::malloc(size != 0 ? size : 1); }
+void* Allocate(std::size_t size) {
+  ++g_allocations;
+  return MustFail(Memory::OperatorNew) ? nullptr : std::malloc(size != 0 ? size : 1);
+}
 
 void* AllocateOrThrow(std::size_t size) {
   void* memory = Allocate(size);
@@ -34,6 +39,8 @@ void* AllocateOrThrow(std::size_t size) {
 }  // namespace
 
 namespace testsupport {
+
+std::size_t AllocationCount() { return g_allocations; }
 
 CFailingMemory::CFailingMemory(Memory kind, std::size_t k) {
   g_kind = kind;

@@ -1,11 +1,14 @@
-// Memory that runs out on demand.
+// Memory that is counted, and runs out on demand.
 #pragma once
 
 #include <cstddef>
 
 namespace testsupport {
 
-/// Which allocations count.
+/// How often memory has been allocated so far by `new`, anywhere in the program, in shared libraries too.
+std::size_t AllocationCount();
+
+/// Which allocations fail.
 enum class Memory { OperatorNew, Bstr };
 
 /// While it lives, the k-th allocation of that kind fails, counted from 1 and from now. One at a time, on one thread.

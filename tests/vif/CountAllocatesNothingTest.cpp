@@ -1,6 +1,6 @@
 // Needs a program of its own, because it is linked with a global operator new that counts.
-#include "CountingNew.h"
 #include "VendorInfoFile.h"
+#include "support/FailingMemory.h"
 
 #include <gtest/gtest.h>
 

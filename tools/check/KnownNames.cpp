@@ -1,5 +1,7 @@
 #include "KnownNames.h"
 
+#include "Text.h"
+
 #include <BaseUtilities/StringConvert.h>
 
 #include <algorithm>
@@ -19,8 +21,6 @@ using NameTable = std::map<std::string, const VifFieldDef*, std::less<>>;
 
 /// Names longer than this are none of the format's, with indexes or without.
 constexpr std::size_t kLongestName = 100;
-
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 

@@ -1,6 +1,7 @@
 #include "FieldText.h"
 #include "Rules.h"
 #include "Sentence.h"
+#include "Text.h"
 
 #include <algorithm>
 #include <string_view>
@@ -8,8 +9,6 @@
 namespace tool {
 
 namespace {
-
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 bool IsHexadecimal(std::string_view value) { return value.starts_with("0x") || value.starts_with("0X"); }
 
