@@ -10,8 +10,20 @@ set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
+# Windows looks for the libraries of a program beside it, and has no prefix for them.
+if(WIN32)
+  set(CMAKE_SHARED_LIBRARY_PREFIX "")
+  set(CMAKE_SHARED_MODULE_PREFIX "")
+  set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
+  set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
+endif()
+
 add_library(project_settings INTERFACE)
 target_compile_features(project_settings INTERFACE cxx_std_20)
+if(WIN32)
+  # Text is Unicode, and windows.h brings no more than is asked for.
+  target_compile_definitions(project_settings INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
+endif()
 if(MSVC)
   target_compile_options(project_settings INTERFACE /W4 /permissive- /utf-8)
 else()

@@ -5,10 +5,10 @@
 #include "TestUtilities/TUUserInput.h"
 #include "VendorInfoFile.h"
 #include "ZorvenLog/TestSuiteLog.h"
+#include "NarrowPath.h"
 #include "msxml/ComPointer.h"
 
 #include <exception>
-#include <filesystem>
 #include <memory>
 #include <new>
 #include <string>
@@ -72,7 +72,7 @@ void WriteCreateError(CTULog& log, const char* fileName) {
 /// Loads the file that the operator chose and publishes it.
 void LoadAndPublish(CTULog& log, const char* fileName) {
   Write(log, kInformation, "Initializing VIF...");
-  auto vif = std::make_unique<CVendorInfoFile>(std::filesystem::path(fileName));
+  auto vif = std::make_unique<CVendorInfoFile>(NarrowToPath(fileName));
   CAppState::TestSuiteVIF(vif.get());
   static_cast<void>(vif.release());  // the application state's from here on
 }

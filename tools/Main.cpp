@@ -3,6 +3,8 @@
 #include "Output.h"
 #include "Text.h"
 
+#include <msxml/ComApartment.h>
+
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
@@ -68,6 +70,8 @@ Status Run(int argc, char** argv) {
 int main(int argc, char** argv) {
   std::setlocale(LC_CTYPE, "C.UTF-8");  // for the width of characters; the library asks the C++ locale, not this one
   try {
+    tool::PrepareOutput();
+    const CComApartment apartment;
     return Run(argc, argv);
   } catch (const tool::Wanting& finding) {
     return Fail(finding.what(), tool::kWanting);
@@ -75,5 +79,7 @@ int main(int argc, char** argv) {
     return Fail("out of memory");
   } catch (const std::exception& error) {
     return Fail(error.what());
+  } catch (const _com_error&) {
+    return Fail("COM cannot be used");
   }
 }

@@ -10,6 +10,7 @@
 #include <string>
 
 #ifdef _WIN32
+#include <fcntl.h>
 #include <io.h>
 #include <windows.h>
 #else
@@ -26,6 +27,12 @@ namespace {
 }
 
 #ifdef _WIN32
+void WriteBytesAsTheyAre() {
+  SetConsoleOutputCP(CP_UTF8);
+  _setmode(_fileno(stdout), _O_BINARY);
+  _setmode(_fileno(stderr), _O_BINARY);
+}
+
 bool IsTerminal() { return _isatty(_fileno(stdout)) != 0; }
 
 size_t AskedWidth() {
@@ -34,6 +41,8 @@ size_t AskedWidth() {
   return static_cast<size_t>(info.srWindow.Right - info.srWindow.Left + 1);
 }
 #else
+void WriteBytesAsTheyAre() {}  // as this system always does
+
 bool IsTerminal() { return isatty(STDOUT_FILENO) != 0; }
 
 size_t AskedWidth() {
@@ -50,6 +59,8 @@ size_t WidthFromEnvironment() {
 }
 
 }  // namespace
+
+void PrepareOutput() { WriteBytesAsTheyAre(); }
 
 void Write(std::string_view text) {
   if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) ThrowWriteFailure();

@@ -7,6 +7,10 @@
 
 namespace tool {
 
+/// To be called once before anything is written: what is written comes out byte for byte, and a console takes it for
+/// UTF-8.
+void PrepareOutput();
+
 /// Writes to standard output, buffered.
 /// \throws Failure when the text cannot be written
 void Write(std::string_view text);

@@ -19,6 +19,8 @@
 #include "VifSession.h"
 #include "suite/ComplianceSuite.h"
 
+#include <msxml/ComApartment.h>
+
 #include <exception>
 #include <iostream>
 #include <memory>
@@ -39,6 +41,7 @@ std::unique_ptr<CTUUserInput> MakeUserInput(const Options& options) {
 /// before the suite, so that the suite, which needs it, gets the one that was asked for; and both outlive the session,
 /// because the VIF is the library's object.
 ExitStatus Run(const Options& options, CHostLog& log) {
+  const CComApartment apartment;  // COM is the host's business
   const std::unique_ptr<CTUUserInput> input = MakeUserInput(options);
   const CSharedLibrary library(options.library);
   const VifHooks hooks = FindHooks(library);

@@ -1,5 +1,6 @@
 // Lists every field of one or more Vendor Info Files: where it stands, its name, its value and what that means.
 #include <VendorInfoFile.h>
+#include <msxml/ComApartment.h>
 
 #include <cstdlib>
 #include <exception>
@@ -36,6 +37,7 @@ int main(int argc, char* argv[]) {
     return EXIT_FAILURE;
   }
   try {
+    const CComApartment apartment;  // on Windows, XML files are read through COM
     CVendorInfoFile vif;
     for (int i = 1; i < argc; ++i) vif.Append(argv[i]);  // each text VIF becomes one more component
 

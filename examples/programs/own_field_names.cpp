@@ -1,5 +1,6 @@
 // Loads a text VIF that holds a vendor's own field names next to those of the VIF format.
 #include <VendorInfoFile.h>
+#include <msxml/ComApartment.h>
 
 #include <cstdlib>
 #include <exception>
@@ -39,6 +40,7 @@ int main(int argc, char* argv[]) {
     return EXIT_FAILURE;
   }
   try {
+    const CComApartment apartment;  // on Windows, XML files are read through COM
     // A name that no definition knows is kept as it is written, and its field stands in no group.
     std::cout << "With the built-in definitions:\n";
     PrintOwnFields(CVendorInfoFile(argv[1]));

@@ -1,5 +1,6 @@
 // Prints what a product can supply: the voltage and current of each source PDO of each component.
 #include <VendorInfoFile.h>
+#include <msxml/ComApartment.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -48,6 +49,7 @@ void PrintPdo(const std::vector<CVIFField>& fields, const CVIFField& pdo) {
 
 int main(int argc, char* argv[]) try {
   if (argc != 2) throw std::runtime_error("needs the name of one FILE");
+  const CComApartment apartment;  // on Windows, XML files are read through COM
   const CVendorInfoFile vif(argv[1]);
   const VifFieldList fields = vif.GetFields();  // kept in a variable: the loop borrows from it
   for (const CVIFField& field : *fields)        // each source PDO states its supply type once

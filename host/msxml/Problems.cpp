@@ -3,6 +3,7 @@
 #include "BaseUtilities/StringConvert.h"
 
 #include <new>
+#include <string>
 #include <utility>
 
 namespace msxml {
@@ -15,8 +16,8 @@ constexpr std::size_t kMostProblems = 10'000;
 /// A reason quotes the file's own text, which may be of any length.
 constexpr std::size_t kLongestText = 1'000;
 
-/// The text on one line, without blanks at its end, cut to a length that a person can read, and as valid UTF-8: libxml2
-/// quotes the bytes of a file as they are.
+/// The text on one line, without blanks at its end, cut to a length that a person can read, and as valid UTF-8: a
+/// parser may quote the bytes of a file as they are.
 std::string ReadableText(std::string_view text) {
   while (!text.empty() && static_cast<unsigned char>(text.back()) <= ' ') text.remove_suffix(1);
   const bool isCut = text.size() > kLongestText;
@@ -33,14 +34,6 @@ std::string ReadableText(std::string_view text) {
 }
 
 }  // namespace
-
-void CProblems::Add(const xmlError& error, std::size_t line, std::size_t column, std::string_view element) noexcept {
-  if (error.code == XML_ERR_NO_MEMORY) {
-    RanOutOfMemory();
-  } else if (error.level != XML_ERR_WARNING) {
-    Add(line, column, element, error.message != nullptr ? error.message : "unknown error");
-  }
-}
 
 void CProblems::Add(std::size_t line, std::size_t column, std::string_view element, std::string_view reason) noexcept {
   if (m_list.size() >= kMostProblems) {

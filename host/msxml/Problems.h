@@ -3,20 +3,15 @@
 
 #include "TestUtilities/DOMDocProblem.h"
 
-#include <libxml/xmlerror.h>
-
-#include <string>
+#include <cstddef>
 #include <string_view>
 #include <vector>
 
 namespace msxml {
 
-/// Is filled from libxml2's callbacks, which no exception may leave: memory that runs out is kept and raised later.
+/// Is filled from callbacks, which no exception may leave: memory that runs out is kept and raised later.
 class CProblems {
  public:
-  /// What libxml2 reports. Warnings are passed over.
-  void Add(const xmlError& error, std::size_t line, std::size_t column, std::string_view element) noexcept;
-
   void Add(std::size_t line, std::size_t column, std::string_view element, std::string_view reason) noexcept;
 
   /// Forgets the problems, but not that memory ran out.

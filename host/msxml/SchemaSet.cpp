@@ -3,6 +3,7 @@
 #include "BaseUtilities/Exceptions.h"
 #include "BaseUtilities/SimpleBuffer.h"
 #include "msxml/ThreadErrors.h"
+#include "msxml/XmlError.h"
 #include "msxml/XmlParser.h"
 #include "msxml/XmlText.h"
 
@@ -103,7 +104,7 @@ void CollectInvalidity(void* data, xmlErrorPtr error) {
     const std::string element = node != nullptr ? QualifiedName(node->ns, node->name) : std::string();
     xmlError readable = *error;
     readable.message = message.data();
-    validation.problems.Add(readable, place.line, place.column, element);
+    AddError(validation.problems, readable, place.line, place.column, element);
   } catch (const std::bad_alloc&) {
     validation.problems.RanOutOfMemory();
   }

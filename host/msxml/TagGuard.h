@@ -1,6 +1,8 @@
 // Keeps tags within bounds.
 #pragma once
 
+#include "msxml/Limits.h"
+
 #include <cstddef>
 
 namespace msxml {
@@ -12,8 +14,6 @@ namespace msxml {
 /// for nothing else.
 class CTagGuard {
  public:
-  static constexpr std::size_t kMostAttributes = 1'000;  // in one tag, declarations of namespaces included
-
   /// Looks at the next bytes.
   /// \return false when a tag goes beyond the bounds, now or before
   bool Take(const char* bytes, std::size_t count);

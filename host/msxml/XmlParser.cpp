@@ -2,8 +2,10 @@
 
 #include "BaseUtilities/StringConvert.h"
 #include "msxml/InputFile.h"
+#include "msxml/Limits.h"
 #include "msxml/TagGuard.h"
 #include "msxml/ThreadErrors.h"
+#include "msxml/XmlError.h"
 #include "msxml/XmlText.h"
 
 #include <libxml/SAX2.h>
@@ -13,7 +15,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <iterator>
 #include <mutex>
 #include <new>
 #include <string>
@@ -28,20 +29,6 @@ namespace {
 // has, and entities, which could multiply it, cannot be declared.
 // That the five entities of every document are replaced everywhere has to be asked for.
 constexpr int kOptions = XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_NOENT;
-
-// The parser looks through them for every name with a prefix.
-constexpr int kMostNamespaces = 1'000;
-
-// Comments, processing instructions and CDATA sections cut a text in pieces, and libxml2's validation copies all that
-// it has of a value for each piece that is added. So many bytes may be copied for one value.
-constexpr std::uint64_t kMostCopied = 1'000'000'000;
-
-/// The beginnings of the names of encodings in which the bytes of ASCII characters stand for nothing else, and UTF-16.
-/// In others, tags could hide from the guard.
-constexpr std::string_view kEncodings[] = {
-    "UTF-8",    "UTF8",      "UTF-16", "UTF16",       "US-ASCII", "ASCII", "ISO-8859-", "ISO_8859-",
-    "ISO8859-", "ISO LATIN", "LATIN",  "WINDOWS-125", "CP125",    "CP932", "SHIFT_JIS", "SHIFT-JIS",
-    "SJIS",     "EUC-",      "GB2312", "GBK",         "GB18030",  "BIG5",  "KOI8-",     "TIS-620"};
 
 /// What the parser reads from: a file whose tags are kept within bounds.
 struct Source {
@@ -111,14 +98,11 @@ void StartElement(void* data, const xmlChar* name, const xmlChar* prefix, const 
   run.BeginText();
   try {
     if (context.nodeNr >= kGreatestDepth) {
-      Stop(context, QualifiedName(prefix, name),
-           "Elements are nested more than " + std::to_string(kGreatestDepth) + " deep.");
+      Stop(context, QualifiedName(prefix, name), TooDeepReason());
       return;
     }
     if (context.nsNr / 2 > kMostNamespaces) {
-      Stop(context, QualifiedName(prefix, name),
-           "There are declarations of more than " + std::to_string(kMostNamespaces) +
-               " namespaces around this element.");
+      Stop(context, QualifiedName(prefix, name), TooManyNamespacesReason());
       return;
     }
     run.positions.push_back(StartTagPosition(*context.input));
@@ -149,8 +133,7 @@ void EndPiece(void* data) {
   run.copied += run.textLength;
   if (run.copied <= kMostCopied) return;
   const xmlChar* name = context.node != nullptr ? context.node->name : nullptr;
-  Stop(context, View(name),
-       "A text is in too many pieces between comments, processing instructions and CDATA sections.");
+  Stop(context, View(name), kTooManyPiecesReason);
 }
 
 void Comment(void* data, const xmlChar* text) {
@@ -187,11 +170,9 @@ void StartDocument(void* data) {
   auto& context = *static_cast<xmlParserCtxt*>(data);
   try {
     const std::string encoding = Encoding(context);
-    const bool isKnown = encoding.empty() || std::any_of(std::begin(kEncodings), std::end(kEncodings),
-                                                         [&](auto begin) { return encoding.starts_with(begin); });
-    const bool isUtf16 = encoding.starts_with("UTF-16") || encoding.starts_with("UTF16");
-    if (!isKnown || isUtf16 != RunOf(context).guard.IsUtf16()) {
-      Stop(context, {}, "The encoding " + (encoding.empty() ? "UTF-8" : encoding) + " is not supported here.");
+    const bool isKnown = encoding.empty() || IsSupportedEncoding(encoding);
+    if (!isKnown || IsUtf16(encoding) != RunOf(context).guard.IsUtf16()) {
+      Stop(context, {}, UnsupportedEncodingReason(encoding.empty() ? "UTF-8" : encoding));
       return;
     }
   } catch (const std::bad_alloc&) {
@@ -203,7 +184,7 @@ void StartDocument(void* data) {
 }
 
 void RefuseDocumentType(void* data, const xmlChar* name, const xmlChar*, const xmlChar*) {
-  Stop(*static_cast<xmlParserCtxt*>(data), View(name), "A document type declaration is not allowed.");
+  Stop(*static_cast<xmlParserCtxt*>(data), View(name), kDocumentTypeReason);
 }
 
 void ReportError(void* data, xmlErrorPtr error) {
@@ -212,7 +193,7 @@ void ReportError(void* data, xmlErrorPtr error) {
   const std::string_view element = context.node != nullptr ? View(context.node->name) : std::string_view();
   // What concerns the decoding knows no line of its own.
   const int line = error->line > 0 || context.input == nullptr ? error->line : context.input->line;
-  RunOf(context).problems.Add(*error, static_cast<std::size_t>(std::max(line, 0)),
+  AddError(RunOf(context).problems, *error, static_cast<std::size_t>(std::max(line, 0)),
                               static_cast<std::size_t>(std::max(error->int2, 0)), element);
 }
 
@@ -250,13 +231,12 @@ std::shared_ptr<const CXmlTree> ParseXmlFile(const std::filesystem::path& path, 
   if (source.file.HasFailed() || source.guard.HasTripped()) problems.Clear();
   if (source.file.HasFailed()) problems.Add(0, 0, {}, "The file " + source.file.Error() + ".");
   if (source.guard.HasTripped()) {
-    problems.Add(source.guard.Line(), 0, {},
-                 "An element has more than " + std::to_string(CTagGuard::kMostAttributes) + " attributes.");
+    problems.Add(source.guard.Line(), 0, {}, TooManyAttributesReason());
   }
   const bool isSound = document != nullptr && context->wellFormed == 1 && context->nsWellFormed == 1;
   // The parser takes a NUL for the end.
   if (isSound && context->input != nullptr && context->input->cur < context->input->end) {
-    problems.Add(static_cast<std::size_t>(std::max(context->input->line, 0)), 0, {}, "There is a NUL in the file.");
+    problems.Add(static_cast<std::size_t>(std::max(context->input->line, 0)), 0, {}, kNulReason);
   }
   if (!isSound && problems.IsEmpty()) problems.Add(0, 0, {}, "The file is not well-formed XML.");
   if (!problems.IsEmpty()) return nullptr;

@@ -9,9 +9,6 @@
 
 namespace msxml {
 
-/// No element may stand deeper; the root's depth is 1.
-constexpr int kGreatestDepth = 256;
-
 /// Parses a file: well-formed XML with namespaces, without a document type declaration, hence without entities of
 /// its own, and not nested deeper than `kGreatestDepth`. Nothing but the file is ever read.
 /// \param problems receives the reasons when the file is not as described or cannot be read

@@ -1,0 +1,13 @@
+# The compiler's run-time libraries, which a Windows program built by MinGW-w64 needs beside it. They are shared by
+# library and program, because an exception that one throws and the other catches is counted in them.
+set(PROJECT_RUNTIME_LIBRARIES)
+foreach(library libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+  execute_process(COMMAND "${CMAKE_CXX_COMPILER}" "-print-file-name=${library}"
+    OUTPUT_VARIABLE file OUTPUT_STRIP_TRAILING_WHITESPACE)
+  if(NOT IS_ABSOLUTE "${file}")
+    message(FATAL_ERROR "${CMAKE_CXX_COMPILER} has no ${library}")
+  endif()
+  list(APPEND PROJECT_RUNTIME_LIBRARIES "${file}")
+endforeach()
+file(COPY ${PROJECT_RUNTIME_LIBRARIES} DESTINATION "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}" FOLLOW_SYMLINK_CHAIN)
+install(FILES ${PROJECT_RUNTIME_LIBRARIES} DESTINATION "${CMAKE_INSTALL_BINDIR}")

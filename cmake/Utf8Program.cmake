@@ -1,0 +1,10 @@
+# Makes the narrow text of a program UTF-8 on Windows, as it is elsewhere: its arguments, file names, and the system
+# code page, which the texts of XML VIFs are in. Windows heeds it from version 1903 of Windows 10 on.
+function(project_use_utf8 target)
+  set(folder "${CMAKE_CURRENT_FUNCTION_LIST_DIR}")
+  if(MSVC)
+    target_sources(${target} PRIVATE "${folder}/utf8.manifest")
+  elseif(WIN32)
+    target_sources(${target} PRIVATE "${folder}/utf8.rc")
+  endif()
+endfunction()

@@ -1,0 +1,120 @@
+// CDOMDoc over MSXML 6.
+#include "BaseUtilities/StringConvert.h"
+#include "TestUtilities/DOMDoc.h"
+#include "TestUtilities/WidePath.h"
+#include "msxml6/DocumentLoader.h"
+#include "msxml6/ElementPlaces.h"
+#include "msxml6/SchemaCache.h"
+
+#include <utility>
+
+struct CDOMDoc::Content {
+  std::vector<msxml6::SchemaSource> schemas;
+  std::wstring rootNamespace;  // with rootName: what the root must be; any when rootName is empty
+  std::wstring rootName;
+  std::filesystem::path file;
+  std::vector<DOMDocProblem> problems;
+  std::vector<msxml6::Tag> tags;  // of the document's elements
+  DOMDocument2Ptr document = msxml6::MakeDocument();
+
+  /// Whether a document that has been loaded is valid; the reasons are in `problems` when it is not.
+  bool Validate(IXMLDOMDocument2& loaded, const std::vector<msxml6::Tag>& itsTags);
+};
+
+namespace {
+
+std::wstring Received(HRESULT result, IXMLDOMNode& node, const CBstr& text) {
+  msxml6::Require(result, node, IID_IXMLDOMNode);
+  return std::wstring(text.View());
+}
+
+DOMElementPtr RootOf(IXMLDOMDocument2& document) {
+  DOMElementPtr root;
+  msxml6::Require(document.get_documentElement(root.Receive()), document, IID_IXMLDOMDocument2);
+  return root;
+}
+
+/// Adds a problem when the root is not the element asked for.
+/// \param namespaceUri null when any will do
+void CheckRoot(IXMLDOMDocument2& document, const std::vector<msxml6::Tag>& tags, const std::wstring* namespaceUri,
+               const std::wstring& name, msxml::CProblems& problems) {
+  const DOMElementPtr root = RootOf(document);
+  CBstr text;
+  const std::wstring rootName = Received(root->get_baseName(text.Receive()), *root, text);
+  const std::wstring rootNamespace = Received(root->get_namespaceURI(text.Receive()), *root, text);
+  if (name.empty() || (rootName == name && (namespaceUri == nullptr || rootNamespace == *namespaceUri))) return;
+  std::wstring reason = L"The root element is '" + rootName + L"' in ";
+  reason += rootNamespace.empty() ? L"no namespace" : L"the namespace '" + rootNamespace + L"'";
+  reason += L", not '" + name + L"'";
+  if (namespaceUri != nullptr) reason += L" in the namespace '" + *namespaceUri + L"'";
+  problems.Add(tags.at(1).line, tags.at(1).column, Utf16ToUtf8(rootName), Utf16ToUtf8(reason + L"."));
+}
+
+}  // namespace
+
+bool CDOMDoc::Content::Validate(IXMLDOMDocument2& loaded, const std::vector<msxml6::Tag>& itsTags) {
+  msxml::CProblems found;
+  CheckRoot(loaded, itsTags, &rootNamespace, rootName, found);
+  // An element that is not the root asked for is no use to the schemas, and what they said would only confuse.
+  if (found.IsEmpty() && !schemas.empty()) msxml6::Validate(loaded, schemas, found);
+  problems = found.Take();
+  return problems.empty();
+}
+
+CDOMDoc::CDOMDoc(const std::vector<std::pair<std::wstring, std::wstring>>& schemas)
+    : m_content(std::make_unique<Content>()) {
+  for (const auto& [file, targetNamespace] : schemas) {
+    m_content->schemas.push_back({WideToPath(file), targetNamespace});
+  }
+}
+
+CDOMDoc::~CDOMDoc() = default;
+
+bool CDOMDoc::CanLoadDoc(const std::wstring& fileName, const std::wstring& rootName, bool validate) {
+  const DOMDocument2Ptr document = msxml6::MakeDocument();
+  msxml::CProblems found;
+  const auto tags = msxml6::LoadFile(*document, WideToPath(fileName), found);
+  if (tags) CheckRoot(*document, *tags, nullptr, rootName, found);
+  m_content->problems = found.Take();
+  return m_content->problems.empty() && (!validate || m_content->Validate(*document, *tags));
+}
+
+bool CDOMDoc::ParseDoc() {
+  msxml::CProblems found;
+  m_content->tags.clear();
+  auto tags = msxml6::LoadFile(Document(), m_content->file, found);
+  m_content->problems = found.Take();
+  if (!tags) return false;
+  m_content->tags = std::move(*tags);
+  return true;
+}
+
+bool CDOMDoc::ValidateDoc(const std::filesystem::path& file) {
+  m_content->file = file;
+  if (!ParseDoc()) return false;
+  return !m_content->tags.empty() && m_content->Validate(Document(), m_content->tags);
+}
+
+DOMElementPtr CDOMDoc::GetRootElement() const { return RootOf(Document()); }
+
+const std::vector<DOMDocProblem>& CDOMDoc::Problems() const noexcept { return m_content->problems; }
+
+bool CDOMDoc::Locate(IXMLDOMNode& node, std::size_t& line, std::size_t& column) const {
+  line = column = 0;
+  const msxml6::Tag* tag = msxml6::FindTag(node, m_content->tags);
+  if (tag == nullptr) return false;
+  line = tag->line;
+  column = tag->column;
+  return true;
+}
+
+std::string CDOMDoc::PathOf(IXMLDOMNode& node) const {
+  return m_content->tags.empty() ? std::string() : msxml6::PathOfElement(node);
+}
+
+IXMLDOMDocument2& CDOMDoc::Document() const noexcept { return *m_content->document.GetInterfacePtr(); }
+
+void CDOMDoc::RequireRoot(const std::wstring& namespaceUri, const std::wstring& localName) {
+  m_content->rootNamespace = namespaceUri;
+  m_content->rootName = localName;
+}

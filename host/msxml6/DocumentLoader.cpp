@@ -1,0 +1,124 @@
+#include "msxml6/DocumentLoader.h"
+
+#include "BaseUtilities/StringConvert.h"
+#include "msxml/Limits.h"
+#include "msxml6/FileText.h"
+#include "msxml6/MsXmlIds.h"
+
+#include <algorithm>
+#include <cstring>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace msxml6 {
+
+namespace {
+
+/// Bytes as COM takes them.
+class CByteArray {
+ public:
+  explicit CByteArray(std::string_view bytes) {
+    m_variant.vt = VT_ARRAY | VT_UI1;
+    m_variant.parray = SafeArrayCreateVector(VT_UI1, 0, static_cast<ULONG>(bytes.size()));
+    void* data = nullptr;
+    if (m_variant.parray == nullptr || FAILED(SafeArrayAccessData(m_variant.parray, &data))) {
+      _com_issue_error(E_OUTOFMEMORY);
+    }
+    if (!bytes.empty()) std::memcpy(data, bytes.data(), bytes.size());
+    SafeArrayUnaccessData(m_variant.parray);
+  }
+  CByteArray(const CByteArray&) = delete;
+  CByteArray& operator=(const CByteArray&) = delete;
+  ~CByteArray() { VariantClear(&m_variant); }
+
+  const VARIANT& get() const { return m_variant; }
+
+ private:
+  VARIANT m_variant = {};
+};
+
+void Clear(IXMLDOMDocument2& document) {
+  VARIANT_BOOL isLoaded = VARIANT_FALSE;
+  document.loadXML(CBstr(L"").get(), &isLoaded);  // fails, and leaves the document empty
+}
+
+bool LoadBytes(IXMLDOMDocument2& document, const std::string& bytes, msxml::CProblems& problems) {
+  VARIANT_BOOL isLoaded = VARIANT_FALSE;
+  Require(document.load(CByteArray(bytes).get(), &isLoaded), document, IID_IXMLDOMDocument2);
+  if (isLoaded != VARIANT_FALSE) return true;
+  CComPointer<IXMLDOMParseError> error;
+  Require(document.get_parseError(error.Receive()), document, IID_IXMLDOMDocument2);
+  if (CheckError(*error, problems)) problems.Add(0, 0, {}, "The file is not well-formed XML.");
+  return false;
+}
+
+/// Not every MSXML heeds "ProhibitDTD".
+bool HasDocumentType(IXMLDOMDocument2& document) {
+  CComPointer<IXMLDOMDocumentType> type;
+  Require(document.get_doctype(type.Receive()), document, IID_IXMLDOMDocument2);
+  return static_cast<bool>(type);
+}
+
+void SetProperty(IXMLDOMDocument2& document, const wchar_t* name, VARIANT value) {
+  // A property that this MSXML does not have is one whose effect it does not have.
+  static_cast<void>(document.setProperty(CBstr(name).get(), value));
+}
+
+VARIANT Boolean(bool value) {
+  VARIANT variant = {};
+  variant.vt = VT_BOOL;
+  variant.boolVal = value ? VARIANT_TRUE : VARIANT_FALSE;
+  return variant;
+}
+
+}  // namespace
+
+void Require(HRESULT result, IUnknown& object, REFIID iid) {
+  if (FAILED(result)) _com_issue_errorex(result, &object, iid);
+}
+
+DOMDocument2Ptr MakeDocument() {
+  DOMDocument2Ptr document;
+  void** place = reinterpret_cast<void**>(document.Receive());
+  const HRESULT result =
+      CoCreateInstance(kDocumentClass, nullptr, CLSCTX_INPROC_SERVER, IID_IXMLDOMDocument2, place);
+  if (FAILED(result)) _com_issue_errorex(result, nullptr, IID_IXMLDOMDocument2);
+  Require(document->put_async(VARIANT_FALSE), *document, IID_IXMLDOMDocument2);
+  Require(document->put_resolveExternals(VARIANT_FALSE), *document, IID_IXMLDOMDocument2);
+  Require(document->put_validateOnParse(VARIANT_FALSE), *document, IID_IXMLDOMDocument2);
+  SetProperty(*document, L"ProhibitDTD", Boolean(true));
+  SetProperty(*document, L"UseInlineSchema", Boolean(false));
+  return document;
+}
+
+std::optional<std::vector<Tag>> LoadFile(IXMLDOMDocument2& document, const std::filesystem::path& path,
+                                         msxml::CProblems& problems) {
+  std::vector<Tag> tags;
+  if (const std::optional<FileText> file = ReadFileText(path, problems)) {
+    tags = ScanTags(*file, problems);
+    if (problems.IsEmpty() && LoadBytes(document, file->bytes, problems)) {
+      if (!HasDocumentType(document)) return tags;
+      problems.Add(0, 0, {}, msxml::kDocumentTypeReason);
+    }
+  }
+  Clear(document);
+  return std::nullopt;
+}
+
+bool CheckError(IXMLDOMParseError& error, msxml::CProblems& problems) {
+  LONG code = 0;
+  Require(error.get_errorCode(&code), error, IID_IXMLDOMParseError);
+  if (code == 0) return true;
+  CBstr reason;
+  LONG line = 0;
+  LONG column = 0;
+  Require(error.get_reason(reason.Receive()), error, IID_IXMLDOMParseError);
+  Require(error.get_line(&line), error, IID_IXMLDOMParseError);
+  Require(error.get_linepos(&column), error, IID_IXMLDOMParseError);
+  problems.Add(static_cast<std::size_t>(std::max(line, LONG{0})), static_cast<std::size_t>(std::max(column, LONG{0})),
+               {}, reason.View().empty() ? std::string("The file is not valid.") : Utf16ToUtf8(reason.View()));
+  return false;
+}
+
+}  // namespace msxml6

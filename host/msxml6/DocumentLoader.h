@@ -1,0 +1,33 @@
+// Loads XML files that nobody can be trusted to have written into documents of MSXML 6.
+#pragma once
+
+#include "msxml/MsXml.h"
+#include "msxml/Problems.h"
+#include "msxml6/TagScan.h"
+
+#include <filesystem>
+#include <optional>
+#include <vector>
+
+namespace msxml6 {
+
+/// A new, empty document, which reads nothing but what it is given: no document type, nothing that a file refers to.
+/// \throws _com_error when there is no MSXML 6 or COM is not initialised on this thread
+DOMDocument2Ptr MakeDocument();
+
+/// Loads a file into a document: well-formed XML with namespaces and within the bounds. Otherwise the document is empty
+/// afterwards.
+/// \param problems receives the reason when the file is not as described or cannot be read
+/// \return the start tags of the file; nothing when there is a problem
+/// \throws _com_error
+std::optional<std::vector<Tag>> LoadFile(IXMLDOMDocument2& document, const std::filesystem::path& path,
+                                         msxml::CProblems& problems);
+
+/// Adds what MSXML says, unless it says that all is well.
+/// \return whether all is well
+bool CheckError(IXMLDOMParseError& error, msxml::CProblems& problems);
+
+/// \throws _com_error that names the interface when the result is that of a call that failed
+void Require(HRESULT result, IUnknown& object, REFIID iid);
+
+}  // namespace msxml6

@@ -1,0 +1,172 @@
+#include "msxml6/FileText.h"
+
+#include "BaseUtilities/StringConvert.h"
+#include "msxml/Limits.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+namespace msxml6 {
+
+namespace {
+
+/// An open file; closed at the end.
+class CFile {
+ public:
+  /// Others may go on reading, writing, renaming and deleting the file.
+  explicit CFile(const std::filesystem::path& path)
+      : m_handle(CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                             nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr)) {}
+  CFile(const CFile&) = delete;
+  CFile& operator=(const CFile&) = delete;
+  ~CFile() {
+    if (IsOpen()) CloseHandle(m_handle);
+  }
+
+  bool IsOpen() const { return m_handle != INVALID_HANDLE_VALUE; }
+
+  /// Whether it is a file on a disk, not a pipe or a device, which may never end.
+  bool IsOnDisk() const { return GetFileType(m_handle) == FILE_TYPE_DISK; }
+
+  /// Appends the next bytes.
+  /// \return whether there were any; with an error, false and `GetLastError` not 0
+  bool Read(std::string& bytes) const {
+    constexpr DWORD chunk = 1 << 20;
+    const std::size_t before = bytes.size();
+    bytes.resize(before + chunk);
+    DWORD count = 0;
+    SetLastError(ERROR_SUCCESS);
+    const BOOL isRead = ReadFile(m_handle, bytes.data() + before, chunk, &count, nullptr);
+    bytes.resize(before + count);
+    return isRead != 0 && count != 0;
+  }
+
+ private:
+  HANDLE m_handle;
+};
+
+/// The system's words for an error, in the form in which other systems say it where that is possible.
+std::string ErrorText(DWORD code) {
+  switch (code) {
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND: return "No such file or directory";
+    case ERROR_ACCESS_DENIED: return "Permission denied";
+    default: return std::system_category().message(static_cast<int>(code));
+  }
+}
+
+bool IsDirectory(const std::filesystem::path& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+/// \return what is wrong, as the end of a sentence; empty when nothing is
+std::string ReadBytes(const std::filesystem::path& path, std::string& bytes) {
+  if (IsDirectory(path)) return "is not a regular file";
+  const CFile file(path);
+  if (!file.IsOpen()) return "cannot be opened: " + ErrorText(GetLastError());
+  if (!file.IsOnDisk()) return "is not a regular file";
+  while (file.Read(bytes)) {
+  }
+  const DWORD error = GetLastError();
+  return error == ERROR_SUCCESS ? std::string() : "cannot be read: " + ErrorText(error);
+}
+
+/// What a file begins with tells the order of the bytes of UTF-16.
+enum class Form { Bytes, LittleEndian, BigEndian };
+
+Form FormOf(std::string_view bytes) {
+  const std::string_view begin = bytes.substr(0, 2);
+  if (begin == "\xFF\xFE" || begin == std::string_view("<\0", 2)) return Form::LittleEndian;
+  if (begin == "\xFE\xFF" || begin == std::string_view("\0<", 2)) return Form::BigEndian;
+  return Form::Bytes;
+}
+
+/// \param bytes an even number of them
+std::string Utf8OfUtf16(std::string_view bytes, bool isBigEndian) {
+  std::wstring wide;
+  wide.reserve(bytes.size() / 2);
+  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+    const auto first = static_cast<unsigned char>(bytes[i]);
+    const auto second = static_cast<unsigned char>(bytes[i + 1]);
+    wide += static_cast<wchar_t>(isBigEndian ? first << 8 | second : second << 8 | first);
+  }
+  return Utf16ToUtf8(wide);
+}
+
+constexpr std::string_view kBlanks = " \t\r\n";
+
+/// Where the XML declaration names the encoding.
+struct Declaration {
+  std::string name;              // in capitals; empty when there is none
+  std::size_t begin = 0;         // of "encoding"
+  std::size_t end = 0;           // behind the closing quote
+};
+
+/// Text behind a byte order mark.
+std::string_view WithoutMark(std::string_view text) {
+  constexpr std::string_view mark = "\xEF\xBB\xBF";
+  return text.starts_with(mark) ? text.substr(mark.size()) : text;
+}
+
+Declaration FindEncoding(std::string_view text) {
+  const std::size_t offset = text.size() - WithoutMark(text).size();
+  const std::string_view declaration = text.substr(0, std::min(text.find("?>"), text.size()));
+  if (!declaration.substr(offset).starts_with("<?xml")) return {};
+  constexpr std::string_view key = "encoding";
+  const std::size_t begin = declaration.find(key);
+  if (begin == std::string_view::npos) return {};
+  const std::size_t equals = declaration.find_first_not_of(kBlanks, begin + key.size());
+  if (equals == std::string_view::npos || declaration[equals] != '=') return {};
+  const std::size_t quote = declaration.find_first_not_of(kBlanks, equals + 1);
+  if (quote == std::string_view::npos) return {};
+  const std::size_t end = declaration.find(declaration[quote], quote + 1);
+  if (end == std::string_view::npos) return {};
+  Declaration found{std::string(declaration.substr(quote + 1, end - quote - 1)), begin, end + 1};
+  ToUpper(found.name);
+  return found;
+}
+
+/// Whether what the file declares fits what it begins with.
+bool IsPlausible(const FileText& file, Form form, const std::string& name) {
+  const bool isUtf16 = form != Form::Bytes;
+  if (!name.empty()) return msxml::IsSupportedEncoding(name) && msxml::IsUtf16(name) == isUtf16;
+  // Without a mark, UTF-16 has to be declared.
+  return !isUtf16 || file.bytes[0] == '\xFF' || file.bytes[0] == '\xFE';
+}
+
+}  // namespace
+
+std::optional<FileText> ReadFileText(const std::filesystem::path& path, msxml::CProblems& problems) {
+  FileText file;
+  if (const std::string error = ReadBytes(path, file.bytes); !error.empty()) {
+    problems.Add(0, 0, {}, "The file " + error + ".");
+    return std::nullopt;
+  }
+  const Form form = FormOf(file.bytes);
+  if (form != Form::Bytes && file.bytes.size() % 2 != 0) {
+    problems.Add(0, 0, {}, "The file ends within a character.");
+    return std::nullopt;
+  }
+  file.ascii = form == Form::Bytes ? file.bytes : Utf8OfUtf16(file.bytes, form == Form::BigEndian);
+  const Declaration declaration = FindEncoding(file.ascii);
+  if (!IsPlausible(file, form, declaration.name)) {
+    problems.Add(1, 0, {}, msxml::UnsupportedEncodingReason(declaration.name.empty() ? "UTF-16" : declaration.name));
+    return std::nullopt;
+  }
+  file.isUtf8 = form != Form::Bytes || declaration.name.empty() || declaration.name.starts_with("UTF");
+  if (declaration.name == "UTF8" && form == Form::Bytes) {
+    std::fill_n(file.bytes.begin() + static_cast<std::ptrdiff_t>(declaration.begin),
+                declaration.end - declaration.begin, ' ');
+  }
+  // The mark is no character of the text.
+  file.ascii.erase(0, file.ascii.size() - WithoutMark(file.ascii).size());
+  return file;
+}
+
+}  // namespace msxml6

@@ -1,0 +1,25 @@
+// The content of an XML file, before MSXML has a look at it.
+#pragma once
+
+#include "msxml/Problems.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace msxml6 {
+
+/// A file's bytes, and as much of their meaning as it takes to find the tags in them.
+struct FileText {
+  std::string bytes;    ///< as they are in the file, but for `encoding="utf8"`, which is blanked out: UTF-8 is what
+                        ///< counts without it, and MSXML knows no encoding of that name
+  std::string ascii;    ///< text in which the bytes of ASCII characters stand for nothing else
+  bool isUtf8 = false;  ///< whether `ascii` is UTF-8; else each of its bytes is taken for a character
+};
+
+/// Reads a regular file and finds out its encoding.
+/// \param problems receives the reason when it cannot be read or its encoding is not one that is supported
+/// \return nothing when there is a problem
+std::optional<FileText> ReadFileText(const std::filesystem::path& path, msxml::CProblems& problems);
+
+}  // namespace msxml6

@@ -1,0 +1,102 @@
+#include "msxml6/SchemaCache.h"
+
+#include "BaseUtilities/Exceptions.h"
+#include "BaseUtilities/SimpleBuffer.h"
+#include "BaseUtilities/StringConvert.h"
+#include "TestUtilities/WidePath.h"
+#include "msxml6/DocumentLoader.h"
+#include "msxml6/MsXmlIds.h"
+
+#include <string_view>
+
+namespace msxml6 {
+
+namespace {
+
+using SchemaCollectionPtr = CComPointer<IXMLDOMSchemaCollection>;
+
+[[noreturn]] void ThrowSchemaError(const SchemaSource& source, const std::string& reason) {
+  CSimpleBuffer message;
+  const std::string file = Utf16ToUtf8(PathToWide(source.file));
+  throw CZoDOMDocException(message.Printf("Couldn't load the schema %s: %s", file, reason));
+}
+
+/// An object as an argument; borrowed.
+VARIANT ObjectVariant(IDispatch& object) {
+  VARIANT variant = {};
+  variant.vt = VT_DISPATCH;
+  variant.pdispVal = &object;
+  return variant;
+}
+
+std::wstring TargetNamespace(IXMLDOMDocument2& schema) {
+  CComPointer<IXMLDOMElement> root;
+  Require(schema.get_documentElement(root.Receive()), schema, IID_IXMLDOMDocument2);
+  CVariant value;
+  const HRESULT result = root->getAttribute(CBstr(L"targetNamespace").get(), value.Receive());
+  return result == S_OK ? std::wstring(value.Text()) : std::wstring();
+}
+
+/// Whether it has parts in other files. They cannot be found from a schema that MSXML did not read from a file itself,
+/// and that it could have read from anywhere.
+bool RefersToFiles(IXMLDOMDocument2& schema) {
+  constexpr const wchar_t* xpath =
+      L"//*[namespace-uri()='http://www.w3.org/2001/XMLSchema' and @schemaLocation and "
+      L"(local-name()='include' or local-name()='import' or local-name()='redefine')]";
+  DOMNodePtr found;
+  Require(schema.selectSingleNode(CBstr(xpath).get(), found.Receive()), schema, IID_IXMLDOMDocument2);
+  return static_cast<bool>(found);
+}
+
+DOMDocument2Ptr LoadSchema(const SchemaSource& source) {
+  DOMDocument2Ptr schema = MakeDocument();
+  msxml::CProblems problems;
+  if (!LoadFile(*schema, source.file, problems)) {
+    const DOMDocProblem problem = problems.Take().front();
+    const std::string line = problem.line != 0 ? "line " + std::to_string(problem.line) + ": " : std::string();
+    ThrowSchemaError(source, line + problem.reason);
+  }
+  const std::wstring described = TargetNamespace(*schema);
+  if (described != source.targetNamespace) {
+    ThrowSchemaError(source, "it describes the namespace '" + Utf16ToUtf8(described) + "', not '" +
+                                 Utf16ToUtf8(source.targetNamespace) + "'");
+  }
+  if (RefersToFiles(*schema)) ThrowSchemaError(source, "it has parts in other files, which is not supported here");
+  return schema;
+}
+
+/// What the failed call left behind; a text of its own when it is nothing.
+std::string LastErrorText() {
+  CComPointer<IErrorInfo> info;
+  CBstr description;
+  if (GetErrorInfo(0, info.Receive()) == S_OK && info) info->GetDescription(description.Receive());
+  return description.View().empty() ? std::string("it is not valid as a schema") : Utf16ToUtf8(description.View());
+}
+
+SchemaCollectionPtr LoadSchemas(const std::vector<SchemaSource>& sources) {
+  SchemaCollectionPtr schemas;
+  void** place = reinterpret_cast<void**>(schemas.Receive());
+  const HRESULT result =
+      CoCreateInstance(kSchemaCacheClass, nullptr, CLSCTX_INPROC_SERVER, kSchemaCollectionInterface, place);
+  if (FAILED(result)) _com_issue_errorex(result, nullptr, kSchemaCollectionInterface);
+  for (const SchemaSource& source : sources) {
+    const DOMDocument2Ptr schema = LoadSchema(source);
+    const CBstr uri(source.targetNamespace);
+    if (FAILED(schemas->add(uri.get(), ObjectVariant(*schema.GetInterfacePtr())))) {
+      ThrowSchemaError(source, LastErrorText());
+    }
+  }
+  return schemas;
+}
+
+}  // namespace
+
+void Validate(IXMLDOMDocument2& document, const std::vector<SchemaSource>& sources, msxml::CProblems& problems) {
+  const SchemaCollectionPtr schemas = LoadSchemas(sources);
+  Require(document.putref_schemas(ObjectVariant(*schemas)), document, IID_IXMLDOMDocument2);
+  CComPointer<IXMLDOMParseError> error;
+  Require(document.validate(error.Receive()), document, IID_IXMLDOMDocument2);
+  CheckError(*error, problems);
+}
+
+}  // namespace msxml6

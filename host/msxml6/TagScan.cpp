@@ -1,0 +1,165 @@
+#include "msxml6/TagScan.h"
+
+#include "msxml/Limits.h"
+
+#include <algorithm>
+#include <string>
+
+namespace msxml6 {
+
+namespace {
+
+constexpr std::string_view kBlanks = " \t\r\n";
+
+class CTagScan {
+ public:
+  CTagScan(const FileText& file, msxml::CProblems& problems)
+      : m_text(file.ascii), m_isUtf8(file.isUtf8), m_problems(problems) {}
+
+  std::vector<Tag> Run() {
+    while (m_problems.IsEmpty() && m_at < m_text.size()) {
+      const std::size_t tag = std::min(m_text.find('<', m_at), m_text.size());
+      m_textLength += tag - m_at;
+      MoveTo(tag);
+      if (m_at < m_text.size()) TakeMarkup();
+    }
+    return std::move(m_tags);
+  }
+
+ private:
+  struct Open {
+    std::uint32_t tag;
+    int namespaces;  // declared in it
+  };
+
+  bool IsAt(std::string_view markup) const { return m_text.substr(m_at).starts_with(markup); }
+
+  void TakeMarkup() {
+    if (IsAt("<!--")) {
+      TakePiece("<!--", "-->");
+    } else if (IsAt("<![CDATA[")) {
+      const std::size_t begin = m_at;
+      TakePiece("<![CDATA[", "]]>");
+      m_textLength += m_at - begin;
+    } else if (IsAt("<?")) {
+      TakePiece("<?", "?>");
+    } else if (IsAt("<!DOCTYPE")) {
+      Refuse(NameBehind(m_text.find_first_not_of(kBlanks, m_at + 9)), msxml::kDocumentTypeReason);
+    } else if (IsAt("</")) {
+      MoveBehind(">", m_at);
+      if (!m_open.empty()) CloseElement();
+    } else {
+      TakeStartTag();
+    }
+  }
+
+  /// What cuts a text in pieces.
+  void TakePiece(std::string_view begin, std::string_view end) {
+    m_copied += m_textLength;
+    if (m_copied > msxml::kMostCopied) {
+      Refuse(m_open.empty() ? std::string_view() : m_openName, msxml::kTooManyPiecesReason);
+      return;
+    }
+    MoveBehind(end, m_at + begin.size());
+  }
+
+  void TakeStartTag() {
+    const std::string_view name = NameBehind(m_at + 1);
+    const auto number = static_cast<std::uint32_t>(m_tags.size());
+    const std::uint32_t parent = m_open.empty() ? Tag::kNone : m_open.back().tag;
+    m_tags.push_back({m_line, m_column, parent, Tag::kNone, Tag::kNone, Tag::kNone});
+    Tag& around = m_tags[parent];
+    (around.firstChild == Tag::kNone ? around.firstChild : m_tags[around.lastChild].nextSibling) = number;
+    around.lastChild = number;
+    m_open.push_back({number, 0});
+    m_openName = name;
+    m_textLength = m_copied = 0;
+    const std::size_t end = TakeAttributes(m_at + 1 + name.size());
+    m_namespaces += m_open.back().namespaces;
+    if (m_attributes > msxml::kMostAttributes) return Refuse(name, msxml::TooManyAttributesReason());
+    if (m_open.size() > static_cast<std::size_t>(msxml::kGreatestDepth)) return Refuse(name, msxml::TooDeepReason());
+    if (m_namespaces > msxml::kMostNamespaces) return Refuse(name, msxml::TooManyNamespacesReason());
+    const bool isEmpty = end > 0 && end < m_text.size() && m_text[end - 1] == '/';
+    MoveTo(std::min(end + 1, m_text.size()));
+    if (isEmpty) CloseElement();
+  }
+
+  /// Counts the attributes of a start tag.
+  /// \return where its ">" is, or the end of the text
+  std::size_t TakeAttributes(std::size_t at) {
+    m_attributes = 0;
+    std::size_t nameBegin = at;
+    while ((at = m_text.find_first_of("=>\"'", at)) != std::string_view::npos && m_text[at] != '>') {
+      if (m_text[at] == '=') {
+        ++m_attributes;
+        if (NameBehind(m_text.find_first_not_of(kBlanks, nameBegin)).starts_with("xmlns")) ++m_open.back().namespaces;
+      } else {
+        at = m_text.find(m_text[at], at + 1);
+        if (at == std::string_view::npos) break;
+        nameBegin = at + 1;
+      }
+      ++at;
+    }
+    return std::min(at, m_text.size());
+  }
+
+  void CloseElement() {
+    m_namespaces -= m_open.back().namespaces;
+    m_open.pop_back();
+    m_textLength = m_copied = 0;
+  }
+
+  std::string_view NameBehind(std::size_t begin) const {
+    if (begin >= m_text.size()) return {};
+    const std::size_t end = m_text.find_first_of(" \t\r\n=/>[<\"'", begin);
+    return m_text.substr(begin, std::min(end, m_text.size()) - begin);
+  }
+
+  void Refuse(std::string_view element, const std::string& reason) {
+    m_problems.Add(m_line, m_column, element, reason);
+  }
+
+  void MoveBehind(std::string_view end, std::size_t from) {
+    const std::size_t found = m_text.find(end, std::min(from, m_text.size()));
+    MoveTo(found != std::string_view::npos ? found + end.size() : m_text.size());
+  }
+
+  void MoveTo(std::size_t at) {
+    for (; m_at < at; ++m_at) {
+      const auto c = static_cast<unsigned char>(m_text[m_at]);
+      if (c == '\n') {
+        ++m_line;
+        m_column = 1;
+      } else if (!m_isUtf8 || (c & 0xC0) != 0x80) {
+        ++m_column;
+      }
+    }
+  }
+
+  std::string_view m_text;
+  bool m_isUtf8;
+  msxml::CProblems& m_problems;
+  std::vector<Tag> m_tags = std::vector<Tag>(1);
+  std::vector<Open> m_open;
+  std::string_view m_openName;  // of the last start tag
+  std::size_t m_at = 0;
+  std::uint32_t m_line = 1;
+  std::uint32_t m_column = 1;
+  std::size_t m_attributes = 0;      // of the last start tag
+  int m_namespaces = 0;              // in force
+  std::uint64_t m_textLength = 0;    // since the last tag
+  std::uint64_t m_copied = 0;        // of that text, for the pieces that it is in
+};
+
+}  // namespace
+
+std::vector<Tag> ScanTags(const FileText& file, msxml::CProblems& problems) {
+  if (const std::size_t nul = file.ascii.find('\0'); nul != std::string::npos) {
+    const auto lines = std::count(file.ascii.begin(), file.ascii.begin() + static_cast<std::ptrdiff_t>(nul), '\n');
+    problems.Add(static_cast<std::size_t>(lines) + 1, 0, {}, msxml::kNulReason);
+    return {};
+  }
+  return CTagScan(file, problems).Run();
+}
+
+}  // namespace msxml6
