@@ -11,3 +11,11 @@ foreach(library libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
 endforeach()
 file(COPY ${PROJECT_RUNTIME_LIBRARIES} DESTINATION "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}" FOLLOW_SYMLINK_CHAIN)
 install(FILES ${PROJECT_RUNTIME_LIBRARIES} DESTINATION "${CMAKE_INSTALL_BINDIR}")
+
+# Under which licences they are, as far as Debian says.
+foreach(package gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev)
+  if(EXISTS "/usr/share/doc/${package}/copyright")
+    install(FILES "/usr/share/doc/${package}/copyright"
+      DESTINATION "${CMAKE_INSTALL_DOCDIR}" RENAME "copyright.${package}")
+  endif()
+endforeach()

@@ -1,20 +1,25 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that a task needs and that are not there yet. Works as root or with sudo.
 #
-#   scripts/setup.sh build | test | check
+#   scripts/setup.sh build | test | check | windows | package
 #
-# Each task includes the ones before it.
+# "test" includes "build", "check" includes both, "windows" is for building and testing for Windows, "package" for making
+# the packages of both systems.
 set -euo pipefail
 
 build_packages=(g++ cmake ninja-build libcli11-dev libxml2-dev nlohmann-json3-dev)
 test_packages=(libgtest-dev libgmock-dev pkg-config)
 check_packages=(clang clang-format clang-tidy libclang-rt-14-dev)
+windows_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest libcli11-dev nlohmann-json3-dev wine wine64)
+package_packages=(dpkg-dev file zip)
 
 case "${1:-}" in
   build) wanted=("${build_packages[@]}") ;;
   test) wanted=("${build_packages[@]}" "${test_packages[@]}") ;;
   check) wanted=("${build_packages[@]}" "${test_packages[@]}" "${check_packages[@]}") ;;
-  *) echo "usage: scripts/setup.sh build | test | check" >&2; exit 2 ;;
+  windows) wanted=("${windows_packages[@]}") ;;
+  package) wanted=("${build_packages[@]}" "${windows_packages[@]}" "${package_packages[@]}") ;;
+  *) echo "usage: scripts/setup.sh build | test | check | windows | package" >&2; exit 2 ;;
 esac
 
 is_installed() { [ "$(dpkg-query -W -f '${db:Status-Abbrev}' "$1" 2>/dev/null)" = 'ii ' ]; }

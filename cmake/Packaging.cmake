@@ -1,0 +1,25 @@
+# The packages that CPack makes of what is installed: for Windows a zip file; for Linux a Debian package and, for other
+# distributions, a tar file.
+set(CPACK_PACKAGE_VENDOR "The VendorInfoFile developers")
+set(CPACK_PACKAGE_CONTACT "The VendorInfoFile developers <developers@vendorinfofile.invalid>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
+set(CPACK_RESOURCE_FILE_LICENSE "${PROJECT_SOURCE_DIR}/LICENSE")
+set(CPACK_STRIP_FILES ON)
+
+if(WIN32)
+  set(CPACK_GENERATOR ZIP)
+  set(CPACK_SYSTEM_NAME win64)
+else()
+  set(CPACK_GENERATOR DEB TGZ)
+  set(CPACK_SYSTEM_NAME linux-${CMAKE_SYSTEM_PROCESSOR})
+  set(CPACK_PACKAGE_DESCRIPTION
+    "A shared library that turns a VIF, in text or XML, into a list of fields that\ncompliance test suites can ask, with headers, and the command vif.")
+  set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+  set(CPACK_DEBIAN_PACKAGE_SECTION libdevel)
+  set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+  # Has the system look at the new libraries.
+  file(CONFIGURE OUTPUT triggers CONTENT "activate-noawait ldconfig\n")
+  set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA "${CMAKE_CURRENT_BINARY_DIR}/triggers")
+endif()
+
+include(CPack)

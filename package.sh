@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# Makes the packages of the library and the command: a zip file for 64-bit Windows, and for Linux a Debian package and a
+# tar file. They land in build/packages.
+set -euo pipefail
+cd "$(dirname "$0")"
+
+scripts/setup.sh package
+for preset in release windows; do
+  scripts/build.sh "$preset" --target package
+done
+
+echo "==> Packages"
+mkdir -p build/packages
+rm -f build/packages/*
+mv build/release/*.deb build/release/*.tar.gz build/windows/*.zip build/packages
+ls -l build/packages

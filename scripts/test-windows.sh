@@ -1,0 +1,10 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds everything for 64-bit Windows and runs the tests under Wine. Arguments go to ctest, such
+# as -R TextReader.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+scripts/setup.sh windows
+scripts/build.sh windows -DVENDORINFOFILE_BUILD_TESTS=ON
+echo "==> Running the tests under Wine"
+ctest --preset windows --parallel "$(nproc)" "$@"
