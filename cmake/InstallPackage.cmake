@@ -36,5 +36,8 @@ install(FILES
 
 # The prefix is found from the file's own place, so that the installation can be moved.
 file(RELATIVE_PATH prefix_from_pc "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
+if(WIN32)
+  set(pc_system_libraries " -lole32 -loleaut32")
+endif()
 configure_file(cmake/vendorinfofile.pc.in "${PROJECT_BINARY_DIR}/vendorinfofile.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/vendorinfofile.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")

@@ -1,16 +1,14 @@
 # The compiler's run-time libraries, which a Windows program built by MinGW-w64 needs beside it. They are shared by
 # library and program, because an exception that one throws and the other catches is counted in them.
-set(PROJECT_RUNTIME_LIBRARIES)
+file(MAKE_DIRECTORY "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
 foreach(library libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
   execute_process(COMMAND "${CMAKE_CXX_COMPILER}" "-print-file-name=${library}"
     OUTPUT_VARIABLE file OUTPUT_STRIP_TRAILING_WHITESPACE)
-  if(NOT IS_ABSOLUTE "${file}")
-    message(FATAL_ERROR "${CMAKE_CXX_COMPILER} has no ${library}")
-  endif()
-  list(APPEND PROJECT_RUNTIME_LIBRARIES "${file}")
+  # Most of their size is for debugging them.
+  set(stripped "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${library}")
+  execute_process(COMMAND "${CMAKE_STRIP}" -o "${stripped}" "${file}" COMMAND_ERROR_IS_FATAL ANY)
+  install(FILES "${stripped}" DESTINATION "${CMAKE_INSTALL_BINDIR}")
 endforeach()
-file(COPY ${PROJECT_RUNTIME_LIBRARIES} DESTINATION "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}" FOLLOW_SYMLINK_CHAIN)
-install(FILES ${PROJECT_RUNTIME_LIBRARIES} DESTINATION "${CMAKE_INSTALL_BINDIR}")
 
 # Under which licences they are, as far as Debian says.
 foreach(package gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev)

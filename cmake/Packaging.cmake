@@ -17,9 +17,6 @@ else()
   set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
   set(CPACK_DEBIAN_PACKAGE_SECTION libdevel)
   set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-  # Has the system look at the new libraries.
-  file(CONFIGURE OUTPUT triggers CONTENT "activate-noawait ldconfig\n")
-  set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA "${CMAKE_CURRENT_BINARY_DIR}/triggers")
 endif()
 
 include(CPack)

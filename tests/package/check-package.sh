@@ -12,40 +12,62 @@ flags=()
 
 fail() { echo "FAILED: $*" >&2; exit 1; }
 
+# The program of another system runs under an emulator, which must find the libraries.
+run=()
+if [ -n "$EMULATOR" ]; then
+  run=("$EMULATOR")
+  export WINEPATH="Z:${PREFIX//\//\\}\\bin"
+fi
+
 # Expects the consumer to list a file and to catch what the library throws.
 check_consumer() {
   printf 'PID: 1\nUSB_VID: 0x1A2B\n' >"$work/a.txt"
   local said
-  said=$("$1" "$work/a.txt")
+  said=$("${run[@]}" "$1" "$work/a.txt" | tr -d '\r')
   [ "$said" = '2 fields, last USB_VID=0x1A2B' ] || fail "the consumer said: $said"
-  said=$("$1" "$work/b.txt") && fail 'a missing file was not refused'
+  said=$("${run[@]}" "$1" "$work/b.txt" | tr -d '\r') && fail 'a missing file was not refused'
   [ "$said" = "refused: VIF Does not exist. (name: $work/b.txt)" ] || fail "the consumer said: $said"
+}
+
+# The names that a library exports, as people read them.
+exported_by() {
+  if [ -n "$EMULATOR" ]; then
+    "$OBJDUMP" -p "$PREFIX/bin/$1.dll" | sed -n '/^\[Ordinal\/Name Pointer\]/,/^$/s/^\t\[ *[0-9]*\] //p' | c++filt -_
+  else
+    nm -DC --defined-only "$lib/lib$1.so" | sed 's/^[^ ]* . //; s/@@.*//'
+  fi
 }
 
 case $1 in
   FoundByCMake)
-    cmake -S "$CONSUMER" -B "$work" -G Ninja -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_PREFIX_PATH="$PREFIX" \
-      -DCMAKE_CXX_FLAGS="${flags[*]}"
+    if [ -n "$TOOLCHAIN" ]; then
+      # The toolchain looks for packages nowhere but under its roots.
+      with=(--toolchain "$TOOLCHAIN" -DVendorInfoFile_DIR="$lib/cmake/VendorInfoFile")
+    else
+      with=(-DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_PREFIX_PATH="$PREFIX")
+    fi
+    cmake -S "$CONSUMER" -B "$work" -G Ninja "${with[@]}" -DCMAKE_CXX_FLAGS="${flags[*]}"
     cmake --build "$work"
-    check_consumer "$work/consumer"
+    check_consumer "$work/consumer$EXE"
     ;;
   FoundByPkgConfig)
     export PKG_CONFIG_PATH=$lib/pkgconfig
     [ "$(pkg-config --modversion vendorinfofile)" = "$VERSION" ] || fail 'pkg-config knows another version'
     read -ra package <<<"$(pkg-config --cflags --libs vendorinfofile)"
-    "$CXX" -std=c++20 "${flags[@]}" "$CONSUMER/consumer.cpp" "${package[@]}" -Wl,-rpath,"$lib" -o "$work/consumer"
-    check_consumer "$work/consumer"
+    "$CXX" -std=c++20 "${flags[@]}" "$CONSUMER/consumer.cpp" "${package[@]}" -Wl,-rpath,"$lib" -o "$work/consumer$EXE"
+    check_consumer "$work/consumer$EXE"
     ;;
   CommandRunsInPlace)
     count=0
     for example in "$PREFIX"/share/vendorinfofile/examples/*.txt; do
-      listed=$("$PREFIX/bin/vif" list "$example")
+      listed=$("${run[@]}" "$PREFIX/bin/vif$EXE" list "$example")
       [[ $listed == *'Component 1'* ]] || fail "vif lists no component of $example"
       count=$((count + 1))
     done
     [ "$count" -ge 3 ] || fail "only $count examples are installed"
     ;;
   SchemasFoundThroughLinks)
+    [ -z "$EMULATOR" ] || { echo 'SKIPPED: Windows does not look for libraries through symbolic links'; exit; }
     mkdir "$work/files"
     ln -s "$lib"/*.so* "$work/files"
     ln -s "$lib" "$work/directory"
@@ -56,19 +78,21 @@ case $1 in
   SchemasFoundFromAnotherDirectory)
     cat >"$work/moving.cpp" <<'EOF'
 #include <VendorInfoFile.h>
+#include <msxml/ComApartment.h>
 
 #include <filesystem>
 
 int main(int, char** argv) {
+  const CComApartment apartment;
   std::filesystem::current_path(argv[1]);
   return CVendorInfoFile(argv[2]).Count() == 0 ? 1 : 0;
 }
 EOF
     "$CXX" -std=c++20 "${flags[@]}" "$work/moving.cpp" -I"$PREFIX/include/vendorinfofile" -L"$lib" \
-      -lVendorInfoFile -lVendorInfoFileHost -o "$work/moving"
+      -lVendorInfoFile -lVendorInfoFileHost $([ -z "$EMULATOR" ] || echo -lole32 -loleaut32) -o "$work/moving$EXE"
     mkdir "$work/elsewhere"
     cd "$PREFIX"
-    LD_LIBRARY_PATH=$LIBDIR "$work/moving" "$work/elsewhere" "$xml" || fail 'not from another directory'
+    LD_LIBRARY_PATH=$LIBDIR "${run[@]}" "$work/moving$EXE" "$work/elsewhere" "$xml" || fail 'not from another directory'
     ;;
   HeadersStandAlone)
     count=0
@@ -82,7 +106,7 @@ EOF
     ;;
   ExportsOnlyWhatIsIntended)
     for library in VendorInfoFile VendorInfoFileHost; do
-      symbols=$(nm -DC --defined-only "$lib/lib$library.so" | sed 's/^[^ ]* . //; s/@@.*//')
+      symbols=$(exported_by "$library")
       grep -q . <<<"$symbols" || fail "$library exports nothing"
       # Names of namespaces and layers that are nobody's business but the library's.
       ! grep -E '^(vif::|CVIFImpl|std::)' <<<"$symbols" || fail "$library exports the above"
