@@ -11,7 +11,7 @@ build_packages=(g++ cmake ninja-build libcli11-dev libxml2-dev nlohmann-json3-de
 test_packages=(libgtest-dev libgmock-dev pkg-config)
 check_packages=(clang clang-format clang-tidy libclang-rt-14-dev)
 windows_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest libcli11-dev nlohmann-json3-dev wine wine64)
-package_packages=(dpkg-dev file zip)
+package_packages=(dpkg-dev file unzip zip)
 
 case "${1:-}" in
   build) wanted=("${build_packages[@]}") ;;
@@ -23,6 +23,9 @@ case "${1:-}" in
 esac
 
 is_installed() { [ "$(dpkg-query -W -f '${db:Status-Abbrev}' "$1" 2>/dev/null)" = 'ii ' ]; }
+
+# Where there is a newer one that is twice as fast, that; both find nothing in what is committed.
+[ "$1" != check ] || [ -z "$(apt-cache madison clang-tidy-22 2>/dev/null)" ] || wanted+=(clang-tidy-22)
 
 missing=()
 for package in "${wanted[@]}"; do

@@ -1,0 +1,59 @@
+#!/usr/bin/env bash
+# Unpacks each package that package.sh made into an empty directory, looks whether all is there, and runs the command
+# from there: that for Windows under Wine.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+root=$PWD
+
+work=$root/build/packages/unpacked
+rm -rf "$work"
+fail() { echo "FAILED: $*" >&2; exit 1; }
+
+# Expects what both systems' packages have, and a command that reads every example.
+#   check DIRECTORY PROGRAM...
+check() {
+  local directory=$1
+  shift
+  cd "$directory"
+  local file
+  for file in include/vendorinfofile/{VendorInfoFile,VIFField,TestSuiteVIF,DOMDocVIF}.h \
+    include/vendorinfofile/TestUtilities/DOMDoc.h include/vendorinfofile/msxml/MsXml.h \
+    lib/cmake/VendorInfoFile/VendorInfoFileConfig.cmake lib/pkgconfig/vendorinfofile.pc \
+    share/vendorinfofile/schemas/VendorInfoFile{,OptionalContent}.xsd share/doc/VendorInfoFile/{LICENSE,README.md}; do
+    [ -f "$file" ] || fail "$file is missing"
+  done
+  local examples=(share/vendorinfofile/examples/*.txt share/vendorinfofile/examples/*.xml)
+  [ ${#examples[@]} -eq 6 ] || fail "there are ${#examples[@]} examples"
+  for file in "${examples[@]}"; do
+    "$@" list "$file" >listed || fail "$* cannot list $file"
+    grep -q 'Component 1' listed || fail "$* lists no component of $file"
+  done
+  [ "$("$@" list --format csv share/vendorinfofile/examples/usb4-dock.xml | wc -l)" -eq 379 ] || fail 'not 378 fields'
+  cd "$root"
+}
+
+# Makes the directory that a package is unpacked into.
+unpack_into() { mkdir -p "$work/$1" && echo "==> $1" && cd "$work/$1"; }
+
+shopt -s failglob
+packages=$root/build/packages
+
+unpack_into zip
+unzip -q "$packages"/VendorInfoFile-*-win64.zip
+cd VendorInfoFile-*-win64
+for file in bin/{VendorInfoFile,VendorInfoFileHost}.dll bin/vif.exe lib/libVendorInfoFile{,Host}.dll.a; do
+  [ -f "$file" ] || fail "$file is missing"
+done
+check "$PWD" "$root/scripts/run-windows.sh" bin/vif.exe
+
+unpack_into tar
+tar xzf "$packages"/VendorInfoFile-*-linux-*.tar.gz
+cd VendorInfoFile-*
+check "$PWD" bin/vif
+
+unpack_into deb
+dpkg-deb -x "$packages"/vendorinfofile_*.deb .
+check "$PWD/usr" bin/vif
+dpkg-deb -f "$packages"/vendorinfofile_*.deb Depends | grep -q libxml2 || fail 'the package does not say what it needs'
+
+echo "All packages are sound."
