@@ -25,7 +25,9 @@ if(WIN32)
   target_compile_definitions(project_settings INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
 endif()
 if(MSVC)
-  target_compile_options(project_settings INTERFACE /W4 /permissive- /utf-8)
+  # C4251, C4275: that exported classes have members and bases of the standard library is as it must be.
+  target_compile_options(project_settings INTERFACE /W4 /permissive- /utf-8 /wd4251 /wd4275)
+  target_compile_definitions(project_settings INTERFACE _CRT_SECURE_NO_WARNINGS)
 else()
   target_compile_options(project_settings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor

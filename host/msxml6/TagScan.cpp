@@ -3,7 +3,10 @@
 #include "msxml/Limits.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
+#include <string_view>
+#include <utility>
 
 namespace msxml6 {
 
@@ -11,24 +14,26 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
 
-class CTagScan {
+class CScanner {
  public:
-  CTagScan(const FileText& file, msxml::CProblems& problems)
+  CScanner(const FileText& file, msxml::CProblems& problems)
       : m_text(file.ascii), m_isUtf8(file.isUtf8), m_problems(problems) {}
 
-  std::vector<Tag> Run() {
+  TagScan Run() {
     while (m_problems.IsEmpty() && m_at < m_text.size()) {
       const std::size_t tag = std::min(m_text.find('<', m_at), m_text.size());
       m_textLength += tag - m_at;
       MoveTo(tag);
       if (m_at < m_text.size()) TakeMarkup();
     }
-    return std::move(m_tags);
+    if (!m_open.empty()) Mismatch(m_open.back().name, " does not end.");
+    return std::move(m_scan);
   }
 
  private:
   struct Open {
     std::uint32_t tag;
+    std::string_view name;
     int namespaces;  // declared in it
   };
 
@@ -38,16 +43,19 @@ class CTagScan {
     if (IsAt("<!--")) {
       TakePiece("<!--", "-->");
     } else if (IsAt("<![CDATA[")) {
+      constexpr std::size_t markup = std::string_view("<![CDATA[]]>").size();
       const std::size_t begin = m_at;
       TakePiece("<![CDATA[", "]]>");
-      m_textLength += m_at - begin;
+      const std::size_t length = m_at - begin;
+      m_textLength += length - std::min(length, markup);
     } else if (IsAt("<?")) {
       TakePiece("<?", "?>");
     } else if (IsAt("<!DOCTYPE")) {
       Refuse(NameBehind(m_text.find_first_not_of(kBlanks, m_at + 9)), msxml::kDocumentTypeReason);
     } else if (IsAt("</")) {
-      MoveBehind(">", m_at);
-      if (!m_open.empty()) CloseElement();
+      TakeEndTag();
+    } else if (IsAt("<!")) {
+      MoveBehind(">", m_at);  // nothing that a well-formed file without a document type has
     } else {
       TakeStartTag();
     }
@@ -57,7 +65,7 @@ class CTagScan {
   void TakePiece(std::string_view begin, std::string_view end) {
     m_copied += m_textLength;
     if (m_copied > msxml::kMostCopied) {
-      Refuse(m_open.empty() ? std::string_view() : m_openName, msxml::kTooManyPiecesReason);
+      Refuse(m_open.empty() ? std::string_view() : m_open.back().name, msxml::kTooManyPiecesReason);
       return;
     }
     MoveBehind(end, m_at + begin.size());
@@ -65,14 +73,14 @@ class CTagScan {
 
   void TakeStartTag() {
     const std::string_view name = NameBehind(m_at + 1);
-    const auto number = static_cast<std::uint32_t>(m_tags.size());
+    std::vector<Tag>& tags = m_scan.tags;
+    const auto number = static_cast<std::uint32_t>(tags.size());
     const std::uint32_t parent = m_open.empty() ? Tag::kNone : m_open.back().tag;
-    m_tags.push_back({m_line, m_column, parent, Tag::kNone, Tag::kNone, Tag::kNone});
-    Tag& around = m_tags[parent];
-    (around.firstChild == Tag::kNone ? around.firstChild : m_tags[around.lastChild].nextSibling) = number;
+    tags.push_back({m_line, m_column, parent, Tag::kNone, Tag::kNone, Tag::kNone});
+    Tag& around = tags[parent];
+    (around.firstChild == Tag::kNone ? around.firstChild : tags[around.lastChild].nextSibling) = number;
     around.lastChild = number;
-    m_open.push_back({number, 0});
-    m_openName = name;
+    m_open.push_back({number, name, 0});
     m_textLength = m_copied = 0;
     const std::size_t end = TakeAttributes(m_at + 1 + name.size());
     m_namespaces += m_open.back().namespaces;
@@ -84,21 +92,32 @@ class CTagScan {
     if (isEmpty) CloseElement();
   }
 
+  void TakeEndTag() {
+    const std::string_view name = NameBehind(m_at + 2);
+    if (m_open.empty()) {
+      Mismatch(name, " ends that has not begun.");
+    } else {
+      if (m_open.back().name != name) Mismatch(m_open.back().name, " ends as '" + std::string(name) + "'.");
+      CloseElement();
+    }
+    MoveBehind(">", m_at);
+  }
+
   /// Counts the attributes of a start tag.
-  /// \return where its ">" is, or the end of the text
+  /// \return where its ">" is, or the end of the text; of no meaning when there are too many
   std::size_t TakeAttributes(std::size_t at) {
     m_attributes = 0;
     std::size_t nameBegin = at;
     while ((at = m_text.find_first_of("=>\"'", at)) != std::string_view::npos && m_text[at] != '>') {
       if (m_text[at] == '=') {
-        ++m_attributes;
-        if (NameBehind(m_text.find_first_not_of(kBlanks, nameBegin)).starts_with("xmlns")) ++m_open.back().namespaces;
+        if (++m_attributes > msxml::kMostAttributes) break;
+        const std::size_t name = std::min(m_text.find_first_not_of(kBlanks, nameBegin), at);
+        if (m_text.substr(name).starts_with("xmlns")) ++m_open.back().namespaces;
       } else {
         at = m_text.find(m_text[at], at + 1);
         if (at == std::string_view::npos) break;
-        nameBegin = at + 1;
       }
-      ++at;
+      nameBegin = ++at;
     }
     return std::min(at, m_text.size());
   }
@@ -113,6 +132,12 @@ class CTagScan {
     if (begin >= m_text.size()) return {};
     const std::size_t end = m_text.find_first_of(" \t\r\n=/>[<\"'", begin);
     return m_text.substr(begin, std::min(end, m_text.size()) - begin);
+  }
+
+  /// Remembers what is said first of an element with a name.
+  void Mismatch(std::string_view element, const std::string& what) {
+    if (m_scan.mismatch || element.empty()) return;
+    m_scan.mismatch = {m_line, m_column, std::string(element), "The element '" + std::string(element) + "'" + what};
   }
 
   void Refuse(std::string_view element, const std::string& reason) {
@@ -139,27 +164,26 @@ class CTagScan {
   std::string_view m_text;
   bool m_isUtf8;
   msxml::CProblems& m_problems;
-  std::vector<Tag> m_tags = std::vector<Tag>(1);
+  TagScan m_scan{std::vector<Tag>(1), std::nullopt};
   std::vector<Open> m_open;
-  std::string_view m_openName;  // of the last start tag
   std::size_t m_at = 0;
   std::uint32_t m_line = 1;
   std::uint32_t m_column = 1;
-  std::size_t m_attributes = 0;      // of the last start tag
-  int m_namespaces = 0;              // in force
-  std::uint64_t m_textLength = 0;    // since the last tag
-  std::uint64_t m_copied = 0;        // of that text, for the pieces that it is in
+  std::size_t m_attributes = 0;    // of the last start tag
+  int m_namespaces = 0;            // in force
+  std::uint64_t m_textLength = 0;  // since the last tag
+  std::uint64_t m_copied = 0;      // of that text, for the pieces that it is in
 };
 
 }  // namespace
 
-std::vector<Tag> ScanTags(const FileText& file, msxml::CProblems& problems) {
+TagScan ScanTags(const FileText& file, msxml::CProblems& problems) {
   if (const std::size_t nul = file.ascii.find('\0'); nul != std::string::npos) {
     const auto lines = std::count(file.ascii.begin(), file.ascii.begin() + static_cast<std::ptrdiff_t>(nul), '\n');
     problems.Add(static_cast<std::size_t>(lines) + 1, 0, {}, msxml::kNulReason);
     return {};
   }
-  return CTagScan(file, problems).Run();
+  return CScanner(file, problems).Run();
 }
 
 }  // namespace msxml6
