@@ -34,11 +34,6 @@ else()
     -Woverloaded-virtual)
 endif()
 
-# Programs are most of what is compiled, above all the tests; the library is most of what runs.
-set(VENDORINFOFILE_PROGRAM_OPTIONS "" CACHE STRING "Further options to compile programs with, such as -O0")
-target_compile_options(project_settings INTERFACE
-  "$<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:${VENDORINFOFILE_PROGRAM_OPTIONS}>")
-
 # Lists of sanitizers, such as "address,undefined". Every finding ends the program.
 set(VENDORINFOFILE_SANITIZE "" CACHE STRING "Sanitizers to build everything with, separated by commas")
 if(VENDORINFOFILE_SANITIZE)

@@ -5,6 +5,6 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 scripts/setup.sh windows
-scripts/build.sh windows -DVENDORINFOFILE_BUILD_TESTS=ON -DVENDORINFOFILE_PRECOMPILE_TESTS=ON
+scripts/build.sh windows -DVENDORINFOFILE_BUILD_TESTS=ON -DVENDORINFOFILE_PRECOMPILE_TESTS=ON -DVENDORINFOFILE_TEST_OPTIONS=-O0
 echo "==> Running the tests under Wine"
 ctest --preset windows --parallel "$(nproc)" "$@"

@@ -1,11 +1,11 @@
 #include "TestSuiteVIF.h"
 
 #include "BaseUtilities/StringConvert.h"
+#include "NarrowPath.h"
 #include "TestUtilities/AppState.h"
 #include "TestUtilities/TUUserInput.h"
 #include "VendorInfoFile.h"
 #include "ZorvenLog/TestSuiteLog.h"
-#include "NarrowPath.h"
 #include "msxml/ComPointer.h"
 
 #include <exception>

@@ -45,6 +45,7 @@ Status Run(int argc, char** argv) {
   app.footer(kFooter);
   app.set_version_flag("--version", "vif " VIF_VERSION, "Print the version and exit");
   app.set_help_flag("-h,--help", "Print this help and exit");
+  app.allow_windows_style_options(false);  // a path may begin with a slash on any system
   app.require_subcommand(1);
   app.get_formatter()->label("SUBCOMMAND", "COMMAND ...");
   tool::AddListCommand(app, status);

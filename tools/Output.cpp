@@ -27,13 +27,27 @@ namespace {
 }
 
 #ifdef _WIN32
-void WriteBytesAsTheyAre() {
-  SetConsoleOutputCP(CP_UTF8);
-  _setmode(_fileno(stdout), _O_BINARY);
-  _setmode(_fileno(stderr), _O_BINARY);
+/// How the console that standard output is treats what it gets; nothing when it is no console.
+std::optional<DWORD> ConsoleMode() {
+  DWORD mode = 0;
+  if (GetConsoleMode(GetStdHandle(STD_OUTPUT_HANDLE), &mode) == 0) return std::nullopt;
+  return mode;
 }
 
-bool IsTerminal() { return _isatty(_fileno(stdout)) != 0; }
+void PrepareConsole() {
+  SetConsoleOutputCP(CP_UTF8);
+  for (FILE* stream : {stdout, stderr}) {
+    _setmode(_fileno(stream), _O_BINARY);
+    std::setvbuf(stream, nullptr, _IOFBF, 1 << 16);  // a console must not get the bytes of a character one by one
+  }
+  const std::optional<DWORD> mode = ConsoleMode();
+  if (mode) SetConsoleMode(GetStdHandle(STD_OUTPUT_HANDLE), *mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
+}
+
+bool IsTerminal() { return ConsoleMode().has_value(); }
+
+// Consoles before those of Windows 10 show them as characters.
+bool DoesTerminalHeedEscapes() { return (ConsoleMode().value_or(0) & ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0; }
 
 size_t AskedWidth() {
   CONSOLE_SCREEN_BUFFER_INFO info;
@@ -41,9 +55,11 @@ size_t AskedWidth() {
   return static_cast<size_t>(info.srWindow.Right - info.srWindow.Left + 1);
 }
 #else
-void WriteBytesAsTheyAre() {}  // as this system always does
+void PrepareConsole() {}  // bytes are what this system always writes
 
 bool IsTerminal() { return isatty(STDOUT_FILENO) != 0; }
+
+bool DoesTerminalHeedEscapes() { return IsTerminal(); }
 
 size_t AskedWidth() {
   winsize size = {};
@@ -60,7 +76,7 @@ size_t WidthFromEnvironment() {
 
 }  // namespace
 
-void PrepareOutput() { WriteBytesAsTheyAre(); }
+void PrepareOutput() { PrepareConsole(); }
 
 void Write(std::string_view text) {
   if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) ThrowWriteFailure();
@@ -78,5 +94,7 @@ std::optional<size_t> TerminalWidth() {
   }
   return usualWidth;
 }
+
+bool HeedsEscapes() { return DoesTerminalHeedEscapes(); }
 
 }  // namespace tool

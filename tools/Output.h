@@ -22,4 +22,7 @@ void Flush();
 /// The columns of the terminal that standard output is; nothing when it is none.
 std::optional<size_t> TerminalWidth();
 
+/// Whether standard output is a terminal that takes escape sequences for commands.
+bool HeedsEscapes();
+
 }  // namespace tool

@@ -8,7 +8,7 @@ namespace tool {
 
 bool MayColour() {
   const char* noColour = std::getenv("NO_COLOR");
-  return TerminalWidth().has_value() && (noColour == nullptr || *noColour == '\0');
+  return HeedsEscapes() && (noColour == nullptr || *noColour == '\0');
 }
 
 std::string Heading(std::string_view text) {

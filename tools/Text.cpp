@@ -1,21 +1,26 @@
 #include "Text.h"
 
+#include "CharacterWidth.h"
+
 #include <BaseUtilities/StringConvert.h>
 
-#include <cwchar>
 #include <string>
 
 namespace tool {
 
 namespace {
 
-size_t CharacterWidth(wchar_t c) {
-#ifdef _WIN32
-  return c >= 0xDC00 && c <= 0xDFFF ? 0 : 1;  // the second half of a character
-#else
-  const int width = wcwidth(c);
-  return width >= 0 ? static_cast<size_t>(width) : 1;
-#endif
+/// The columns of what begins at an element of the text. Where a character is made of two elements, the second one
+/// takes up none.
+size_t WidthAt(std::wstring_view text, size_t i) {
+  const auto c = static_cast<char32_t>(text[i]);
+  if constexpr (sizeof(wchar_t) == 2) {
+    if (c >= 0xDC00 && c <= 0xDFFF) return 0;
+    if (c >= 0xD800 && c <= 0xDBFF && i + 1 < text.size()) {
+      return CharacterWidth(0x10000 + ((c - 0xD800) << 10U) + (static_cast<char32_t>(text[i + 1]) - 0xDC00));
+    }
+  }
+  return CharacterWidth(c);
 }
 
 bool IsControl(wchar_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0) || c == 0x2028 || c == 0x2029; }
@@ -56,8 +61,9 @@ std::string Printable(std::string_view text) {
 }
 
 size_t DisplayWidth(std::string_view text) {
+  const std::wstring wide = Utf8ToUtf16(text);
   size_t width = 0;
-  for (const wchar_t c : Utf8ToUtf16(text)) width += CharacterWidth(c);
+  for (size_t i = 0; i < wide.size(); ++i) width += WidthAt(wide, i);
   return width;
 }
 
@@ -66,7 +72,7 @@ std::string CutToWidth(std::string_view text, size_t width) {
   size_t used = 0;
   size_t fits = 0;  // characters that leave a column for the ellipsis
   for (size_t i = 0; i < wide.size(); ++i) {
-    used += CharacterWidth(wide[i]);
+    used += WidthAt(wide, i);
     if (used < width) fits = i + 1;
     if (used > width) return width == 0 ? std::string() : Utf16ToUtf8(wide.substr(0, fits) + L"\u2026");
   }

@@ -10,6 +10,8 @@
 //   its classes. The host knows nothing of fields.
 //
 // They meet in CAppState. It must exist once in the process: so all three use the one shared library that has it.
+#include "Console.h"
+#include "FileNames.h"
 #include "HostLog.h"
 #include "Options.h"
 #include "Printable.h"
@@ -33,13 +35,13 @@ using namespace host;
 enum ExitStatus { kNothingFailed = 0, kChecksFailed = 1, kCouldNotRun = 2 };
 
 std::unique_ptr<CTUUserInput> MakeUserInput(const Options& options) {
-  if (!options.vif.empty()) return std::make_unique<CGivenFile>(options.vif);
-  return std::make_unique<CTerminalInput>(options.directory.empty() ? "." : options.directory);
+  if (!options.vif.empty()) return std::make_unique<CGivenFile>(PathOf(options.vif));
+  return std::make_unique<CTerminalInput>(PathOf(options.directory.empty() ? "." : options.directory));
 }
 
 /// The whole of a run, in the order in which things must be there; they go in the opposite order. The library comes
-/// before the suite, so that the suite, which needs it, gets the one that was asked for; and both outlive the session,
-/// because the VIF is the library's object.
+/// before the suite, so that the suite, which needs it, gets the one that was asked for (on Windows only when its file
+/// is called as the installed one); and both outlive the session, because the VIF is the library's object.
 ExitStatus Run(const Options& options, CHostLog& log) {
   const CComApartment apartment;  // COM is the host's business
   const std::unique_ptr<CTUUserInput> input = MakeUserInput(options);
@@ -65,6 +67,8 @@ ExitStatus RunAndLog(const Options& options) {
     status = Run(options, log);
   } catch (const std::exception& error) {
     log.Write(kRefused, error.what());
+  } catch (const _com_error&) {
+    log.Write(kRefused, "COM cannot be used");
   }
   if (log.IsComplete()) return status;
   std::cerr << "reference_host: the log could not be written\n";
@@ -75,6 +79,7 @@ ExitStatus RunAndLog(const Options& options) {
 
 int main(int argc, char* argv[]) {
   try {
+    PrepareConsole();
     const std::span<char* const> arguments(argv, static_cast<std::size_t>(argc));
     const Options options = ParseOptions(arguments.empty() ? arguments : arguments.subspan(1));
     if (!options.help) return RunAndLog(options);

@@ -1,5 +1,7 @@
 #include "Options.h"
 
+#include "FileNames.h"
+
 #include <filesystem>
 #include <string_view>
 #include <system_error>
@@ -34,7 +36,7 @@ void Check(const Options& options) {
   if (options.directory.empty()) return;
   if (!options.vif.empty()) throw CUsageError("with --vif nobody is asked: give no directory");
   std::error_code ignored;
-  if (!std::filesystem::is_directory(options.directory, ignored)) {
+  if (!std::filesystem::is_directory(PathOf(options.directory), ignored)) {
     throw CUsageError("there is no directory " + options.directory);
   }
 }

@@ -1,3 +1,4 @@
+#include "FileNames.h"
 #include "SharedLibrary.h"
 
 #include <windows.h>
@@ -6,7 +7,14 @@
 
 namespace host {
 
-CSharedLibrary::CSharedLibrary(const std::string& file) : m_file(file), m_handle(LoadLibraryA(file.c_str())) {
+namespace {
+
+// A bare name is looked for beside the program first.
+void* Load(const std::string& file) { return LoadLibraryW(PathOf(file).make_preferred().c_str()); }
+
+}  // namespace
+
+CSharedLibrary::CSharedLibrary(const std::string& file) : m_file(file), m_handle(Load(file)) {
   if (m_handle != nullptr) return;
   const auto error = static_cast<int>(GetLastError());
   throw CLibraryError("Cannot load " + file + ": " + std::system_category().message(error));

@@ -1,5 +1,7 @@
 #include "UserInput.h"
 
+#include "Console.h"
+#include "FileNames.h"
 #include "Printable.h"
 #include "VifDirectory.h"
 
@@ -24,7 +26,7 @@ using Files = std::vector<std::filesystem::path>;
 bool Record(const std::filesystem::path& file) {
   CTestSuiteLog* suiteLog = CAppState::TestSuiteLog();
   if (suiteLog == nullptr) return false;
-  suiteLog->SetVifFileName(CSafeString(file.string()));
+  suiteLog->SetVifFileName(CSafeString(NameOf(file)));
   return true;
 }
 
@@ -45,13 +47,14 @@ std::optional<std::filesystem::path> FileOfNumber(const std::string& answer, con
 }
 
 std::optional<std::filesystem::path> FileOfPath(const std::string& answer) {
+  const std::filesystem::path file = PathOf(answer);
   std::error_code ignored;
-  if (!std::filesystem::is_regular_file(answer, ignored)) {
+  if (!std::filesystem::is_regular_file(file, ignored)) {
     std::cout << "There is no file " << Printable(answer) << ".\n";
-  } else if (!HasVifExtension(answer)) {
+  } else if (!HasVifExtension(file)) {
     std::cout << Printable(answer) << " is no VIF: its name ends neither in .txt nor in .xml.\n";
   } else {
-    return std::filesystem::path(answer);
+    return file;
   }
   return std::nullopt;
 }
@@ -61,14 +64,14 @@ std::optional<std::filesystem::path> FileOfPath(const std::string& answer) {
 CTerminalInput::CTerminalInput(std::filesystem::path directory) : m_directory(std::move(directory)) {}
 
 void CTerminalInput::ShowList(const Files& files) const {
-  const std::string directory = Printable(m_directory.string());
+  const std::string directory = Printable(NameOf(m_directory));
   if (files.empty()) {
     std::cout << "There are no VIFs in " << directory << ".\n";
     return;
   }
   std::cout << "VIFs in " << directory << ":\n";
   for (std::size_t i = 0; i < files.size(); ++i) {
-    std::cout << "  " << i + 1 << "  " << Printable(files[i].filename().string()) << '\n';
+    std::cout << "  " << i + 1 << "  " << Printable(NameOf(files[i].filename())) << '\n';
   }
 }
 
@@ -79,7 +82,7 @@ bool CTerminalInput::ChooseFile(const wchar_t* prompt, const wchar_t* caption, u
   for (;;) {
     std::cout << "Number, or path of a file (nothing to cancel): " << std::flush;
     std::string line;
-    if (!std::getline(std::cin, line)) std::cout << '\n';  // the end of input leaves the cursor behind the question
+    if (!ReadLine(line)) std::cout << '\n';  // the end of input leaves the cursor behind the question
     const std::string answer = Trimmed(line);
     if (answer.empty() || answer == "q" || answer == "Q") return false;
     const auto file = IsNumber(answer) ? FileOfNumber(answer, files) : FileOfPath(answer);

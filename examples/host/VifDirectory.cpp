@@ -1,5 +1,7 @@
 #include "VifDirectory.h"
 
+#include "FileNames.h"
+
 #include <BaseUtilities/StringConvert.h>
 
 #include <algorithm>
@@ -9,7 +11,7 @@
 namespace host {
 
 bool HasVifExtension(const std::filesystem::path& file) {
-  std::string extension = file.extension().string();
+  std::string extension = NameOf(file.extension());
   ToLower(extension);
   return extension == ".txt" || extension == ".xml";
 }

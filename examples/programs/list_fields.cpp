@@ -49,6 +49,9 @@ int main(int argc, char* argv[]) {
   } catch (const std::exception& error) {  // the file is missing, is no VIF, cannot be read, ...
     std::cerr << "list_fields: " << error.what() << '\n';
     return EXIT_FAILURE;
+  } catch (const _com_error& error) {  // is no std::exception
+    std::cerr << "list_fields: COM error 0x" << std::hex << static_cast<unsigned>(error.Error()) << '\n';
+    return EXIT_FAILURE;
   }
   return std::cout.flush() ? EXIT_SUCCESS : EXIT_FAILURE;
 }

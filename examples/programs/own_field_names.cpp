@@ -21,6 +21,13 @@ std::vector<VifFieldDef> MakeFieldDefs() {
   return fieldDefs;
 }
 
+// The file's fields, with these definitions or, when there are none, the built-in ones.
+CVendorInfoFile Load(const char* fileName, std::vector<VifFieldDef>* fieldDefs) {
+  CVendorInfoFile vif(nullptr, fieldDefs);
+  vif.Append(fileName);
+  return vif;
+}
+
 void PrintOwnFields(const CVendorInfoFile& vif) {
   const VifIndex any = CVIFField::UNSPECIFIED_INDEX;
   const VifFieldList fields = vif.GetFields();  // kept in a variable: the loop borrows from it
@@ -43,15 +50,18 @@ int main(int argc, char* argv[]) {
     const CComApartment apartment;  // on Windows, XML files are read through COM
     // A name that no definition knows is kept as it is written, and its field stands in no group.
     std::cout << "With the built-in definitions:\n";
-    PrintOwnFields(CVendorInfoFile(argv[1]));
+    PrintOwnFields(Load(argv[1], nullptr));
 
     // The object borrows the definitions, so they are declared before it and outlive it.
     std::vector<VifFieldDef> fieldDefs = MakeFieldDefs();
-    const CVendorInfoFile vif(argv[1], &fieldDefs);
+    const CVendorInfoFile vif = Load(argv[1], &fieldDefs);
     std::cout << "With the vendor's own definition added:\n";
     PrintOwnFields(vif);
   } catch (const std::exception& error) {
     std::cerr << "own_field_names: " << error.what() << '\n';
+    return EXIT_FAILURE;
+  } catch (const _com_error& error) {  // is no std::exception
+    std::cerr << "own_field_names: COM error 0x" << std::hex << static_cast<unsigned>(error.Error()) << '\n';
     return EXIT_FAILURE;
   }
   return std::cout.flush() ? EXIT_SUCCESS : EXIT_FAILURE;

@@ -50,12 +50,16 @@ void PrintPdo(const std::vector<CVIFField>& fields, const CVIFField& pdo) {
 int main(int argc, char* argv[]) try {
   if (argc != 2) throw std::runtime_error("needs the name of one FILE");
   const CComApartment apartment;  // on Windows, XML files are read through COM
-  const CVendorInfoFile vif(argv[1]);
+  CVendorInfoFile vif;
+  vif.Append(argv[1]);
   const VifFieldList fields = vif.GetFields();  // kept in a variable: the loop borrows from it
   for (const CVIFField& field : *fields)        // each source PDO states its supply type once
     if (std::string_view(field.Name()) == "Src_PDO_Supply_Type") PrintPdo(*fields, field);
   return std::fflush(stdout) == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 } catch (const std::exception& error) {
   std::fprintf(stderr, "source_pdos: %s\n", error.what());
+  return EXIT_FAILURE;
+} catch (const _com_error& error) {  // is no std::exception
+  std::fprintf(stderr, "source_pdos: COM error 0x%08X\n", static_cast<unsigned>(error.Error()));
   return EXIT_FAILURE;
 }

@@ -21,8 +21,11 @@
 /// the network: while schemas are compiled, libxml2's external entity loader is another for the thread that does it.
 ///
 /// One object is for one thread at a time. Any number of threads may use objects of their own at once; compiled schemas
-/// are shared between them and kept until the process ends, or until a schema file changes. On Windows, COM must be
-/// initialised on the calling thread.
+/// are shared between them and kept until the process ends, or until a schema file changes.
+///
+/// On Windows, MSXML 6 parses and validates. COM must be initialised on the calling thread. MSXML words the reasons why
+/// a file is malformed or not valid, gives the first one only, and does not say where a document is not valid. Schemas
+/// are compiled for each validation, and those with parts in other files are refused.
 class ZO_API CDOMDoc {
  public:
   /// An empty document. The schemas are looked at when a file is validated.
@@ -60,8 +63,8 @@ class ZO_API CDOMDoc {
   const std::vector<DOMDocProblem>& Problems() const noexcept;
 
   /// Finds out where an element of this document stands in its file: the line and the column of its start tag, from 1.
-  /// The column is 0 where it cannot be told, as for some start tags that go over several lines, and may be too large
-  /// behind an end tag on the same line whose name is not ASCII.
+  /// Except on Windows, the column is 0 where it cannot be told, as for some start tags that go over several lines, and
+  /// may be too large behind an end tag on the same line whose name is not ASCII.
   /// \return false, with 0 for both, when the node is none of this document or the platform does not tell
   bool Locate(IXMLDOMNode& node, std::size_t& line, std::size_t& column) const;
 

@@ -6,6 +6,7 @@
 #include "msxml6/ElementPlaces.h"
 #include "msxml6/SchemaCache.h"
 
+#include <optional>
 #include <utility>
 
 struct CDOMDoc::Content {
@@ -14,8 +15,8 @@ struct CDOMDoc::Content {
   std::wstring rootName;
   std::filesystem::path file;
   std::vector<DOMDocProblem> problems;
-  std::vector<msxml6::Tag> tags;  // of the document's elements
   DOMDocument2Ptr document = msxml6::MakeDocument();
+  std::optional<msxml6::CElementPlaces> places;  // of the document's elements; none when it is empty
 
   /// Whether a document that has been loaded is valid; the reasons are in `problems` when it is not.
   bool Validate(IXMLDOMDocument2& loaded, const std::vector<msxml6::Tag>& itsTags);
@@ -81,18 +82,17 @@ bool CDOMDoc::CanLoadDoc(const std::wstring& fileName, const std::wstring& rootN
 
 bool CDOMDoc::ParseDoc() {
   msxml::CProblems found;
-  m_content->tags.clear();
+  m_content->places.reset();
   auto tags = msxml6::LoadFile(Document(), m_content->file, found);
   m_content->problems = found.Take();
-  if (!tags) return false;
-  m_content->tags = std::move(*tags);
-  return true;
+  if (tags) m_content->places.emplace(Document(), std::move(*tags));
+  return m_content->places.has_value();
 }
 
 bool CDOMDoc::ValidateDoc(const std::filesystem::path& file) {
   m_content->file = file;
   if (!ParseDoc()) return false;
-  return !m_content->tags.empty() && m_content->Validate(Document(), m_content->tags);
+  return m_content->places && m_content->Validate(Document(), m_content->places->Tags());
 }
 
 DOMElementPtr CDOMDoc::GetRootElement() const { return RootOf(Document()); }
@@ -101,7 +101,7 @@ const std::vector<DOMDocProblem>& CDOMDoc::Problems() const noexcept { return m_
 
 bool CDOMDoc::Locate(IXMLDOMNode& node, std::size_t& line, std::size_t& column) const {
   line = column = 0;
-  const msxml6::Tag* tag = msxml6::FindTag(node, m_content->tags);
+  const msxml6::Tag* tag = m_content->places ? m_content->places->Find(node) : nullptr;
   if (tag == nullptr) return false;
   line = tag->line;
   column = tag->column;
@@ -109,7 +109,7 @@ bool CDOMDoc::Locate(IXMLDOMNode& node, std::size_t& line, std::size_t& column) 
 }
 
 std::string CDOMDoc::PathOf(IXMLDOMNode& node) const {
-  return m_content->tags.empty() ? std::string() : msxml6::PathOfElement(node);
+  return m_content->places ? m_content->places->PathOf(node) : std::string();
 }
 
 IXMLDOMDocument2& CDOMDoc::Document() const noexcept { return *m_content->document.GetInterfacePtr(); }

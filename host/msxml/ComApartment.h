@@ -17,8 +17,8 @@ class CComApartment {
     if (SUCCEEDED(m_result)) CoUninitialize();
   }
 #else
-  CComApartment() noexcept {}
-  ~CComApartment() {}
+  CComApartment() noexcept {}  // NOLINT(modernize-use-equals-default): an object of it is no unused variable
+  ~CComApartment() {}          // NOLINT(modernize-use-equals-default)
 #endif
   CComApartment(const CComApartment&) = delete;
   CComApartment& operator=(const CComApartment&) = delete;

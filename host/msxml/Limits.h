@@ -16,7 +16,7 @@ constexpr int kGreatestDepth = 256;
 constexpr std::size_t kMostAttributes = 1'000;
 
 /// In force at once: a parser looks through them for every name with a prefix.
-constexpr int kMostNamespaces = 1'000;
+constexpr std::size_t kMostNamespaces = 1'000;
 
 /// Comments, processing instructions and CDATA sections cut a text in pieces, and validation copies all that it has of
 /// a value for each piece that is added. So many bytes may be copied for one value.

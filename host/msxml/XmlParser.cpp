@@ -101,7 +101,7 @@ void StartElement(void* data, const xmlChar* name, const xmlChar* prefix, const 
       Stop(context, QualifiedName(prefix, name), TooDeepReason());
       return;
     }
-    if (context.nsNr / 2 > kMostNamespaces) {
+    if (static_cast<std::size_t>(context.nsNr) / 2 > kMostNamespaces) {
       Stop(context, QualifiedName(prefix, name), TooManyNamespacesReason());
       return;
     }

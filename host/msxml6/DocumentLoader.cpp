@@ -43,13 +43,27 @@ void Clear(IXMLDOMDocument2& document) {
   document.loadXML(CBstr(L"").get(), &isLoaded);  // fails, and leaves the document empty
 }
 
-bool LoadBytes(IXMLDOMDocument2& document, const std::string& bytes, msxml::CProblems& problems) {
+/// Of what MSXML and the tags say, what tells more.
+DOMDocProblem Malformedness(const std::optional<DOMDocProblem>& said, const std::optional<DOMDocProblem>& mismatch) {
+  if (said && said->line != 0) {
+    DOMDocProblem problem = *said;
+    if (mismatch && mismatch->line == said->line) problem.element = mismatch->element;
+    return problem;
+  }
+  if (mismatch) return *mismatch;
+  const std::string reason = said && !said->reason.empty() ? ": " + said->reason : std::string(".");
+  return {0, 0, {}, "The file is not well-formed XML" + reason};
+}
+
+bool LoadBytes(IXMLDOMDocument2& document, const std::string& bytes, const std::optional<DOMDocProblem>& mismatch,
+               msxml::CProblems& problems) {
   VARIANT_BOOL isLoaded = VARIANT_FALSE;
   Require(document.load(CByteArray(bytes).get(), &isLoaded), document, IID_IXMLDOMDocument2);
   if (isLoaded != VARIANT_FALSE) return true;
   CComPointer<IXMLDOMParseError> error;
   Require(document.get_parseError(error.Receive()), document, IID_IXMLDOMDocument2);
-  if (CheckError(*error, problems)) problems.Add(0, 0, {}, "The file is not well-formed XML.");
+  const DOMDocProblem problem = Malformedness(ProblemOf(*error), mismatch);
+  problems.Add(problem.line, problem.column, problem.element, problem.reason);
   return false;
 }
 
@@ -81,8 +95,7 @@ void Require(HRESULT result, IUnknown& object, REFIID iid) {
 DOMDocument2Ptr MakeDocument() {
   DOMDocument2Ptr document;
   void** place = reinterpret_cast<void**>(document.Receive());
-  const HRESULT result =
-      CoCreateInstance(kDocumentClass, nullptr, CLSCTX_INPROC_SERVER, IID_IXMLDOMDocument2, place);
+  const HRESULT result = CoCreateInstance(kDocumentClass, nullptr, CLSCTX_INPROC_SERVER, IID_IXMLDOMDocument2, place);
   if (FAILED(result)) _com_issue_errorex(result, nullptr, IID_IXMLDOMDocument2);
   Require(document->put_async(VARIANT_FALSE), *document, IID_IXMLDOMDocument2);
   Require(document->put_resolveExternals(VARIANT_FALSE), *document, IID_IXMLDOMDocument2);
@@ -94,11 +107,10 @@ DOMDocument2Ptr MakeDocument() {
 
 std::optional<std::vector<Tag>> LoadFile(IXMLDOMDocument2& document, const std::filesystem::path& path,
                                          msxml::CProblems& problems) {
-  std::vector<Tag> tags;
   if (const std::optional<FileText> file = ReadFileText(path, problems)) {
-    tags = ScanTags(*file, problems);
-    if (problems.IsEmpty() && LoadBytes(document, file->bytes, problems)) {
-      if (!HasDocumentType(document)) return tags;
+    TagScan scan = ScanTags(*file, problems);
+    if (problems.IsEmpty() && LoadBytes(document, file->bytes, scan.mismatch, problems)) {
+      if (!HasDocumentType(document)) return std::move(scan.tags);
       problems.Add(0, 0, {}, msxml::kDocumentTypeReason);
     }
   }
@@ -106,19 +118,20 @@ std::optional<std::vector<Tag>> LoadFile(IXMLDOMDocument2& document, const std::
   return std::nullopt;
 }
 
-bool CheckError(IXMLDOMParseError& error, msxml::CProblems& problems) {
+std::optional<DOMDocProblem> ProblemOf(IXMLDOMParseError& error) {
   LONG code = 0;
   Require(error.get_errorCode(&code), error, IID_IXMLDOMParseError);
-  if (code == 0) return true;
+  if (code == 0) return std::nullopt;
   CBstr reason;
   LONG line = 0;
   LONG column = 0;
   Require(error.get_reason(reason.Receive()), error, IID_IXMLDOMParseError);
   Require(error.get_line(&line), error, IID_IXMLDOMParseError);
   Require(error.get_linepos(&column), error, IID_IXMLDOMParseError);
-  problems.Add(static_cast<std::size_t>(std::max(line, LONG{0})), static_cast<std::size_t>(std::max(column, LONG{0})),
-               {}, reason.View().empty() ? std::string("The file is not valid.") : Utf16ToUtf8(reason.View()));
-  return false;
+  return DOMDocProblem{static_cast<std::size_t>(std::max(line, LONG{0})),
+                       static_cast<std::size_t>(std::max(column, LONG{0})),
+                       {},
+                       Utf16ToUtf8(reason.View())};
 }
 
 }  // namespace msxml6

@@ -23,9 +23,8 @@ DOMDocument2Ptr MakeDocument();
 std::optional<std::vector<Tag>> LoadFile(IXMLDOMDocument2& document, const std::filesystem::path& path,
                                          msxml::CProblems& problems);
 
-/// Adds what MSXML says, unless it says that all is well.
-/// \return whether all is well
-bool CheckError(IXMLDOMParseError& error, msxml::CProblems& problems);
+/// What MSXML says is wrong; its reason may be empty. Nothing when all is well.
+std::optional<DOMDocProblem> ProblemOf(IXMLDOMParseError& error);
 
 /// \throws _com_error that names the interface when the result is that of a call that failed
 void Require(HRESULT result, IUnknown& object, REFIID iid);

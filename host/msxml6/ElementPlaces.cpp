@@ -2,10 +2,12 @@
 
 #include "BaseUtilities/StringConvert.h"
 #include "msxml6/DocumentLoader.h"
+#include "msxml6/ElementMark.h"
 
-#include <cstddef>
-#include <cstdint>
-#include <tuple>
+#include <algorithm>
+#include <map>
+#include <string_view>
+#include <utility>
 
 namespace msxml6 {
 
@@ -14,116 +16,152 @@ namespace {
 /// A path names each element for people, and a file may have it in all its paths.
 constexpr std::size_t kLongestName = 100;
 
-DOMNodeType TypeOf(IXMLDOMNode& node) {
-  DOMNodeType type = NODE_INVALID;
-  Require(node.get_nodeType(&type), node, IID_IXMLDOMNode);
-  return type;
-}
-
-bool IsElement(IXMLDOMNode& node) { return TypeOf(node) == NODE_ELEMENT; }
-
-DOMNodePtr Parent(IXMLDOMNode& node) {
-  DOMNodePtr parent;
-  Require(node.get_parentNode(parent.Receive()), node, IID_IXMLDOMNode);
-  return parent;
+/// Empty when the node is none.
+DOMElementPtr AsElement(IXMLDOMNode& node) {
+  DOMElementPtr element;
+  static_cast<void>(node.QueryInterface(IID_IXMLDOMElement, reinterpret_cast<void**>(element.Receive())));
+  return element;
 }
 
 using Step = HRESULT (STDMETHODCALLTYPE IXMLDOMNode::*)(IXMLDOMNode**);
 
-/// The next element in a direction among those beside this one; empty when there is none.
-DOMNodePtr NextElement(IXMLDOMNode& node, Step step) {
+DOMNodePtr Take(IXMLDOMNode& node, Step step) {
   DOMNodePtr next;
   Require((node.*step)(next.Receive()), node, IID_IXMLDOMNode);
-  while (next && !IsElement(*next)) {
-    DOMNodePtr further;
-    Require(((*next).*step)(further.Receive()), *next, IID_IXMLDOMNode);
-    next = std::move(further);
-  }
   return next;
 }
 
-DOMNodePtr ElementBefore(IXMLDOMNode& node) { return NextElement(node, &IXMLDOMNode::get_previousSibling); }
-DOMNodePtr ElementBehind(IXMLDOMNode& node) { return NextElement(node, &IXMLDOMNode::get_nextSibling); }
-
-/// The numbers of an element and those around it, each among its siblings, from the innermost one on.
-std::vector<std::size_t> NumbersOf(IXMLDOMNode& element) {
-  std::vector<std::size_t> numbers;
-  DOMNodePtr current(&element);
-  while (current && IsElement(*current)) {
-    std::size_t number = 0;
-    for (DOMNodePtr before = ElementBefore(*current); before; before = ElementBefore(*before)) ++number;
-    numbers.push_back(number);
-    current = Parent(*current);
+/// The first element from a node on among those beside it; empty when there is none.
+DOMElementPtr ElementFrom(DOMNodePtr node) {
+  while (node) {
+    if (DOMElementPtr element = AsElement(*node)) return element;
+    node = Take(*node, &IXMLDOMNode::get_nextSibling);
   }
-  return numbers;
+  return nullptr;
 }
 
-/// The element that an attribute belongs to; empty when it belongs to none.
-DOMNodePtr ElementOf(IXMLDOMNode& attribute) {
-  DOMNodePtr element;
-  Require(attribute.selectSingleNode(CBstr(L"..").get(), element.Receive()), attribute, IID_IXMLDOMNode);
-  return element;
+DOMElementPtr ElementBehind(IXMLDOMElement& element) {
+  return ElementFrom(Take(element, &IXMLDOMNode::get_nextSibling));
 }
 
-std::string BaseName(IXMLDOMNode& node) {
+DOMElementPtr ElementAround(IXMLDOMElement& element) {
+  const DOMNodePtr parent = Take(element, &IXMLDOMNode::get_parentNode);
+  return parent ? AsElement(*parent) : nullptr;
+}
+
+/// The element itself, or the one that an attribute belongs to; empty for anything else.
+DOMElementPtr ElementOf(IXMLDOMNode& node) {
+  DOMNodeType type = NODE_INVALID;
+  Require(node.get_nodeType(&type), node, IID_IXMLDOMNode);
+  if (type != NODE_ATTRIBUTE) return AsElement(node);
+  DOMNodePtr around;
+  Require(node.selectSingleNode(CBstr(L"..").get(), around.Receive()), node, IID_IXMLDOMNode);
+  return around ? AsElement(*around) : nullptr;
+}
+
+std::wstring BaseName(IXMLDOMElement& element) {
   CBstr name;
-  Require(node.get_baseName(name.Receive()), node, IID_IXMLDOMNode);
-  return Utf16ToUtf8(name.View());
+  Require(element.get_baseName(name.Receive()), element, IID_IXMLDOMNode);
+  return std::wstring(name.View());
 }
 
-/// The name with its namespace.
-std::pair<std::string, std::string> FullName(IXMLDOMNode& node) {
+/// The namespace and the name in it.
+std::pair<std::wstring, std::wstring> FullName(IXMLDOMElement& element) {
   CBstr uri;
-  Require(node.get_namespaceURI(uri.Receive()), node, IID_IXMLDOMNode);
-  return {Utf16ToUtf8(uri.View()), BaseName(node)};
+  Require(element.get_namespaceURI(uri.Receive()), element, IID_IXMLDOMNode);
+  return {std::wstring(uri.View()), BaseName(element)};
 }
 
-/// The element's number among its siblings of the same name, from 1; 0 when there is no other.
-std::size_t NumberAmongNamesakes(IXMLDOMNode& element) {
-  const auto name = FullName(element);
-  std::size_t number = 1;
-  for (DOMNodePtr before = ElementBefore(element); before; before = ElementBefore(*before)) {
-    if (FullName(*before) == name) ++number;
-  }
-  if (number > 1) return number;
-  for (DOMNodePtr behind = ElementBehind(element); behind; behind = ElementBehind(*behind)) {
-    if (FullName(*behind) == name) return 1;
-  }
-  return 0;
-}
-
-std::string StepText(IXMLDOMNode& element) {
-  const std::string name = BaseName(element);
+std::string StepText(IXMLDOMElement& element, std::uint32_t number) {
+  const std::string name = Utf16ToUtf8(BaseName(element));
   std::string step = Utf16ToUtf8(Utf8ToUtf16(std::string_view(name).substr(0, kLongestName)));
   if (name.size() > kLongestName) step += "...";
-  if (const std::size_t number = NumberAmongNamesakes(element); number != 0) step += '[' + std::to_string(number) + ']';
+  if (number != 0) step += '[' + std::to_string(number) + ']';
   return step;
 }
 
 }  // namespace
 
-const Tag* FindTag(IXMLDOMNode& node, const std::vector<Tag>& tags) {
-  DOMNodePtr element(&node);
-  if (TypeOf(node) == NODE_ATTRIBUTE) element = ElementOf(node);
-  if (!element || !IsElement(*element) || tags.empty()) return nullptr;
-  const std::vector<std::size_t> numbers = NumbersOf(*element);
-  std::uint32_t tag = Tag::kNone;
-  for (auto number = numbers.rbegin(); number != numbers.rend(); ++number) {
-    tag = tags[tag].firstChild;
-    for (std::size_t i = 0; i < *number && tag != Tag::kNone; ++i) tag = tags[tag].nextSibling;
-    if (tag == Tag::kNone) return nullptr;
-  }
-  return &tags[tag];
+CElementPlaces::CElementPlaces(IXMLDOMDocument2& document, std::vector<Tag> tags)
+    : m_document(document), m_tags(std::move(tags)), m_numbers(m_tags.size()), m_hasNumbers(m_tags.size()) {}
+
+const Tag* CElementPlaces::Find(IXMLDOMNode& node) {
+  const DOMElementPtr element = ElementOf(node);
+  return element && GoTo(element) ? &m_tags[m_way.back().tag] : nullptr;
 }
 
-std::string PathOfElement(IXMLDOMNode& node) {
+std::string CElementPlaces::PathOf(IXMLDOMNode& node) {
+  const DOMElementPtr element = AsElement(node);
+  if (!element || !GoTo(element)) return {};
   std::string path;
-  DOMNodePtr current(&node);
-  while (current && IsElement(*current)) {
-    path = path.empty() ? StepText(*current) : StepText(*current) + '/' + path;
-    current = Parent(*current);
+  for (std::size_t depth = 0; depth < m_way.size(); ++depth) {
+    NumberNamesakes(depth);
+    if (depth != 0) path += '/';
+    path += StepText(*m_way[depth].element, m_numbers[m_way[depth].tag]);
   }
   return path;
+}
+
+bool CElementPlaces::GoTo(const DOMElementPtr& element) {
+  std::vector<DOMElementPtr> way;
+  for (DOMElementPtr around = element; around; around = ElementAround(*around)) way.push_back(around);
+  std::reverse(way.begin(), way.end());
+  std::size_t depth = std::min(way.size(), m_way.size());
+  // What is around an element that both ways have is the same too.
+  while (depth > 0 && !CElementMark(*way[depth - 1]).IsOn(*m_way[depth - 1].element)) --depth;
+  for (; depth < way.size(); ++depth) {
+    if (!GoTo(depth, *way[depth])) return false;
+  }
+  m_way.resize(way.size());
+  return true;
+}
+
+bool CElementPlaces::GoTo(std::size_t depth, IXMLDOMElement& element) {
+  CElementMark mark(element);
+  std::optional<Place> found;
+  if (depth < m_way.size()) {
+    found = Search(m_way[depth], mark);
+    m_way.resize(depth);
+  }
+  if (!found) found = Search(FirstOf(depth), mark);
+  if (found) m_way.push_back(std::move(*found));
+  return m_way.size() > depth;
+}
+
+CElementPlaces::Place CElementPlaces::FirstOf(std::size_t depth) const {
+  if (depth != 0) {
+    const Place& around = m_way[depth - 1];
+    return {ElementFrom(Take(*around.element, &IXMLDOMNode::get_firstChild)), m_tags[around.tag].firstChild};
+  }
+  Place root{nullptr, m_tags[Tag::kNone].firstChild};
+  Require(m_document.get_documentElement(root.element.Receive()), m_document, IID_IXMLDOMDocument2);
+  return root;
+}
+
+std::optional<CElementPlaces::Place> CElementPlaces::Search(Place from, CElementMark& mark) const {
+  while (from.element && from.tag != Tag::kNone) {
+    if (mark.IsOn(*from.element)) return from;
+    from = {ElementBehind(*from.element), m_tags[from.tag].nextSibling};
+  }
+  return std::nullopt;
+}
+
+void CElementPlaces::NumberNamesakes(std::size_t depth) {
+  const std::uint32_t around = depth != 0 ? m_way[depth - 1].tag : Tag::kNone;
+  if (m_hasNumbers[around]) return;
+  struct Namesakes {
+    std::uint32_t first;
+    std::uint32_t count;
+  };
+  std::map<std::pair<std::wstring, std::wstring>, Namesakes> namesakes;
+  for (Place place = FirstOf(depth); place.element && place.tag != Tag::kNone;
+       place = {ElementBehind(*place.element), m_tags[place.tag].nextSibling}) {
+    const auto [entry, isFirst] = namesakes.try_emplace(FullName(*place.element), Namesakes{place.tag, 1});
+    if (isFirst) continue;
+    m_numbers[entry->second.first] = 1;
+    m_numbers[place.tag] = ++entry->second.count;
+  }
+  m_hasNumbers[around] = true;
 }
 
 }  // namespace msxml6

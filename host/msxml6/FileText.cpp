@@ -6,7 +6,7 @@
 #include <windows.h>
 
 #include <algorithm>
-#include <cstdint>
+#include <cstddef>
 #include <string_view>
 #include <system_error>
 #include <utility>
@@ -103,9 +103,9 @@ constexpr std::string_view kBlanks = " \t\r\n";
 
 /// Where the XML declaration names the encoding.
 struct Declaration {
-  std::string name;              // in capitals; empty when there is none
-  std::size_t begin = 0;         // of "encoding"
-  std::size_t end = 0;           // behind the closing quote
+  std::string name;       // in capitals; empty when there is none
+  std::size_t begin = 0;  // of "encoding"
+  std::size_t end = 0;    // behind the closing quote
 };
 
 /// Text behind a byte order mark.
@@ -132,12 +132,36 @@ Declaration FindEncoding(std::string_view text) {
   return found;
 }
 
+/// \param name in capitals
+bool IsUtf8(std::string_view name) { return name == "UTF-8" || name == "UTF8"; }
+
+std::ptrdiff_t Offset(std::size_t index) { return static_cast<std::ptrdiff_t>(index); }
+
 /// Whether what the file declares fits what it begins with.
 bool IsPlausible(const FileText& file, Form form, const std::string& name) {
   const bool isUtf16 = form != Form::Bytes;
+  const bool hasMark = isUtf16 && (file.bytes[0] == '\xFF' || file.bytes[0] == '\xFE');
+  if (hasMark && IsUtf8(name)) return true;
   if (!name.empty()) return msxml::IsSupportedEncoding(name) && msxml::IsUtf16(name) == isUtf16;
   // Without a mark, UTF-16 has to be declared.
-  return !isUtf16 || file.bytes[0] == '\xFF' || file.bytes[0] == '\xFE';
+  return !isUtf16 || hasMark;
+}
+
+/// Makes blanks of the declaration of the encoding in a file's bytes.
+void BlankOut(const Declaration& declaration, Form form, FileText& file) {
+  if (form == Form::Bytes) {
+    std::fill(file.bytes.begin() + Offset(declaration.begin), file.bytes.begin() + Offset(declaration.end), ' ');
+    return;
+  }
+  // Behind the mark, each ASCII character has two bytes. Others have no place there, and such a file is not
+  // well-formed.
+  const std::size_t mark = file.ascii.size() - WithoutMark(file.ascii).size();
+  const std::string_view before = std::string_view(file.ascii).substr(mark, declaration.begin - mark);
+  if (!std::all_of(before.begin(), before.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; })) return;
+  for (std::size_t i = declaration.begin; i < declaration.end; ++i) {
+    const std::size_t at = 2 + 2 * (i - mark);
+    file.bytes[form == Form::BigEndian ? at + 1 : at] = ' ';
+  }
 }
 
 }  // namespace
@@ -160,10 +184,7 @@ std::optional<FileText> ReadFileText(const std::filesystem::path& path, msxml::C
     return std::nullopt;
   }
   file.isUtf8 = form != Form::Bytes || declaration.name.empty() || declaration.name.starts_with("UTF");
-  if (declaration.name == "UTF8" && form == Form::Bytes) {
-    std::fill_n(file.bytes.begin() + static_cast<std::ptrdiff_t>(declaration.begin),
-                declaration.end - declaration.begin, ' ');
-  }
+  if (form == Form::Bytes ? declaration.name == "UTF8" : IsUtf8(declaration.name)) BlankOut(declaration, form, file);
   // The mark is no character of the text.
   file.ascii.erase(0, file.ascii.size() - WithoutMark(file.ascii).size());
   return file;

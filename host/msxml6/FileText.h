@@ -12,7 +12,8 @@ namespace msxml6 {
 /// A file's bytes, and as much of their meaning as it takes to find the tags in them.
 struct FileText {
   std::string bytes;    ///< as they are in the file, but for `encoding="utf8"`, which is blanked out: UTF-8 is what
-                        ///< counts without it, and MSXML knows no encoding of that name
+                        ///< counts without it, and MSXML knows no encoding of that name; so is UTF-8 in UTF-16, which
+                        ///< the file's byte order mark overrules
   std::string ascii;    ///< text in which the bytes of ASCII characters stand for nothing else
   bool isUtf8 = false;  ///< whether `ascii` is UTF-8; else each of its bytes is taken for a character
 };

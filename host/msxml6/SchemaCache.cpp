@@ -7,6 +7,7 @@
 #include "msxml6/DocumentLoader.h"
 #include "msxml6/MsXmlIds.h"
 
+#include <optional>
 #include <string_view>
 
 namespace msxml6 {
@@ -96,7 +97,10 @@ void Validate(IXMLDOMDocument2& document, const std::vector<SchemaSource>& sourc
   Require(document.putref_schemas(ObjectVariant(*schemas)), document, IID_IXMLDOMDocument2);
   CComPointer<IXMLDOMParseError> error;
   Require(document.validate(error.Receive()), document, IID_IXMLDOMDocument2);
-  CheckError(*error, problems);
+  const std::optional<DOMDocProblem> problem = ProblemOf(*error);
+  if (!problem) return;
+  problems.Add(problem->line, problem->column, {},
+               problem->reason.empty() ? "The document does not fit its schema." : problem->reason);
 }
 
 }  // namespace msxml6

@@ -1,6 +1,7 @@
 #include "msxml6/TagScan.h"
 
 #include "msxml/Limits.h"
+#include "msxml6/PrefixScope.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -34,7 +35,6 @@ class CScanner {
   struct Open {
     std::uint32_t tag;
     std::string_view name;
-    int namespaces;  // declared in it
   };
 
   bool IsAt(std::string_view markup) const { return m_text.substr(m_at).starts_with(markup); }
@@ -80,13 +80,14 @@ class CScanner {
     Tag& around = tags[parent];
     (around.firstChild == Tag::kNone ? around.firstChild : tags[around.lastChild].nextSibling) = number;
     around.lastChild = number;
-    m_open.push_back({number, name, 0});
+    m_open.push_back({number, name});
+    m_scope.Enter(name);
     m_textLength = m_copied = 0;
     const std::size_t end = TakeAttributes(m_at + 1 + name.size());
-    m_namespaces += m_open.back().namespaces;
     if (m_attributes > msxml::kMostAttributes) return Refuse(name, msxml::TooManyAttributesReason());
     if (m_open.size() > static_cast<std::size_t>(msxml::kGreatestDepth)) return Refuse(name, msxml::TooDeepReason());
-    if (m_namespaces > msxml::kMostNamespaces) return Refuse(name, msxml::TooManyNamespacesReason());
+    if (m_scope.Count() > msxml::kMostNamespaces) return Refuse(name, msxml::TooManyNamespacesReason());
+    if (const std::string reason = m_scope.Check(); !reason.empty()) return Refuse(name, reason);
     const bool isEmpty = end > 0 && end < m_text.size() && m_text[end - 1] == '/';
     MoveTo(std::min(end + 1, m_text.size()));
     if (isEmpty) CloseElement();
@@ -103,19 +104,21 @@ class CScanner {
     MoveBehind(">", m_at);
   }
 
-  /// Counts the attributes of a start tag.
+  /// Counts the attributes of a start tag, and looks at their prefixes.
   /// \return where its ">" is, or the end of the text; of no meaning when there are too many
   std::size_t TakeAttributes(std::size_t at) {
     m_attributes = 0;
     std::size_t nameBegin = at;
+    std::string_view name;
     while ((at = m_text.find_first_of("=>\"'", at)) != std::string_view::npos && m_text[at] != '>') {
       if (m_text[at] == '=') {
         if (++m_attributes > msxml::kMostAttributes) break;
-        const std::size_t name = std::min(m_text.find_first_not_of(kBlanks, nameBegin), at);
-        if (m_text.substr(name).starts_with("xmlns")) ++m_open.back().namespaces;
+        name = NameBehind(std::min(m_text.find_first_not_of(kBlanks, nameBegin), at));
       } else {
-        at = m_text.find(m_text[at], at + 1);
+        const std::size_t begin = at + 1;
+        at = m_text.find(m_text[at], begin);
         if (at == std::string_view::npos) break;
+        m_scope.TakeAttribute(name, m_text.substr(begin, at - begin));
       }
       nameBegin = ++at;
     }
@@ -123,8 +126,8 @@ class CScanner {
   }
 
   void CloseElement() {
-    m_namespaces -= m_open.back().namespaces;
     m_open.pop_back();
+    m_scope.Leave();
     m_textLength = m_copied = 0;
   }
 
@@ -166,11 +169,11 @@ class CScanner {
   msxml::CProblems& m_problems;
   TagScan m_scan{std::vector<Tag>(1), std::nullopt};
   std::vector<Open> m_open;
+  CPrefixScope m_scope;
   std::size_t m_at = 0;
   std::uint32_t m_line = 1;
   std::uint32_t m_column = 1;
   std::size_t m_attributes = 0;    // of the last start tag
-  int m_namespaces = 0;            // in force
   std::uint64_t m_textLength = 0;  // since the last tag
   std::uint64_t m_copied = 0;      // of that text, for the pieces that it is in
 };

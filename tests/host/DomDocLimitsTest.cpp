@@ -48,6 +48,11 @@ TEST(DomDocLimitsTest, MoreThanAThousandAttributesAreNot) {
   EXPECT_EQ(ProblemOf("<a>\n<b" + Attributes(100'000) + "/></a>"), kTooMany);
 }
 
+TEST(DomDocLimitsTest, EqualsSignsBehindALongNameAreCountedQuickly) {
+  EXPECT_NE(ProblemOf("<a " + std::string(1'000'000, 'x') + std::string(1'000'000, '=')), "");
+  EXPECT_NE(ProblemOf("<a " + std::string(1'000'000, ' ') + std::string(1'000'000, '=')), "");
+}
+
 TEST(DomDocLimitsTest, AttributesOfUtf16FilesAreCountedToo) {
   EXPECT_EQ(ProblemOf(Utf16("<a>\n<b" + Attributes(1000) + "/></a>")), "");
   EXPECT_EQ(ProblemOf(Utf16("<a>\n<b" + Attributes(1001) + "/></a>")), kTooMany);
@@ -61,6 +66,11 @@ TEST(DomDocLimitsTest, CharactersWithTheBytesOfQuotesHideNoAttributesOfUtf16File
 TEST(DomDocLimitsTest, FileMayNotChangeToUtf16BehindItsDeclaration) {
   const std::string declaration = "<?xml version='1.0' encoding='UTF-16LE'?>";
   EXPECT_NE(ProblemOf(declaration + Utf16("<a/>").substr(2)), "");
+}
+
+TEST(DomDocLimitsTest, OtherCharactersMayNotStandBeforeADeclarationOfTheEncoding) {
+  const std::string end = Utf16("' encoding='UTF-8'?><a/>").substr(2);
+  EXPECT_NE(ProblemOf(Utf16("<?xml version='1.0") + Repeated("\xAC\x20", 10'000) + end), "");
 }
 
 TEST(DomDocLimitsTest, AttributesAreCountedForEachTag) {

@@ -3,8 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <iterator>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
 
@@ -88,6 +91,16 @@ TEST(DomDocLocateTest, Utf16) {
   EXPECT_EQ(PlaceOfB(Utf16(xml, true)), "3:6");
 }
 
+TEST(DomDocLocateTest, ByteOrderMarkOverrulesADeclarationOfUtf8) {
+  for (const bool isBigEndian : {false, true}) {
+    EXPECT_EQ(PlaceOfB(Utf16("<?xml version='1.0' encoding='utf-8' ?><a>\n <b/></a>", isBigEndian)), "2:2");
+  }
+}
+
+TEST(DomDocLocateTest, Utf8MayBeDeclaredWithoutAHyphen) {
+  EXPECT_EQ(PlaceOfB("<?xml version='1.0' encoding='utf8'?>\n<a>\u00E4<b/></a>"), "2:5");
+}
+
 TEST(DomDocLocateTest, Latin1) {
   EXPECT_EQ(PlaceOfB("<?xml version='1.0' encoding='ISO-8859-1'?>\n<a>\xE4\xF6<b/></a>"), "2:6");
 }
@@ -114,8 +127,46 @@ TEST(DomDocLocateTest, LinesBeyond65535) {
   EXPECT_EQ(PlaceOfB("<a>" + std::string(200'000, '\n') + "  <b/></a>"), "200001:3");
 }
 
-TEST(DomDocLocateTest, ColumnOfATagOfManyLinesIsUnknownFarBehindTheBeginOfItsLine) {
-  EXPECT_EQ(PlaceOfB("<a>\n" + std::string(300'000, 'x') + "<b\n/></a>"), "2:0");
+TEST(DomDocLocateTest, ColumnOfATagOfManyLinesFarBehindTheBeginOfItsLine) {
+#ifdef _WIN32
+  constexpr const char* place = "2:300001";
+#else  // the parser keeps too little of the line
+  constexpr const char* place = "2:0";
+#endif
+  EXPECT_EQ(PlaceOfB("<a>\n" + std::string(300'000, 'x') + "<b\n/></a>"), place);
+}
+
+TEST(DomDocLocateTest, ElementsMayBeAskedForInAnyOrder) {
+  CTextDocument document("<a>\n<b/><b><c/>\n<c/></b>\n<b><c/></b></a>");
+  const std::vector<DOMNodePtr> nodes = Select(document.Root(), L"//*");
+  constexpr const char* places[] = {"1:1", "2:1", "2:5", "2:8", "3:1", "4:1", "4:4"};
+  ASSERT_EQ(nodes.size(), std::size(places));
+  for (const std::size_t number : {6U, 0U, 3U, 1U, 5U, 4U, 4U, 2U, 6U, 3U}) {
+    EXPECT_EQ(PlaceOf(document, *nodes[number]), places[number]);
+  }
+}
+
+TEST(DomDocLocateTest, ElementsThatLookAlikeAreToldApartAndStayAsTheyAre) {
+  // The attribute is one that some implementations set for a moment.
+  CTextDocument document("<a>\n<b element-mark='marked'/>\n<b element-mark='marked otherwise'/>\n<b/></a>");
+  std::string places;
+  for (const DOMNodePtr& b : Select(document.Root(), L"b")) places += PlaceOf(document, *b) + " ";
+  EXPECT_EQ(places, "2:1 3:1 4:1 ");
+  EXPECT_EQ(testsupport::Texts(Select(document.Root(), L"//@*")),
+            (std::vector<std::string>{"marked", "marked otherwise"}));
+}
+
+TEST(DomDocLocateTest, ManySiblingsAreFoundQuickly) {
+  std::string xml = "<a>";
+  for (int i = 0; i < 50'000; ++i) xml += "<b/>\n";
+  CTextDocument document(xml + "</a>");
+  const std::vector<DOMNodePtr> nodes = Select(document.Root(), L"b");
+  ASSERT_EQ(nodes.size(), 50'000U);
+  std::size_t line = 1;
+  for (const DOMNodePtr& node : nodes) {
+    ASSERT_EQ(PlaceOf(document, *node), std::to_string(line) + (line == 1 ? ":4" : ":1"));
+    ++line;
+  }
 }
 
 TEST(DomDocLocateTest, AttributeStandsWhereItsElementDoes) {

@@ -12,7 +12,6 @@
 namespace {
 
 using namespace std::literals;
-using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
@@ -49,8 +48,27 @@ TEST(DomDocReasonsTest, AreOnOneLine) {
 const std::string kHalfAPair = "\xFF\xFE<\0a\0>\0\x3D\xD8x\0<\0/\0a\0>\0"s;
 
 TEST(DomDocReasonsTest, TellOfTextThatCannotBeDecoded) {
-  EXPECT_THAT(ProblemsOf(kHalfAPair).at(0).reason, HasSubstr("input conversion failed"));
+  const std::string reason = ProblemsOf(kHalfAPair).at(0).reason;
+#ifdef _WIN32  // MSXML has its own words
+  EXPECT_THAT(reason, Not(IsEmpty()));
+#else
+  EXPECT_THAT(reason, testing::HasSubstr("input conversion failed"));
+#endif
 }
+
+TEST(DomDocReasonsTest, NameAnElementThatDoesNotEnd) {
+  const DOMDocProblem problem = ProblemsOf("<a>\n<b>\n").at(0);
+  EXPECT_EQ(problem.line, 3U);
+  EXPECT_EQ(problem.element, "b");
+}
+
+TEST(DomDocReasonsTest, NameAnElementThatEndsAsAnother) {
+  const DOMDocProblem problem = ProblemsOf("<a>\n<b></a>").at(0);
+  EXPECT_EQ(problem.line, 2U);
+  EXPECT_EQ(problem.element, "b");
+}
+
+TEST(DomDocReasonsTest, SayWhereAnElementEndsThatHasNotBegun) { EXPECT_EQ(ProblemsOf("<a/>\n</b>").at(0).line, 2U); }
 
 TEST(DomDocReasonsTest, AreNotWrittenToStandardError) {
   testing::internal::CaptureStderr();

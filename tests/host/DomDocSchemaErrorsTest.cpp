@@ -7,7 +7,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#ifndef _WIN32
 #include <sys/stat.h>
+#endif
 
 #include <filesystem>
 #include <string>
@@ -24,6 +26,10 @@ using testsupport::Schema;
 using testsupport::TempDir;
 
 namespace fs = std::filesystem;
+
+#ifdef _WIN32
+constexpr std::string_view kPartsElsewhere = ": it has parts in other files, which is not supported here";
+#endif
 
 constexpr std::string_view kElement = "<xs:element name='n' type='xs:integer'/>";
 
@@ -55,7 +61,7 @@ TEST_F(DomDocSchemaErrorsTest, UsableSchemaIsNoError) {
 }
 
 TEST_F(DomDocSchemaErrorsTest, MissingSchema) {
-  const fs::path schema = Dir().Path() / "missing \u00E4 %.xsd";
+  const fs::path schema = Dir().Path() / u8"missing \u00E4 %.xsd";
   EXPECT_EQ(ErrorOf(schema), Prefix(schema) + ": The file cannot be opened: No such file or directory.");
 }
 
@@ -63,9 +69,13 @@ TEST_F(DomDocSchemaErrorsTest, DirectoryInPlaceOfASchema) {
   EXPECT_EQ(ErrorOf(Dir().Path()), Prefix(Dir().Path()) + ": The file is not a regular file.");
 }
 
-TEST_F(DomDocSchemaErrorsTest, PipeInPlaceOfASchema) {
+TEST_F(DomDocSchemaErrorsTest, PipeOrDeviceInPlaceOfASchema) {
+#ifdef _WIN32  // has no pipes among the files of a directory
+  const fs::path schema = "NUL";
+#else
   const fs::path schema = Dir().Path() / "t.xsd";
   ASSERT_EQ(mkfifo(schema.c_str(), S_IRUSR | S_IWUSR), 0);
+#endif
   EXPECT_EQ(ErrorOf(schema), Prefix(schema) + ": The file is not a regular file.");
 }
 
@@ -102,20 +112,32 @@ TEST_F(DomDocSchemaErrorsTest, SchemaOfNoNamespace) {
 }
 
 TEST_F(DomDocSchemaErrorsTest, SchemaThatBreaksTheRulesOfSchemas) {
-  EXPECT_THAT(ErrorOfText(Schema("urn:t", "\n<xs:element name='n' type='missing'/>")),
-              AllOf(StartsWith("Couldn't load the schema "), HasSubstr("t.xsd: line 2: "), HasSubstr("missing")));
-  EXPECT_THAT(ErrorOfText(Schema("urn:t", "<xs:nonsense/>")),
-              AllOf(StartsWith("Couldn't load the schema "), HasSubstr("t.xsd: line 1: "), HasSubstr("not valid")));
+  const std::string missing = ErrorOfText(Schema("urn:t", "\n<xs:element name='n' type='missing'/>"));
+  EXPECT_THAT(missing, AllOf(StartsWith("Couldn't load the schema "), HasSubstr("t.xsd: ")));
+  const std::string nonsense = ErrorOfText(Schema("urn:t", "<xs:nonsense/>"));
+  EXPECT_THAT(nonsense, AllOf(StartsWith("Couldn't load the schema "), HasSubstr("t.xsd: ")));
+#ifndef _WIN32  // MSXML words the reason as it likes
+  EXPECT_THAT(missing, AllOf(HasSubstr("line 2: "), HasSubstr("missing")));
+  EXPECT_THAT(nonsense, AllOf(HasSubstr("line 1: "), HasSubstr("not valid")));
+#endif
 }
 
 TEST_F(DomDocSchemaErrorsTest, MissingIncludedFile) {
-  EXPECT_THAT(ErrorOfText(Schema("urn:t", "<xs:include schemaLocation='gone.xsd'/>")),
-              StartsWith(Prefix(Dir().Path() / "gone.xsd")));
+  const std::string error = ErrorOfText(Schema("urn:t", "<xs:include schemaLocation='gone.xsd'/>"));
+#ifdef _WIN32
+  EXPECT_EQ(error, Prefix(Dir().Path() / "t.xsd") + std::string(kPartsElsewhere));
+#else
+  EXPECT_THAT(error, StartsWith(Prefix(Dir().Path() / "gone.xsd")));
+#endif
 }
 
 TEST_F(DomDocSchemaErrorsTest, MissingImportedFile) {
-  EXPECT_THAT(ErrorOfText(Schema("urn:t", "<xs:import namespace='urn:u' schemaLocation='gone.xsd'/>")),
-              StartsWith(Prefix(Dir().Path() / "gone.xsd")));
+  const std::string error = ErrorOfText(Schema("urn:t", "<xs:import namespace='urn:u' schemaLocation='gone.xsd'/>"));
+#ifdef _WIN32
+  EXPECT_EQ(error, Prefix(Dir().Path() / "t.xsd") + std::string(kPartsElsewhere));
+#else
+  EXPECT_THAT(error, StartsWith(Prefix(Dir().Path() / "gone.xsd")));
+#endif
 }
 
 TEST_F(DomDocSchemaErrorsTest, NothingIsFetchedFromTheNetwork) {
@@ -123,8 +145,12 @@ TEST_F(DomDocSchemaErrorsTest, NothingIsFetchedFromTheNetwork) {
   for (const char* kind : {"include", "import namespace='urn:u'", "redefine"}) {
     for (const char* scheme : {"http", "ftp", "https"}) {
       const std::string url = listener.Url(scheme) + "/u.xsd";
-      EXPECT_EQ(ErrorOfText(Schema("urn:t", "<xs:" + std::string(kind) + " schemaLocation='" + url + "'/>")),
-                "Couldn't load the schema " + url + ": nothing is loaded from the network");
+#ifdef _WIN32
+      const std::string expected = Prefix(Dir().Path() / "t.xsd") + std::string(kPartsElsewhere);
+#else
+      const std::string expected = "Couldn't load the schema " + url + ": nothing is loaded from the network";
+#endif
+      EXPECT_EQ(ErrorOfText(Schema("urn:t", "<xs:" + std::string(kind) + " schemaLocation='" + url + "'/>")), expected);
     }
   }
   EXPECT_FALSE(listener.WasCalled());

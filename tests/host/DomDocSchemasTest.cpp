@@ -14,11 +14,9 @@
 
 namespace {
 
-using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
 using testsupport::CSchemaDocument;
-using testsupport::ProblemTexts;
 using testsupport::Schema;
 using testsupport::TempDir;
 using testsupport::Text;
@@ -60,10 +58,15 @@ TEST_F(DomDocSchemasTest, InvalidDocumentHasAProblemWithItsPlace) {
   EXPECT_FALSE(Validate(document, "\n  <p:n xmlns:p='urn:t'>x</p:n>"));
   ASSERT_THAT(document.Problems(), SizeIs(1));
   const DOMDocProblem& problem = document.Problems().front();
+#ifdef _WIN32  // MSXML validates trees and knows no places in files
+  EXPECT_EQ(problem.line, 0U);
+  EXPECT_NE(problem.reason, "");
+#else
   EXPECT_EQ(problem.line, 2U);
   EXPECT_EQ(problem.column, 3U);
   EXPECT_EQ(problem.element, "p:n");
   EXPECT_EQ(problem.reason, "Element 'n': 'x' is not a valid value of the atomic type 'xs:integer'.");
+#endif
 }
 
 TEST_F(DomDocSchemasTest, InvalidAttributeIsAProblemOfItsElement) {
@@ -72,20 +75,26 @@ TEST_F(DomDocSchemasTest, InvalidAttributeIsAProblemOfItsElement) {
                              "urn:t"}});
   EXPECT_FALSE(document.ValidateDoc(Dir().Write("x.xml", "\n<list xmlns='urn:t'\nx='2'/>")));
   ASSERT_THAT(document.Problems(), SizeIs(1));
+#ifndef _WIN32  // MSXML validates trees and knows no places in files
   EXPECT_EQ(document.Problems().front().line, 2U);
   EXPECT_EQ(document.Problems().front().column, 1U);
   EXPECT_EQ(document.Problems().front().element, "list");
-  EXPECT_THAT(document.Problems().front().reason, HasSubstr("attribute 'x'"));
+  EXPECT_THAT(document.Problems().front().reason, testing::HasSubstr("attribute 'x'"));
+#endif
 }
 
 TEST_F(DomDocSchemasTest, EveryReasonIsListedInOrder) {
   CSchemaDocument document({{WriteSchema(kNumbers), "urn:t"}});
   EXPECT_FALSE(Validate(document, "<n>a</n>\n<n>1</n>\n<n>b</n>\n<n><n/></n>"));
-  const std::vector<std::string> texts = ProblemTexts(document.Problems());
+#ifdef _WIN32  // MSXML stops at the first
+  EXPECT_THAT(document.Problems(), SizeIs(1));
+#else
+  const std::vector<std::string> texts = testsupport::ProblemTexts(document.Problems());
   ASSERT_GE(texts.size(), 3U);
   EXPECT_THAT(texts[0], testing::StartsWith("1:21 n: Element 'n': 'a'"));
   EXPECT_THAT(texts[1], testing::StartsWith("3:1 n: Element 'n': 'b'"));
   EXPECT_THAT(texts[2], testing::StartsWith("4:1 n: "));
+#endif
 }
 
 TEST_F(DomDocSchemasTest, RootThatNoSchemaDeclaresIsNotValid) {
@@ -117,7 +126,11 @@ TEST_F(DomDocSchemasTest, SchemasOfManyNamespacesAreUsedTogether) {
                                       : CSchemaDocument::Schemas{{numbers, "urn:t"}, {other, "urn:u"}});
     EXPECT_TRUE(Validate(document, "<n>5</n><u:n xmlns:u='urn:u'>true</u:n>"));
     EXPECT_FALSE(Validate(document, "<n>true</n><u:n xmlns:u='urn:u'>5</u:n>"));
+#ifdef _WIN32  // MSXML stops at the first reason
+    EXPECT_THAT(document.Problems(), SizeIs(1));
+#else
     EXPECT_THAT(document.Problems(), SizeIs(2));
+#endif
   }
 }
 
@@ -158,9 +171,59 @@ TEST_F(DomDocSchemasTest, ParsingDoesNotLookAtTheSchemas) {
   EXPECT_THAT(document.Problems(), IsEmpty());
 }
 
+TEST_F(DomDocSchemasTest, DirectoriesMayHaveAnyNames) {
+  for (const char* name : {"a b", "100%", "%41", "\u00E4\u20AC\U0001F600", "#&;'", "{x}"}) {
+    const fs::path directory = testsupport::Utf8Path(name);
+    fs::create_directory(Dir().Path() / directory);
+    CSchemaDocument document({{WriteSchema("<xs:element name='n' type='xs:integer'/>", directory / "t.xsd"), "urn:t"}});
+    EXPECT_NO_THROW({
+      EXPECT_TRUE(document.ValidateDoc(Dir().Write("1.xml", "<n xmlns='urn:t'>1</n>"))) << name;
+      EXPECT_FALSE(document.ValidateDoc(Dir().Write("2.xml", "<n xmlns='urn:t'>x</n>"))) << name;
+    }) << name;
+  }
+}
+
 // Schemas that refer to others.
 
-TEST_F(DomDocSchemasTest, IncludedAndImportedFilesAreFoundBesideTheSchema) {
+class DomDocSchemaPartsTest : public DomDocSchemasTest {
+ protected:
+  void SetUp() override {
+#ifdef _WIN32
+    GTEST_SKIP() << "schemas with parts in other files are not supported on Windows";
+#endif
+  }
+};
+
+#ifdef _WIN32
+
+/// \return the message; "<no exception>" when there is none
+std::string ErrorOf(CDOMDoc& document, const fs::path& file) {
+  try {
+    document.ValidateDoc(file);
+  } catch (const CZoDOMDocException& error) {
+    return error.what();
+  }
+  return "<no exception>";
+}
+
+TEST_F(DomDocSchemasTest, PartsInOtherFilesAreNotSupported) {
+  Dir().Write("included.xsd", Schema("urn:t", "<xs:element name='n' type='xs:integer'/>"));
+  const fs::path file = Dir().Write("x.xml", "<n xmlns='urn:t'>1</n>");
+  for (const char* reference :
+       {"<xs:include schemaLocation='included.xsd'/>", "<xs:redefine schemaLocation='included.xsd'/>",
+        "<xs:import namespace='urn:u' schemaLocation='included.xsd'/>",
+        "<xs:import namespace='http://www.w3.org/XML/1998/namespace' "
+        "schemaLocation='http://www.w3.org/2001/xml.xsd'/>"}) {
+    const fs::path schema = WriteSchema(reference);
+    CSchemaDocument document({{schema, "urn:t"}});
+    EXPECT_EQ(ErrorOf(document, file), "Couldn't load the schema " + schema.string() +
+                                           ": it has parts in other files, which is not supported here");
+  }
+}
+
+#endif
+
+TEST_F(DomDocSchemaPartsTest, IncludedAndImportedFilesAreFoundBesideTheSchema) {
   fs::create_directory(Dir().Path() / "sub");
   Dir().Write("sub/included.xsd", Schema("urn:t", "<xs:element name='n' type='xs:integer'/>"));
   Dir().Write("imported.xsd", Schema("urn:u",
@@ -176,7 +239,7 @@ TEST_F(DomDocSchemasTest, IncludedAndImportedFilesAreFoundBesideTheSchema) {
   EXPECT_FALSE(document.ValidateDoc(Dir().Write("4.xml", "<y xmlns='urn:t'>NO</y>")));
 }
 
-TEST_F(DomDocSchemasTest, DirectoriesMayHaveAnyNames) {
+TEST_F(DomDocSchemaPartsTest, DirectoriesOfIncludedFilesMayHaveAnyNames) {
   for (const char* name : {"a b", "100%", "%41", "\u00E4\u20AC\U0001F600", "#?&;'\"<>", "a:b", "{x}"}) {
     const fs::path directory = Dir().Path() / name;
     fs::create_directory(directory);
@@ -190,7 +253,7 @@ TEST_F(DomDocSchemasTest, DirectoriesMayHaveAnyNames) {
   }
 }
 
-TEST_F(DomDocSchemasTest, SchemaOfTheXmlNamespaceIsNotFetched) {
+TEST_F(DomDocSchemaPartsTest, SchemaOfTheXmlNamespaceIsNotFetched) {
   CSchemaDocument document({{WriteSchema("<xs:import namespace='http://www.w3.org/XML/1998/namespace' "
                                          "schemaLocation='http://www.w3.org/2001/xml.xsd'/>"
                                          "<xs:element name='n'><xs:complexType><xs:simpleContent>"
@@ -199,6 +262,16 @@ TEST_F(DomDocSchemasTest, SchemaOfTheXmlNamespaceIsNotFetched) {
                              "urn:t"}});
   EXPECT_TRUE(document.ValidateDoc(Dir().Write("1.xml", "<n xmlns='urn:t' xml:space='preserve'/>")));
   EXPECT_FALSE(document.ValidateDoc(Dir().Write("2.xml", "<n xmlns='urn:t' xml:space='x'/>")));
+}
+
+TEST_F(DomDocSchemaPartsTest, ChangedIncludedFileIsReadAgain) {
+  const fs::path included = WriteSchema("<xs:element name='n' type='xs:integer'/>", "included.xsd");
+  CSchemaDocument document({{WriteSchema("<xs:include schemaLocation='included.xsd'/>"), "urn:t"}});
+  const fs::path file = Dir().Write("x.xml", "<n xmlns='urn:t'>true</n>");
+  EXPECT_FALSE(document.ValidateDoc(file));
+  WriteSchema("<xs:element name='n' type='xs:boolean'/>", "included.xsd");
+  fs::last_write_time(included, fs::last_write_time(included) + std::chrono::seconds(1));
+  EXPECT_TRUE(document.ValidateDoc(file));
 }
 
 // Schemas that change.
@@ -221,16 +294,6 @@ TEST_F(DomDocSchemasTest, SchemaThatIsReplacedIsReadAgain) {
   const fs::path other = WriteSchema("<xs:element name='n' type='xs:boolean'/>", "other.xsd");
   fs::last_write_time(other, fs::last_write_time(schema));
   fs::rename(other, schema);
-  EXPECT_TRUE(document.ValidateDoc(file));
-}
-
-TEST_F(DomDocSchemasTest, ChangedIncludedFileIsReadAgain) {
-  const fs::path included = WriteSchema("<xs:element name='n' type='xs:integer'/>", "included.xsd");
-  CSchemaDocument document({{WriteSchema("<xs:include schemaLocation='included.xsd'/>"), "urn:t"}});
-  const fs::path file = Dir().Write("x.xml", "<n xmlns='urn:t'>true</n>");
-  EXPECT_FALSE(document.ValidateDoc(file));
-  WriteSchema("<xs:element name='n' type='xs:boolean'/>", "included.xsd");
-  fs::last_write_time(included, fs::last_write_time(included) + std::chrono::seconds(1));
   EXPECT_TRUE(document.ValidateDoc(file));
 }
 
@@ -303,9 +366,22 @@ TEST_F(DomDocSchemasTest, EmptyDirectoryTakesTheSettingBack) {
   EXPECT_EQ(fs::path(CDOMDoc::MakeFullSchemaPath(L"VendorInfoFile.xsd")), shipped);
 }
 
+/// Another current directory for one test.
+class CCurrentDirectory {
+ public:
+  explicit CCurrentDirectory(const fs::path& directory) { fs::current_path(directory); }
+  CCurrentDirectory(const CCurrentDirectory&) = delete;
+  CCurrentDirectory& operator=(const CCurrentDirectory&) = delete;
+  ~CCurrentDirectory() { fs::current_path(m_before); }
+
+ private:
+  fs::path m_before = fs::current_path();
+};
+
 TEST_F(DomDocSchemasTest, RelativeDirectoryIsThatOfNow) {
-  const fs::path relative = fs::relative(Dir().Path());
-  const CSchemaDirectory directory(relative);
+  const CCurrentDirectory current(Dir().Path().parent_path());
+  const CSchemaDirectory directory(Dir().Path().filename());
+  const CCurrentDirectory later(Dir().Path());
   const fs::path path = CDOMDoc::MakeFullSchemaPath(L"missing.xsd");
   EXPECT_TRUE(path.is_absolute());
   EXPECT_EQ(fs::weakly_canonical(path), fs::weakly_canonical(Dir().Path() / "missing.xsd"));

@@ -48,7 +48,12 @@ TEST(DomDocTest, WellFormedFileIsValidWithoutSchemas) {
 TEST(DomDocTest, NameOfTheFileDoesNotMatter) {
   const TempDir dir;
   CPlainDocument document;
-  EXPECT_TRUE(document.ValidateDoc(dir.Write("%20 \u00E4 #?&.doc", "<a/>")));
+#ifdef _WIN32
+  constexpr const char8_t* name = u8"%20 \u00E4 #&.doc";  // no name may have a question mark
+#else
+  constexpr const char8_t* name = u8"%20 \u00E4 #?&.doc";
+#endif
+  EXPECT_TRUE(document.ValidateDoc(dir.Write(name, "<a/>")));
 }
 
 TEST(DomDocTest, MalformedFileIsNotValidAndLeavesTheDocumentEmpty) {
@@ -185,7 +190,7 @@ TEST(DomDocTest, TryingLeavesTheDocumentAsItWas) {
 TEST(DomDocTest, TryingTakesNamesOfAnyLetters) {
   const TempDir dir;
   CPlainDocument document;
-  EXPECT_TRUE(document.CanLoadDoc(WidePath(dir.Write("\u00E4 \U0001F600.xml", "<\u00E4/>")), L"\u00E4", true));
+  EXPECT_TRUE(document.CanLoadDoc(WidePath(dir.Write(u8"\u00E4 \U0001F600.xml", "<\u00E4/>")), L"\u00E4", true));
 }
 
 }  // namespace

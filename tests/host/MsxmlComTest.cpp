@@ -1,5 +1,6 @@
 // What the XML interfaces need of COM: texts, variants, errors and the owners of them.
 #include "msxml/MsXml.h"
+#include "support/ComErrors.h"
 
 #include <gtest/gtest.h>
 
@@ -12,15 +13,9 @@
 namespace {
 
 /// Counts its references and never goes.
-struct CountedObject : IUnknown {
-  virtual ~CountedObject() = default;
-
-  HRESULT QueryInterface(REFIID, void** object) override {
-    *object = nullptr;
-    return E_NOINTERFACE;
-  }
-  ULONG AddRef() override { return ++references; }
-  ULONG Release() override { return --references; }
+struct CountedObject {
+  ULONG AddRef() { return ++references; }
+  ULONG Release() { return --references; }
 
   ULONG references = 1;
 };
@@ -32,6 +27,7 @@ HRESULT IssuedBy(HRESULT result) {
   } catch (const _com_error& error) {
     return error.Error();
   }
+  return S_OK;
 }
 
 // BSTR.
@@ -94,18 +90,28 @@ TEST(MsxmlComTest, ErrorKnowsTheInterfaceThatFailed) {
     _com_issue_errorex(E_INVALIDARG, nullptr, IID_IXMLDOMNode);
   } catch (const _com_error& error) {
     EXPECT_EQ(error.Error(), E_INVALIDARG);
-    EXPECT_EQ(error.InterfaceId(), IID_IXMLDOMNode);
+    EXPECT_EQ(testsupport::FailedInterface(error), IID_IXMLDOMNode);
   }
-  EXPECT_EQ(_com_error(E_FAIL).InterfaceId(), IID_IUnknown);
+#ifdef _WIN32
+  EXPECT_EQ(testsupport::FailedInterface(_com_error(E_FAIL)), IID{});
+#else
+  EXPECT_EQ(testsupport::FailedInterface(_com_error(E_FAIL)), IID_IUnknown);
+#endif
 }
 
 TEST(MsxmlComTest, ErrorHasATextForKnownResults) {
+#ifndef _WIN32  // has words of its own
   EXPECT_STREQ(_com_error(E_FAIL).ErrorMessage(), L"Unspecified error");
-  for (const HRESULT result : {E_NOTIMPL, E_NOINTERFACE, E_POINTER, E_OUTOFMEMORY, E_INVALIDARG}) {
+#endif
+  for (const HRESULT result : {E_NOTIMPL, E_NOINTERFACE, E_POINTER, E_FAIL, E_OUTOFMEMORY, E_INVALIDARG}) {
     ASSERT_NE(_com_error(result).ErrorMessage(), nullptr);
     EXPECT_STRNE(_com_error(result).ErrorMessage(), L"");
   }
-  EXPECT_EQ(_com_error(static_cast<HRESULT>(0x80040154)).ErrorMessage(), nullptr);
+#ifdef _WIN32  // has a text for every result, if only its number
+  EXPECT_STRNE(_com_error(static_cast<HRESULT>(0x8FFF0154)).ErrorMessage(), L"");
+#else
+  EXPECT_EQ(_com_error(static_cast<HRESULT>(0x8FFF0154)).ErrorMessage(), nullptr);
+#endif
 }
 
 TEST(MsxmlComTest, ErrorIsNoStandardException) { EXPECT_FALSE((std::is_base_of_v<std::exception, _com_error>)); }

@@ -148,8 +148,15 @@ TEST(MsxmlNodesTest, EmptyDocumentHasNothingInIt) {
   EXPECT_EQ(Text(document.Document()), "");
   EXPECT_TRUE(SelectOne(document.Document(), L"//*") == nullptr);
   DOMNodeListPtr list;
+#ifdef _WIN32  // MSXML has a list of nothing
+  EXPECT_EQ(document.Document().selectNodes(CBstr(L"//*").get(), list.Receive()), S_OK);
+  LONG length = -1;
+  EXPECT_EQ(list->get_length(&length), S_OK);
+  EXPECT_EQ(length, 0);
+#else
   EXPECT_EQ(document.Document().selectNodes(CBstr(L"//*").get(), list.Receive()), S_FALSE);
   EXPECT_TRUE(list == nullptr);
+#endif
 }
 
 // Values.
@@ -224,7 +231,8 @@ TEST(MsxmlNodesTest, ListCountsItsItems) {
 TEST(MsxmlNodesTest, ItemOutOfRangeIsNone) {
   CTextDocument document("<a><b/><b/></a>");
   const DOMNodeListPtr list = ListOf(document.Root(), L"b");
-  for (const LONG index : {-1, 2, 3, std::numeric_limits<LONG>::max(), std::numeric_limits<LONG>::min()}) {
+  using Limits = std::numeric_limits<LONG>;
+  for (const LONG index : {LONG{-1}, LONG{2}, LONG{3}, Limits::max(), Limits::min()}) {
     IXMLDOMNode* node = &document.Root();
     EXPECT_EQ(list->get_item(index, &node), S_FALSE) << index;
     EXPECT_EQ(node, nullptr) << index;
@@ -316,12 +324,15 @@ TEST(MsxmlNodesTest, NullPlaceForAnAnswerIsAnInvalidArgument) {
         attribute.GetInterfacePtr(), static_cast<IXMLDOMNode*>(&empty.Document())}) {
     EXPECT_EQ(node->get_nodeName(nullptr), E_INVALIDARG);
     EXPECT_EQ(node->get_nodeValue(nullptr), E_INVALIDARG);
-    EXPECT_EQ(node->get_attributes(nullptr), E_INVALIDARG);
     EXPECT_EQ(node->get_text(nullptr), E_INVALIDARG);
     EXPECT_EQ(node->selectNodes(xpath.get(), nullptr), E_INVALIDARG);
     EXPECT_EQ(node->selectSingleNode(xpath.get(), nullptr), E_INVALIDARG);
     EXPECT_EQ(node->get_namespaceURI(nullptr), E_INVALIDARG);
     EXPECT_EQ(node->get_baseName(nullptr), E_INVALIDARG);
+#ifdef _WIN32  // not every MSXML survives this on an element
+    if (node == &document.Root()) continue;
+#endif
+    EXPECT_EQ(node->get_attributes(nullptr), E_INVALIDARG);
   }
   EXPECT_EQ(document.Document().get_documentElement(nullptr), E_INVALIDARG);
   EXPECT_EQ(document.Document().getProperty(CBstr(L"SelectionNamespaces").get(), nullptr), E_INVALIDARG);
@@ -338,6 +349,9 @@ TEST(MsxmlNodesTest, NullPlaceForAnItemIsAnInvalidArgument) {
 }
 
 TEST(MsxmlNodesTest, NullPlaceForAnInterfaceIsAnInvalidPointer) {
+#ifdef _WIN32
+  GTEST_SKIP() << "COM does not say what happens then, and not every MSXML survives it";
+#else
   CTextDocument document("<a/>");
   DOMNamedNodeMapPtr map;
   ASSERT_EQ(document.Root().get_attributes(map.Receive()), S_OK);
@@ -345,6 +359,7 @@ TEST(MsxmlNodesTest, NullPlaceForAnInterfaceIsAnInvalidPointer) {
   EXPECT_EQ(document.Document().QueryInterface(IID_IUnknown, nullptr), E_POINTER);
   EXPECT_EQ(ListOf(document.Root(), L"*")->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
   EXPECT_EQ(map->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
+#endif
 }
 
 TEST(MsxmlNodesTest, NullNameIsAnInvalidArgument) {
@@ -353,7 +368,9 @@ TEST(MsxmlNodesTest, NullNameIsAnInvalidArgument) {
   ASSERT_EQ(document.Root().get_attributes(map.Receive()), S_OK);
   IXMLDOMNode* node = &document.Root();
   EXPECT_EQ(map->getNamedItem(nullptr, &node), E_INVALIDARG);
+#ifndef _WIN32  // not every MSXML writes an answer when it fails
   EXPECT_EQ(node, nullptr);
+#endif
 }
 
 TEST(MsxmlNodesTest, NullXPathIsAnInvalidArgument) {
@@ -362,7 +379,9 @@ TEST(MsxmlNodesTest, NullXPathIsAnInvalidArgument) {
        {static_cast<IXMLDOMNode*>(&document.Document()), static_cast<IXMLDOMNode*>(&document.Root())}) {
     IXMLDOMNode* node = from;
     EXPECT_EQ(from->selectSingleNode(nullptr, &node), E_INVALIDARG);
+#ifndef _WIN32  // not every MSXML writes an answer when it fails
     EXPECT_EQ(node, nullptr);
+#endif
     DOMNodeListPtr list;
     EXPECT_EQ(from->selectNodes(nullptr, list.Receive()), E_INVALIDARG);
     EXPECT_TRUE(list == nullptr);
@@ -374,8 +393,13 @@ TEST(MsxmlNodesTest, NullXPathIsAnInvalidArgument) {
 TEST(MsxmlNodesTest, SelectionNamespacesAreGivenBackAsTheyWereSet) {
   CPlainDocument document;
   EXPECT_EQ(SelectionNamespaces(document.Document()), L"");
-  for (const wchar_t* declarations : {L"xmlns:p='urn:p'", L"  xmlns:p='urn:p'\n\txmlns:q=\"urn:'q\" ", L"xmlns:p=''",
-                                      L"xmlns:p='1' xmlns:p='2'", L"xmlns:\u00E4='\u00DF'", L""}) {
+#ifdef _WIN32  // not every MSXML takes more than one blank between them
+  constexpr const wchar_t* blanks = L"  xmlns:p='urn:p' xmlns:q=\"urn:q\" ";
+#else
+  constexpr const wchar_t* blanks = L"  xmlns:p='urn:p'\n\txmlns:q=\"urn:'q\" ";
+#endif
+  for (const wchar_t* declarations :
+       {L"xmlns:p='urn:p'", blanks, L"xmlns:p=''", L"xmlns:p='1' xmlns:p='2'", L"xmlns:\u00E4='\u00DF'", L""}) {
     EXPECT_EQ(SetSelectionNamespaces(document.Document(), declarations), S_OK) << Utf16ToUtf8(declarations);
     EXPECT_EQ(SelectionNamespaces(document.Document()), declarations);
   }
@@ -390,9 +414,15 @@ TEST(MsxmlNodesTest, SelectionNamespacesStayWhenAFileIsLoaded) {
   EXPECT_FALSE(SelectOne(document.Document(), L"p:a") == nullptr);
 }
 
-TEST(MsxmlNodesTest, MalformedDeclarationsAreRefusedAndChangeNothing) {
+TEST(MsxmlNodesTest, MalformedDeclarationsAreRefused) {
   CTextDocument document("<a xmlns='urn:p'/>");
   ASSERT_EQ(SetSelectionNamespaces(document.Document(), L"xmlns:p='urn:p'"), S_OK);
+#ifdef _WIN32  // MSXML is less strict with others, has an error of its own, and need not keep what was set before
+  for (const wchar_t* declarations :
+       {L"p='urn:x'", L"xmlns:p", L"xmlns:p=", L"xmlns:p='", L"xmlns:p='urn:x", L"xmlns:p=urn:x"}) {
+    EXPECT_TRUE(FAILED(SetSelectionNamespaces(document.Document(), declarations))) << Utf16ToUtf8(declarations);
+  }
+#else
   for (const wchar_t* declarations :
        {L"p='urn:x'", L"xmlns:p", L"xmlns:p=", L"xmlns:p='", L"xmlns:p='urn:x", L"xmlns:p=urn:x", L"xmlns='urn:x'",
         L"xmlns:='urn:x'", L"xmlns:1='urn:x'", L"xmlns:p:q='urn:x'", L"xmlns:p = 'urn:x'",
@@ -401,6 +431,7 @@ TEST(MsxmlNodesTest, MalformedDeclarationsAreRefusedAndChangeNothing) {
   }
   EXPECT_EQ(SelectionNamespaces(document.Document()), L"xmlns:p='urn:p'");
   EXPECT_FALSE(SelectOne(document.Document(), L"p:a") == nullptr);
+#endif
 }
 
 TEST(MsxmlNodesTest, ValueThatIsNoTextIsRefusedAndChangesNothing) {
@@ -409,24 +440,37 @@ TEST(MsxmlNodesTest, ValueThatIsNoTextIsRefusedAndChangesNothing) {
   VARIANT value;
   VariantInit(&value);
   const CBstr name(L"SelectionNamespaces");
+#ifdef _WIN32  // an empty value is the empty text
+  value.vt = VT_NULL;
+  EXPECT_TRUE(FAILED(document.Document().setProperty(name.get(), value)));
+#else
   EXPECT_EQ(document.Document().setProperty(name.get(), value), E_INVALIDARG);
   value.vt = VT_NULL;
   EXPECT_EQ(document.Document().setProperty(name.get(), value), E_INVALIDARG);
+#endif
   EXPECT_EQ(SelectionNamespaces(document.Document()), L"xmlns:p='urn:p'");
 }
 
 TEST(MsxmlNodesTest, OtherPropertiesAreRefused) {
   CPlainDocument document;
   const CVariant declarations{CBstr(L"xmlns:p='urn:p'")};
-  for (const wchar_t* name : {L"selectionnamespaces", L"SelectionLanguage", L"", L"SelectionNamespaces "}) {
-    EXPECT_EQ(document.Document().setProperty(CBstr(name).get(), declarations.get()), E_INVALIDARG);
+#ifdef _WIN32  // MSXML has more of them, and an error of its own for others
+  const auto isRefusal = [](HRESULT result) { return FAILED(result); };
+  constexpr const wchar_t* names[] = {L"", L"SelectionNamespaces ", L"NoProperty"};
+#else
+  const auto isRefusal = [](HRESULT result) { return result == E_INVALIDARG; };
+  constexpr const wchar_t* names[] = {L"", L"SelectionNamespaces ", L"NoProperty", L"selectionnamespaces",
+                                      L"SelectionLanguage"};
+#endif
+  for (const wchar_t* name : names) {
+    EXPECT_TRUE(isRefusal(document.Document().setProperty(CBstr(name).get(), declarations.get())));
     CVariant value;
-    EXPECT_EQ(document.Document().getProperty(CBstr(name).get(), value.Receive()), E_INVALIDARG);
+    EXPECT_TRUE(isRefusal(document.Document().getProperty(CBstr(name).get(), value.Receive())));
     EXPECT_EQ(value.get().vt, VT_EMPTY);
   }
-  EXPECT_EQ(document.Document().setProperty(nullptr, declarations.get()), E_INVALIDARG);
+  EXPECT_TRUE(isRefusal(document.Document().setProperty(nullptr, declarations.get())));
   CVariant value;
-  EXPECT_EQ(document.Document().getProperty(nullptr, value.Receive()), E_INVALIDARG);
+  EXPECT_TRUE(isRefusal(document.Document().getProperty(nullptr, value.Receive())));
   EXPECT_EQ(SelectionNamespaces(document.Document()), L"");
 }
 

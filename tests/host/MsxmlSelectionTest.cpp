@@ -137,10 +137,14 @@ TEST_F(MsxmlSelectionTest, PrefixesOfTheDocumentAreNotThoseOfExpressions) {
   EXPECT_EQ(SelectResult(L"//v:B"), E_FAIL);
 }
 
-TEST_F(MsxmlSelectionTest, PrefixesStayThoseWithWhichANodeWasSelected) {
+TEST_F(MsxmlSelectionTest, PrefixesOfANodeThatWasSelectedBefore) {
   const DOMNodePtr before = SelectOne(Root(), L"vif:B");
   ASSERT_EQ(SetSelectionNamespaces(Document(), L"xmlns:n='urn:vif'"), S_OK);
+#ifdef _WIN32  // MSXML asks the document for them each time
+  EXPECT_THAT(IdsFrom(*before, L"n:C"), ElementsAre("2"));
+#else
   EXPECT_THAT(IdsFrom(*before, L"vif:C"), ElementsAre("2"));
+#endif
   EXPECT_THAT(IdsFrom(Document(), L"n:A/n:B"), ElementsAre("1", "8"));
 }
 
@@ -203,12 +207,18 @@ TEST_F(MsxmlSelectionTest, TheNodeItselfIsFound) {
   EXPECT_THAT(NodeNames(Select(*SelectOne(Root(), L"@id"), L".")), ElementsAre("id"));
 }
 
-TEST_F(MsxmlSelectionTest, TextsCommentsAndInstructionsAreLeftOut) {
+TEST_F(MsxmlSelectionTest, TextsCommentsAndInstructions) {
+#ifdef _WIN32
+  EXPECT_THAT(Texts(Select(Root(), L"//comment()")), ElementsAre("c"));
+  EXPECT_THAT(NodeNames(Select(Root(), L"//processing-instruction()")), ElementsAre("p"));
+  EXPECT_THAT(NodeNames(Select(Root(), L"vif:B[2]/node()")), ElementsAre("#text", "#comment", "v:C", "p"));
+#else  // are left out
   for (const wchar_t* xpath : {L"//text()", L"//comment()", L"//processing-instruction()", L"namespace::*"}) {
     EXPECT_THAT(Select(Root(), xpath), IsEmpty()) << Utf16ToUtf8(xpath);
     EXPECT_TRUE(SelectOne(Root(), xpath) == nullptr) << Utf16ToUtf8(xpath);
   }
   EXPECT_THAT(NodeNames(Select(Root(), L"vif:B[2]/node()")), ElementsAre("v:C"));
+#endif
 }
 
 TEST_F(MsxmlSelectionTest, NamesMayHaveAnyLetters) {

@@ -36,7 +36,7 @@ class Checks : public testing::Test {
  private:
   void Run(const std::string& name, const std::string& content) {
     const CReferenceHost host;
-    const int status = host.Run({"--vif", host.Dir().Write(name, content)}).status;
+    const int status = host.Run({"--vif", host.Write(name, content)}).status;
     m_log = host.Log();
     EXPECT_EQ(status, Failures().empty() ? kNothingFailed : kChecksFailed);
   }

@@ -62,20 +62,20 @@ TEST_F(HostRun, ShowsOnStandardOutputWhatItWritesToTheLogFile) {
 }
 
 TEST_F(HostRun, AddsToAnExistingLog) {
-  m_host.Dir().Write("the.log", "an earlier run\n");
+  m_host.Write("the.log", "an earlier run\n");
   m_host.Run({"--vif", Example("gan-charger-65w.txt")});
   EXPECT_EQ(m_host.RawLog().front(), "an earlier run");
   EXPECT_GT(m_host.RawLog().size(), 1u);
 }
 
 TEST_F(HostRun, CleansUpAfterFailedChecks) {
-  const std::string vif = m_host.Dir().Write("a.txt", "Num_Src_PDOs: 1\n");
+  const std::string vif = m_host.Write("a.txt", "Num_Src_PDOs: 1\n");
   EXPECT_EQ(m_host.Run({"--vif", vif}).status, kChecksFailed);
   EXPECT_EQ(m_host.Log().back(), "0x04000000 INFO  Deleting Test Suite VIF: " + vif);
 }
 
 TEST_F(HostRun, MissingVifCannotBeRun) {
-  const std::string vif = m_host.Dir().Path() / "missing.txt";
+  const std::string vif = m_host.File("missing.txt");
   EXPECT_EQ(m_host.Run({"--vif", vif}).status, kCouldNotRun);
   EXPECT_THAT(m_host.Log(),
               ElementsAre("0x04000000 INFO  Selected VIF: " + vif + ".", "0x04000000 INFO  Initializing VIF...",
@@ -84,23 +84,45 @@ TEST_F(HostRun, MissingVifCannotBeRun) {
 }
 
 TEST_F(HostRun, InvalidXmlVifCannotBeRun) {
-  const std::string vif = m_host.Dir().Write("a.xml", "<VIF/>");
+  const std::string vif = m_host.Write("a.xml", "<VIF/>");
   EXPECT_EQ(m_host.Run({"--vif", vif}).status, kCouldNotRun);
   EXPECT_THAT(m_host.Log().back(), HasSubstr("is not a valid Vendor Info File"));
 }
 
 TEST_F(HostRun, EscapesControlCharactersOfFileNamesAndLogsALineForEachLine) {
-  const std::string vif = m_host.Dir().Write("a\n\x1b[31m.txt", "");
+#ifdef _WIN32  // where none below U+0020 can be in a name
+  const std::string vif = m_host.Write(u8"a\u0085\u009B31m.txt", "");
+  const std::string escaped = "a\\u0085\\u009b31m.txt";
+#else
+  const std::string vif = m_host.Write("a\n\x1b[31m.txt", "");
+  const std::string escaped = "a\\u000a\\u001b[31m.txt";
+#endif
   const auto result = m_host.Run({"--vif", vif});
   EXPECT_EQ(result.status, kNothingFailed);
   EXPECT_EQ(result.output.find('\x1b'), std::string::npos);
-  EXPECT_THAT(m_host.Log().front(), HasSubstr("a\\u000a\\u001b[31m.txt"));
+  EXPECT_EQ(result.output.find("\u009B"), std::string::npos);
+  EXPECT_THAT(m_host.Log().front(), HasSubstr(escaped));
   EXPECT_THAT(m_host.Log(), Not(Contains(HasSubstr("no time"))));
 }
 
+TEST_F(HostRun, TakesAVifWithANameOfAnyLanguage) {
+  const std::string vif = m_host.Write(u8"Gr\u00F6\u00DFe \u96FB\u529B \U0001F50C.txt", "");
+  EXPECT_EQ(m_host.Run({"--vif", vif}).status, kNothingFailed);
+  EXPECT_EQ(m_host.Log().front(), "0x04000000 INFO  Selected VIF: " + vif + ".");
+  EXPECT_EQ(m_host.Log().back(), "0x04000000 INFO  Deleting Test Suite VIF: " + vif);
+}
+
+TEST_F(HostRun, WritesALogWithANameOfAnyLanguage) {
+  const std::string log = m_host.File(u8"Gr\u00F6\u00DFe \u96FB.log");
+  EXPECT_EQ(m_host.Run({"--log", log, "--vif", Example("active-cable.txt")}).status, kNothingFailed);
+  EXPECT_TRUE(std::filesystem::exists(std::filesystem::path(std::u8string(log.begin(), log.end()))));
+}
+
 TEST_F(HostRun, TakesTheLibraryThatItIsGiven) {
-  const std::string copy = m_host.Dir().Path() / "another.so";
-  std::filesystem::copy_file(VIF_LIBRARY_FILE, copy);
+  const std::filesystem::path library = VIF_LIBRARY_FILE;
+  const std::filesystem::path folder = m_host.Folder(u8"\u96FB");
+  std::filesystem::copy_file(library, folder / library.filename());
+  const std::string copy = testsupport::NameOf(folder / library.filename());
   const auto result = m_host.Run({"--library", copy, "--vif", Example("gan-charger-65w.txt")});
   EXPECT_EQ(result.status, kNothingFailed) << result.output;
 }
@@ -124,7 +146,17 @@ TEST_F(HostRun, LogThatCannotBeOpenedPreventsTheRun) {
 }
 
 TEST_F(HostRun, RunWhoseLogIsLostHasNoResult) {
+#ifdef _WIN32
+  GTEST_SKIP() << "needs a file that can be opened but not written to";
+#else
   const auto result = m_host.Run({"--log", "/dev/full", "--vif", Example("gan-charger-65w.txt")});
+  EXPECT_EQ(result.status, kCouldNotRun);
+  EXPECT_EQ(result.error, "reference_host: the log could not be written\n");
+#endif
+}
+
+TEST_F(HostRun, RunWhoseOutputIsLostHasNoResult) {
+  const auto result = m_host.Run({"--vif", Example("gan-charger-65w.txt")}, {.canWrite = false});
   EXPECT_EQ(result.status, kCouldNotRun);
   EXPECT_EQ(result.error, "reference_host: the log could not be written\n");
 }

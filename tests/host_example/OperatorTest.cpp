@@ -1,4 +1,4 @@
-// The operator at a terminal, choosing a VIF.
+// The operator choosing a VIF, at a terminal or by what is piped in.
 #include "ReferenceHost.h"
 
 #include <gmock/gmock.h>
@@ -21,14 +21,19 @@ using testsupport::ProgramResult;
 
 constexpr const char* kQuestion = "Number, or path of a file (nothing to cancel): ";
 
-class Operator : public testing::Test {
+enum class Input { Terminal, Pipe };
+
+class Operator : public testing::TestWithParam<Input> {
  protected:
   void SetUp() override {
-    if (!testsupport::HasTerminals()) GTEST_SKIP() << "this machine has no pseudo-terminals";
+    if (GetParam() == Input::Terminal && !testsupport::HasTerminals()) GTEST_SKIP() << testsupport::kNoTerminals;
   }
 
   /// The directory is the test's own.
-  ProgramResult Types(const std::string& typed) const { return m_host.RunOnTerminal({m_host.Dir().Path()}, typed); }
+  ProgramResult Types(const std::string& typed) const {
+    if (GetParam() == Input::Terminal) return m_host.RunOnTerminal({m_host.Dir()}, typed);
+    return m_host.Run({m_host.Dir()}, {.input = typed});
+  }
 
   std::string Selected(const std::string& path) const { return "0x04000000 INFO  Selected VIF: " + path + "."; }
 
@@ -47,32 +52,32 @@ long Questions(const ProgramResult& result) {
   return count;
 }
 
-TEST_F(Operator, IsShownWhatTheLibraryAsksAndTheVifsByName) {
-  for (const char* name : {"b.XML", "a.txt", "c.json"}) m_host.Dir().Write(name, "");
+TEST_P(Operator, IsShownWhatTheLibraryAsksAndTheVifsByName) {
+  for (const char* name : {"b.XML", "a.txt", "c.json"}) m_host.Write(name, "");
   const auto lines = testsupport::Lines(Types("\n").output);
   const auto caption = std::find(lines.begin(), lines.end(), "Choose VIF for test suite");
   ASSERT_GE(lines.end() - caption, 6);
   EXPECT_THAT(std::vector<std::string>(caption + 1, caption + 5),
               ElementsAre("Select a Vendor Info File for the qualifying product under test",
-                          "VIFs in " + m_host.Dir().Path().string() + ":", "  1  a.txt", "  2  b.XML"));
+                          "VIFs in " + m_host.Dir() + ":", "  1  a.txt", "  2  b.XML"));
   EXPECT_THAT(*(caption + 5), testing::StartsWith(kQuestion));
 }
 
-TEST_F(Operator, ChoosesByNumber) {
-  m_host.Dir().Write("a.txt", "");
-  const std::string vif = m_host.Dir().Write("b.txt", "");
+TEST_P(Operator, ChoosesByNumber) {
+  m_host.Write("a.txt", "");
+  const std::string vif = m_host.Write("b.txt", "");
   EXPECT_EQ(Types("2\n").status, kNothingFailed);
   EXPECT_EQ(m_host.Log().front(), Selected(vif));
 }
 
-TEST_F(Operator, TypesAPath) {
+TEST_P(Operator, TypesAPath) {
   const std::string vif = testsupport::Example("usb4-dock.xml");
   EXPECT_EQ(Types("  " + vif + " \n").status, kNothingFailed);
   EXPECT_EQ(m_host.Log().front(), Selected(vif));
 }
 
-TEST_F(Operator, IsAskedAgainAfterANumberThatIsNotThere) {
-  const std::string vif = m_host.Dir().Write("a.txt", "");
+TEST_P(Operator, IsAskedAgainAfterANumberThatIsNotThere) {
+  const std::string vif = m_host.Write("a.txt", "");
   const auto result = Types("0\n2\n99999999999999999999999\n1\n");
   EXPECT_EQ(result.status, kNothingFailed);
   EXPECT_THAT(result.output, AllOf(HasSubstr("The list has no number 0."), HasSubstr("The list has no number 2."),
@@ -81,61 +86,86 @@ TEST_F(Operator, IsAskedAgainAfterANumberThatIsNotThere) {
   EXPECT_EQ(m_host.Log().front(), Selected(vif));
 }
 
-TEST_F(Operator, IsAskedAgainAfterAPathThatIsNoVif) {
-  const std::string other = m_host.Dir().Write("a.json", "");
-  const std::string vif = m_host.Dir().Write("a.txt", "");
-  const auto result = Types("missing.txt\n" + m_host.Dir().Path().string() + "\n" + other + "\n" + vif + "\n");
+TEST_P(Operator, IsAskedAgainAfterAPathThatIsNoVif) {
+  const std::string other = m_host.Write("a.json", "");
+  const std::string vif = m_host.Write("a.txt", "");
+  const auto result = Types("missing.txt\n" + m_host.Dir() + "\n" + other + "\n" + vif + "\n");
   EXPECT_EQ(result.status, kNothingFailed);
-  EXPECT_THAT(result.output, AllOf(HasSubstr("There is no file missing.txt."),
-                                   HasSubstr("There is no file " + m_host.Dir().Path().string() + "."),
-                                   HasSubstr(other + " is no VIF: its name ends neither in .txt nor in .xml.")));
+  EXPECT_THAT(result.output,
+              AllOf(HasSubstr("There is no file missing.txt."), HasSubstr("There is no file " + m_host.Dir() + "."),
+                    HasSubstr(other + " is no VIF: its name ends neither in .txt nor in .xml.")));
   EXPECT_EQ(m_host.Log().front(), Selected(vif));
 }
 
-TEST_F(Operator, WhoChoosesAnInvalidFileIsToldSo) {
-  m_host.Dir().Write("a.xml", "<VIF/>");
+TEST_P(Operator, WhoChoosesAnInvalidFileIsToldSo) {
+  m_host.Write("a.xml", "<VIF/>");
   const ProgramResult result = Types("1\n");
   EXPECT_EQ(result.status, kCouldNotRun);
   EXPECT_THAT(result.output, HasSubstr("is not a valid Vendor Info File."));
   EXPECT_THAT(m_host.Log(), testing::Contains(HasSubstr("Unexpected error creating ")));
 }
 
-TEST_F(Operator, CancelsWithAnEmptyLine) {
-  m_host.Dir().Write("a.txt", "");
+TEST_P(Operator, CancelsWithAnEmptyLine) {
+  m_host.Write("a.txt", "");
   ExpectNoChoice(Types("\n1\n"));
 }
 
-TEST_F(Operator, CancelsWithQ) {
-  m_host.Dir().Write("a.txt", "");
+TEST_P(Operator, CancelsWithQ) {
+  m_host.Write("a.txt", "");
   ExpectNoChoice(Types("q\n1\n"));
 }
 
-TEST_F(Operator, CancelsByEndingTheInput) {
-  m_host.Dir().Write("a.txt", "");
+TEST_P(Operator, CancelsByEndingTheInput) {
+  m_host.Write("a.txt", "");
   ExpectNoChoice(Types(""));
 }
 
-TEST_F(Operator, CancelsByEndingTheInputAfterAWrongAnswer) {
+TEST_P(Operator, CancelsByEndingTheInputAfterAWrongAnswer) {
   const auto result = Types("7\n");
   EXPECT_EQ(Questions(result), 2);
   ExpectNoChoice(result);
 }
 
-TEST_F(Operator, IsToldThatADirectoryHasNoVifs) {
+TEST_P(Operator, IsToldThatADirectoryHasNoVifs) {
   const auto result = Types("\n");
-  EXPECT_THAT(result.output, HasSubstr("There are no VIFs in " + m_host.Dir().Path().string() + "."));
+  EXPECT_THAT(result.output, HasSubstr("There are no VIFs in " + m_host.Dir() + "."));
   ExpectNoChoice(result);
 }
 
-TEST_F(Operator, MayTypeAPathWhereADirectoryHasNoVifs) {
+TEST_P(Operator, MayTypeAPathWhereADirectoryHasNoVifs) {
   EXPECT_EQ(Types(testsupport::Example("gan-charger-65w.txt") + "\n").status, kNothingFailed);
 }
 
-TEST_F(Operator, IsShownFileNamesWithEscapesAndChoosesTheFileItself) {
-  m_host.Dir().Write("a\x1b[2J\n.txt", "");
+TEST_P(Operator, IsShownFileNamesWithEscapesAndChoosesTheFileItself) {
+#ifdef _WIN32  // where none below U+0020 can be in a name
+  m_host.Write(u8"a\u009B2J\u0085.txt", "");
+  const std::string escaped = "  1  a\\u009b2J\\u0085.txt";
+#else
+  m_host.Write("a\x1b[2J\n.txt", "");
+  const std::string escaped = "  1  a\\u001b[2J\\u000a.txt";
+#endif
   const auto result = Types("1\n");
   EXPECT_EQ(result.status, kNothingFailed);
-  EXPECT_THAT(result.output, AllOf(HasSubstr("  1  a\\u001b[2J\\u000a.txt"), Not(HasSubstr("\x1b"))));
+  EXPECT_THAT(result.output, AllOf(HasSubstr(escaped), Not(HasSubstr("\x1b")), Not(HasSubstr("\u009B"))));
 }
+
+TEST_P(Operator, IsShownFileNamesOfAnyLanguage) {
+  const std::string vif = m_host.Write(u8"Gr\u00F6\u00DFe \u96FB\u529B \U0001F50C.txt", "");
+  const auto result = Types("1\n");
+  EXPECT_EQ(result.status, kNothingFailed);
+  EXPECT_THAT(result.output, HasSubstr("  1  Gr\u00F6\u00DFe \u96FB\u529B \U0001F50C.txt"));
+  EXPECT_EQ(m_host.Log().front(), Selected(vif));
+}
+
+TEST_P(Operator, TypesAPathOfAnyLanguage) {
+  const std::string vif = m_host.Write(u8"Gr\u00F6\u00DFe \u96FB\u529B \U0001F50C.txt", "");
+  EXPECT_EQ(Types(vif + "\n").status, kNothingFailed);
+  EXPECT_EQ(m_host.Log().front(), Selected(vif));
+}
+
+INSTANTIATE_TEST_SUITE_P(, Operator, testing::Values(Input::Terminal, Input::Pipe),
+                         [](const testing::TestParamInfo<Input>& input) {
+                           return input.param == Input::Terminal ? "Terminal" : "Pipe";
+                         });
 
 }  // namespace

@@ -4,10 +4,12 @@
 #include "support/RunProgram.h"
 #include "support/TempDir.h"
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <regex>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace testsupport {
@@ -22,19 +24,35 @@ inline std::string Example(const std::string& name) { return std::string(VIF_EXA
 /// The reference host, and a directory for its files.
 class CReferenceHost {
  public:
-  ProgramResult Run(const std::vector<std::string>& arguments) const { return RunProgram(Command(arguments)); }
+  ProgramResult Run(const std::vector<std::string>& arguments, const ProgramSetting& setting = {}) const {
+    return RunProgram(Command(arguments), setting);
+  }
 
   ProgramResult RunOnTerminal(const std::vector<std::string>& arguments, const std::string& typed) const {
     return testsupport::RunOnTerminal(Command(arguments), 200, typed);
   }
 
-  const TempDir& Dir() const { return m_dir; }
+  std::string Dir() const { return NameOf(m_dir.Path()); }
 
-  std::string LogFile() const { return m_dir.Path() / "the.log"; }
+  /// The name of a file in the directory.
+  std::string File(const std::filesystem::path& name) const { return NameOf(m_dir.Path() / name); }
+
+  /// Writes a file in the directory and returns its name.
+  std::string Write(const std::filesystem::path& name, std::string_view content) const {
+    return NameOf(m_dir.Write(name, content));
+  }
+
+  /// Makes a directory in the directory.
+  std::filesystem::path Folder(const std::filesystem::path& name) const {
+    std::filesystem::create_directory(m_dir.Path() / name);
+    return m_dir.Path() / name;
+  }
+
+  std::string LogFile() const { return File("the.log"); }
 
   /// The lines of the log file as they are.
   std::vector<std::string> RawLog() const {
-    std::ifstream file(LogFile(), std::ios::binary);
+    std::ifstream file(m_dir.Path() / "the.log", std::ios::binary);
     return Lines({std::istreambuf_iterator<char>(file), {}});
   }
 

@@ -1,7 +1,7 @@
 // A document whose calls fail on demand.
 #pragma once
 
-#include "msxml/MsXml.h"
+#include "UnfakedCalls.h"
 
 #include <deque>
 #include <string>
@@ -16,20 +16,7 @@ enum class Call { None, NodeName, BaseName, Text, Attributes, SelectNodes, Selec
 
 class FakeNode;
 
-/// Objects that live as long as the test; counting references is of no use to them.
-template <typename Interface>
-class Uncounted : public Interface {
- public:
-  virtual ~Uncounted() = default;
-  HRESULT QueryInterface(REFIID, void** object) override {
-    *object = nullptr;
-    return E_NOINTERFACE;
-  }
-  ULONG AddRef() override { return 1; }
-  ULONG Release() override { return 1; }
-};
-
-class FakeList : public Uncounted<IXMLDOMNodeList> {
+class FakeList : public UnfakedList {
  public:
   explicit FakeList(std::vector<FakeNode*> nodes) : m_nodes(std::move(nodes)) {}
   HRESULT get_item(LONG index, IXMLDOMNode** node) override;
@@ -42,7 +29,7 @@ class FakeList : public Uncounted<IXMLDOMNodeList> {
   std::vector<FakeNode*> m_nodes;
 };
 
-class FakeAttributes : public Uncounted<IXMLDOMNamedNodeMap> {
+class FakeAttributes : public UnfakedMap {
  public:
   HRESULT getNamedItem(BSTR, IXMLDOMNode** attribute) override {
     *attribute = nullptr;
@@ -53,7 +40,7 @@ class FakeAttributes : public Uncounted<IXMLDOMNamedNodeMap> {
 };
 
 /// An element that finds children by the last step of a path, and all of them by any other.
-class FakeNode : public Uncounted<IXMLDOMElement> {
+class FakeNode : public UnfakedElement {
  public:
   explicit FakeNode(std::wstring name) : m_name(std::move(name)) {}
 

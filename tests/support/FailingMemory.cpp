@@ -2,9 +2,16 @@
 // compiler does not see half of a pair of allocation and release where it inlines.
 #include "support/FailingMemory.h"
 
+#ifdef _WIN32
+#include <windows.h>
+
+#include <oleauto.h>
+#else
 #include "msxml/ComTypes.h"
 
 #include <dlfcn.h>
+#endif
+
 #include <atomic>
 #include <cstdlib>
 #include <new>
@@ -66,6 +73,27 @@ void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); 
 void operator delete(void* memory, const std::nothrow_t&) noexcept { std::free(memory); }
 void operator delete[](void* memory, const std::nothrow_t&) noexcept { std::free(memory); }
 
+#ifdef _WIN32
+
+namespace {
+
+BSTR WINAPI AllocateBstr(const wchar_t* text, UINT length) {
+  if (MustFail(Memory::Bstr)) return nullptr;
+  const FARPROC real = GetProcAddress(GetModuleHandleW(L"oleaut32.dll"), "SysAllocStringLen");
+  // Through the general type of functions, which the compiler lets pass.
+  return reinterpret_cast<decltype(&AllocateBstr)>(reinterpret_cast<void (*)()>(real))(text, length);
+}
+
+}  // namespace
+
+// Stands in place of the entry in this program's table of what it imports.
+extern "C" {
+extern decltype(&SysAllocStringLen) const __imp_SysAllocStringLen;  // NOLINT(bugprone-reserved-identifier)
+decltype(&SysAllocStringLen) const __imp_SysAllocStringLen = &AllocateBstr;
+}
+
+#else
+
 // Stands in front of the library's own, which it calls.
 BSTR SysAllocStringLen(const wchar_t* text, UINT length) {
   if (MustFail(Memory::Bstr)) return nullptr;
@@ -73,3 +101,5 @@ BSTR SysAllocStringLen(const wchar_t* text, UINT length) {
       reinterpret_cast<decltype(&SysAllocStringLen)>(dlsym(RTLD_NEXT, "_Z17SysAllocStringLenPKwj"));
   return real(text, length);
 }
+
+#endif

@@ -5,7 +5,9 @@
 
 namespace testsupport {
 
-/// How often memory has been allocated so far by `new`, anywhere in the program, in shared libraries too.
+// This holds anywhere in the program, but on Windows not in shared libraries.
+
+/// How often memory has been allocated so far by `new`.
 std::size_t AllocationCount();
 
 /// Which allocations fail.

@@ -8,9 +8,9 @@
 
 namespace testsupport {
 
-inline ProgramResult Vif(std::vector<std::string> arguments) {
+inline ProgramResult Vif(std::vector<std::string> arguments, const ProgramSetting& setting = {}) {
   arguments.insert(arguments.begin(), VIF_COMMAND);
-  return RunProgram(arguments);
+  return RunProgram(arguments, setting);
 }
 
 inline ProgramResult VifOnTerminal(std::vector<std::string> arguments, unsigned short columns) {

@@ -41,8 +41,17 @@ class CTextDocument : public CPlainDocument {
   DOMElementPtr m_root;
 };
 
+/// The path of that name, which is UTF-8 on every system.
+inline std::filesystem::path Utf8Path(std::string_view name) { return std::u8string(name.begin(), name.end()); }
+
 /// A path as the wide text that `CanLoadDoc` and the list of schemas take.
-inline std::wstring WidePath(const std::filesystem::path& path) { return Utf8ToUtf16(path.string()); }
+inline std::wstring WidePath(const std::filesystem::path& path) {
+#ifdef _WIN32
+  return path.native();
+#else
+  return Utf8ToUtf16(path.native());
+#endif
+}
 
 // The calls throw `_com_error` when they fail.
 

@@ -3,7 +3,8 @@
 
 #include "RecordingHost.h"
 #include "VendorInfoFile.h"
-#include "msxml/ComError.h"
+#include "msxml/ComPointer.h"
+#include "support/CodePage.h"
 #include "support/TempDir.h"
 #include "support/XmlVif.h"
 
@@ -35,8 +36,9 @@ CVIFField Only(const CVendorInfoFile& vif, const char* name) {
 class TestSuiteVifTest : public testing::Test {
  protected:
   /// Writes a file and has the operator choose it.
-  std::string Choose(const std::string& name, const std::string& content) {
-    const std::string path = m_dir.Write(name, content).string();
+  /// \return its path as the host has it: narrow, on Windows in the code page of file functions
+  std::string Choose(const std::filesystem::path& name, const std::string& content) {
+    const std::string path = testsupport::QuotedPath(m_dir.Write(name, content));
     m_host.suiteLog.SetVifFileName(path.c_str());
     return path;
   }
@@ -167,11 +169,26 @@ TEST_F(TestSuiteVifTest, FileNamesAreNoFormats) {
 }
 
 TEST_F(TestSuiteVifTest, FileNamesMayBeOfAnyLanguage) {
-  const std::string path = Choose("端口 ü.json", "");
+  const std::string path = Choose(u8"\u7AEF\u53E3 \u00FC.json", "");
   m_host.Initialize();
   ASSERT_EQ(m_host.log.Lines().size(), 3u);
   EXPECT_EQ(m_host.log.Lines()[0], "4000000 Selected VIF: " + path + ".");
-  EXPECT_THAT(m_host.log.Lines()[2], StartsWith("4000000 L Unexpected error creating " + path + ": "));
+  // A wide line takes what is narrow for UTF-8, on Windows, too, where it may be none.
+  const std::string shown = Utf16ToUtf8(Utf8ToUtf16(path));
+  EXPECT_THAT(m_host.log.Lines()[2], StartsWith("4000000 L Unexpected error creating " + shown + ": "));
+}
+
+TEST_F(TestSuiteVifTest, FileNameIsInTheCodePageOfFileFunctions) {
+#ifdef _WIN32
+  if (GetACP() != 1252) GTEST_SKIP() << "the system's code page is not 1252";
+  EXPECT_THAT(Choose(u8"Ger\u00E4t \u20AC.txt", "PID: 7\n"), testing::EndsWith("Ger\xE4t \x80.txt"));
+#else
+  EXPECT_THAT(Choose(u8"Ger\u00E4t \u20AC.txt", "PID: 7\n"), testing::EndsWith("Ger\u00E4t \u20AC.txt"));
+#endif
+  EXPECT_EQ(m_host.Initialize(), kDone);
+  ASSERT_NE(CAppState::TestSuiteVIF(), nullptr);
+  EXPECT_EQ(CAppState::TestSuiteVIF()->Count(), 1u);
+  EXPECT_EQ(CAppState::TestSuiteVIF()->FileName(), (m_dir.Path() / "").wstring() + L"Ger\u00E4t \u20AC.txt");
 }
 
 TEST_F(TestSuiteVifTest, SecondInitializeReplacesTheVifAndDeletesNothing) {
@@ -229,11 +246,15 @@ TEST_F(TestSuiteVifTest, ComErrorIsLoggedByItsText) {
   };
   EXPECT_EQ(m_host.Initialize(), kDone);
   ASSERT_EQ(m_host.log.Lines().size(), 2u);
-  EXPECT_EQ(m_host.log.Lines()[1],
-            "40000000 L Attempt to load valid VIF did not succeed: COM Exception - Unspecified error");
+#ifdef _WIN32
+  const std::string text = Utf16ToUtf8(_com_error(E_FAIL).ErrorMessage());  // in the system's own words
+#else
+  const std::string text = "Unspecified error";
+#endif
+  EXPECT_EQ(m_host.log.Lines()[1], "40000000 L Attempt to load valid VIF did not succeed: COM Exception - " + text);
 }
 
-TEST_F(TestSuiteVifTest, ComErrorWithoutATextIsUnknown) {
+TEST_F(TestSuiteVifTest, ComErrorThatTheSystemDoesNotKnowIsUnknown) {
   Choose("a.txt", "PID: 1\n");
   m_host.log.onLine = [&](std::size_t line) {
     if (line != 2) return;
@@ -242,7 +263,13 @@ TEST_F(TestSuiteVifTest, ComErrorWithoutATextIsUnknown) {
   };
   EXPECT_EQ(m_host.Initialize(), kDone);
   ASSERT_EQ(m_host.log.Lines().size(), 2u);
-  EXPECT_EQ(m_host.log.Lines()[1], "40000000 L Attempt to load valid VIF did not succeed: [Unknown COM Exception]");
+#ifdef _WIN32
+  // There, an error that the system does not know has a text, too.
+  const std::string text = "COM Exception - Unknown error 0x8BADF00D";
+#else
+  const std::string text = "[Unknown COM Exception]";
+#endif
+  EXPECT_EQ(m_host.log.Lines()[1], "40000000 L Attempt to load valid VIF did not succeed: " + text);
 }
 
 TEST_F(TestSuiteVifTest, AnythingElseIsAnUnknownError) {

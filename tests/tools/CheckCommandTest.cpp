@@ -96,10 +96,11 @@ TEST(Check, FileWithoutAnyFieldIsAnError) {
 
 TEST(Check, ControlCharactersDoNotReachTheTerminal) {
   const TempDir dir;
-  const std::string file = dir.Write("a\x1b[1m.txt", "P\x1b[2JD: 5\nPID: \x1b[2J\n").string();
-  const ProgramResult result = Check({file});
+  const auto path = dir.Write(u8"a\u009B1m.txt", "P\x1b[2JD: 5\nPID: \x1b[2J\n");  // no name on Windows has an ESC
+  const ProgramResult result = Check({testsupport::NameOf(path)});
   EXPECT_EQ(result.output.find('\x1b'), std::string::npos) << result.output;
-  EXPECT_THAT(result.output, HasSubstr("a\\x1b[1m.txt:2: error: 'PID' yields no field: '\\x1b[2J' is neither"));
+  EXPECT_EQ(result.output.find("\u009B"), std::string::npos) << result.output;
+  EXPECT_THAT(result.output, HasSubstr("a\\x9b1m.txt:2: error: 'PID' yields no field: '\\x1b[2J' is neither"));
 }
 
 TEST(Check, LongTextsAreShortened) {
@@ -112,8 +113,8 @@ TEST(CheckJson, HasItsMembersInTheirOrder) {
   const TempDir dir;
   const std::string file = dir.Write("a.txt", "My_Own: 1\n").string();
   EXPECT_EQ(Check({"--format", "json", file}).output,
-            "{\"files\":[\n{\"file\":\"" + file +
-                "\",\"valid\":true,\"findings\":[\n"
+            "{\"files\":[\n{\"file\":" + json(file).dump() +
+                ",\"valid\":true,\"findings\":[\n"
                 R"({"severity":"warning","code":"unknown-name","line":1,"column":null,"element":"My_Own",)"
                 R"("message":"no definition knows the name 'My_Own'"})"
                 "\n]}\n],\n\"errors\":0,\"warnings\":1}\n");

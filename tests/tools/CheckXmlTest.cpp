@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <filesystem>
 
 namespace {
 
@@ -80,9 +81,10 @@ TEST(CheckXml, PrintsLineAndColumn) {
   const std::string file = dir.Write("a.xml", document.Text()).string();
   const ProgramResult result = testsupport::Vif({"check", file});
   EXPECT_EQ(result.status, 1);
-  EXPECT_THAT(result.output,
-              testing::ContainsRegex("a\\.xml:" + std::to_string(LineOf(document, "Num_Src")) +
-                                     ":[0-9]+: error: 'Num_Src_PDOs' is 2, but Component 1 has 0 SrcPdo groups"));
+  const std::string line = std::to_string(LineOf(document, "Num_Src"));
+  EXPECT_THAT(result.output, HasSubstr("a.xml:" + line +
+                                       ":1: error: 'Num_Src_PDOs' is 2, but Component 1 has 0 SrcPdo "
+                                       "groups"));
 }
 
 TEST(CheckXml, TheApplicationsDescriptionNeedsNoDefinition) {
@@ -233,17 +235,26 @@ TEST(CheckXmlElement, ManyReasonsAreListedInOrderWithTheirRestAtTheEnd) {
   Document document;
   for (int i = 0; i < 10'050; ++i) document.behindComponent += "<vif:TID a=\"1\"/>";
   const json findings = Check(document);
+#ifdef _WIN32
+  EXPECT_EQ(findings.size(), 1u);  // MSXML stops at the first
+#else
   ASSERT_EQ(findings.size(), 10'001u);
   EXPECT_EQ(findings.back()["message"], "and 50 more");
+#endif
 }
 
-void ExpectNotValid(const Document& document, std::size_t line) {
+/// \param line where the reason is; MSXML does not always say
+void ExpectNotValid(const Document& document, [[maybe_unused]] std::size_t line) {
   const TempDir dir;
   const std::string file = dir.Write("a.xml", document.Text()).string();
   const ProgramResult result = testsupport::Vif({"check", file});
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.error, "");
+#ifdef _WIN32
+  EXPECT_THAT(result.output, HasSubstr("a.xml:"));
+#else
   EXPECT_THAT(result.output, HasSubstr("a.xml:" + std::to_string(line) + ':'));
+#endif
   EXPECT_THAT(result.output, HasSubstr(": error: "));
   EXPECT_THAT(result.output, HasSubstr(" [not-valid]\n"));
 }
@@ -257,7 +268,11 @@ TEST(CheckXmlValidity, AValueThatTheSchemaForbidsIsAnError) {
   const Document document = Component("<vif:USB_VID_SOP value=\"18d1\"/>");
   ExpectNotValid(document, LineOf(document, "18d1"));
   const json findings = Check(document);
+#ifdef _WIN32
+  EXPECT_TRUE(findings[0]["element"].is_null());  // MSXML names it in its reason only
+#else
   EXPECT_EQ(findings[0]["element"], "vif:USB_VID_SOP");
+#endif
 }
 
 TEST(CheckXmlValidity, AnotherRootIsAnError) {
@@ -269,6 +284,19 @@ TEST(CheckXmlValidity, AnUnknownListIsAnError) {
   ASSERT_GE(findings.size(), 1U);
   EXPECT_EQ(findings[0]["code"], "not-valid");
   EXPECT_THAT(findings[0]["message"].get<std::string>(), HasSubstr("Strange"));
+}
+
+TEST(CheckXmlFailure, AFileThatCannotBeRead) {
+#ifdef __linux__
+  const TempDir dir;
+  std::filesystem::create_symlink("/proc/self/mem", dir.Path() / "a.xml");  // regular, but its first byte is unreadable
+  const ProgramResult result = testsupport::Vif({"check", (dir.Path() / "a.xml").string()});
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.output, "");
+  EXPECT_THAT(result.error, HasSubstr("a.xml: The file cannot be read: "));
+#else
+  GTEST_SKIP() << "needs a file that can be opened but not read";
+#endif
 }
 
 TEST(CheckXmlFailure, AMissingFile) {

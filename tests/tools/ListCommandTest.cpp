@@ -113,9 +113,21 @@ TEST(ListJson, BytesThatAreNotUtf8BecomeReplacementCharacters) {
 }
 
 TEST(ListJson, FileNamesThatAreNotUtf8AreListedToo) {
+#ifdef _WIN32
+  GTEST_SKIP() << "names are Unicode, and reach the command as UTF-8";
+#else
   const TempDir dir;
   const json listed = ListJson(dir.Write("n\xFF.txt", "PID: 1\n").string());
   EXPECT_THAT(listed["files"][0].get<std::string>(), HasSubstr("n\uFFFD.txt"));
+  EXPECT_EQ(listed["fields"].size(), 1U);
+#endif
+}
+
+TEST(ListJson, FileNamesOfAnyLanguageAreListed) {
+  const TempDir dir;
+  const std::string file = testsupport::NameOf(dir.Write(u8"Gr\u00F6\u00DFe \u96FB\u529B \U0001F50C.txt", "PID: 1\n"));
+  const json listed = ListJson(file);
+  EXPECT_EQ(listed["files"][0], file);
   EXPECT_EQ(listed["fields"].size(), 1U);
 }
 
@@ -172,10 +184,32 @@ TEST(ListTable, ControlCharactersDoNotReachTheTerminal) {
   EXPECT_THAT(output, HasSubstr("x\\x07y"));
 }
 
+TEST(ListTable, CharactersTakeUpAsManyColumnsAsTheyAreWide) {
+  const TempDir dir;
+  const std::string file = dir.Write("a.txt",
+                                     "$TID: \"abcd\" ; four columns\n"
+                                     "$TID: \"\u96FB\u529B\" ; wide ideographs\n"
+                                     "$TID: \"\uD55C\u30AB\" ; a wide syllable of Hangul, one of Katakana\n"
+                                     "$TID: \"\uFF21bc\" ; a fullwidth letter\n"
+                                     "$TID: \"\U0001F50Cbc\" ; a wide symbol beyond 16 bits\n"
+                                     "$TID: \"e\u0301bcd\" ; a combining accent\n"
+                                     "$TID: \"\u0E01\u0E34bcd\" ; a Thai vowel above its consonant\n"
+                                     "$TID: \"a\u200D\uFE0Fbcd\" ; a joiner and a variation selector\n"
+                                     "$TID: \"\U0001D400\u00DF\u03B1\u0434\" ; narrow, one of them beyond 16 bits\n")
+                               .string();
+  std::vector<std::string> lines = Lines(List({file}).output);
+  ASSERT_EQ(lines.size(), 10U);
+  lines.erase(lines.begin());
+  for (const std::string& line : lines) {
+    const size_t gap = line.rfind('"') + 1;
+    EXPECT_EQ(line.find_first_not_of(' ', gap), gap + 2) << line;  // no value is wider than another
+  }
+}
+
 class ListOnTerminalOf : public testing::TestWithParam<unsigned short> {
  protected:
   void SetUp() override {
-    if (!testsupport::HasTerminals()) GTEST_SKIP() << "this machine has no pseudo-terminals";
+    if (!testsupport::HasTerminals()) GTEST_SKIP() << testsupport::kNoTerminals;
   }
 };
 
@@ -190,7 +224,7 @@ TEST_P(ListOnTerminalOf, EveryLineFitsAndNamesItsField) {
 INSTANTIATE_TEST_SUITE_P(Widths, ListOnTerminalOf, testing::Values(40, 60, 80, 132));
 
 TEST(ListTable, CutsNothingThatATerminalHasRoomFor) {
-  if (!testsupport::HasTerminals()) GTEST_SKIP() << "this machine has no pseudo-terminals";
+  if (!testsupport::HasTerminals()) GTEST_SKIP() << testsupport::kNoTerminals;
   const TempDir dir;
   const std::string value(90, 'v');
   const std::string file = dir.Write("a.txt", "$TID: \"" + value + "\"\n").string();
@@ -198,7 +232,7 @@ TEST(ListTable, CutsNothingThatATerminalHasRoomFor) {
 }
 
 TEST(ListTable, ShowsInAnEllipsisThatATerminalWasTooNarrow) {
-  if (!testsupport::HasTerminals()) GTEST_SKIP() << "this machine has no pseudo-terminals";
+  if (!testsupport::HasTerminals()) GTEST_SKIP() << testsupport::kNoTerminals;
   const TempDir dir;
   const std::string file = dir.Write("a.txt", "PID: 1 ; " + std::string(100, 'd') + "\n").string();
   const std::string last = Lines(ListOnTerminal(file, 60).output).back();
@@ -256,8 +290,7 @@ TEST(List, AFileNameIsNeverTakenForAFormat) {
 }
 
 TEST(List, AFullDiskIsAFailure) {
-  const ProgramResult result = testsupport::RunProgram(
-      {"/bin/sh", "-c", "\"$0\" list \"$1\" >/dev/full", VIF_COMMAND, Example("active-cable.txt")});
+  const ProgramResult result = testsupport::Vif({"list", Example("active-cable.txt")}, {.canWrite = false});
   EXPECT_EQ(result.status, 2);
   EXPECT_THAT(result.error, StartsWith("vif: cannot write the output: "));
 }

@@ -131,7 +131,7 @@ TEST(Show, APipeHasNoColour) { EXPECT_THAT(Show("PID: 1\n"), Not(HasSubstr("\x1b
 class ShowOnTerminal : public testing::Test {
  protected:
   void SetUp() override {
-    if (!testsupport::HasTerminals()) GTEST_SKIP() << "this machine has no pseudo-terminals";
+    if (!testsupport::HasTerminals()) GTEST_SKIP() << testsupport::kNoTerminals;
   }
 };
 

@@ -1,10 +1,14 @@
 // Runs the commands that the documentation shows and compares what they print.
-#include "support/VifCommand.h"
+#include "DocumentedCommand.h"
+#include "support/RunProgram.h"
 
 #include <gtest/gtest.h>
 
 #include <fstream>
 #include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace {
 
@@ -35,15 +39,26 @@ std::vector<Transcript> ReadTranscripts(const std::string& path) {
   return transcripts;
 }
 
+void ExpectShown(const std::vector<std::string>& shown, const Transcript& transcript) {
+  const std::vector<std::string> told = Lines(transcript.output);
+#ifdef _WIN32
+  constexpr std::string_view notValid = " [not-valid]";
+  if (!told.empty() && told.front().ends_with(notValid)) {  // the first reason in MSXML's own words, and no others
+    ASSERT_EQ(shown.size(), 2U);
+    const std::string file = told.front().substr(0, told.front().find(':') + 1);
+    EXPECT_TRUE(shown.front().starts_with(file) && shown.front().ends_with(notValid)) << shown.front();
+    EXPECT_EQ(shown.back(), "1 error");
+    return;
+  }
+#endif
+  EXPECT_EQ(shown, told) << "$ " << transcript.command;
+}
+
 TEST(Transcripts, OfTheCommandAreTrue) {
   const std::vector<Transcript> transcripts = ReadTranscripts(std::string(VIF_DOCS) + "/command.md");
   EXPECT_GE(transcripts.size(), 6U);
   for (const Transcript& transcript : transcripts) {
-    // As in a shell in the folder of the examples, with the command on the path.
-    const testsupport::ProgramResult result = testsupport::RunProgram(
-        {"/bin/sh", "-c", "cd \"$1\" && PATH=\"$(dirname \"$2\"):$PATH\" && exec 2>&1 && eval \"$0\"",
-         transcript.command, VIF_EXAMPLES, VIF_COMMAND});
-    EXPECT_EQ(Lines(result.output), Lines(transcript.output)) << "$ " << transcript.command;
+    ExpectShown(testsupport::RunDocumented(transcript.command), transcript);
   }
 }
 

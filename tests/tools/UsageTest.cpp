@@ -72,8 +72,7 @@ TEST(Usage, ALocationOptionWithAnEqualsSignTakesANumber) {
 
 TEST(Usage, AFullDiskFailsHelpAndVersion) {
   for (const char* option : {"--help", "--version"}) {
-    const ProgramResult result =
-        testsupport::RunProgram({"/bin/sh", "-c", "exec \"$0\" \"$1\" >/dev/full", VIF_COMMAND, option});
+    const ProgramResult result = Vif({option}, {.canWrite = false});
     EXPECT_EQ(result.status, 2) << option;
   }
 }

@@ -1,20 +1,12 @@
 // XML files that nobody writes by accident, or only a broken program does.
+#include "HostileXml.h"
+
 #include "BaseUtilities/Exceptions.h"
-#include "VIFInvalidFile.h"
-#include "VendorInfoFile.h"
-#include "support/FieldText.h"
 #include "support/LoopbackListener.h"
-#include "support/OrdinaryUser.h"
 #include "support/Random.h"
-#include "support/TempDir.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <sys/socket.h>
-#include <sys/stat.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <random>
@@ -26,16 +18,23 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::StartsWith;
 using testsupport::CLoopbackListener;
-using testsupport::FieldTexts;
+using testsupport::HostileXmlTest;
+using testsupport::kBegin;
+using testsupport::kEnd;
 using testsupport::RandomBelow;
-using testsupport::TempDir;
 
 namespace fs = std::filesystem;
 
-const std::string kBegin = "<VIF xmlns='http://usb.org/VendorInfoFile.xsd'>";
-const std::string kEnd = "</VIF>";
+// Not every MSXML takes more; what Wine has is bounded just above.
+#ifdef _WIN32
+constexpr std::size_t kLongAttribute = 9'000'000;
+constexpr std::size_t kLongName = 49'000;
+#else
+constexpr std::size_t kLongAttribute = 10'000'000;
+constexpr std::size_t kLongName = 1'000'000;
+#endif
+
 const std::string kRefusal = "A document type declaration is not allowed.";
 
 std::string Repeated(std::string_view text, std::size_t count) {
@@ -44,74 +43,6 @@ std::string Repeated(std::string_view text, std::size_t count) {
   for (std::size_t i = 0; i < count; ++i) all += text;
   return all;
 }
-
-/// Ends the program when the test takes too long.
-class CAlarm {
- public:
-  CAlarm() { alarm(120); }
-  CAlarm(const CAlarm&) = delete;
-  CAlarm& operator=(const CAlarm&) = delete;
-  ~CAlarm() { alarm(0); }
-};
-
-/// Appends files to an object that holds fields already.
-class HostileXmlTest : public testing::Test {
- protected:
-  HostileXmlTest() : m_vif(m_dir.Write("held.txt", "USB_VID: 1")), m_held(FieldTexts(*m_vif.GetFields())) {}
-
-  /// Appends a file. Either it is loaded, or the error has its form and reasons that can be printed, and the object is
-  /// as it was.
-  /// \return whether it was loaded
-  bool AppendFile(const fs::path& path) {
-    m_reasons.clear();
-    const auto countBefore = m_vif.Count();
-    try {
-      m_vif.Append(path.c_str());
-      return true;
-    } catch (const CVIFInvalidFile& error) {
-      EXPECT_EQ(error.what(), path.string() + " is not a valid Vendor Info File.");
-      EXPECT_FALSE(error.Problems().empty());
-      for (const DOMDocProblem& problem : error.Problems()) CheckProblem(problem);
-    }
-    EXPECT_EQ(m_vif.Count(), countBefore);
-    return false;
-  }
-
-  bool Append(std::string_view content) { return AppendFile(m_dir.Write("x.xml", content)); }
-
-  /// Appends a VIF with that content.
-  bool AppendVif(const std::string& content) { return Append(kBegin + content + kEnd); }
-
-  /// Whether the content was refused for that reason alone.
-  bool IsRefused(const std::string& content, const std::string& reason) {
-    return !Append(content) && m_reasons == std::vector<std::string>{reason};
-  }
-
-  const std::vector<std::string>& Reasons() const { return m_reasons; }
-  const TempDir& Dir() const { return m_dir; }
-
-  /// The fields that the last file appended.
-  std::vector<std::string> NewFields() const {
-    std::vector<std::string> fields = FieldTexts(*m_vif.GetFields());
-    fields.erase(fields.begin(), fields.begin() + static_cast<std::ptrdiff_t>(m_held.size()));
-    return fields;
-  }
-
- private:
-  void CheckProblem(const DOMDocProblem& problem) {
-    EXPECT_NE(problem.reason, "");
-    EXPECT_LT(problem.reason.size(), 2000U);
-    EXPECT_LT(problem.element.size(), 2000U);
-    for (const char c : problem.reason + problem.element) ASSERT_GE(static_cast<unsigned char>(c), 0x20U);
-    m_reasons.push_back(problem.reason);
-  }
-
-  CAlarm m_alarm;
-  TempDir m_dir;
-  CVendorInfoFile m_vif;
-  std::vector<std::string> m_held;
-  std::vector<std::string> m_reasons;
-};
 
 // Document types and what they could bring.
 
@@ -204,12 +135,12 @@ TEST_F(HostileXmlTest, LongTextIsLoaded) {
 }
 
 TEST_F(HostileXmlTest, LongAttributeIsLoaded) {
-  EXPECT_TRUE(AppendVif("<TID value='" + Repeated("x", 10'000'000) + "'/>"));
+  EXPECT_TRUE(AppendVif("<TID value='" + Repeated("x", kLongAttribute) + "'/>"));
   EXPECT_EQ(NewFields().size(), 1U);
 }
 
 TEST_F(HostileXmlTest, LongNamesAreLoadedAndCutInReasons) {
-  const std::string name(1'000'000, 'x');
+  const std::string name(kLongName, 'x');
   EXPECT_TRUE(AppendVif("<Component><" + name + " " + name + "='1'>1</" + name + "></Component>"));
   EXPECT_EQ(NewFields().size(), 1U);
   EXPECT_FALSE(AppendVif("<" + name + ">"));
@@ -249,8 +180,12 @@ TEST_F(HostileXmlTest, HundredThousandAttributesAreRefused) {
 
 TEST_F(HostileXmlTest, ManyReasonsAreListedUpToABound) {
   EXPECT_FALSE(AppendVif(Repeated("<TID a='1'/>", 200'000)));
+#ifdef _WIN32
+  EXPECT_EQ(Reasons().size(), 1U);  // MSXML says the first only
+#else
   EXPECT_EQ(Reasons().size(), 10'001U);
   EXPECT_EQ(Reasons().back(), "and 190000 more");
+#endif
 }
 
 // Broken files.
@@ -296,10 +231,37 @@ TEST_F(HostileXmlTest, ChangedBytesNeverCrash) {
 }
 
 TEST_F(HostileXmlTest, WhatIsNotWellFormedIsNotValid) {
-  for (const char* content : {"<TID a='1' a='2'/>", "<p:TID/>", "<TID p:a='1'/>", "<TID a=1/>", "<TID>]]></TID>",
-                              "<TID/", "<TID xmlns:p='u' xmlns:q='u' p:a='1' q:a='1'/>", "<TID><!-- -- --></TID>",
-                              "<1/>", "<TID>&#0;</TID>", "<TID>\x01</TID>", "<TID>&#xFFFF;</TID>", "<TID>&</TID>",
-                              "<?xml?>", "<TID a='<'/>", "<TID>&#x110000;</TID>", "<TID xmlns:p=''/>"}) {
+  for (const char* content :
+       {"<TID a='1' a='2'/>", "<TID p:a='1'/>", "<TID a=1/>", "<TID>]]></TID>", "<TID/",
+        "<TID xmlns:p='u' xmlns:q='u' p:a='1' q:a='1'/>", "<TID><!-- -- --></TID>", "<1/>", "<TID>&#0;</TID>",
+        "<TID>\x01</TID>", "<TID>&#xFFFF;</TID>", "<TID>&</TID>", "<?xml?>", "<TID a='<'/>", "<TID>&#x110000;</TID>"}) {
+    EXPECT_FALSE(AppendVif(content)) << content;
+  }
+}
+
+TEST_F(HostileXmlTest, PrefixThatIsNotDeclaredIsNotValid) {
+  EXPECT_FALSE(AppendVif("<p:TID/>"));
+  EXPECT_FALSE(AppendVif("<TID xmlns:p='u'/><p:TID/>"));
+  EXPECT_FALSE(AppendVif("<TID xmlns:p='u' q:a=''/>"));
+}
+
+TEST_F(HostileXmlTest, PrefixIsDeclaredInItsTagOrAround) {
+  EXPECT_TRUE(AppendVif("<p:TID q:a='1' xmlns:q='v' xmlns:p='http://usb.org/VendorInfoFile.xsd'/>"));
+  EXPECT_TRUE(
+      AppendVif("<Component xmlns:p='u'><p:x><p:y xmlns='' p:a=''><z xml:space='default'/></p:y></p:x></Component>"));
+}
+
+TEST_F(HostileXmlTest, PrefixDeclaredForWhatItMayNotStandForIsNotValid) {
+  for (const char* content :
+       {"<TID xmlns:p=''/>", "<TID xmlns:xml='u'/>", "<TID xmlns:xmlns='u'/>",
+        "<TID xmlns:p='http://www.w3.org/XML/1998/namespace'/>", "<TID xmlns:p='http://www.w3.org/2000/xmlns/'/>"}) {
+    EXPECT_FALSE(AppendVif(content)) << content;
+  }
+}
+
+TEST_F(HostileXmlTest, NamesWithOddColonsAreNotValid) {
+  for (const char* content :
+       {"<:TID/>", "<p: xmlns:p='u'/>", "<p:a:b xmlns:p='u'/>", "<TID :a=''/>", "<TID xmlns:p='u' p:a:b=''/>"}) {
     EXPECT_FALSE(AppendVif(content)) << content;
   }
 }
@@ -380,7 +342,7 @@ TEST_F(HostileXmlTest, Utf8DeclaredAsUtf16IsRefusedOrLoadedAsItIs) {
 
 TEST_F(HostileXmlTest, Latin1IsLoaded) {
   EXPECT_TRUE(Append("<?xml version='1.0' encoding='ISO-8859-1'?>" + kBegin + "<TID>\xE4</TID>" + kEnd));
-  EXPECT_THAT(NewFields(), ElementsAre(HasSubstr("\u00E4")));
+  EXPECT_THAT(NewFields(), ElementsAre(HasSubstr(testsupport::SystemNarrow(L"\u00E4"))));
 }
 
 TEST_F(HostileXmlTest, UnknownEncodingIsNotValid) {
@@ -416,49 +378,6 @@ TEST_F(HostileXmlTest, DirectoryIsNoFile) {
   fs::create_directory(Dir().Path() / "d.xml");
   EXPECT_FALSE(AppendFile(Dir().Path() / "d.xml"));
   EXPECT_THAT(Reasons(), ElementsAre("The file is not a regular file."));
-}
-
-TEST_F(HostileXmlTest, PipeIsNotWaitedFor) {
-  const fs::path path = Dir().Path() / "p.xml";
-  ASSERT_EQ(mkfifo(path.c_str(), S_IRUSR | S_IWUSR), 0);
-  EXPECT_FALSE(AppendFile(path));
-  EXPECT_THAT(Reasons(), ElementsAre("The file is not a regular file."));
-}
-
-TEST_F(HostileXmlTest, DeviceWithoutEndIsNotRead) {
-  const fs::path path = Dir().Path() / "z.xml";
-  fs::create_symlink("/dev/zero", path);
-  EXPECT_FALSE(AppendFile(path));
-  EXPECT_THAT(Reasons(), ElementsAre("The file is not a regular file."));
-}
-
-TEST_F(HostileXmlTest, SocketCannotBeOpened) {
-  const fs::path path = Dir().Path() / "s.xml";
-  const int bound = socket(AF_UNIX, SOCK_STREAM, 0);
-  sockaddr_un address{};
-  address.sun_family = AF_UNIX;
-  path.native().copy(address.sun_path, sizeof address.sun_path - 1);
-  // The socket interface asks for addresses of every family as one general type.
-  ASSERT_EQ(bind(bound, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
-  EXPECT_FALSE(AppendFile(path));
-  EXPECT_THAT(Reasons(), ElementsAre(StartsWith("The file cannot be opened: ")));
-  close(bound);
-}
-
-TEST_F(HostileXmlTest, FileThatMayNotBeReadSaysWhy) {
-  const fs::path path = Dir().Write("x.xml", kField);
-  fs::permissions(path, fs::perms::none);
-  const testsupport::OrdinaryUser user;
-  EXPECT_FALSE(AppendFile(path));
-  EXPECT_THAT(Reasons(), ElementsAre("The file cannot be opened: Permission denied."));
-}
-
-TEST_F(HostileXmlTest, ReadErrorSaysWhy) {
-  const fs::path path = Dir().Path() / "x.xml";
-  fs::create_symlink("/proc/self/mem", path);  // a regular file, whose first byte is never readable
-  if (!fs::is_regular_file(path)) GTEST_SKIP() << "only Linux has this file";
-  EXPECT_FALSE(AppendFile(path));
-  EXPECT_THAT(Reasons(), testing::Contains(StartsWith("The file cannot be read: ")));
 }
 
 }  // namespace

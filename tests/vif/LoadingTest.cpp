@@ -1,6 +1,8 @@
 // Loading files into a CVendorInfoFile.
 #include "BaseUtilities/Exceptions.h"
 #include "VendorInfoFile.h"
+#include "support/AppendFile.h"
+#include "support/CodePage.h"
 #include "support/FieldText.h"
 #include "support/RunTimeErrorOf.h"
 #include "support/TempDir.h"
@@ -19,6 +21,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 namespace {
@@ -26,7 +29,9 @@ namespace {
 using namespace std::literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testsupport::AppendFile;
 using testsupport::FieldTexts;
+using testsupport::QuotedPath;
 using testsupport::RunTimeErrorOf;
 using testsupport::TempDir;
 
@@ -48,15 +53,15 @@ std::string LoadError(const std::filesystem::path& path) {
 /// What appending the file to an object fails with.
 std::string AppendError(const std::filesystem::path& path) {
   CVendorInfoFile vif;
-  return RunTimeErrorOf([&] { vif.Append(path.string().c_str()); });
+  return RunTimeErrorOf([&] { AppendFile(vif, path); });
 }
 
 std::string MissingText(const std::filesystem::path& path) {
-  return "VIF Does not exist. (name: " + path.string() + ")";
+  return "VIF Does not exist. (name: " + QuotedPath(path) + ")";
 }
 
 std::string CannotOpenText(const std::filesystem::path& path) {
-  return "Couldn't open Vendor Info File: " + path.string() + ".";
+  return "Couldn't open Vendor Info File: " + QuotedPath(path) + ".";
 }
 
 // File types.
@@ -123,12 +128,56 @@ TEST(LoadingTest, FileBelowAFileIsMissing) {
   EXPECT_EQ(LoadError(path), MissingText(path));
 }
 
+// On Windows no file can have these names, which is another error than that there is none.
+TEST(LoadingTest, FileWhoseNameIsNotAllowedEverywhereIsMissing) {
+  const TempDir dir;
+  for (const char* name : {"a<b?.txt", "a<b?.xml", "*.txt", "a|b.json"}) {
+    EXPECT_EQ(LoadError(dir.Path() / name), MissingText(dir.Path() / name));
+    EXPECT_EQ(AppendError(dir.Path() / name), MissingText(dir.Path() / name));
+  }
+}
+
+// What means another machine or another disk on Windows is a directory like any other elsewhere.
+TEST(LoadingTest, FileInANetworkOrOnADriveThatIsNotThereIsMissing) {
+  for (const char* name :
+       {"//no-such-host.invalid/share/x.txt", "//no-such-host.invalid/x.xml", "Q:/x.txt", "Q:x.xml"}) {
+    EXPECT_EQ(LoadError(name), MissingText(name));
+    EXPECT_EQ(AppendError(name), MissingText(name));
+  }
+}
+
+TEST(LoadingTest, NameTooLongForTheSystemIsAFailureOfTheExistenceTest) {
+  const TempDir dir;
+  const std::filesystem::path path = dir.Path() / (std::string(5000, 'x') + ".txt");
+#ifdef _WIN32
+  // Windows says of such a name that there is no such file.
+  EXPECT_EQ(LoadError(path), MissingText(path));
+#else
+  try {
+    const CVendorInfoFile vif(path);
+    FAIL() << "nothing was thrown";
+  } catch (const std::filesystem::filesystem_error& error) {
+    EXPECT_EQ(error.code(), std::errc::filename_too_long);
+    EXPECT_THAT(error.what(), testing::HasSubstr("exists"));
+  }
+#endif
+}
+
 TEST(LoadingTest, DirectoryNamedLikeATextVifCannotBeOpened) {
   const TempDir dir;
   const std::filesystem::path path = dir.Path() / "x.txt";
   std::filesystem::create_directory(path);
   EXPECT_EQ(LoadError(path), CannotOpenText(path));
   EXPECT_EQ(AppendError(path), CannotOpenText(path));
+}
+
+TEST(LoadingTest, WhatCannotBeOpenedIsNoComponent) {
+  const TempDir dir;
+  std::filesystem::create_directory(dir.Path() / "x.txt");
+  CVendorInfoFile vif;
+  EXPECT_THROW(AppendFile(vif, dir.Path() / "x.txt"), CZoRunTimeException);
+  EXPECT_EQ(vif.ComponentCount(), 0U);
+  EXPECT_STREQ(vif.FileName(), L"");
 }
 
 TEST(LoadingTest, DirectoryNamedOtherwiseIsOfTheWrongType) {
@@ -142,6 +191,23 @@ TEST(LoadingTest, MessagesQuoteTheNameAsItIs) {
   EXPECT_EQ(LoadError(path), MissingText(path));
   std::filesystem::create_directory(path);
   EXPECT_EQ(LoadError(path), CannotOpenText(path));
+}
+
+// On Windows in the code page of file functions, which may lack some of the characters.
+TEST(LoadingTest, MessagesQuoteNamesOfAnyLanguage) {
+  const TempDir dir;
+  const std::filesystem::path path = dir.Path() / u8"Ger\u00E4t \u4E2D \U0001F50C.txt";
+  EXPECT_EQ(LoadError(path), MissingText(path));
+  EXPECT_EQ(AppendError(path), MissingText(path));
+  std::filesystem::create_directory(path);
+  EXPECT_EQ(LoadError(path), CannotOpenText(path));
+}
+
+TEST(LoadingTest, FileNameIsWideWhateverItsLanguage) {
+  const TempDir dir;
+  const CVendorInfoFile vif(dir.Write(u8"Ger\u00E4t \u4E2D \U0001F50C.txt", "USB_VID: 1"));
+  EXPECT_EQ(vif.Count(), 1U);
+  EXPECT_EQ(vif.FileName(), (dir.Path() / "").wstring() + L"Ger\u00E4t \u4E2D \U0001F50C.txt");
 }
 
 TEST(LoadingTest, PathMayBeRelative) {
@@ -234,6 +300,16 @@ TEST(LoadingTest, NulEndsWhatIsReadOfALine) {
 
 TEST(LoadingTest, CrEndsNoLine) {
   EXPECT_THAT(Load("USB_VID: 1\rPID: 2\r\nUSB_VID\r: 3\n$A: \"x\ry\"\n"), ElementsAre("USB_VID=3 @6.1"));
+}
+
+TEST(LoadingTest, CtrlZIsAnEndOnWindowsOnly) {
+  const std::vector<std::string> fields = Load("USB_VID: 1\nPID: 2\x1A\nUSB_VID: 3\n\x1A\nPID: 4");
+#ifdef _WIN32
+  // A file read as text ends there.
+  EXPECT_THAT(fields, ElementsAre("USB_VID=1 @6.1", "PID=2 @6.1"));
+#else
+  EXPECT_THAT(fields, ElementsAre("USB_VID=1 @6.1", "USB_VID=3 @6.1", "PID=4 @6.1"));
+#endif
 }
 
 TEST(LoadingTest, LfCrLineEndsAreAsGoodAsCrLf) {
@@ -351,8 +427,8 @@ TEST(OwnTableTest, FailureInTheMiddleOfAnAppendKeepsWhatCameBefore) {
       {L"Bad", std::wregex(L"B"), {static_cast<EVifLocation>(13)}},
   };
   CVendorInfoFile vif(dir.Write("a.txt", "A: 1"), &table);
-  EXPECT_THROW(vif.Append(dir.Write("b.txt", "A: 2\nB: 3\nA: 4").string().c_str()), CZoRunTimeException);
-  vif.Append(dir.Write("c.txt", "A: 5").string().c_str());
+  EXPECT_THROW(AppendFile(vif, dir.Write("b.txt", "A: 2\nB: 3\nA: 4")), CZoRunTimeException);
+  AppendFile(vif, dir.Write("c.txt", "A: 5"));
   EXPECT_THAT(Texts(vif), ElementsAre("Good=1 @6.1", "Good=2 @6.2", "Good=5 @6.3"));
   EXPECT_EQ(vif.ComponentCount(), 3U);
 }
@@ -362,19 +438,18 @@ TEST(OwnTableTest, ErrorOfAPatternIsRaisedInItsOwnWords) {
   std::vector<VifFieldDef> table = {{L"Any", std::wregex(L".*"), {eVifLocComponent}}};
   CVendorInfoFile vif(nullptr, &table);
   const std::filesystem::path path = dir.Write("x.txt", "A: 1\n" + std::string(1'000'000, 'B') + ": 2\nC: 3");
-  EXPECT_EQ(RunTimeErrorOf([&] { vif.Append(path.string().c_str()); }),
-            std::regex_error(std::regex_constants::error_stack).what());
+  EXPECT_EQ(RunTimeErrorOf([&] { AppendFile(vif, path); }), std::regex_error(std::regex_constants::error_stack).what());
   EXPECT_THAT(Texts(vif), ElementsAre("Any=1 @6.1"));
   EXPECT_EQ(vif.ComponentCount(), 1U);
 }
 
 TEST(OwnTableTest, IsUsedAsItIsAtEachLoad) {
   const TempDir dir;
-  const std::string path = dir.Write("x.txt", "A: 1").string();
+  const std::filesystem::path path = dir.Write("x.txt", "A: 1");
   std::vector<VifFieldDef> table;
   CVendorInfoFile vif(path, &table);
   table.push_back({L"Known", std::wregex(L"A"), {eVifLocComponent}});
-  vif.Append(path.c_str());
+  AppendFile(vif, path);
   EXPECT_THAT(Texts(vif), ElementsAre("A=1", "Known=1 @6.2"));
 }
 

@@ -2,6 +2,7 @@
 #include "BaseUtilities/Exceptions.h"
 #include "VIFInvalidFile.h"
 #include "VendorInfoFile.h"
+#include "support/AppendFile.h"
 #include "support/FieldText.h"
 #include "support/RunTimeErrorOf.h"
 #include "support/TempDir.h"
@@ -19,6 +20,7 @@
 namespace {
 
 using testing::ElementsAre;
+using testsupport::AppendFile;
 using testsupport::RunTimeErrorOf;
 using testsupport::TempDir;
 using testsupport::XmlVif;
@@ -48,9 +50,9 @@ TEST(LoadingXmlTest, TextAndXmlFilesAreNumberedOn) {
   const TempDir dir;
   const std::filesystem::path first = dir.Write("a.txt", "PID: 1\n");
   CVendorInfoFile vif;
-  vif.Append(first.c_str());
-  vif.Append(dir.Write("b.xml", Component(2)).c_str());
-  vif.Append(dir.Write("c.txt", "PID: 3\n").c_str());
+  AppendFile(vif, first);
+  AppendFile(vif, dir.Write("b.xml", Component(2)));
+  AppendFile(vif, dir.Write("c.txt", "PID: 3\n"));
   EXPECT_THAT(Texts(vif), ElementsAre("PID=1 @6.1", "PD_Power_As_Source=2 @6.2", "PID=3 @6.3"));
   EXPECT_EQ(vif.ComponentCount(), 3u);
   EXPECT_EQ(vif.FileName(), first.wstring());
@@ -74,7 +76,7 @@ TEST(LoadingXmlTest, InvalidFileLeavesTheObjectAsItWas) {
   const TempDir dir;
   CVendorInfoFile vif(dir.Write("a.xml", Component(7)));
   const std::filesystem::path path = dir.Write("b.xml", "<VIF/>");
-  EXPECT_EQ(RunTimeErrorOf([&] { vif.Append(path.c_str()); }), path.string() + " is not a valid Vendor Info File.");
+  EXPECT_EQ(RunTimeErrorOf([&] { AppendFile(vif, path); }), path.string() + " is not a valid Vendor Info File.");
   EXPECT_THAT(Texts(vif), ElementsAre("PD_Power_As_Source=7 @6.1"));
   EXPECT_EQ(vif.ComponentCount(), 1u);
 }
@@ -82,7 +84,7 @@ TEST(LoadingXmlTest, InvalidFileLeavesTheObjectAsItWas) {
 TEST(LoadingXmlTest, InvalidFirstFileLeavesTheObjectWithoutAName) {
   const TempDir dir;
   CVendorInfoFile vif;
-  EXPECT_THROW(vif.Append(dir.Write("b.xml", "<VIF/>").c_str()), CVIFInvalidFile);
+  EXPECT_THROW(AppendFile(vif, dir.Write("b.xml", "<VIF/>")), CVIFInvalidFile);
   EXPECT_STREQ(vif.FileName(), L"");
 }
 
@@ -92,7 +94,7 @@ TEST(LoadingXmlTest, FailureInAComponentLeavesWhatCameBefore) {
   const std::filesystem::path path =
       dir.Write("b.xml", XmlVif("<vif:TID>9</vif:TID><vif:Component><vif:A value=\"1\"/></vif:Component>"
                                 "<vif:Component><vif:B value=\"2\"/><vif:Foo><vif:X/></vif:Foo></vif:Component>"));
-  EXPECT_THROW(vif.Append(path.c_str()), CZoDOMDocException);
+  EXPECT_THROW(AppendFile(vif, path), CZoDOMDocException);
   EXPECT_THAT(Texts(vif), ElementsAre("PD_Power_As_Source=7 @6.1", "TID=\"\" ; 9 @1.0", "A=1 @6.2", "B=2 @6.3"));
   EXPECT_EQ(vif.ComponentCount(), 3u);
 }

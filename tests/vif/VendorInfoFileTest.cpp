@@ -2,6 +2,7 @@
 #include "VendorInfoFile.h"
 
 #include "BaseUtilities/Exceptions.h"
+#include "support/AppendFile.h"
 #include "support/FieldText.h"
 #include "support/TempDir.h"
 
@@ -19,12 +20,11 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testsupport::AppendFile;
 using testsupport::FieldTexts;
 using testsupport::TempDir;
 
 std::vector<std::string> Texts(const CVendorInfoFile& vif) { return FieldTexts(*vif.GetFields()); }
-
-void AppendFile(CVendorInfoFile& vif, const std::filesystem::path& path) { vif.Append(path.string().c_str()); }
 
 CVIFField Field(const std::string& name) {
   return {
@@ -163,12 +163,12 @@ TEST_F(VendorInfoFileTest, FileThatCannotBeLoadedGivesNoName) {
 }
 
 TEST_F(VendorInfoFileTest, NamesAreUtf8) {
-  const std::filesystem::path path = m_dir.Write(std::filesystem::path(u8"ger\u00E4t \u4E2D.txt"), "USB_VID: 1");
+  const std::filesystem::path path = m_dir.Write(u8"ger\u00E4t \u4E2D \U0001F50C.txt", "USB_VID: 1");
   const std::u8string utf8 = path.u8string();
   CVendorInfoFile vif;
   vif.Append(std::string(utf8.begin(), utf8.end()).c_str());
   EXPECT_EQ(vif.Count(), 1U);
-  EXPECT_EQ(vif.FileName(), (m_dir.Path() / "").wstring() + L"ger\u00E4t \u4E2D.txt");
+  EXPECT_EQ(vif.FileName(), (m_dir.Path() / "").wstring() + L"ger\u00E4t \u4E2D \U0001F50C.txt");
 }
 
 // Appending fields.

@@ -1,14 +1,19 @@
 // What becomes of an object when memory runs out while it loads an XML VIF. Needs a program of its own, because it is
 // linked with an operator new and an allocation of BSTRs that fail.
-#include "TextlessErrors.h"
 #include "VendorInfoFile.h"
+#include "support/AppendFile.h"
 #include "support/FailingMemory.h"
 
 #include "BaseUtilities/Exceptions.h"
-#include "msxml/ComError.h"
+#include "BaseUtilities/StringConvert.h"
+#include "msxml/ComPointer.h"
 #include "support/FieldText.h"
 #include "support/TempDir.h"
 #include "support/XmlVif.h"
+
+#ifndef _WIN32
+#include "TextlessErrors.h"
+#endif
 
 #include <gtest/gtest.h>
 
@@ -21,6 +26,7 @@
 
 namespace {
 
+using testsupport::AppendFile;
 using testsupport::CFailingMemory;
 using testsupport::Memory;
 
@@ -43,6 +49,13 @@ std::string Document() {
 
 constexpr std::size_t kHeaderSize = 12;
 
+// On Windows, what MSXML allocates for itself does not fail.
+#ifdef _WIN32
+constexpr std::size_t kFewestFailures = 15;
+#else
+constexpr std::size_t kFewestFailures = 30;
+#endif
+
 class XmlMemoryTest : public testing::TestWithParam<Memory> {
  protected:
   XmlMemoryTest() {
@@ -55,7 +68,7 @@ class XmlMemoryTest : public testing::TestWithParam<Memory> {
 
   CVendorInfoFile Loaded() const {
     CVendorInfoFile vif = Begun();
-    vif.Append(m_xml.c_str());
+    AppendFile(vif, m_xml);
     return vif;
   }
 
@@ -92,17 +105,17 @@ TEST_P(XmlMemoryTest, AppendLosesNothingAndAddsTheHeaderWhollyOrNotAtAll) {
     const std::size_t before = vif.Count();
     {
       const CFailingMemory memory(GetParam(), failures + 1);
-      const bool ranOut = RanOutOfMemory([&] { vif.Append(m_xml.c_str()); });
+      const bool ranOut = RanOutOfMemory([&] { AppendFile(vif, m_xml); });
       hasFailed = memory.HasFailed();
       EXPECT_EQ(ranOut, hasFailed) << "allocation " << failures + 1;
     }
     const std::size_t count = vif.Count();
     EXPECT_TRUE(count == before || count >= before + kHeaderSize) << "allocation " << failures + 1;
     EXPECT_EQ(testsupport::FieldTexts(*vif.GetFields()), First(count));
-    vif.Append(m_text.c_str());  // the object is of use as before
+    AppendFile(vif, m_text);  // the object is of use as before
     EXPECT_EQ(vif.Count(), count + before);
   }
-  EXPECT_GT(failures, 30u);
+  EXPECT_GT(failures, kFewestFailures);
 }
 
 INSTANTIATE_TEST_SUITE_P(Memory, XmlMemoryTest, testing::Values(Memory::OperatorNew, Memory::Bstr),
@@ -122,15 +135,24 @@ std::string CreateError(const std::filesystem::path& path) {
 TEST(XmlMemory, ConstructorReportsACallThatFailsByTheFilesName) {
   const testsupport::TempDir dir;
   const std::filesystem::path path = dir.Write("b %s.xml", Document());
-  EXPECT_EQ(CreateError(path), "Vendor Info File Create Exception (file name: \"" + path.string() + "\") - some text");
+#ifdef _WIN32
+  const std::string reason = Utf16ToUtf8(_com_error(E_OUTOFMEMORY).ErrorMessage());
+#else
+  const std::string reason = "some text";
+#endif
+  EXPECT_EQ(CreateError(path), "Vendor Info File Create Exception (file name: \"" + path.string() + "\") - " + reason);
 }
 
 TEST(XmlMemory, ConstructorReportsACallThatFailsWithoutATextByItsCode) {
+#ifdef _WIN32
+  GTEST_SKIP() << "on Windows, every error of COM has a text";
+#else
   const testsupport::TempDir dir;
   const std::filesystem::path path = dir.Write("b.xml", Document());
   const testsupport::CTextlessErrors textless;
   EXPECT_EQ(CreateError(path),
             "Vendor Info File Create Exception (file name: \"" + path.string() + "\") - COM Error Code 0x8007000E");
+#endif
 }
 
 TEST(XmlMemory, ConstructorPassesMemoryThatRunsOutInTheLibrary) {

@@ -8,6 +8,9 @@
 #include <VIFXmlCheck.h>
 
 #include <algorithm>
+#include <fstream>
+#include <ios>
+#include <limits>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -39,11 +42,17 @@ Finding DescribeProblem(const DOMDocProblem& problem) {
           (isNamed ? "" : Quoted(problem.element) + ": ") + Printable(problem.reason)};
 }
 
-Findings DescribeProblems(const std::vector<DOMDocProblem>& problems) {
-  // What concerns no place in the file is none of the file's doing: it cannot be opened, for instance.
-  if (std::none_of(problems.begin(), problems.end(), [](const DOMDocProblem& problem) { return problem.line != 0; })) {
-    throw Failure(problems.empty() ? "is not valid for a reason that is not known" : problems.front().reason);
-  }
+bool CanBeRead(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  file.ignore(std::numeric_limits<std::streamsize>::max());
+  return file.eof() && !file.bad();
+}
+
+Findings DescribeProblems(const std::vector<DOMDocProblem>& problems, const std::filesystem::path& path) {
+  // A reason without a place may be none of the file's doing; MSXML has no places for the schema's reasons, though.
+  const bool hasPlace =
+      std::any_of(problems.begin(), problems.end(), [](const DOMDocProblem& problem) { return problem.line != 0; });
+  if (!hasPlace && !CanBeRead(path)) throw Failure(problems.front().reason);
   Findings findings;
   for (const DOMDocProblem& problem : problems) findings.push_back(DescribeProblem(problem));
   return findings;
@@ -56,7 +65,7 @@ class CFollower {
     try {
       CheckXmlVif(path, [this](const VifElementReport& report) { Take(report); });
     } catch (const CVIFInvalidFile& error) {
-      return {{}, DescribeProblems(error.Problems())};
+      return {{}, DescribeProblems(error.Problems(), path)};
     } catch (const CZoRunTimeException& error) {
       TakeFailure(error);
     } catch (const CZoDOMDocException& error) {

@@ -1,0 +1,31 @@
+// What all example programs have in common. What each of them prints is held by tests of its own.
+#include "support/RunProgram.h"
+#include "support/TempDir.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+class ExampleProgram : public testing::TestWithParam<const char*> {};
+
+TEST_P(ExampleProgram, TakesAFileWithANameOfAnyLanguage) {
+  const testsupport::TempDir dir;
+  const auto file = dir.Write(u8"Gr\u00F6\u00DFe \u96FB\u529B \U0001F50C.txt", "PID: 1\n");
+  const testsupport::ProgramResult result = testsupport::RunProgram({GetParam(), testsupport::NameOf(file)});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error, "");
+}
+
+TEST_P(ExampleProgram, NamesAFileThatIsNotThere) {
+  const testsupport::TempDir dir;
+  const std::string file = testsupport::NameOf(dir.Path() / u8"Gr\u00F6\u00DFe \u96FB.txt");
+  const testsupport::ProgramResult result = testsupport::RunProgram({GetParam(), file});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_NE(result.error.find(": VIF Does not exist. (name: " + file + ")"), std::string::npos) << result.error;
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ExampleProgram, testing::Values(LIST_FIELDS, OWN_FIELD_NAMES, SOURCE_PDOS));
+
+}  // namespace

@@ -1,0 +1,46 @@
+// Tests that validate against the schema of a directory that they set.
+#pragma once
+
+#include "support/Schemas.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+/// A document is validated against `t.xsd` of the directory that is set.
+class CSchemaDirectoryTest : public testing::Test {
+ protected:
+  void TearDown() override { CDOMDoc::SetSchemaDirectory({}); }
+
+  const testsupport::TempDir& Dir() const { return m_dir; }
+
+  /// Makes a directory and sets it.
+  std::filesystem::path UseDirectory(const std::filesystem::path& name) const {
+    std::filesystem::path directory = m_dir.Path() / name;
+    std::filesystem::create_directory(directory);
+    CDOMDoc::SetSchemaDirectory(directory);
+    return directory;
+  }
+
+  /// Writes the schema of that directory, in which the root's content has a type of that name.
+  void WriteSchema(const std::filesystem::path& directory, const std::string& type) const {
+    m_dir.Write(directory / "t.xsd", testsupport::Schema("urn:t", "<xs:element name='n' type='xs:" + type + "'/>"));
+  }
+
+  bool IsValid(const std::string& content) const {
+    CDOMDoc document({{CDOMDoc::MakeFullSchemaPath(L"t.xsd"), L"urn:t"}});
+    return document.ValidateDoc(m_dir.Write("x.xml", "<n xmlns='urn:t'>" + content + "</n>"));
+  }
+
+  /// Makes a directory of that name and validates against the schema in it.
+  void ExpectSchemaIsUsed(const std::filesystem::path& directory) const {
+    UseDirectory(directory);
+    WriteSchema(directory, "integer");
+    EXPECT_TRUE(IsValid("1"));
+    EXPECT_FALSE(IsValid("x"));
+  }
+
+ private:
+  testsupport::TempDir m_dir;
+};

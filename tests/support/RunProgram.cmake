@@ -1,0 +1,11 @@
+# Lets a test program run other programs.
+function(project_use_run_program target)
+  set(folder "${CMAKE_CURRENT_FUNCTION_LIST_DIR}")
+  target_sources(${target} PRIVATE "${folder}/RunProgram.cpp")
+  if(WIN32)
+    target_sources(${target} PRIVATE "${folder}/RunProgramWindows.cpp")
+  else()
+    target_sources(${target} PRIVATE "${folder}/RunProgramPosix.cpp")
+    target_link_libraries(${target} PRIVATE util)
+  endif()
+endfunction()
