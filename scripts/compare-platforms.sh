@@ -13,6 +13,8 @@ windows=("$root/scripts/run-windows.sh" "$root/build/windows/bin/vif.exe")
 work=$here/platforms
 per_run=50
 
+source scripts/wine.sh
+keep_wine_server
 rm -rf "$work"
 mkdir -p "$work"
 "$here/tests/platforms/generate_vifs" "$work/files" "$count"

@@ -5,6 +5,8 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 scripts/setup.sh windows
+source scripts/wine.sh
+keep_wine_server
 scripts/build.sh windows -DVENDORINFOFILE_BUILD_TESTS=ON -DVENDORINFOFILE_PRECOMPILE_TESTS=ON -DVENDORINFOFILE_TEST_OPTIONS=-O0
 echo "==> Running the tests under Wine"
 ctest --preset windows --parallel "$(nproc)" "$@"

@@ -37,7 +37,7 @@ void TryToWrite(CTULog& log, TEST_STATUS status, const Character* format, const 
     Write(log, status, format, arguments...);
   } catch (const std::bad_alloc&) {
     throw;
-  } catch (...) {
+  } catch (...) {  // NOLINT(bugprone-empty-catch): see above
   }
 }
 
@@ -74,7 +74,7 @@ void LoadAndPublish(CTULog& log, const char* fileName) {
   Write(log, kInformation, "Initializing VIF...");
   auto vif = std::make_unique<CVendorInfoFile>(NarrowToPath(fileName));
   CAppState::TestSuiteVIF(vif.get());
-  static_cast<void>(vif.release());  // the application state's from here on
+  static_cast<void>(vif.release());  // NOLINT(bugprone-unused-return-value): the application state's from here on
 }
 
 TEST_STATUS Initialize(const TestSuiteContext& context) {

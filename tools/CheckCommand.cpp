@@ -56,6 +56,7 @@ std::string CodeList() {
 
 Status RunCheck(const CheckOptions& options) {
   std::vector<CheckedFile> files;
+  files.reserve(options.files.size());
   for (const std::string& file : options.files) files.push_back(CheckFile(file));
   if (options.format == "json") {
     WriteFindingsAsJson(files);

@@ -47,7 +47,7 @@ std::optional<std::filesystem::path> FileOfNumber(const std::string& answer, con
 }
 
 std::optional<std::filesystem::path> FileOfPath(const std::string& answer) {
-  const std::filesystem::path file = PathOf(answer);
+  std::filesystem::path file = PathOf(answer);
   std::error_code ignored;
   if (!std::filesystem::is_regular_file(file, ignored)) {
     std::cout << "There is no file " << Printable(answer) << ".\n";

@@ -270,7 +270,7 @@ ReferenceSplit SplitByTheSteps(const std::string& line) {
       ++cut;
       while (cut < trimmed.size() && trimmed[cut] == ';') ++cut;
       if (cut == trimmed.size()) return {trimmed, ""};
-    } while (!(cut <= *firstQuote || cut >= *behindLastQuote));
+    } while (cut > *firstQuote && cut < *behindLastQuote);
   }
 
   std::string content = trimmed.substr(0, cut);

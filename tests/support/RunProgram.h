@@ -17,7 +17,7 @@ struct ProgramResult {
 /// What a program finds when it starts.
 struct ProgramSetting {
   std::filesystem::path directory = {};  ///< where it runs; the test's own directory when empty
-  std::string input = {};                ///< standard input: short text, and then its end
+  std::string input = std::string();     ///< standard input: short text, and then its end
   bool canWrite = true;                  ///< whether standard output takes anything; if not, it is as on a full disk
 };
 
