@@ -1,10 +1,15 @@
 #include "Errors.h"
 
+#include "BaseUtilities/ThreadBuffer.h"
+
 namespace vif {
 
-CSimpleBuffer& MessageBuffer() {
-  thread_local CSimpleBuffer buffer;
-  return buffer;
-}
+namespace {
+
+struct Messages;
+
+}  // namespace
+
+CSimpleBuffer& MessageBuffer() { return ThreadBuffer<Messages>(); }
 
 }  // namespace vif

@@ -1,11 +1,10 @@
 #include "TestUtilities/TULog.h"
 
+#include "BaseUtilities/ThreadBuffer.h"
+
 CTULog::~CTULog() = default;
 
-CSimpleBuffer& CTULog::GetSimpleBuffer() {
-  thread_local CSimpleBuffer buffer;
-  return buffer;
-}
+CSimpleBuffer& CTULog::GetSimpleBuffer() { return ThreadBuffer<CTULog>(); }
 
 eZoLogVerbosity CTULog::GetDefaultLogVerbosity(TEST_STATUS status) noexcept {
   constexpr TEST_STATUS information = 0x4000000;
