@@ -10,7 +10,7 @@ for preset in release windows; do
 done
 
 echo "==> Packages"
+rm -rf build/packages
 mkdir -p build/packages
-rm -f build/packages/*
 mv build/release/*.deb build/release/*.tar.gz build/windows/*.zip build/packages
 ls -l build/packages

@@ -13,16 +13,18 @@ make_wine_prefix() {
   mkdir -p "$WINEPREFIX"
   (
     flock 9
-    [ -e "$WINEPREFIX/made" ] || wine wineboot --init </dev/null >/dev/null 2>&1 9>&- ||
-      { echo "Wine cannot make $WINEPREFIX" >&2; exit 1; }
+    [ ! -e "$WINEPREFIX/made" ] || exit 0
+    wine wineboot --init </dev/null >/dev/null 2>&1 9>&- || { echo "Wine cannot make $WINEPREFIX" >&2; exit 1; }
+    wineserver -w
     touch "$WINEPREFIX/made"
   ) 9>"$WINEPREFIX.lock"
 }
 
 # Keeps Wine's server until the script ends. Otherwise each program that comes when the last one has gone starts it anew,
-# which takes longer, and hands it its output to keep open.
+# which takes longer, and hands it its output to keep open. A server that somebody else keeps serves, too.
 keep_wine_server() {
   make_wine_prefix
-  wineserver -p </dev/null >/dev/null 2>&1 || true  # one that runs already serves, too
-  trap 'wineserver -k' EXIT
+  if wineserver -p </dev/null >/dev/null 2>&1; then
+    trap 'wineserver -k || true' EXIT
+  fi
 }

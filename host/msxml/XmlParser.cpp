@@ -194,7 +194,7 @@ void ReportError(void* data, xmlErrorPtr error) {
   // What concerns the decoding knows no line of its own.
   const int line = error->line > 0 || context.input == nullptr ? error->line : context.input->line;
   AddError(RunOf(context).problems, *error, static_cast<std::size_t>(std::max(line, 0)),
-                              static_cast<std::size_t>(std::max(error->int2, 0)), element);
+           static_cast<std::size_t>(std::max(error->int2, 0)), element);
 }
 
 ContextPointer MakeContext(Run& run) {

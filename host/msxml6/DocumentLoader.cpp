@@ -18,11 +18,13 @@ namespace {
 /// Bytes as COM takes them.
 class CByteArray {
  public:
+  /// \param bytes no more than `kLargestFile`
   explicit CByteArray(std::string_view bytes) {
     m_variant.vt = VT_ARRAY | VT_UI1;
     m_variant.parray = SafeArrayCreateVector(VT_UI1, 0, static_cast<ULONG>(bytes.size()));
     void* data = nullptr;
     if (m_variant.parray == nullptr || FAILED(SafeArrayAccessData(m_variant.parray, &data))) {
+      VariantClear(&m_variant);
       _com_issue_error(E_OUTOFMEMORY);
     }
     if (!bytes.empty()) std::memcpy(data, bytes.data(), bytes.size());
@@ -38,6 +40,7 @@ class CByteArray {
   VARIANT m_variant = {};
 };
 
+/// Nothing can be done when it fails for lack of memory; then the document is of no use anyway.
 void Clear(IXMLDOMDocument2& document) {
   VARIANT_BOOL isLoaded = VARIANT_FALSE;
   document.loadXML(CBstr(L"").get(), &isLoaded);  // fails, and leaves the document empty
@@ -86,6 +89,13 @@ VARIANT Boolean(bool value) {
   return variant;
 }
 
+VARIANT Number(LONG value) {
+  VARIANT variant = {};
+  variant.vt = VT_I4;
+  variant.lVal = value;
+  return variant;
+}
+
 }  // namespace
 
 void Require(HRESULT result, IUnknown& object, REFIID iid) {
@@ -102,17 +112,25 @@ DOMDocument2Ptr MakeDocument() {
   Require(document->put_validateOnParse(VARIANT_FALSE), *document, IID_IXMLDOMDocument2);
   SetProperty(*document, L"ProhibitDTD", Boolean(true));
   SetProperty(*document, L"UseInlineSchema", Boolean(false));
+  SetProperty(*document, L"NormalizeAttributeValues", Boolean(true));
+  SetProperty(*document, L"MaxElementDepth", Number(msxml::kGreatestDepth + 1));  // our own bound is the lower one
   return document;
 }
 
 std::optional<std::vector<Tag>> LoadFile(IXMLDOMDocument2& document, const std::filesystem::path& path,
                                          msxml::CProblems& problems) {
-  if (const std::optional<FileText> file = ReadFileText(path, problems)) {
-    TagScan scan = ScanTags(*file, problems);
-    if (problems.IsEmpty() && LoadBytes(document, file->bytes, scan.mismatch, problems)) {
-      if (!HasDocumentType(document)) return std::move(scan.tags);
-      problems.Add(0, 0, {}, msxml::kDocumentTypeReason);
-    }
+  Clear(document);  // before anything can fail
+  const std::optional<FileText> file = ReadFileText(path, problems);
+  if (!file) return std::nullopt;
+  TagScan scan = ScanTags(*file, problems);
+  if (!problems.IsEmpty() || !LoadBytes(document, file->bytes, scan.mismatch, problems)) return std::nullopt;
+  if (HasDocumentType(document)) {
+    problems.Add(0, 0, {}, msxml::kDocumentTypeReason);
+  } else if (scan.tags.size() < 2) {
+    // Only in another encoding than it was taken for can a document have no tags, and so no bounds.
+    problems.Add(0, 0, {}, "The encoding of the file is not supported here.");
+  } else {
+    return std::move(scan.tags);
   }
   Clear(document);
   return std::nullopt;

@@ -7,8 +7,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <string_view>
-#include <system_error>
 #include <utility>
 
 namespace msxml6 {
@@ -34,21 +34,33 @@ class CFile {
   bool IsOnDisk() const { return GetFileType(m_handle) == FILE_TYPE_DISK; }
 
   /// Appends the next bytes.
-  /// \return whether there were any; with an error, false and `GetLastError` not 0
-  bool Read(std::string& bytes) const {
+  /// \return whether there were any; false at the end and on an error
+  bool Read(std::string& bytes) {
     constexpr DWORD chunk = 1 << 20;
     const std::size_t before = bytes.size();
     bytes.resize(before + chunk);
     DWORD count = 0;
-    SetLastError(ERROR_SUCCESS);
     const BOOL isRead = ReadFile(m_handle, bytes.data() + before, chunk, &count, nullptr);
+    if (isRead == 0) m_error = GetLastError();
     bytes.resize(before + count);
     return isRead != 0 && count != 0;
   }
 
+  /// What reading ended with.
+  DWORD Error() const { return m_error; }
+
  private:
   HANDLE m_handle;
+  DWORD m_error = ERROR_SUCCESS;
 };
+
+/// The system's words for an error.
+std::string SystemErrorText(DWORD code) {
+  wchar_t text[512];
+  constexpr DWORD flags = FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS;
+  const DWORD length = FormatMessageW(flags, nullptr, code, 0, text, static_cast<DWORD>(std::size(text)), nullptr);
+  return length != 0 ? Utf16ToUtf8({text, length}) : "error " + std::to_string(code);
+}
 
 /// The system's words for an error, in the form in which other systems say it where that is possible.
 std::string ErrorText(DWORD code) {
@@ -56,7 +68,7 @@ std::string ErrorText(DWORD code) {
     case ERROR_FILE_NOT_FOUND:
     case ERROR_PATH_NOT_FOUND: return "No such file or directory";
     case ERROR_ACCESS_DENIED: return "Permission denied";
-    default: return std::system_category().message(static_cast<int>(code));
+    default: return SystemErrorText(code);
   }
 }
 
@@ -68,13 +80,13 @@ bool IsDirectory(const std::filesystem::path& path) {
 /// \return what is wrong, as the end of a sentence; empty when nothing is
 std::string ReadBytes(const std::filesystem::path& path, std::string& bytes) {
   if (IsDirectory(path)) return "is not a regular file";
-  const CFile file(path);
+  CFile file(path);
   if (!file.IsOpen()) return "cannot be opened: " + ErrorText(GetLastError());
   if (!file.IsOnDisk()) return "is not a regular file";
   while (file.Read(bytes)) {
+    if (bytes.size() > kLargestFile) return "is too large";
   }
-  const DWORD error = GetLastError();
-  return error == ERROR_SUCCESS ? std::string() : "cannot be read: " + ErrorText(error);
+  return file.Error() == ERROR_SUCCESS ? std::string() : "cannot be read: " + ErrorText(file.Error());
 }
 
 /// What a file begins with tells the order of the bytes of UTF-16.
@@ -117,7 +129,10 @@ std::string_view WithoutMark(std::string_view text) {
 Declaration FindEncoding(std::string_view text) {
   const std::size_t offset = text.size() - WithoutMark(text).size();
   const std::string_view declaration = text.substr(0, std::min(text.find("?>"), text.size()));
-  if (!declaration.substr(offset).starts_with("<?xml")) return {};
+  constexpr std::string_view opening = "<?xml";
+  if (!declaration.substr(offset).starts_with(opening)) return {};
+  // Other instructions begin so, too.
+  if (kBlanks.find(text.substr(offset + opening.size(), 1)) == std::string_view::npos) return {};
   constexpr std::string_view key = "encoding";
   const std::size_t begin = declaration.find(key);
   if (begin == std::string_view::npos) return {};

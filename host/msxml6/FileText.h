@@ -3,11 +3,15 @@
 
 #include "msxml/Problems.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <optional>
 #include <string>
 
 namespace msxml6 {
+
+/// In bytes. Larger files are refused: the numbers that MSXML and its strings count in end at twice that.
+constexpr std::size_t kLargestFile = std::size_t{1} << 30;
 
 /// A file's bytes, and as much of their meaning as it takes to find the tags in them.
 struct FileText {

@@ -13,6 +13,7 @@ std::string Quoted(std::string_view text) { return std::string(1, '\'').append(t
 
 /// What is wrong with a declaration; empty when nothing is.
 std::string CheckDeclaration(std::string_view prefix, std::string_view uri) {
+  if (prefix.find(':') != std::string_view::npos) return Quoted(prefix) + " is no prefix.";
   if (prefix == "xmlns" || uri == kXmlnsNamespace) return "The prefix 'xmlns' cannot be declared.";
   if ((prefix == "xml") != (uri == kXmlNamespace)) return "The prefix 'xml' stands for one namespace only.";
   if (!prefix.empty() && uri.empty()) return "The prefix " + Quoted(prefix) + " is declared for no namespace.";
@@ -65,9 +66,8 @@ std::string CPrefixScope::CheckName(std::string_view name) const {
 }
 
 bool CPrefixScope::IsDeclared(std::string_view prefix) const {
-  return prefix == "xml" || std::any_of(m_declared.rbegin(), m_declared.rend(), [&](const Declaration& declaration) {
-           return declaration.prefix == prefix;
-         });
+  return prefix == "xml" || std::any_of(m_declared.rbegin(), m_declared.rend(),
+                                        [&](const Declaration& declaration) { return declaration.prefix == prefix; });
 }
 
 }  // namespace msxml6

@@ -83,6 +83,7 @@ SchemaCollectionPtr LoadSchemas(const std::vector<SchemaSource>& sources) {
   for (const SchemaSource& source : sources) {
     const DOMDocument2Ptr schema = LoadSchema(source);
     const CBstr uri(source.targetNamespace);
+    SetErrorInfo(0, nullptr);  // what failed before is of no interest
     if (FAILED(schemas->add(uri.get(), ObjectVariant(*schema.GetInterfacePtr())))) {
       ThrowSchemaError(source, LastErrorText());
     }

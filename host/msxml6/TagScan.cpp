@@ -49,6 +49,10 @@ class CScanner {
       const std::size_t length = m_at - begin;
       m_textLength += length - std::min(length, markup);
     } else if (IsAt("<?")) {
+      const std::string_view target = NameBehind(m_at + 2);
+      if (target.substr(0, target.find('?')).find(':') != std::string_view::npos) {
+        return Refuse({}, "The name of a processing instruction has a colon.");
+      }
       TakePiece("<?", "?>");
     } else if (IsAt("<!DOCTYPE")) {
       Refuse(NameBehind(m_text.find_first_not_of(kBlanks, m_at + 9)), msxml::kDocumentTypeReason);

@@ -28,10 +28,10 @@ struct TagScan {
   std::optional<DOMDocProblem> mismatch;  ///< the first start or end tag without the other, if there is one
 };
 
-/// Looks through a file for what MSXML is not to see, would take too long for or does not always find, names whose prefix
-/// is not declared, and for where its elements stand. It knows just enough of XML to find the tags of a well-formed file;
-/// whether it is well-formed is for others to say.
-/// \param problems receives the reason when the file goes beyond the bounds or its prefixes are not right
+/// Looks through a file for what MSXML is not to see, would take too long for or does not always find, names whose
+/// prefix is not declared, and for where its elements stand. It knows just enough of XML to find the tags of a
+/// well-formed file; whether it is well-formed is for others to say. \param problems receives the reason when the file
+/// goes beyond the bounds or its prefixes are not right
 TagScan ScanTags(const FileText& file, msxml::CProblems& problems);
 
 }  // namespace msxml6

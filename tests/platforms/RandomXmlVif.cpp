@@ -19,7 +19,8 @@ constexpr std::string_view kItems[] = {"Usb4Router", "PCIeEndpoint", "SrcPDO",  
 constexpr std::string_view kNumbers[] = {
     "0", "1", "100", "-1", "+7", "007", "4294967296", "18446744073709551615", "18446744073709551616", " 12 "};
 constexpr std::string_view kNumeric[] = {"Src_PDO_Voltage", "Connector_Type", "USB4_Silicon_VID", "Num_Src_PDOs"};
-constexpr std::string_view kBoolean[] = {"USB4_Dock", "Captive_Cable", "Unconstrained_Power", "Chunking_Implemented_SOP"};
+constexpr std::string_view kBoolean[] = {"USB4_Dock", "Captive_Cable", "Unconstrained_Power",
+                                         "Chunking_Implemented_SOP"};
 constexpr std::string_view kBits[] = {"0", "1"};
 constexpr std::string_view kBooleans[] = {"true", "false", "1", "0"};
 constexpr std::string_view kTexts[] = {"",

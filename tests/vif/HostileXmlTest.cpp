@@ -253,7 +253,7 @@ TEST_F(HostileXmlTest, PrefixIsDeclaredInItsTagOrAround) {
 
 TEST_F(HostileXmlTest, PrefixDeclaredForWhatItMayNotStandForIsNotValid) {
   for (const char* content :
-       {"<TID xmlns:p=''/>", "<TID xmlns:xml='u'/>", "<TID xmlns:xmlns='u'/>",
+       {"<TID xmlns:p=''/>", "<TID xmlns:xml='u'/>", "<TID xmlns:a:b='u'/>", "<?a:b c?>", "<TID xmlns:xmlns='u'/>",
         "<TID xmlns:p='http://www.w3.org/XML/1998/namespace'/>", "<TID xmlns:p='http://www.w3.org/2000/xmlns/'/>"}) {
     EXPECT_FALSE(AppendVif(content)) << content;
   }
@@ -306,6 +306,10 @@ TEST_F(HostileXmlTest, Utf8MisspelledIsLoaded) {
   for (const char* name : {"utf8", "UTF8", "Utf8"}) {
     EXPECT_TRUE(Append("<?xml version='1.0' encoding='" + std::string(name) + "'?>" + kField)) << name;
   }
+}
+
+TEST_F(HostileXmlTest, InstructionThatBeginsLikeADeclarationDeclaresNoEncoding) {
+  EXPECT_TRUE(Append("<?xml-stylesheet href='x' encoding='EBCDIC'?>" + kField));
 }
 
 // Attributes could hide in them from the guard that counts them.

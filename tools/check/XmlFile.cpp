@@ -49,6 +49,7 @@ bool CanBeRead(const std::filesystem::path& path) {
 }
 
 Findings DescribeProblems(const std::vector<DOMDocProblem>& problems, const std::filesystem::path& path) {
+  if (problems.empty()) throw Failure("is not valid, and it is not known why");
   // A reason without a place may be none of the file's doing; MSXML has no places for the schema's reasons, though.
   const bool hasPlace =
       std::any_of(problems.begin(), problems.end(), [](const DOMDocProblem& problem) { return problem.line != 0; });
