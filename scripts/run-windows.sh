@@ -5,4 +5,14 @@
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/wine.sh"
 make_wine_prefix
-exec wine "$@"
+if [ -t 1 ]; then exec wine "$@"; fi
+
+# Through files: what Wine starts beside a program, such as its desktop, keeps the program's output open, and whoever reads
+# it from a pipe would wait for its end in vain.
+said=$(mktemp -d)
+trap 'rm -rf "$said"' EXIT
+status=0
+wine "$@" >"$said/output" 2>"$said/error" || status=$?
+cat "$said/output"
+cat "$said/error" >&2
+exit "$status"

@@ -9,5 +9,5 @@ source scripts/wine.sh
 keep_wine_server
 scripts/build.sh windows -DVENDORINFOFILE_BUILD_TESTS=ON -DVENDORINFOFILE_PRECOMPILE_TESTS=ON -DVENDORINFOFILE_TEST_OPTIONS=-O0
 echo "==> Running the tests under Wine"
-# One program in thousands hangs in Wine before it begins; it gets a second try, and only then.
+# A program that Wine does not end gets a second try, and only such a one.
 ctest --preset windows --parallel "$(nproc)" --repeat after-timeout:2 "$@"

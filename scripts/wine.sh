@@ -21,7 +21,7 @@ make_wine_prefix() {
 }
 
 # Keeps Wine's server until the script ends. Otherwise each program that comes when the last one has gone starts it anew,
-# which takes longer, and hands it its output to keep open. A server that somebody else keeps serves, too.
+# which takes longer and sometimes fails. A server that somebody else keeps serves, too.
 keep_wine_server() {
   make_wine_prefix
   if wineserver -p </dev/null >/dev/null 2>&1; then
