@@ -17,8 +17,9 @@ struct ProgramResult {
 /// What a program finds when it starts.
 struct ProgramSetting {
   std::filesystem::path directory = {};  ///< where it runs; the test's own directory when empty
-  std::string input = std::string();     ///< standard input: short text, and then its end
-  bool canWrite = true;                  ///< whether standard output takes anything; if not, it is as on a full disk
+  // With an initialiser of its own, it may be left out where others are named.
+  std::string input = {};  ///< standard input: short text, and then its end NOLINT(readability-redundant-member-init)
+  bool canWrite = true;    ///< whether standard output takes anything; if not, it is as on a full disk
 };
 
 /// Runs a program with its output in pipes.
