@@ -33,8 +33,7 @@ CDOMDocVIF::CDOMDocVIF() : CDOMDoc(Schemas()) {
   RequireRoot(kVifNamespace, L"VIF");
   const CBstr name(L"SelectionNamespaces");
   const CVariant value{CBstr(SelectionNamespaces())};
-  const HRESULT result = Document().setProperty(name.get(), value.get());
-  if (FAILED(result)) _com_issue_errorex(result, &Document(), IID_IXMLDOMDocument2);
+  RequireSuccess(Document().setProperty(name.get(), value.get()), Document(), IID_IXMLDOMDocument2);
 }
 
 CDOMDocVIF::~CDOMDocVIF() = default;

@@ -1,6 +1,7 @@
 // CDOMDoc where there is no MSXML.
 #include "BaseUtilities/StringConvert.h"
 #include "TestUtilities/DOMDoc.h"
+#include "TestUtilities/DOMDocReasons.h"
 #include "TestUtilities/WidePath.h"
 #include "msxml/DomDocument.h"
 #include "msxml/ElementPaths.h"
@@ -38,11 +39,8 @@ void CheckRoot(const msxml::CXmlTree& tree, const std::string* namespaceUri, con
   const std::string_view rootNamespace = root.ns != nullptr ? View(root.ns->href) : std::string_view();
   if (name.empty() || (View(root.name) == name && (namespaceUri == nullptr || rootNamespace == *namespaceUri))) return;
   const msxml::Position* position = tree.Locate(&root);
-  std::string reason = "The root element is '" + std::string(View(root.name)) + "' in ";
-  reason += rootNamespace.empty() ? "no namespace" : "the namespace '" + std::string(rootNamespace) + "'";
-  reason += ", not '" + name + "'";
-  if (namespaceUri != nullptr) reason += " in the namespace '" + *namespaceUri + "'";
-  problems.Add(position->line, position->column, View(root.name), reason + ".");
+  problems.Add(position->line, position->column, View(root.name),
+               WrongRootReason(View(root.name), rootNamespace, name, namespaceUri));
 }
 
 }  // namespace
@@ -97,8 +95,7 @@ bool CDOMDoc::ValidateDoc(const std::filesystem::path& file) {
 
 DOMElementPtr CDOMDoc::GetRootElement() const {
   DOMElementPtr root;
-  const HRESULT result = m_content->document->get_documentElement(root.Receive());
-  if (FAILED(result)) _com_issue_errorex(result, &Document(), IID_IXMLDOMDocument2);
+  RequireSuccess(Document().get_documentElement(root.Receive()), Document(), IID_IXMLDOMDocument2);
   return root;
 }
 

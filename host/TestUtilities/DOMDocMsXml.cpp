@@ -1,6 +1,7 @@
 // CDOMDoc over MSXML 6.
 #include "BaseUtilities/StringConvert.h"
 #include "TestUtilities/DOMDoc.h"
+#include "TestUtilities/DOMDocReasons.h"
 #include "TestUtilities/WidePath.h"
 #include "msxml6/DocumentLoader.h"
 #include "msxml6/ElementPlaces.h"
@@ -11,8 +12,8 @@
 
 struct CDOMDoc::Content {
   std::vector<msxml6::SchemaSource> schemas;
-  std::wstring rootNamespace;  // with rootName: what the root must be; any when rootName is empty
-  std::wstring rootName;
+  std::string rootNamespace;  // with rootName: what the root must be; any when rootName is empty
+  std::string rootName;
   std::filesystem::path file;
   std::vector<DOMDocProblem> problems;
   DOMDocument2Ptr document = msxml6::MakeDocument();
@@ -24,31 +25,29 @@ struct CDOMDoc::Content {
 
 namespace {
 
-std::wstring Received(HRESULT result, IXMLDOMNode& node, const CBstr& text) {
-  msxml6::Require(result, node, IID_IXMLDOMNode);
-  return std::wstring(text.View());
+/// What a call has put into a text, as UTF-8.
+std::string Received(HRESULT result, IXMLDOMNode& node, const CBstr& text) {
+  RequireSuccess(result, node, IID_IXMLDOMNode);
+  return Utf16ToUtf8(text.View());
 }
 
 DOMElementPtr RootOf(IXMLDOMDocument2& document) {
   DOMElementPtr root;
-  msxml6::Require(document.get_documentElement(root.Receive()), document, IID_IXMLDOMDocument2);
+  RequireSuccess(document.get_documentElement(root.Receive()), document, IID_IXMLDOMDocument2);
   return root;
 }
 
 /// Adds a problem when the root is not the element asked for.
 /// \param namespaceUri null when any will do
-void CheckRoot(IXMLDOMDocument2& document, const std::vector<msxml6::Tag>& tags, const std::wstring* namespaceUri,
-               const std::wstring& name, msxml::CProblems& problems) {
+void CheckRoot(IXMLDOMDocument2& document, const std::vector<msxml6::Tag>& tags, const std::string* namespaceUri,
+               const std::string& name, msxml::CProblems& problems) {
   const DOMElementPtr root = RootOf(document);
   CBstr text;
-  const std::wstring rootName = Received(root->get_baseName(text.Receive()), *root, text);
-  const std::wstring rootNamespace = Received(root->get_namespaceURI(text.Receive()), *root, text);
-  if (name.empty() || (rootName == name && (namespaceUri == nullptr || rootNamespace == *namespaceUri))) return;
-  std::wstring reason = L"The root element is '" + rootName + L"' in ";
-  reason += rootNamespace.empty() ? L"no namespace" : L"the namespace '" + rootNamespace + L"'";
-  reason += L", not '" + name + L"'";
-  if (namespaceUri != nullptr) reason += L" in the namespace '" + *namespaceUri + L"'";
-  problems.Add(tags.at(1).line, tags.at(1).column, Utf16ToUtf8(rootName), Utf16ToUtf8(reason + L"."));
+  const std::string actualName = Received(root->get_baseName(text.Receive()), *root, text);
+  const std::string actualNamespace = Received(root->get_namespaceURI(text.Receive()), *root, text);
+  if (name.empty() || (actualName == name && (namespaceUri == nullptr || actualNamespace == *namespaceUri))) return;
+  problems.Add(tags.at(1).line, tags.at(1).column, actualName,
+               WrongRootReason(actualName, actualNamespace, name, namespaceUri));
 }
 
 }  // namespace
@@ -75,7 +74,7 @@ bool CDOMDoc::CanLoadDoc(const std::wstring& fileName, const std::wstring& rootN
   const DOMDocument2Ptr document = msxml6::MakeDocument();
   msxml::CProblems found;
   const auto tags = msxml6::LoadFile(*document, WideToPath(fileName), found);
-  if (tags) CheckRoot(*document, *tags, nullptr, rootName, found);
+  if (tags) CheckRoot(*document, *tags, nullptr, Utf16ToUtf8(rootName), found);
   m_content->problems = found.Take();
   return m_content->problems.empty() && (!validate || m_content->Validate(*document, *tags));
 }
@@ -115,6 +114,6 @@ std::string CDOMDoc::PathOf(IXMLDOMNode& node) const {
 IXMLDOMDocument2& CDOMDoc::Document() const noexcept { return *m_content->document.GetInterfacePtr(); }
 
 void CDOMDoc::RequireRoot(const std::wstring& namespaceUri, const std::wstring& localName) {
-  m_content->rootNamespace = namespaceUri;
-  m_content->rootName = localName;
+  m_content->rootNamespace = Utf16ToUtf8(namespaceUri);
+  m_content->rootName = Utf16ToUtf8(localName);
 }

@@ -14,6 +14,15 @@
 #include <string_view>
 #include <utility>
 
+/// Raises a call's failure.
+/// \param result what the call gave
+/// \param object what it was made on
+/// \param iid the interface of it that the error names
+/// \throws _com_error when the result is that of a failure
+inline void RequireSuccess(HRESULT result, IUnknown& object, REFIID iid) {
+  if (FAILED(result)) _com_issue_errorex(result, &object, iid);
+}
+
 /// A counted interface pointer; empty, or one reference of its own.
 template <typename Interface>
 class CComPointer {

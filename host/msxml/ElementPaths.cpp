@@ -1,7 +1,6 @@
 #include "msxml/ElementPaths.h"
 
-#include "BaseUtilities/StringConvert.h"
-
+#include "TestUtilities/DOMDocReasons.h"
 #include "msxml/XmlText.h"
 
 #include <map>
@@ -9,13 +8,6 @@
 #include <utility>
 
 namespace msxml {
-
-namespace {
-
-/// A path names each element for people, and a file may have it in all its paths.
-constexpr std::size_t kLongestName = 100;
-
-}  // namespace
 
 CElementPaths::CElementPaths(const CXmlTree& tree) : m_numbers(tree.ElementCount() + 1) {
   std::vector<const xmlNode*> parents = {tree.Root()};
@@ -47,14 +39,9 @@ void CElementPaths::NumberChildren(const xmlNode& parent) {
 }
 
 std::string CElementPaths::PathOf(const xmlNode& element) const {
-  const std::string_view name = View(element.name);
-  std::string path = Utf16ToUtf8(Utf8ToUtf16(name.substr(0, kLongestName)));
-  if (name.size() > kLongestName) path += "...";
-  if (const std::uint32_t number = m_numbers[CXmlTree::NumberOf(element)]; number != 0) {
-    path += '[' + std::to_string(number) + ']';
-  }
+  const std::string step = PathStep(View(element.name), m_numbers[CXmlTree::NumberOf(element)]);
   const xmlNode* parent = element.parent;
-  return parent != nullptr && parent->type == XML_ELEMENT_NODE ? PathOf(*parent) + '/' + path : path;
+  return parent != nullptr && parent->type == XML_ELEMENT_NODE ? PathOf(*parent) + '/' + step : step;
 }
 
 }  // namespace msxml

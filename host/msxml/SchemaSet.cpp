@@ -1,7 +1,6 @@
 #include "msxml/SchemaSet.h"
 
-#include "BaseUtilities/Exceptions.h"
-#include "BaseUtilities/SimpleBuffer.h"
+#include "TestUtilities/DOMDocReasons.h"
 #include "msxml/ThreadErrors.h"
 #include "msxml/XmlError.h"
 #include "msxml/XmlParser.h"
@@ -48,11 +47,6 @@ std::string ImportingSchema(const std::vector<SchemaSource>& sources) {
   return schema + "</xs:schema>";
 }
 
-[[noreturn]] void ThrowSchemaError(const std::string& what) {
-  CSimpleBuffer message;
-  throw CZoDOMDocException(message.Printf("Couldn't load the schema %s", what));
-}
-
 std::string_view AttributeOf(const xmlNode& element, std::string_view name) {
   for (const xmlAttr* attribute = element.properties; attribute != nullptr; attribute = attribute->next) {
     if (attribute->ns != nullptr || View(attribute->name) != name) continue;
@@ -65,15 +59,9 @@ std::string_view AttributeOf(const xmlNode& element, std::string_view name) {
 void CheckSource(const SchemaSource& source) {
   CProblems problems;
   const std::shared_ptr<const CXmlTree> tree = ParseXmlFile(source.file, problems);
-  if (tree == nullptr) {
-    const DOMDocProblem problem = problems.Take().front();
-    const std::string line = problem.line != 0 ? ": line " + std::to_string(problem.line) : std::string();
-    ThrowSchemaError(source.file.native() + line + ": " + problem.reason);
-  }
-  const std::string_view described = AttributeOf(*tree->Root(), "targetNamespace");
-  if (described == source.targetNamespace) return;
-  ThrowSchemaError(source.file.native() + ": it describes the namespace '" + std::string(described) + "', not '" +
-                   source.targetNamespace + "'");
+  if (tree == nullptr) ThrowSchemaError(source.file.native(), problems.Take().front());
+  RequireNamespace(source.file.native(), std::string(AttributeOf(*tree->Root(), "targetNamespace")),
+                   source.targetNamespace);
 }
 
 struct Validation {

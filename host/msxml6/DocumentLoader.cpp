@@ -61,10 +61,10 @@ DOMDocProblem Malformedness(const std::optional<DOMDocProblem>& said, const std:
 bool LoadBytes(IXMLDOMDocument2& document, const std::string& bytes, const std::optional<DOMDocProblem>& mismatch,
                msxml::CProblems& problems) {
   VARIANT_BOOL isLoaded = VARIANT_FALSE;
-  Require(document.load(CByteArray(bytes).get(), &isLoaded), document, IID_IXMLDOMDocument2);
+  RequireSuccess(document.load(CByteArray(bytes).get(), &isLoaded), document, IID_IXMLDOMDocument2);
   if (isLoaded != VARIANT_FALSE) return true;
   CComPointer<IXMLDOMParseError> error;
-  Require(document.get_parseError(error.Receive()), document, IID_IXMLDOMDocument2);
+  RequireSuccess(document.get_parseError(error.Receive()), document, IID_IXMLDOMDocument2);
   const DOMDocProblem problem = Malformedness(ProblemOf(*error), mismatch);
   problems.Add(problem.line, problem.column, problem.element, problem.reason);
   return false;
@@ -73,7 +73,7 @@ bool LoadBytes(IXMLDOMDocument2& document, const std::string& bytes, const std::
 /// Not every MSXML heeds "ProhibitDTD".
 bool HasDocumentType(IXMLDOMDocument2& document) {
   CComPointer<IXMLDOMDocumentType> type;
-  Require(document.get_doctype(type.Receive()), document, IID_IXMLDOMDocument2);
+  RequireSuccess(document.get_doctype(type.Receive()), document, IID_IXMLDOMDocument2);
   return static_cast<bool>(type);
 }
 
@@ -98,18 +98,14 @@ VARIANT Number(LONG value) {
 
 }  // namespace
 
-void Require(HRESULT result, IUnknown& object, REFIID iid) {
-  if (FAILED(result)) _com_issue_errorex(result, &object, iid);
-}
-
 DOMDocument2Ptr MakeDocument() {
   DOMDocument2Ptr document;
   void** place = reinterpret_cast<void**>(document.Receive());
   const HRESULT result = CoCreateInstance(kDocumentClass, nullptr, CLSCTX_INPROC_SERVER, IID_IXMLDOMDocument2, place);
   if (FAILED(result)) _com_issue_errorex(result, nullptr, IID_IXMLDOMDocument2);
-  Require(document->put_async(VARIANT_FALSE), *document, IID_IXMLDOMDocument2);
-  Require(document->put_resolveExternals(VARIANT_FALSE), *document, IID_IXMLDOMDocument2);
-  Require(document->put_validateOnParse(VARIANT_FALSE), *document, IID_IXMLDOMDocument2);
+  RequireSuccess(document->put_async(VARIANT_FALSE), *document, IID_IXMLDOMDocument2);
+  RequireSuccess(document->put_resolveExternals(VARIANT_FALSE), *document, IID_IXMLDOMDocument2);
+  RequireSuccess(document->put_validateOnParse(VARIANT_FALSE), *document, IID_IXMLDOMDocument2);
   SetProperty(*document, L"ProhibitDTD", Boolean(true));
   SetProperty(*document, L"UseInlineSchema", Boolean(false));
   SetProperty(*document, L"NormalizeAttributeValues", Boolean(true));
@@ -138,14 +134,14 @@ std::optional<std::vector<Tag>> LoadFile(IXMLDOMDocument2& document, const std::
 
 std::optional<DOMDocProblem> ProblemOf(IXMLDOMParseError& error) {
   LONG code = 0;
-  Require(error.get_errorCode(&code), error, IID_IXMLDOMParseError);
+  RequireSuccess(error.get_errorCode(&code), error, IID_IXMLDOMParseError);
   if (code == 0) return std::nullopt;
   CBstr reason;
   LONG line = 0;
   LONG column = 0;
-  Require(error.get_reason(reason.Receive()), error, IID_IXMLDOMParseError);
-  Require(error.get_line(&line), error, IID_IXMLDOMParseError);
-  Require(error.get_linepos(&column), error, IID_IXMLDOMParseError);
+  RequireSuccess(error.get_reason(reason.Receive()), error, IID_IXMLDOMParseError);
+  RequireSuccess(error.get_line(&line), error, IID_IXMLDOMParseError);
+  RequireSuccess(error.get_linepos(&column), error, IID_IXMLDOMParseError);
   return DOMDocProblem{static_cast<std::size_t>(std::max(line, LONG{0})),
                        static_cast<std::size_t>(std::max(column, LONG{0})),
                        {},

@@ -26,7 +26,4 @@ std::optional<std::vector<Tag>> LoadFile(IXMLDOMDocument2& document, const std::
 /// What MSXML says is wrong; its reason may be empty. Nothing when all is well.
 std::optional<DOMDocProblem> ProblemOf(IXMLDOMParseError& error);
 
-/// \throws _com_error that names the interface when the result is that of a call that failed
-void Require(HRESULT result, IUnknown& object, REFIID iid);
-
 }  // namespace msxml6

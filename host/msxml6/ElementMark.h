@@ -12,7 +12,7 @@ class CElementMark {
  public:
   /// \throws _com_error
   explicit CElementMark(IXMLDOMElement& element) : m_element(element), m_name(kName) {
-    Require(m_element.getAttribute(m_name.get(), m_before.Receive()), m_element, IID_IXMLDOMElement);
+    RequireSuccess(m_element.getAttribute(m_name.get(), m_before.Receive()), m_element, IID_IXMLDOMElement);
     Set(kMark);
   }
   CElementMark(const CElementMark&) = delete;
@@ -44,12 +44,12 @@ class CElementMark {
 
   void Set(const wchar_t* mark) {
     const CVariant value{CBstr(mark)};
-    Require(m_element.setAttribute(m_name.get(), value.get()), m_element, IID_IXMLDOMElement);
+    RequireSuccess(m_element.setAttribute(m_name.get(), value.get()), m_element, IID_IXMLDOMElement);
   }
 
   bool IsMarked(IXMLDOMElement& element, const wchar_t* mark) const {
     CVariant value;
-    Require(element.getAttribute(m_name.get(), value.Receive()), element, IID_IXMLDOMElement);
+    RequireSuccess(element.getAttribute(m_name.get(), value.Receive()), element, IID_IXMLDOMElement);
     return value.Text() == mark;
   }
 

@@ -1,6 +1,7 @@
 #include "msxml6/ElementPlaces.h"
 
 #include "BaseUtilities/StringConvert.h"
+#include "TestUtilities/DOMDocReasons.h"
 #include "msxml6/DocumentLoader.h"
 #include "msxml6/ElementMark.h"
 
@@ -13,9 +14,6 @@ namespace msxml6 {
 
 namespace {
 
-/// A path names each element for people, and a file may have it in all its paths.
-constexpr std::size_t kLongestName = 100;
-
 /// Empty when the node is none.
 DOMElementPtr AsElement(IXMLDOMNode& node) {
   DOMElementPtr element;
@@ -27,7 +25,7 @@ using Step = HRESULT (STDMETHODCALLTYPE IXMLDOMNode::*)(IXMLDOMNode**);
 
 DOMNodePtr Take(IXMLDOMNode& node, Step step) {
   DOMNodePtr next;
-  Require((node.*step)(next.Receive()), node, IID_IXMLDOMNode);
+  RequireSuccess((node.*step)(next.Receive()), node, IID_IXMLDOMNode);
   return next;
 }
 
@@ -52,32 +50,24 @@ DOMElementPtr ElementAround(IXMLDOMElement& element) {
 /// The element itself, or the one that an attribute belongs to; empty for anything else.
 DOMElementPtr ElementOf(IXMLDOMNode& node) {
   DOMNodeType type = NODE_INVALID;
-  Require(node.get_nodeType(&type), node, IID_IXMLDOMNode);
+  RequireSuccess(node.get_nodeType(&type), node, IID_IXMLDOMNode);
   if (type != NODE_ATTRIBUTE) return AsElement(node);
   DOMNodePtr around;
-  Require(node.selectSingleNode(CBstr(L"..").get(), around.Receive()), node, IID_IXMLDOMNode);
+  RequireSuccess(node.selectSingleNode(CBstr(L"..").get(), around.Receive()), node, IID_IXMLDOMNode);
   return around ? AsElement(*around) : nullptr;
 }
 
 std::wstring BaseName(IXMLDOMElement& element) {
   CBstr name;
-  Require(element.get_baseName(name.Receive()), element, IID_IXMLDOMNode);
+  RequireSuccess(element.get_baseName(name.Receive()), element, IID_IXMLDOMNode);
   return std::wstring(name.View());
 }
 
 /// The namespace and the name in it.
 std::pair<std::wstring, std::wstring> FullName(IXMLDOMElement& element) {
   CBstr uri;
-  Require(element.get_namespaceURI(uri.Receive()), element, IID_IXMLDOMNode);
+  RequireSuccess(element.get_namespaceURI(uri.Receive()), element, IID_IXMLDOMNode);
   return {std::wstring(uri.View()), BaseName(element)};
-}
-
-std::string StepText(IXMLDOMElement& element, std::uint32_t number) {
-  const std::string name = Utf16ToUtf8(BaseName(element));
-  std::string step = Utf16ToUtf8(Utf8ToUtf16(std::string_view(name).substr(0, kLongestName)));
-  if (name.size() > kLongestName) step += "...";
-  if (number != 0) step += '[' + std::to_string(number) + ']';
-  return step;
 }
 
 }  // namespace
@@ -97,7 +87,7 @@ std::string CElementPlaces::PathOf(IXMLDOMNode& node) {
   for (std::size_t depth = 0; depth < m_way.size(); ++depth) {
     NumberNamesakes(depth);
     if (depth != 0) path += '/';
-    path += StepText(*m_way[depth].element, m_numbers[m_way[depth].tag]);
+    path += PathStep(Utf16ToUtf8(BaseName(*m_way[depth].element)), m_numbers[m_way[depth].tag]);
   }
   return path;
 }
@@ -134,7 +124,7 @@ CElementPlaces::Place CElementPlaces::FirstOf(std::size_t depth) const {
     return {ElementFrom(Take(*around.element, &IXMLDOMNode::get_firstChild)), m_tags[around.tag].firstChild};
   }
   Place root{nullptr, m_tags[Tag::kNone].firstChild};
-  Require(m_document.get_documentElement(root.element.Receive()), m_document, IID_IXMLDOMDocument2);
+  RequireSuccess(m_document.get_documentElement(root.element.Receive()), m_document, IID_IXMLDOMDocument2);
   return root;
 }
 

@@ -1,8 +1,7 @@
 #include "msxml6/SchemaCache.h"
 
-#include "BaseUtilities/Exceptions.h"
-#include "BaseUtilities/SimpleBuffer.h"
 #include "BaseUtilities/StringConvert.h"
+#include "TestUtilities/DOMDocReasons.h"
 #include "TestUtilities/WidePath.h"
 #include "msxml6/DocumentLoader.h"
 #include "msxml6/MsXmlIds.h"
@@ -16,12 +15,6 @@ namespace {
 
 using SchemaCollectionPtr = CComPointer<IXMLDOMSchemaCollection>;
 
-[[noreturn]] void ThrowSchemaError(const SchemaSource& source, const std::string& reason) {
-  CSimpleBuffer message;
-  const std::string file = Utf16ToUtf8(PathToWide(source.file));
-  throw CZoDOMDocException(message.Printf("Couldn't load the schema %s: %s", file, reason));
-}
-
 /// An object as an argument; borrowed.
 VARIANT ObjectVariant(IDispatch& object) {
   VARIANT variant = {};
@@ -32,7 +25,7 @@ VARIANT ObjectVariant(IDispatch& object) {
 
 std::wstring TargetNamespace(IXMLDOMDocument2& schema) {
   CComPointer<IXMLDOMElement> root;
-  Require(schema.get_documentElement(root.Receive()), schema, IID_IXMLDOMDocument2);
+  RequireSuccess(schema.get_documentElement(root.Receive()), schema, IID_IXMLDOMDocument2);
   CVariant value;
   const HRESULT result = root->getAttribute(CBstr(L"targetNamespace").get(), value.Receive());
   return result == S_OK ? std::wstring(value.Text()) : std::wstring();
@@ -45,24 +38,17 @@ bool RefersToFiles(IXMLDOMDocument2& schema) {
       L"//*[namespace-uri()='http://www.w3.org/2001/XMLSchema' and @schemaLocation and "
       L"(local-name()='include' or local-name()='import' or local-name()='redefine')]";
   DOMNodePtr found;
-  Require(schema.selectSingleNode(CBstr(xpath).get(), found.Receive()), schema, IID_IXMLDOMDocument2);
+  RequireSuccess(schema.selectSingleNode(CBstr(xpath).get(), found.Receive()), schema, IID_IXMLDOMDocument2);
   return static_cast<bool>(found);
 }
 
 DOMDocument2Ptr LoadSchema(const SchemaSource& source) {
   DOMDocument2Ptr schema = MakeDocument();
   msxml::CProblems problems;
-  if (!LoadFile(*schema, source.file, problems)) {
-    const DOMDocProblem problem = problems.Take().front();
-    const std::string line = problem.line != 0 ? "line " + std::to_string(problem.line) + ": " : std::string();
-    ThrowSchemaError(source, line + problem.reason);
-  }
-  const std::wstring described = TargetNamespace(*schema);
-  if (described != source.targetNamespace) {
-    ThrowSchemaError(source, "it describes the namespace '" + Utf16ToUtf8(described) + "', not '" +
-                                 Utf16ToUtf8(source.targetNamespace) + "'");
-  }
-  if (RefersToFiles(*schema)) ThrowSchemaError(source, "it has parts in other files, which is not supported here");
+  const std::string file = Utf16ToUtf8(PathToWide(source.file));
+  if (!LoadFile(*schema, source.file, problems)) ThrowSchemaError(file, problems.Take().front());
+  RequireNamespace(file, Utf16ToUtf8(TargetNamespace(*schema)), Utf16ToUtf8(source.targetNamespace));
+  if (RefersToFiles(*schema)) ThrowSchemaError(file + ": it has parts in other files, which is not supported here");
   return schema;
 }
 
@@ -85,7 +71,7 @@ SchemaCollectionPtr LoadSchemas(const std::vector<SchemaSource>& sources) {
     const CBstr uri(source.targetNamespace);
     SetErrorInfo(0, nullptr);  // what failed before is of no interest
     if (FAILED(schemas->add(uri.get(), ObjectVariant(*schema.GetInterfacePtr())))) {
-      ThrowSchemaError(source, LastErrorText());
+      ThrowSchemaError(Utf16ToUtf8(PathToWide(source.file)) + ": " + LastErrorText());
     }
   }
   return schemas;
@@ -95,9 +81,9 @@ SchemaCollectionPtr LoadSchemas(const std::vector<SchemaSource>& sources) {
 
 void Validate(IXMLDOMDocument2& document, const std::vector<SchemaSource>& sources, msxml::CProblems& problems) {
   const SchemaCollectionPtr schemas = LoadSchemas(sources);
-  Require(document.putref_schemas(ObjectVariant(*schemas)), document, IID_IXMLDOMDocument2);
+  RequireSuccess(document.putref_schemas(ObjectVariant(*schemas)), document, IID_IXMLDOMDocument2);
   CComPointer<IXMLDOMParseError> error;
-  Require(document.validate(error.Receive()), document, IID_IXMLDOMDocument2);
+  RequireSuccess(document.validate(error.Receive()), document, IID_IXMLDOMDocument2);
   const std::optional<DOMDocProblem> problem = ProblemOf(*error);
   if (!problem) return;
   problems.Add(problem->line, problem->column, {},

@@ -80,7 +80,7 @@ class CScanner {
     std::vector<Tag>& tags = m_scan.tags;
     const auto number = static_cast<std::uint32_t>(tags.size());
     const std::uint32_t parent = m_open.empty() ? Tag::kNone : m_open.back().tag;
-    tags.push_back({m_line, m_column, parent, Tag::kNone, Tag::kNone, Tag::kNone});
+    tags.push_back({m_line, m_column, Tag::kNone, Tag::kNone, Tag::kNone});
     Tag& around = tags[parent];
     (around.firstChild == Tag::kNone ? around.firstChild : tags[around.lastChild].nextSibling) = number;
     around.lastChild = number;

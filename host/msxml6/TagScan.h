@@ -14,9 +14,8 @@ namespace msxml6 {
 struct Tag {
   static constexpr std::uint32_t kNone = 0;  // the document stands there
 
-  std::uint32_t line = 0;    ///< where it begins, from 1
-  std::uint32_t column = 0;  ///< in characters, from 1
-  std::uint32_t parent = kNone;
+  std::uint32_t line = 0;            ///< where it begins, from 1
+  std::uint32_t column = 0;          ///< in characters, from 1
   std::uint32_t firstChild = kNone;  ///< of the elements in it
   std::uint32_t lastChild = kNone;
   std::uint32_t nextSibling = kNone;  ///< the next element beside it

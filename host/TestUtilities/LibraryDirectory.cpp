@@ -1,26 +1,13 @@
 #include "TestUtilities/LibraryDirectory.h"
 
-#include <windows.h>
+#include "TestUtilities/LibraryFile.h"
 
 #include <exception>
-#include <string>
+#include <system_error>
 
 namespace {
 
 namespace fs = std::filesystem;
-
-/// The path of the file that this code was loaded from; empty when the system does not tell.
-std::wstring LibraryFile() {
-  HMODULE library = nullptr;
-  constexpr DWORD flags = GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
-  if (GetModuleHandleExW(flags, reinterpret_cast<const wchar_t*>(&LibraryDirectories), &library) == 0) return {};
-  constexpr std::size_t longestPath = 32'768;
-  for (std::wstring name(MAX_PATH, L'\0'); name.size() <= longestPath; name.resize(2 * name.size())) {
-    const DWORD length = GetModuleFileNameW(library, name.data(), static_cast<DWORD>(name.size()));
-    if (length < name.size()) return name.substr(0, length);
-  }
-  return {};
-}
 
 std::vector<fs::path> Find() {
   const fs::path loaded = LibraryFile();

@@ -1,0 +1,8 @@
+// The file of this library.
+#pragma once
+
+#include <filesystem>
+
+/// The absolute path by which this library was loaded; empty when the system does not tell.
+/// \throws std::exception
+std::filesystem::path LibraryFile();
