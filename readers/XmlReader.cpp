@@ -104,7 +104,7 @@ class CExtraction {
 
   /// A header field that is made of texts.
   void AddText(IXMLDOMNode& element, const std::string& name, const std::string& text) {
-    Add(element, CVIFField(false, name, text, text, kVifSlots), m_header);
+    Add(element, m_header, false, name, text, text, kVifSlots);
   }
 
   /// A leaf is a field. It is numeric when it has a value, whatever that is.
@@ -118,12 +118,13 @@ class CExtraction {
       value.emplace(1, isTrue ? '1' : '0');
       if (description.empty()) description = isTrue ? kYes : kNo;
     }
-    Add(element, CVIFField(value.has_value(), name, value.value_or(std::string()), description, slots), fields);
+    Add(element, fields, value.has_value(), name, value.value_or(std::string()), description, slots);
   }
 
-  void Add(IXMLDOMNode& element, CVIFField field, std::vector<CVIFField>& fields) {
-    if (m_observer != nullptr) m_observer->onField(element, field);
-    fields.push_back(std::move(field));
+  void Add(IXMLDOMNode& element, std::vector<CVIFField>& fields, bool isNumeric, const std::string& name,
+           const std::string& value, const std::string& description, const Slots& slots) {
+    fields.emplace_back(isNumeric, name, value, description, slots);
+    if (m_observer != nullptr) m_observer->onField(element, fields.back());
   }
 
   /// Reads the items of one list, which is no deeper than there are slots: all leaves of an item first, then the lists

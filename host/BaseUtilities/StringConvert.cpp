@@ -1,5 +1,7 @@
 #include "BaseUtilities/StringConvert.h"
 
+#include "BaseUtilities/Ascii.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -98,8 +100,9 @@ void AppendUtf8(std::string& out, char32_t codePoint) {
 }  // namespace
 
 std::wstring Utf8ToUtf16(std::string_view text) {
-  std::wstring out;
-  out.reserve(text.size());
+  std::wstring out(text.size(), L'\0');
+  if (CopyAscii(text, out.data())) return out;
+  out.clear();
   while (!text.empty()) {
     const Decoded next = DecodeUtf8(text);
     AppendWide(out, next.codePoint);
@@ -109,8 +112,9 @@ std::wstring Utf8ToUtf16(std::string_view text) {
 }
 
 std::string Utf16ToUtf8(std::wstring_view text) {
-  std::string out;
-  out.reserve(text.size());
+  std::string out(text.size(), '\0');
+  if (CopyAscii(text, out.data())) return out;
+  out.clear();
   while (!text.empty()) {
     const Decoded next = DecodeWide(text);
     AppendUtf8(out, next.codePoint);

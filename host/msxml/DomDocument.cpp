@@ -20,7 +20,7 @@ std::wstring_view View(BSTR text) { return {text != nullptr ? text : L"", SysStr
 CDomDocument::CDomDocument() : m_state(std::make_shared<const DocumentState>()) {}
 
 void CDomDocument::SetTree(std::shared_ptr<const CXmlTree> tree) {
-  m_state = std::make_shared<const DocumentState>(DocumentState{std::move(tree), m_state->prefixes});
+  m_state = std::make_shared<const DocumentState>(DocumentState{std::move(tree), m_state->prefixes, {}, {}});
 }
 
 xmlNode* CDomDocument::Node() const {
@@ -102,7 +102,7 @@ HRESULT CDomDocument::setProperty(BSTR name, VARIANT value) {
     std::wstring declarations(View(value.bstrVal));
     std::optional<Prefixes> prefixes = ParsePrefixes(Utf16ToUtf8(declarations));
     if (!prefixes) return E_INVALIDARG;
-    m_state = std::make_shared<const DocumentState>(DocumentState{m_state->tree, std::move(*prefixes)});
+    m_state = std::make_shared<const DocumentState>(DocumentState{m_state->tree, std::move(*prefixes), {}, {}});
     m_selectionNamespaces = std::move(declarations);
     return S_OK;
   });

@@ -1,10 +1,12 @@
 #include "msxml/DomNodes.h"
 
+#include "BaseUtilities/Ascii.h"
 #include "BaseUtilities/StringConvert.h"
 #include "msxml/Counted.h"
 #include "msxml/NodeText.h"
 #include "msxml/XmlText.h"
 
+#include <algorithm>
 #include <limits>
 #include <new>
 #include <string>
@@ -24,37 +26,26 @@ HRESULT GiveText(const xmlChar* text, BSTR* place) {
   return text != nullptr ? S_OK : S_FALSE;
 }
 
-std::string AttributeValue(const xmlAttr& attribute) {
-  std::string value;
-  for (const xmlNode* part = attribute.children; part != nullptr; part = part->next) value += View(part->content);
-  return value;
+/// A document without a type declaration has no attribute whose value is in pieces.
+std::string_view AttributeValue(const xmlNode& attribute) {
+  return attribute.children != nullptr ? View(attribute.children->content) : std::string_view();
 }
 
 class CDomNode;
 
-class CDomAttributes final : public CCounted<IXMLDOMNamedNodeMap> {
+/// The attributes of a node. They are a part of it and count as it, so that asking for them takes no memory.
+class CDomAttributes final : public IXMLDOMNamedNodeMap {
  public:
-  CDomAttributes(StatePointer state, xmlNode* element) : m_state(std::move(state)), m_element(element) {}
+  explicit CDomAttributes(CDomNode& node) : m_node(node) {}
 
   HRESULT QueryInterface(REFIID iid, void** object) override {
     if (object == nullptr) return E_POINTER;
     return iid == IID_IUnknown || iid == IID_IXMLDOMNamedNodeMap ? Answer(this, object) : RefuseInterface(object);
   }
 
-  HRESULT getNamedItem(BSTR name, IXMLDOMNode** attribute) override {
-    if (attribute == nullptr) return E_INVALIDARG;
-    *attribute = nullptr;
-    if (name == nullptr) return E_INVALIDARG;
-    return Guarded([&] {
-      const std::string wanted = Utf16ToUtf8({name, SysStringLen(name)});
-      for (xmlAttr* candidate = m_element->properties; candidate != nullptr; candidate = candidate->next) {
-        if (!IsNamed(*candidate, wanted)) continue;
-        *attribute = MakeNode(m_state, reinterpret_cast<xmlNode*>(candidate)).Detach();
-        return S_OK;
-      }
-      return S_FALSE;
-    });
-  }
+  ULONG AddRef() override;
+  ULONG Release() override;
+  HRESULT getNamedItem(BSTR name, IXMLDOMNode** attribute) override;
 
  private:
   static bool IsNamed(const xmlAttr& attribute, std::string_view wanted) {
@@ -62,8 +53,7 @@ class CDomAttributes final : public CCounted<IXMLDOMNamedNodeMap> {
     return QualifiedName(attribute.ns, attribute.name) == wanted;
   }
 
-  StatePointer m_state;
-  xmlNode* m_element;
+  CDomNode& m_node;
 };
 
 class CDomNodeList final : public CCounted<IXMLDOMNodeList> {
@@ -97,12 +87,37 @@ class CDomNodeList final : public CCounted<IXMLDOMNodeList> {
   std::vector<xmlNode*> m_nodes;
 };
 
+/// The list of nothing, which most elements give when they are asked for those in them. There is one for all.
+class CEmptyNodeList final : public IXMLDOMNodeList {
+ public:
+  HRESULT QueryInterface(REFIID iid, void** object) override {
+    if (object == nullptr) return E_POINTER;
+    return iid == IID_IUnknown || iid == IID_IXMLDOMNodeList ? Answer(this, object) : RefuseInterface(object);
+  }
+
+  // It never goes, so nothing is counted.
+  ULONG AddRef() override { return 1; }
+  ULONG Release() override { return 1; }
+
+  HRESULT get_item(LONG, IXMLDOMNode** node) override {
+    if (node == nullptr) return E_INVALIDARG;
+    *node = nullptr;
+    return S_FALSE;
+  }
+
+  HRESULT get_length(LONG* length) override {
+    if (length == nullptr) return E_INVALIDARG;
+    *length = 0;
+    return S_OK;
+  }
+};
+
 /// An element or an attribute, or, where an XPath goes up to it, the document.
 class CDomNode final : public CCounted<IXMLDOMElement> {
  public:
-  CDomNode(StatePointer state, xmlNode* node) : m_state(std::move(state)), m_node(node) {}
+  CDomNode(StatePointer state, xmlNode* node) : m_state(std::move(state)), m_node(node), m_attributes(*this) {}
 
-  const DocumentState& State() const { return *m_state; }
+  const StatePointer& State() const { return m_state; }
   const xmlNode* Node() const { return m_node; }
 
   HRESULT QueryInterface(REFIID iid, void** object) override {
@@ -133,7 +148,7 @@ class CDomNode final : public CCounted<IXMLDOMElement> {
       return S_FALSE;
     }
     return Guarded([&] {
-      value->bstrVal = MakeBstr(AttributeValue(*reinterpret_cast<const xmlAttr*>(m_node)));
+      value->bstrVal = MakeBstr(AttributeValue(*m_node));
       value->vt = VT_BSTR;
       return S_OK;
     });
@@ -143,17 +158,16 @@ class CDomNode final : public CCounted<IXMLDOMElement> {
     if (attributes == nullptr) return E_INVALIDARG;
     *attributes = nullptr;
     if (m_node->type != XML_ELEMENT_NODE) return S_FALSE;
-    return Guarded([&] {
-      *attributes = new CDomAttributes(m_state, m_node);
-      return S_OK;
-    });
+    AddRef();
+    *attributes = &m_attributes;
+    return S_OK;
   }
 
   HRESULT get_text(BSTR* text) override {
     if (text == nullptr) return E_INVALIDARG;
     return Guarded([&] {
       const bool isAttribute = m_node->type == XML_ATTRIBUTE_NODE;
-      *text = MakeBstr(isAttribute ? AttributeValue(*reinterpret_cast<const xmlAttr*>(m_node)) : NodeText(*m_node));
+      *text = isAttribute ? MakeBstr(AttributeValue(*m_node)) : MakeBstr(NodeText(*m_node));
       return S_OK;
     });
   }
@@ -182,15 +196,49 @@ class CDomNode final : public CCounted<IXMLDOMElement> {
 
   StatePointer m_state;
   xmlNode* m_node;
+  CDomAttributes m_attributes;
 };
 
+ULONG CDomAttributes::AddRef() { return m_node.AddRef(); }
+
+ULONG CDomAttributes::Release() { return m_node.Release(); }
+
+HRESULT CDomAttributes::getNamedItem(BSTR name, IXMLDOMNode** attribute) {
+  if (attribute == nullptr) return E_INVALIDARG;
+  *attribute = nullptr;
+  if (name == nullptr) return E_INVALIDARG;
+  return Guarded([&] {
+    const std::string wanted = Utf16ToUtf8({name, SysStringLen(name)});
+    for (xmlAttr* candidate = m_node.Node()->properties; candidate != nullptr; candidate = candidate->next) {
+      if (!IsNamed(*candidate, wanted)) continue;
+      *attribute = MakeNode(m_node.State(), reinterpret_cast<xmlNode*>(candidate)).Detach();
+      return S_OK;
+    }
+    return S_FALSE;
+  });
+}
+
+/// The path that the expression is; null when it is something else.
+const CChildPath* FindPath(const DocumentState& state, std::wstring_view xpath) {
+  if (state.lastXPath != xpath || xpath.empty()) {
+    state.lastXPath.clear();
+    state.lastPath = CChildPath::Parse(Utf16ToUtf8(xpath), state.prefixes);
+    state.lastXPath = xpath;
+  }
+  return state.lastPath ? &*state.lastPath : nullptr;
+}
+
 /// Selects from a node; a list that COM cannot count is out of memory.
-std::vector<xmlNode*> Select(const DocumentState& state, xmlNode* from, BSTR xpath, HRESULT& result) {
+std::vector<xmlNode*> Select(const DocumentState& state, xmlNode* from, std::wstring_view xpath, HRESULT& result) {
   std::vector<xmlNode*> nodes;
-  switch (SelectNodes(from, Utf16ToUtf8({xpath, SysStringLen(xpath)}), state.prefixes, nodes)) {
-    case Outcome::Found: result = S_OK; break;
-    case Outcome::BadExpression: result = E_FAIL; break;
-    case Outcome::OutOfMemory: result = E_OUTOFMEMORY; break;
+  if (const CChildPath* path = FindPath(state, xpath); path != nullptr) {
+    path->Select(*from, nodes);
+  } else {
+    switch (SelectByXPath(from, Utf16ToUtf8(xpath), state.prefixes, nodes)) {
+      case Outcome::Found: break;
+      case Outcome::BadExpression: result = E_FAIL; break;
+      case Outcome::OutOfMemory: result = E_OUTOFMEMORY; break;
+    }
   }
   if (nodes.size() > static_cast<std::size_t>(std::numeric_limits<LONG>::max())) result = E_OUTOFMEMORY;
   return nodes;
@@ -198,7 +246,13 @@ std::vector<xmlNode*> Select(const DocumentState& state, xmlNode* from, BSTR xpa
 
 }  // namespace
 
-BSTR MakeBstr(std::string_view utf8) { return CBstr(Utf8ToUtf16(utf8)).Detach(); }
+BSTR MakeBstr(std::string_view utf8) {
+  BSTR text = SysAllocStringLen(nullptr, static_cast<UINT>(utf8.size()));
+  if (text == nullptr) _com_issue_error(E_OUTOFMEMORY);
+  if (CopyAscii(utf8, text)) return text;
+  SysFreeString(text);
+  return CBstr(Utf8ToUtf16(utf8)).Detach();
+}
 
 DOMNodePtr MakeNode(const StatePointer& state, xmlNode* node) { return DOMNodePtr(new CDomNode(state, node), false); }
 
@@ -210,17 +264,19 @@ const xmlNode* NodeBehind(IXMLDOMNode& node, const CXmlTree& tree) {
   void* object = nullptr;
   if (FAILED(node.QueryInterface(kNodeBehind, &object))) return nullptr;
   const auto& domNode = *static_cast<const CDomNode*>(object);
-  return domNode.State().tree.get() == &tree ? domNode.Node() : nullptr;
+  return domNode.State()->tree.get() == &tree ? domNode.Node() : nullptr;
 }
 
 HRESULT SelectList(const StatePointer& state, xmlNode* from, BSTR xpath, IXMLDOMNodeList** nodes) {
   if (nodes == nullptr) return E_INVALIDARG;
   *nodes = nullptr;
   if (xpath == nullptr) return E_INVALIDARG;
+  static CEmptyNodeList emptyList;
   return Guarded([&] {
     HRESULT result = S_OK;
-    std::vector<xmlNode*> found = Select(*state, from, xpath, result);
-    if (SUCCEEDED(result)) *nodes = new CDomNodeList(state, std::move(found));
+    std::vector<xmlNode*> found = Select(*state, from, {xpath, SysStringLen(xpath)}, result);
+    if (FAILED(result)) return result;
+    *nodes = found.empty() ? static_cast<IXMLDOMNodeList*>(&emptyList) : new CDomNodeList(state, std::move(found));
     return result;
   });
 }
@@ -231,7 +287,7 @@ HRESULT SelectFirst(const StatePointer& state, xmlNode* from, BSTR xpath, IXMLDO
   if (xpath == nullptr) return E_INVALIDARG;
   return Guarded([&] {
     HRESULT result = S_OK;
-    const std::vector<xmlNode*> found = Select(*state, from, xpath, result);
+    const std::vector<xmlNode*> found = Select(*state, from, {xpath, SysStringLen(xpath)}, result);
     if (FAILED(result)) return result;
     if (found.empty()) return S_FALSE;
     *node = MakeNode(state, found.front()).Detach();

@@ -6,6 +6,8 @@
 #include "msxml/XmlTree.h"
 
 #include <memory>
+#include <optional>
+#include <string>
 
 namespace msxml {
 
@@ -13,6 +15,10 @@ namespace msxml {
 struct DocumentState {
   std::shared_ptr<const CXmlTree> tree;
   Prefixes prefixes;  // as they were when the node was selected
+
+  // The expression that was asked for last, which mostly is the one asked for next.
+  mutable std::wstring lastXPath;
+  mutable std::optional<CChildPath> lastPath;
 };
 using StatePointer = std::shared_ptr<const DocumentState>;
 

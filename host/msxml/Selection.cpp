@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <memory>
 #include <new>
+#include <utility>
 
 namespace msxml {
 
@@ -20,17 +21,6 @@ constexpr std::string_view kDeclarationStart = "xmlns:";
 
 bool IsName(const std::string& text) { return xmlValidateNCName(Xml(text.c_str()), 0) == 0; }
 
-/// One step of a path: an element's name, or any for `*`, in a namespace.
-struct ChildStep {
-  std::string_view uri;
-  std::string_view name;  // empty stands for any
-
-  bool Fits(const xmlNode& node) const {
-    return node.type == XML_ELEMENT_NODE && node.ns != nullptr && View(node.ns->href) == uri &&
-           (name.empty() || View(node.name) == name);
-  }
-};
-
 /// Only ASCII letters, digits and underscores, which is what the format's names are made of; others are left to
 /// libxml2.
 bool IsPlainName(std::string_view text) {
@@ -40,46 +30,9 @@ bool IsPlainName(std::string_view text) {
              std::string_view::npos;
 }
 
-/// Takes the first step off the path; nothing when it is no child step with a known prefix.
-std::optional<ChildStep> TakeStep(std::string_view& path, const Prefixes& prefixes) {
-  const std::size_t end = std::min(path.find('/'), path.size());
-  const std::string_view step = path.substr(0, end);
-  const std::size_t colon = step.find(':');
-  if (colon == std::string_view::npos) return std::nullopt;
-  const auto prefix = prefixes.find(step.substr(0, colon));
-  const std::string_view name = step.substr(colon + 1);
-  if (prefix == prefixes.end() || (name != "*" && !IsPlainName(name))) return std::nullopt;
-  if (end + 1 == path.size()) return std::nullopt;  // a slash with nothing behind it
-  path.remove_prefix(std::min(end + 1, path.size()));
-  return ChildStep{prefix->second, name == "*" ? std::string_view() : name};
-}
-
-void SelectChildren(const xmlNode& parent, const ChildStep& step, std::vector<xmlNode*>& nodes) {
-  for (xmlNode* child = parent.children; child != nullptr; child = child->next) {
-    if (step.Fits(*child)) nodes.push_back(child);
-  }
-}
-
-/// Answers a path of child steps. Returns false, with nothing selected, when the path is something else.
-bool SelectByChildSteps(const xmlNode& from, std::string_view path, const Prefixes& prefixes,
-                        std::vector<xmlNode*>& nodes) {
-  if (path.empty() || (from.type != XML_ELEMENT_NODE && from.type != XML_DOCUMENT_NODE)) return false;
-  std::vector<ChildStep> steps;
-  while (!path.empty()) {
-    const std::optional<ChildStep> step = TakeStep(path, prefixes);
-    if (!step) return false;
-    steps.push_back(*step);
-  }
-  std::vector<xmlNode*> parents;
-  std::vector<xmlNode*> children;
-  SelectChildren(from, steps.front(), children);
-  for (std::size_t i = 1; i < steps.size(); ++i) {
-    parents.swap(children);
-    children.clear();
-    for (const xmlNode* parent : parents) SelectChildren(*parent, steps[i], children);
-  }
-  nodes.insert(nodes.end(), children.begin(), children.end());
-  return true;
+template <typename Pairs>
+auto FindPrefix(Pairs& prefixes, std::string_view prefix) {
+  return std::find_if(prefixes.begin(), prefixes.end(), [&](const auto& pair) { return pair.first == prefix; });
 }
 
 struct FreeXPathContext {
@@ -115,14 +68,59 @@ std::optional<Prefixes> ParsePrefixes(std::string_view declarations) {
     if (close == std::string_view::npos) return std::nullopt;
     const std::string prefix(declarations.substr(0, equals));
     if (!IsName(prefix)) return std::nullopt;
-    prefixes.insert_or_assign(prefix, std::string(declarations.substr(equals + 2, close - equals - 2)));
+    std::string uri(declarations.substr(equals + 2, close - equals - 2));
+    if (const auto known = FindPrefix(prefixes, prefix); known != prefixes.end()) {
+      known->second = std::move(uri);
+    } else {
+      prefixes.emplace_back(prefix, std::move(uri));
+    }
     declarations.remove_prefix(close + 1);
   }
 }
 
-Outcome SelectNodes(xmlNode* from, std::string_view xpath, const Prefixes& prefixes, std::vector<xmlNode*>& nodes) {
-  if (SelectByChildSteps(*from, xpath, prefixes, nodes)) return Outcome::Found;
-  return SelectByXPath(from, xpath, prefixes, nodes);
+std::optional<CChildPath> CChildPath::Parse(std::string_view xpath, const Prefixes& prefixes) {
+  if (xpath.empty()) return std::nullopt;
+  CChildPath path;
+  while (!xpath.empty()) {
+    std::optional<Step> step = TakeStep(xpath, prefixes);
+    if (!step || path.m_count == path.m_steps.size()) return std::nullopt;
+    path.m_steps[path.m_count++] = std::move(*step);
+  }
+  return path;
+}
+
+/// Takes the first step off the path; nothing when it is no child step with a known prefix.
+std::optional<CChildPath::Step> CChildPath::TakeStep(std::string_view& path, const Prefixes& prefixes) {
+  const std::size_t end = std::min(path.find('/'), path.size());
+  const std::string_view step = path.substr(0, end);
+  const std::size_t colon = step.find(':');
+  if (colon == std::string_view::npos) return std::nullopt;
+  const auto prefix = FindPrefix(prefixes, step.substr(0, colon));
+  const std::string_view name = step.substr(colon + 1);
+  if (prefix == prefixes.end() || (name != "*" && !IsPlainName(name))) return std::nullopt;
+  if (end + 1 == path.size()) return std::nullopt;  // a slash with nothing behind it
+  path.remove_prefix(std::min(end + 1, path.size()));
+  return Step{prefix->second, name == "*" ? std::string() : std::string(name)};
+}
+
+void CChildPath::Select(const xmlNode& from, std::vector<xmlNode*>& nodes) const {
+  if (from.type == XML_ELEMENT_NODE || from.type == XML_DOCUMENT_NODE) SelectFrom(from, 0, nodes);
+}
+
+void CChildPath::SelectFrom(const xmlNode& parent, std::size_t depth, std::vector<xmlNode*>& nodes) const {
+  const Step& step = m_steps[depth];
+  const xmlNs* fitting = nullptr;  // mostly all children share one
+  for (xmlNode* child = parent.children; child != nullptr; child = child->next) {
+    if (child->type != XML_ELEMENT_NODE || child->ns == nullptr) continue;
+    if (child->ns != fitting && View(child->ns->href) != step.uri) continue;
+    fitting = child->ns;
+    if (!step.name.empty() && View(child->name) != step.name) continue;
+    if (depth + 1 == m_count) {
+      nodes.push_back(child);
+    } else {
+      SelectFrom(*child, depth + 1, nodes);
+    }
+  }
 }
 
 Outcome SelectByXPath(xmlNode* from, std::string_view xpath, const Prefixes& prefixes, std::vector<xmlNode*>& nodes) {

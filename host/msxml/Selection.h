@@ -3,29 +3,52 @@
 
 #include "msxml/XmlTree.h"
 
-#include <map>
+#include <array>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace msxml {
 
 /// The prefixes that XPath expressions use, each with its namespace.
-using Prefixes = std::map<std::string, std::string, std::less<>>;
+/// So few that looking at one after the other is the fastest way to find one.
+using Prefixes = std::vector<std::pair<std::string, std::string>>;
 
 /// Takes declarations of the form xmlns:prefix='URI' (or with double quotes) apart, with white space between them;
 /// nothing when the text has another form.
 std::optional<Prefixes> ParsePrefixes(std::string_view declarations);
 
+/// A path of child steps such as `p:A/p:B` or `p:*`, as nearly all are. It is answered from the children alone.
+class CChildPath {
+ public:
+  /// Takes an expression apart; nothing when it is something else, has more steps than the library's paths or names
+  /// that are not plain. \param prefixes must live as long as the path
+  static std::optional<CChildPath> Parse(std::string_view xpath, const Prefixes& prefixes);
+
+  /// Adds what it finds from an element or the document to the list, in document order.
+  void Select(const xmlNode& from, std::vector<xmlNode*>& nodes) const;
+
+ private:
+  /// An element's name, or any when it is empty, in a namespace.
+  struct Step {
+    std::string_view uri;
+    std::string name;
+  };
+
+  static std::optional<Step> TakeStep(std::string_view& path, const Prefixes& prefixes);
+  void SelectFrom(const xmlNode& parent, std::size_t depth, std::vector<xmlNode*>& nodes) const;
+
+  std::array<Step, 4> m_steps;
+  std::size_t m_count = 0;
+};
+
 enum class Outcome { Found, BadExpression, OutOfMemory };
 
-/// Puts the elements, attributes and the document that the expression finds from a node into a list, in document order.
-/// A path of child steps such as `p:A/p:B` or `p:*` is answered from the children; anything else is libxml2's.
+/// Puts the elements, attributes and the document that any expression finds from a node into a list, in document order.
 /// \param nodes is added to; whatever the outcome, what was in it stays
-Outcome SelectNodes(xmlNode* from, std::string_view xpath, const Prefixes& prefixes, std::vector<xmlNode*>& nodes);
-
-/// The same, always by libxml2.
 Outcome SelectByXPath(xmlNode* from, std::string_view xpath, const Prefixes& prefixes, std::vector<xmlNode*>& nodes);
 
 }  // namespace msxml

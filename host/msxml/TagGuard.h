@@ -4,6 +4,7 @@
 #include "msxml/Limits.h"
 
 #include <cstddef>
+#include <string_view>
 
 namespace msxml {
 
@@ -30,6 +31,9 @@ class CTagGuard {
   enum class Form { Unknown, FirstByte, Bytes, LittleEndian, BigEndian };
   enum class State { Text, Opening, Tag, Value, Declaration, CommentOpening, Comment, CData, Instruction };
 
+  const char* SkipDull(const char* at, const char* end);
+  const char* SkipShortTag(const char* at, const char* end);
+  void Remember(std::string_view skipped);
   void TakeByte(char byte);
   void TakeHalf(char byte);
   void TakeCharacter(char c);

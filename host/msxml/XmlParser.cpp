@@ -1,6 +1,7 @@
 #include "msxml/XmlParser.h"
 
 #include "BaseUtilities/StringConvert.h"
+#include "msxml/CountBytes.h"
 #include "msxml/InputFile.h"
 #include "msxml/Limits.h"
 #include "msxml/TagGuard.h"
@@ -50,8 +51,9 @@ using ContextPointer = std::unique_ptr<xmlParserCtxt, FreeContext>;
 /// One run of the parser. It stands behind the parser's `_private` pointer.
 struct Run {
   CProblems& problems;
-  std::vector<Position> positions;
   const CTagGuard& guard;
+  CTreeBuilder& builder;
+  std::vector<Position> positions;
   std::uint64_t textLength = 0;  // since the last tag
   std::uint64_t copied = 0;      // of that text
   bool isStopped = false;        // what the parser says then is of no interest
@@ -61,26 +63,29 @@ struct Run {
 
 Run& RunOf(const xmlParserCtxt& context) { return *static_cast<Run*>(context._private); }
 
-std::uint32_t CountCharacters(const xmlChar* begin, const xmlChar* end) {
-  return static_cast<std::uint32_t>(std::count_if(begin, end, [](xmlChar c) { return (c & 0xC0) != 0x80; }));
+std::uint32_t CountCharacters(std::string_view utf8) {
+  const auto isFirstByte = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
+  return static_cast<std::uint32_t>(CountBytes(utf8, isFirstByte));
 }
 
 /// Where the start tag begins whose attributes have just been parsed. The column is 0 when the beginning of its line
 /// is no longer in the parser's buffer.
 Position StartTagPosition(const xmlParserInput& input) {
-  const xmlChar* tag = input.cur;
-  while (tag > input.base && *tag != '<') --tag;  // no attribute's value can contain one
+  const std::string_view read = Between(input.base, input.cur);
+  const std::size_t found = read.rfind('<');  // no attribute's value can contain one
+  const std::size_t begin = found != std::string_view::npos ? found : 0;
+  const std::string_view tag = read.substr(begin);
   const auto line = static_cast<std::uint32_t>(std::max(input.line, 1));
-  const auto lineFeeds = static_cast<std::uint32_t>(std::count(tag, input.cur, '\n'));
-  if (lineFeeds == 0) {
-    const std::uint32_t behind = CountCharacters(tag, input.cur);
+  if (tag.find('\n') == std::string_view::npos) {
+    const std::uint32_t behind = CountCharacters(tag);
     const auto column = static_cast<std::uint32_t>(std::max(input.col, 1));
     return {line, column > behind ? column - behind : 0};
   }
-  const xmlChar* lineBegin = tag;
-  while (lineBegin > input.base && lineBegin[-1] != '\n') --lineBegin;
-  const bool isKnown = lineBegin > input.base || line == lineFeeds + 1;
-  return {line - std::min(line, lineFeeds), isKnown ? CountCharacters(lineBegin, tag) + 1 : 0};
+  const auto lineFeeds = static_cast<std::uint32_t>(std::count(tag.begin(), tag.end(), '\n'));
+  const std::string_view before = read.substr(0, begin);
+  const std::size_t lineBegin = before.rfind('\n') + 1;  // npos + 1 is 0
+  const bool isKnown = lineBegin > 0 || line == lineFeeds + 1;
+  return {line - std::min(line, lineFeeds), isKnown ? CountCharacters(before.substr(lineBegin)) + 1 : 0};
 }
 
 void Stop(xmlParserCtxt& context, std::string_view element, std::string_view reason) {
@@ -91,44 +96,54 @@ void Stop(xmlParserCtxt& context, std::string_view element, std::string_view rea
   xmlStopParser(&context);
 }
 
-void StartElement(void* data, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri, int namespaceCount,
-                  const xmlChar** namespaces, int attributeCount, int defaultedCount, const xmlChar** attributes) {
-  auto& context = *static_cast<xmlParserCtxt*>(data);
-  Run& run = RunOf(context);
-  run.BeginText();
+/// Does what the parser calls for, unless memory runs out.
+template <typename Action>
+void Build(xmlParserCtxt& context, const Action& action) noexcept {
   try {
-    if (context.nodeNr >= kGreatestDepth) {
-      Stop(context, QualifiedName(prefix, name), TooDeepReason());
-      return;
-    }
-    if (static_cast<std::size_t>(context.nsNr) / 2 > kMostNamespaces) {
-      Stop(context, QualifiedName(prefix, name), TooManyNamespacesReason());
-      return;
-    }
-    run.positions.push_back(StartTagPosition(*context.input));
+    action(RunOf(context));
   } catch (const std::bad_alloc&) {
-    run.problems.RanOutOfMemory();
+    RunOf(context).problems.RanOutOfMemory();
     xmlStopParser(&context);
-    return;
   }
-  xmlSAX2StartElementNs(data, name, prefix, uri, namespaceCount, namespaces, attributeCount, defaultedCount,
-                        attributes);
-  if (context.node != nullptr) CXmlTree::SetNumber(*context.node, run.positions.size());
 }
 
-void EndElement(void* data, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri) {
-  RunOf(*static_cast<const xmlParserCtxt*>(data)).BeginText();
-  xmlSAX2EndElementNs(data, name, prefix, uri);
+void AddElement(xmlParserCtxt& context, Run& run, const StartTag& tag) {
+  run.BeginText();
+  if (context.nodeNr >= kGreatestDepth) {
+    Stop(context, QualifiedName(tag.prefix, tag.name), TooDeepReason());
+  } else if (static_cast<std::size_t>(context.nsNr) / 2 > kMostNamespaces) {
+    Stop(context, QualifiedName(tag.prefix, tag.name), TooManyNamespacesReason());
+  } else {
+    run.positions.push_back(StartTagPosition(*context.input));
+    CXmlTree::SetNumber(run.builder.StartElement(tag), run.positions.size());
+  }
+}
+
+void StartElement(void* data, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri, int namespaceCount,
+                  const xmlChar** namespaces, int attributeCount, int, const xmlChar** attributes) {
+  auto& context = *static_cast<xmlParserCtxt*>(data);
+  const StartTag tag{name,       prefix,
+                     uri,        static_cast<std::size_t>(namespaceCount),
+                     namespaces, static_cast<std::size_t>(attributeCount),
+                     attributes};
+  Build(context, [&](Run& run) { AddElement(context, run, tag); });
+}
+
+void EndElement(void* data, const xmlChar*, const xmlChar*, const xmlChar*) {
+  Run& run = RunOf(*static_cast<const xmlParserCtxt*>(data));
+  run.BeginText();
+  run.builder.EndElement();
 }
 
 void Characters(void* data, const xmlChar* text, int length) {
-  RunOf(*static_cast<const xmlParserCtxt*>(data)).textLength += static_cast<std::uint64_t>(length);
-  xmlSAX2Characters(data, text, length);
+  Build(*static_cast<xmlParserCtxt*>(data), [&](Run& run) {
+    run.textLength += static_cast<std::uint64_t>(length);
+    run.builder.AddText(Between(text, text + length));
+  });
 }
 
 /// Counts what the piece behind costs.
-void EndPiece(void* data) {
-  auto& context = *static_cast<xmlParserCtxt*>(data);
+void EndPiece(xmlParserCtxt& context) {
   Run& run = RunOf(context);
   run.copied += run.textLength;
   if (run.copied <= kMostCopied) return;
@@ -137,19 +152,28 @@ void EndPiece(void* data) {
 }
 
 void Comment(void* data, const xmlChar* text) {
-  EndPiece(data);
-  xmlSAX2Comment(data, text);
+  auto& context = *static_cast<xmlParserCtxt*>(data);
+  Build(context, [&](Run& run) {
+    EndPiece(context);
+    run.builder.AddComment(View(text));
+  });
 }
 
 void Instruction(void* data, const xmlChar* target, const xmlChar* text) {
-  EndPiece(data);
-  xmlSAX2ProcessingInstruction(data, target, text);
+  auto& context = *static_cast<xmlParserCtxt*>(data);
+  Build(context, [&](Run& run) {
+    EndPiece(context);
+    run.builder.AddInstruction(target, View(text));
+  });
 }
 
 void CData(void* data, const xmlChar* text, int length) {
-  EndPiece(data);
-  RunOf(*static_cast<const xmlParserCtxt*>(data)).textLength += static_cast<std::uint64_t>(length);
-  xmlSAX2CDataBlock(data, text, length);
+  auto& context = *static_cast<xmlParserCtxt*>(data);
+  Build(context, [&](Run& run) {
+    EndPiece(context);
+    run.textLength += static_cast<std::uint64_t>(length);
+    run.builder.AddCData(Between(text, text + length));
+  });
 }
 
 std::string UpperCase(std::string_view text) {
@@ -168,19 +192,15 @@ std::string Encoding(const xmlParserCtxt& context) {
 /// Is called behind the XML declaration, when the encoding is settled.
 void StartDocument(void* data) {
   auto& context = *static_cast<xmlParserCtxt*>(data);
-  try {
+  Build(context, [&](const Run& run) {
     const std::string encoding = Encoding(context);
     const bool isKnown = encoding.empty() || IsSupportedEncoding(encoding);
-    if (!isKnown || IsUtf16(encoding) != RunOf(context).guard.IsUtf16()) {
+    if (isKnown && IsUtf16(encoding) == run.guard.IsUtf16()) {
+      xmlSAX2StartDocument(&context);
+    } else {
       Stop(context, {}, UnsupportedEncodingReason(encoding.empty() ? "UTF-8" : encoding));
-      return;
     }
-  } catch (const std::bad_alloc&) {
-    RunOf(context).problems.RanOutOfMemory();
-    xmlStopParser(&context);
-    return;
-  }
-  xmlSAX2StartDocument(data);
+  });
 }
 
 void RefuseDocumentType(void* data, const xmlChar* name, const xmlChar*, const xmlChar*) {
@@ -197,10 +217,16 @@ void ReportError(void* data, xmlErrorPtr error) {
            static_cast<std::size_t>(std::max(error->int2, 0)), element);
 }
 
-ContextPointer MakeContext(Run& run) {
+/// How much memory to begin with. A VIF's tree takes about seven times as much as its file; the more pieces it comes
+/// in, the more is asked of the system, and given back to it at the end.
+std::size_t MemoryFor(const CInputFile& file) {
+  constexpr std::int64_t most = std::int64_t{1} << 20;
+  return static_cast<std::size_t>(8 * std::clamp<std::int64_t>(file.GetStamp().size, 512, most / 8));
+}
+
+ContextPointer MakeContext() {
   ContextPointer context(xmlNewParserCtxt());
   if (context == nullptr) throw std::bad_alloc();
-  context->_private = &run;
   context->sax->startDocument = StartDocument;
   context->sax->startElementNs = StartElement;
   context->sax->endElementNs = EndElement;
@@ -223,8 +249,11 @@ std::shared_ptr<const CXmlTree> ParseXmlFile(const std::filesystem::path& path, 
     problems.Add(0, 0, {}, "The file " + source.file.Error() + ".");
     return nullptr;
   }
-  Run run{problems, {}, source.guard};
-  const ContextPointer context = MakeContext(run);
+  auto memory = std::make_unique<TreeMemory>(MemoryFor(source.file));
+  const ContextPointer context = MakeContext();
+  CTreeBuilder builder(*context, *memory);
+  Run run{problems, source.guard, builder, {}};
+  context->_private = &run;
   const CThreadErrors otherErrors(ReportError, context.get());
   DocumentPointer document(xmlCtxtReadIO(context.get(), Source::Read, nullptr, &source, nullptr, nullptr, kOptions));
   // What the parser says of a file that ends too early is of no interest.
@@ -240,7 +269,8 @@ std::shared_ptr<const CXmlTree> ParseXmlFile(const std::filesystem::path& path, 
   }
   if (!isSound && problems.IsEmpty()) problems.Add(0, 0, {}, "The file is not well-formed XML.");
   if (!problems.IsEmpty()) return nullptr;
-  return std::make_shared<const CXmlTree>(std::move(document), std::move(run.positions));
+  builder.Attach(*document);
+  return std::make_shared<const CXmlTree>(std::move(memory), std::move(document), std::move(run.positions));
 }
 
 void InitializeXmlLibrary() {

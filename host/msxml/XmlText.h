@@ -3,6 +3,7 @@
 
 #include <libxml/tree.h>
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -11,6 +12,10 @@ namespace msxml {
 /// The text, borrowed; null counts as empty.
 inline std::string_view View(const xmlChar* text) {
   return text != nullptr ? std::string_view(reinterpret_cast<const char*>(text)) : std::string_view();
+}
+
+inline std::string_view Between(const xmlChar* begin, const xmlChar* end) {
+  return {reinterpret_cast<const char*>(begin), static_cast<std::size_t>(end - begin)};
 }
 
 /// The UTF-8 text as libxml2 takes it, borrowed. It must end in a NUL where libxml2 expects that.

@@ -1,13 +1,14 @@
 // A parsed XML document.
 #pragma once
 
-#include "TestUtilities/DOMDocProblem.h"
+#include "msxml/TreeBuilder.h"
 
 #include <libxml/tree.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace msxml {
@@ -18,17 +19,22 @@ struct Position {
   std::uint32_t column;
 };
 
+/// Frees a document, but not the nodes in it, which `CTreeBuilder` has put into memory of their own.
 struct FreeDocument {
-  void operator()(xmlDoc* document) const { xmlFreeDoc(document); }
+  void operator()(xmlDoc* document) const {
+    document->children = document->last = nullptr;
+    xmlFreeDoc(document);
+  }
 };
 using DocumentPointer = std::unique_ptr<xmlDoc, FreeDocument>;
 
 /// A libxml2 tree and where its elements stand in the file. Nothing changes it once it has been parsed.
 class CXmlTree {
  public:
+  /// \param memory where the document's nodes are
   /// \param positions of all elements; the `_private` member of each says which is its own (`NumberOf`)
-  CXmlTree(DocumentPointer document, std::vector<Position> positions)
-      : m_document(std::move(document)), m_positions(std::move(positions)) {}
+  CXmlTree(std::unique_ptr<TreeMemory> memory, DocumentPointer document, std::vector<Position> positions)
+      : m_memory(std::move(memory)), m_document(std::move(document)), m_positions(std::move(positions)) {}
 
   xmlDoc* Document() const { return m_document.get(); }
   xmlNode* Root() const { return xmlDocGetRootElement(m_document.get()); }
@@ -47,6 +53,7 @@ class CXmlTree {
   const Position* Locate(const xmlNode* node) const;
 
  private:
+  std::unique_ptr<TreeMemory> m_memory;
   DocumentPointer m_document;
   std::vector<Position> m_positions;
 };
