@@ -26,9 +26,13 @@ struct MatchBudget {
 
   /// Throws `std::regex_error` when the match has gone too deep or on for too long.
   void Check() {
-    if (VIF_FRAME_ADDRESS() < lowestFrame) throw std::regex_error(std::regex_constants::error_stack);
-    if (stepsLeft-- == 0) throw std::regex_error(std::regex_constants::error_complexity);
+    if (VIF_FRAME_ADDRESS() < lowestFrame) Fail(std::regex_constants::error_stack);
+    if (stepsLeft-- == 0) Fail(std::regex_constants::error_complexity);
   }
+
+ private:
+  // Apart, so that `Check` is small enough to be inlined into the matcher, which goes through it for every character.
+  [[noreturn]] static void Fail(std::regex_constants::error_type reason) { throw std::regex_error(reason); }
 };
 
 /// Walks over text for a regular expression and, whenever a character is read or positions are compared, looks at what

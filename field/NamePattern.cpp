@@ -3,7 +3,6 @@
 #include "GuardedRegex.h"
 #include "PatternDepth.h"
 
-#include <cstring>
 #include <string_view>
 #include <utility>
 
@@ -11,7 +10,8 @@ namespace vif {
 
 namespace {
 
-constexpr const char* kSpecialCharacters = "^$\\.*+?()[]{}|";
+constexpr std::string_view kSpecialCharacters = "^$\\.*+?()[]{}|";
+constexpr std::string_view kQuantifiers = "*+?{";
 
 /// A stepwise match takes a few steps for each character, and more than one for each pair of them only where a pattern
 /// looks ahead. This ends the longest after a second or two.
@@ -19,7 +19,18 @@ constexpr std::size_t kStepwiseStepBudget = 100'000'000;
 
 constexpr auto kSyntax = std::regex_constants::ECMAScript | std::regex_constants::icase;
 
-bool IsPlain(const char* pattern) { return std::strpbrk(pattern, kSpecialCharacters) == nullptr; }
+bool IsPlain(std::string_view pattern) { return pattern.find_first_of(kSpecialCharacters) == std::string_view::npos; }
+
+/// What every name begins with that the pattern fits, as far as that is seen easily: its plain characters up to the
+/// first special one. Names that begin otherwise need not be matched, without which "Src_PDO_.*" over 10,000 fields of
+/// all kinds would take 1.2 ms instead of 0.3 ms.
+std::string_view Beginning(std::string_view pattern) {
+  if (IsPlain(pattern)) return pattern;
+  if (pattern.find('|') != std::string_view::npos) return {};  // the other alternative begins in its own way
+  const std::size_t end = pattern.find_first_of(kSpecialCharacters);
+  const bool isLastOneQuantified = end > 0 && kQuantifiers.find(pattern[end]) != std::string_view::npos;
+  return pattern.substr(0, isLastOneQuantified ? end - 1 : end);
+}
 
 // libstdc++ fills the character tables of the locale, which all threads share, while it compiles the first
 // expressions, and takes no lock for it. So they are filled here, while the library is loaded and before threads can
@@ -35,31 +46,22 @@ bool IsPlain(const char* pattern) { return std::strpbrk(pattern, kSpecialCharact
 }  // namespace
 
 CNamePattern::CNamePattern(const char* pattern)
-    : m_pattern(pattern), m_ctype(std::use_facet<std::ctype<char>>(m_locale)) {
+    : m_pattern(pattern), m_beginning(Beginning(pattern), std::use_facet<std::ctype<char>>(m_locale)) {
   if (IsPlain(pattern)) return;
   if (PatternDepth(pattern) > kMaxPatternDepth) throw std::regex_error(std::regex_constants::error_stack);
   m_expression.emplace(pattern, kSyntax);
 }
 
-bool CNamePattern::Matches(const char* name) {
-  if (!m_expression) return MatchesPlain(name);
+bool CNamePattern::MatchesExpression(const std::regex& expression, const char* name) {
   GuardedMatch<char> match;
   if (!m_stepwise) {
     try {
-      return GuardedRegexMatch(std::string_view(name), match, *m_expression);
+      return GuardedRegexMatch(std::string_view(name), match, expression);
     } catch (const std::regex_error&) {
       if (!CompileStepwise()) throw;
     }
   }
   return GuardedRegexMatch(std::string_view(name), match, *m_stepwise, kStepwiseStepBudget);
-}
-
-bool CNamePattern::MatchesPlain(const char* name) const {
-  const char* expected = m_pattern;
-  for (; *name != '\0' && *expected != '\0'; ++name, ++expected) {
-    if (*name != *expected && m_ctype.tolower(*name) != m_ctype.tolower(*expected)) return false;
-  }
-  return *name == *expected;
 }
 
 bool CNamePattern::CompileStepwise() {

@@ -1,6 +1,8 @@
 // A name pattern of a query, made ready to be matched with many names.
 #pragma once
 
+#include "PlainPattern.h"
+
 #include <locale>
 #include <optional>
 #include <regex>
@@ -21,17 +23,21 @@ class CNamePattern {
   /// Whether the whole name fits.
   /// \throws std::regex_error (`error_stack`, `error_complexity`) when the match would take too much stack or time.
   ///   A pattern that neither refers back to a group nor looks ahead gives an answer for names of millions of bytes.
-  bool Matches(const char* name);
+  bool Matches(const char* name) {
+    const char* rest = m_beginning.Behind(name);
+    if (rest == nullptr) return false;
+    return m_expression ? MatchesExpression(*m_expression, name) : *rest == '\0';
+  }
 
  private:
-  bool MatchesPlain(const char* name) const;
+  bool MatchesExpression(const std::regex& expression, const char* name);
 
   /// Makes `m_stepwise`; false when there is no such way for the pattern.
   bool CompileStepwise();
 
   const char* m_pattern;
   std::locale m_locale;
-  const std::ctype<char>& m_ctype;
+  CPlainPattern m_beginning;               // of every name that fits; for a plain pattern all of it
   std::optional<std::regex> m_expression;  // nothing for a plain pattern
   std::optional<std::regex> m_stepwise;    // takes its place from the first name that was too much for it
 };

@@ -33,9 +33,9 @@ constexpr std::uint32_t CVIFField::VIF_VALUE_UNSET;
 
 // The empty field is deliberately numeric: its number is "unset", and asking for it does not fail.
 CVIFField::CVIFField()
-    : m_isNumeric(true),
-      m_indexes{UNSPECIFIED_INDEX, UNSPECIFIED_INDEX, UNSPECIFIED_INDEX},
-      m_numericValue(VIF_VALUE_UNSET_64) {}
+    : m_indexes{UNSPECIFIED_INDEX, UNSPECIFIED_INDEX, UNSPECIFIED_INDEX},
+      m_numericValue(VIF_VALUE_UNSET_64),
+      m_isNumeric(true) {}
 
 // Without a description of its own a field deliberately repeats its value there.
 CVIFField::CVIFField(bool isNumeric, const std::string& name, const std::string& value,
@@ -48,12 +48,12 @@ CVIFField::CVIFField(bool isNumeric, const std::string& name, const std::string&
 
 CVIFField::CVIFField(bool isNumeric, const std::string& name, const std::string& value, const std::string& description,
                      const std::array<VifIndex, MAX_INDEX_DEPTH>& indexes)
-    : m_name(name),
+    : m_indexes(indexes),
+      m_name(name),
       m_value(value),
       m_description(description),
-      m_isNumeric(isNumeric),
-      m_indexes(indexes),
-      m_numericValue(InitNumericValue(value, isNumeric)) {}
+      m_numericValue(InitNumericValue(value, isNumeric)),
+      m_isNumeric(isNumeric) {}
 
 CVIFField::CVIFField(bool isNumeric, const std::string& name, const std::string& value, const std::string& description,
                      const VifIndex& index1, const VifIndex& index2, const VifIndex& index3)

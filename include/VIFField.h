@@ -15,6 +15,10 @@
 /// A slot whose location is `eVifLocUnset` is not in use, and its number means nothing.
 using VifIndex = std::tuple<EVifLocation, std::uint64_t>;
 
+namespace vif {
+class CFieldQuery;
+}
+
 /// One field: a name, a value, a description, whether the value is numeric and which number it stands for, and
 /// up to three location indexes, outermost group first.
 ///
@@ -135,14 +139,17 @@ class VIF_API CVIFField {
   CSafeString MakeOutputString() const;
 
  private:
+  friend class vif::CFieldQuery;  // looks at the slots and names of many fields, without a call for each
+
   static std::uint64_t InitNumericValue(const std::string& text, bool isNumeric);
 
   bool MatchesSlot(const VifIndex& query) const noexcept;
 
+  // What queries look at stands first, so that it lies in as few cache lines as possible.
+  std::array<VifIndex, MAX_INDEX_DEPTH> m_indexes;
   CSafeString m_name;
   CSafeString m_value;
   CSafeString m_description;
-  bool m_isNumeric;
-  std::array<VifIndex, MAX_INDEX_DEPTH> m_indexes;
   std::uint64_t m_numericValue;
+  bool m_isNumeric;
 };

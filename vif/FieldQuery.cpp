@@ -4,10 +4,13 @@
 
 namespace vif {
 
-bool CFieldQuery::PassesName(const CVIFField& field) {
-  if (m_pattern == nullptr || *m_pattern == '\0') return true;
-  if (!m_compiled) m_compiled.emplace(m_pattern);
-  return m_compiled->Matches(field.Name());
+CFieldQuery::CFieldQuery(const char* pattern, const QuerySlots& slots)
+    : m_pattern(pattern != nullptr && *pattern != '\0' ? pattern : nullptr) {
+  for (const auto& [location, number] : slots) {
+    if (location == eVifLocUnset) continue;
+    const bool anyNumber = number == CVIFField::INDEX_NOT_SPECIFIED;
+    m_asked[m_askedCount++] = {location, number, anyNumber ? 0 : ~std::uint64_t{0}};
+  }
 }
 
 FoundFields FindFields(const std::vector<CVIFField>& fields, CFieldQuery query) {

@@ -15,21 +15,52 @@ namespace vif {
 using QuerySlots = std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>;
 
 /// Selects fields as `CVIFField::Match` does, but compiles the pattern at most once, when the first field's locations
-/// pass. Nothing is allocated unless the pattern is a regular expression.
+/// pass, and looks at the locations without a call for each field. Nothing is allocated unless the pattern is a regular
+/// expression.
 class CFieldQuery {
  public:
   /// \param pattern borrowed; null or empty means any name
-  CFieldQuery(const char* pattern, const QuerySlots& slots) : m_pattern(pattern), m_slots(slots) {}
+  CFieldQuery(const char* pattern, const QuerySlots& slots);
 
   bool Passes(const CVIFField& field) { return PassesLocations(field) && PassesName(field); }
-  bool PassesLocations(const CVIFField& field) const { return field.Match(nullptr, m_slots); }
+  bool PassesLocations(const CVIFField& field) const;
   bool PassesName(const CVIFField& field);
 
  private:
-  const char* m_pattern;
-  QuerySlots m_slots;
+  /// A slot of the query that is not a wildcard.
+  struct AskedSlot {
+    EVifLocation location = eVifLocUnset;
+    std::uint64_t number = 0;
+    std::uint64_t relevantBits = 0;  // of the number: all of them, or none where any number will do
+
+    bool IsPassedBy(const QuerySlots& fieldSlots) const;
+  };
+
+  const char* m_pattern;  // null for any name
+  std::array<AskedSlot, CVIFField::MAX_INDEX_DEPTH> m_asked;
+  std::size_t m_askedCount = 0;
   std::optional<CNamePattern> m_compiled;
 };
+
+inline bool CFieldQuery::AskedSlot::IsPassedBy(const QuerySlots& fieldSlots) const {
+  for (const auto& [slotLocation, slotNumber] : fieldSlots) {
+    if (slotLocation == location) return ((slotNumber ^ number) & relevantBits) == 0;
+  }
+  return false;
+}
+
+inline bool CFieldQuery::PassesLocations(const CVIFField& field) const {
+  for (std::size_t i = 0; i < m_askedCount; ++i) {
+    if (!m_asked[i].IsPassedBy(field.m_indexes)) return false;
+  }
+  return true;
+}
+
+inline bool CFieldQuery::PassesName(const CVIFField& field) {
+  if (m_pattern == nullptr) return true;
+  if (!m_compiled) m_compiled.emplace(m_pattern);
+  return m_compiled->Matches(field.m_name.get());
+}
 
 /// What a query that wants one field has found.
 struct FoundFields {

@@ -390,6 +390,19 @@ TEST(Field, MoveConstructionTakesTheTextsAndCopiesTheRest) {
   EXPECT_EQ(source.Indexes(), target.Indexes());
 }
 
+TEST(Field, MovesItsTextsWhenAListOfFieldsGrows) {
+  std::vector<CVIFField> fields(1, CVIFField(false, kLongName, kLongName, kUnused, kUnused, kUnused));
+  const char* name = fields.front().Name();
+  const char* value = fields.front().Value();
+  const char* description = fields.front().Description();
+  const CVIFField* before = fields.data();
+  fields.reserve(2 * fields.capacity());
+  ASSERT_NE(fields.data(), before);
+  EXPECT_EQ(fields.front().Name(), name);
+  EXPECT_EQ(fields.front().Value(), value);
+  EXPECT_EQ(fields.front().Description(), description);
+}
+
 TEST(Field, MoveAssignmentGivesTheTargetAllOfTheSource) {
   CVIFField source = Voltage();
   CVIFField target(false, "Vendor_Name", "ABC", "vendor", {eVifLocVif, 0}, kUnused, kUnused);

@@ -83,6 +83,23 @@ TEST(NamePattern, TakesEverySpecialCharacterForSpecial) {
   EXPECT_TRUE(Matches("a|b", "b"));
 }
 
+TEST(NamePattern, LetsAQuantifierTakeBackThePlainCharacterBefore) {
+  EXPECT_TRUE(Matches("Src_*", "src"));
+  EXPECT_TRUE(Matches("Src_?.", "srcX"));
+  EXPECT_TRUE(Matches("Src_{0,2}P", "srcp"));
+  EXPECT_TRUE(Matches("S*", ""));
+  EXPECT_TRUE(Matches("Src_+", "src__"));
+  EXPECT_FALSE(Matches("Src_+", "src"));
+  EXPECT_FALSE(Matches("Src_*", "sr"));
+}
+
+TEST(NamePattern, LetsEveryAlternativeBeginInItsOwnWay) {
+  EXPECT_TRUE(Matches("Src_PDO|Snk_PDO", "snk_pdo"));
+  EXPECT_TRUE(Matches("Src_PDO|.*", "Vendor_Name"));
+  EXPECT_TRUE(Matches("S(rc|nk)_PDO", "snk_pdo"));
+  EXPECT_FALSE(Matches("Src_PDO|Snk_PDO", "Sxk_PDO"));
+}
+
 TEST(NamePattern, ComparesPlainPatternsOfAnyLength) {
   const std::string pattern(200'000, 'a');
   EXPECT_TRUE(Matches(pattern, std::string(200'000, 'A')));
@@ -133,6 +150,25 @@ TEST(NamePattern, KeepsTheLocaleOfTheMomentItWasMadeIn) {
     }
     EXPECT_TRUE(madeWithin->Matches("\xE9"));
   }
+}
+
+/// Has NUL for the lower case of "q".
+class CNulForQ : public std::ctype<char> {
+ protected:
+  char do_tolower(char c) const override { return c == 'q' ? '\0' : std::ctype<char>::do_tolower(c); }
+  const char* do_tolower(char* begin, const char* end) const override {
+    for (; begin != end; ++begin) *begin = do_tolower(*begin);
+    return end;
+  }
+};
+
+TEST(NamePattern, TakesNoCharacterForTheEndOfAName) {
+  const CScopedGlobalLocale odd(std::locale(std::locale::classic(), new CNulForQ));
+  EXPECT_TRUE(Matches("qa", "qA"));
+  EXPECT_FALSE(Matches("q", ""));
+  EXPECT_FALSE(Matches("qq", "q"));
+  EXPECT_FALSE(Matches("q", "qq"));
+  EXPECT_FALSE(Matches("q.*", ""));
 }
 
 /// One to twelve random bytes without NUL.
@@ -214,6 +250,36 @@ TEST(NamePattern, AgreesWithTheExpressionAfterALongName) { ExpectAgreementOnExpr
 TEST(NamePattern, AgreesWithTheExpressionOnExpressionsInAnotherLocale) {
   const CScopedGlobalLocale latin1(Latin1Locale());
   ExpectAgreementOnExpressions(false);
+}
+
+/// Compares on expressions that begin with plain characters, which need no expression to be told apart.
+void ExpectAgreementBehindPlainBeginnings() {
+  SCOPED_TRACE(testsupport::SeedMessage());
+  std::mt19937_64 generator = testsupport::SeededGenerator();
+  std::size_t fitting = 0;
+  for (int i = 0; i < 4000; ++i) {
+    const std::string beginning = RandomPlainText(generator);
+    const std::string pattern = beginning + randomexpression::Pattern(generator);
+    const std::optional<std::regex> expression = Expression(pattern);
+    std::optional<vif::CNamePattern> namePattern = NamePattern(pattern);
+    ASSERT_EQ(namePattern.has_value(), expression.has_value()) << reference::Shown(pattern);
+    for (int j = 0; expression && j < 8; ++j) {
+      std::string name = RandomNameNear(beginning, generator) + randomexpression::Subject(generator);
+      if (RandomBelow(generator, 4) == 0) name.resize(RandomBelow(generator, name.size() + 1));
+      const bool expected = std::regex_match(name, *expression);
+      ASSERT_EQ(namePattern->Matches(name.c_str()), expected)
+          << reference::Shown(pattern) << " on " << reference::Shown(name);
+      fitting += expected ? 1U : 0U;
+    }
+  }
+  EXPECT_GT(fitting, 100U);
+}
+
+TEST(NamePattern, AgreesWithTheExpressionBehindAPlainBeginning) { ExpectAgreementBehindPlainBeginnings(); }
+
+TEST(NamePattern, AgreesWithTheExpressionBehindAPlainBeginningInAnotherLocale) {
+  const CScopedGlobalLocale latin1(Latin1Locale());
+  ExpectAgreementBehindPlainBeginnings();
 }
 
 constexpr size_t kLongName = 200'000;
