@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that a task needs and that are not there yet. Works as root or with sudo.
 #
-#   scripts/setup.sh build | test | check | windows | package
+#   scripts/setup.sh build | test | check | windows | package | bench
 #
 # "test" includes "build", "check" includes both, "windows" is for building and testing for Windows, "package" for making
-# the packages of both systems.
+# the packages of both systems, "bench" for measuring.
 set -euo pipefail
 
 build_packages=(g++ cmake ninja-build libcli11-dev libxml2-dev nlohmann-json3-dev)
@@ -12,6 +12,7 @@ test_packages=(libgtest-dev libgmock-dev pkg-config)
 check_packages=(clang clang-format clang-tidy libclang-rt-14-dev)
 windows_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest libcli11-dev nlohmann-json3-dev wine wine64)
 package_packages=(dpkg-dev file unzip zip)
+bench_packages=(libbenchmark-dev libxml2-utils valgrind)
 
 case "${1:-}" in
   build) wanted=("${build_packages[@]}") ;;
@@ -19,7 +20,8 @@ case "${1:-}" in
   check) wanted=("${build_packages[@]}" "${test_packages[@]}" "${check_packages[@]}") ;;
   windows) wanted=("${windows_packages[@]}") ;;
   package) wanted=("${build_packages[@]}" "${windows_packages[@]}" "${package_packages[@]}") ;;
-  *) echo "usage: scripts/setup.sh build | test | check | windows | package" >&2; exit 2 ;;
+  bench) wanted=("${build_packages[@]}" "${bench_packages[@]}") ;;
+  *) echo "usage: scripts/setup.sh build | test | check | windows | package | bench" >&2; exit 2 ;;
 esac
 
 is_installed() { [ "$(dpkg-query -W -f '${db:Status-Abbrev}' "$1" 2>/dev/null)" = 'ii ' ]; }

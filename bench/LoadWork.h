@@ -1,0 +1,13 @@
+// The work of loading a file.
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+
+namespace bench {
+
+/// Loads the file over and over.
+void LoadOver(benchmark::State& state, const std::filesystem::path& path);
+
+}  // namespace bench

@@ -1,0 +1,34 @@
+// Measures the library beside something of known cost and prints the ratios. Ends with status 0 whatever they are, and
+// with 1 when something could not be measured.
+#include "Subjects.h"
+
+#include <malloc.h>
+
+#include <cstdlib>
+
+namespace {
+
+/// Has the process keep the memory that it frees. Otherwise only large files would pay at every load for the pages that
+/// the system hands out and takes back, and how large they must be would depend on what was measured before.
+void KeepFreedMemory() {
+  constexpr int never = -1;
+  mallopt(M_TRIM_THRESHOLD, never);
+  mallopt(M_MMAP_MAX, 0);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  KeepFreedMemory();
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return EXIT_FAILURE;
+  bench::CRatioTable table;
+  bench::AddTextLoad(table);
+  bench::AddXmlLoad(table);
+  bench::AddWholeProcess(table);
+  bench::AddQueries(table);
+  bench::AddLibraryLoad(table);
+  bench::AddGrowth(table);
+  const std::size_t count = benchmark::RunSpecifiedBenchmarks(&table);
+  return count > 0 && !table.HasFailed() ? EXIT_SUCCESS : EXIT_FAILURE;
+}

@@ -1,0 +1,95 @@
+// The table of ratios: its rows are benchmarks of Google Benchmark, which runs them, and it prints what came of them.
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <functional>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace bench {
+
+using Work = std::function<void(benchmark::State&)>;
+using Benchmark = benchmark::internal::Benchmark;
+
+/// What a ratio should be.
+struct Goal {
+  enum class Kind { None, AtMost, TimesAsFast };
+
+  Kind kind = Kind::None;
+  double bound = 0;
+};
+
+/// For ratios of ours to the other.
+constexpr Goal AtMost(double ratio) { return {Goal::Kind::AtMost, ratio}; }
+
+/// For the inverse ratio, of the other to ours.
+constexpr Goal AtLeastTimesAsFast(double ratio) { return {Goal::Kind::TimesAsFast, ratio}; }
+
+/// The texts of a row.
+struct Row {
+  std::string name;  ///< what filters look at
+  std::string what;
+  std::string against;
+  Goal goal;
+};
+
+/// A benchmark that sets this counter measures the time of one of so many fields.
+constexpr const char* kFields = "fields";
+
+/// A benchmark that sets this counter measures so many bytes, and no time.
+constexpr const char* kBytes = "bytes";
+
+/// Takes part in a run as its reporter. A benchmark measures CPU time unless it is made to use another, and of its
+/// repetitions the median counts. A benchmark whose work throws has failed.
+class CRatioTable : public benchmark::BenchmarkReporter {
+ public:
+  struct Pair {
+    Benchmark* ours;
+    Benchmark* other;
+  };
+
+  /// A row that compares two benchmarks, which the caller may adjust.
+  Pair AddPair(Row row, const Work& ours, const Work& other);
+
+  /// A row that compares the largest result of the sizes with the smallest, and a row of the table of sizes. The
+  /// caller may adjust the benchmarks.
+  std::vector<Benchmark*> AddSpread(Row row, const std::vector<std::pair<std::string, Work>>& sizes);
+
+  bool ReportContext(const Context& context) override;
+  void ReportRuns(const std::vector<Run>& runs) override;
+
+  /// Prints the rows of which something was run.
+  void Finalize() override;
+
+  bool HasFailed() const { return m_hasFailed; }
+
+ private:
+  /// A row with the names of its benchmarks. Of several on one side, ours is the largest and the other the smallest.
+  struct RowBenchmarks {
+    Row row;
+    std::vector<std::string> ours;
+    std::vector<std::string> others;
+    std::vector<std::string> sizes;  // empty unless the row is a spread
+  };
+
+  struct Results {
+    std::vector<double> values;  // nanoseconds or bytes
+    bool isBytes = false;
+  };
+
+  bool IsMeasured(const RowBenchmarks& row) const;
+  double Median(const std::string& benchmark) const;
+  std::string MedianText(const std::string& benchmark) const;
+  void PrintRatios();
+  void PrintRatio(const RowBenchmarks& row);
+  void PrintSizes();
+
+  std::vector<RowBenchmarks> m_rows;
+  std::map<std::string, Results> m_results;
+  bool m_hasFailed = false;
+};
+
+}  // namespace bench

@@ -1,0 +1,15 @@
+// What is measured: each function adds the rows of one subject.
+#pragma once
+
+#include "RatioTable.h"
+
+namespace bench {
+
+void AddTextLoad(CRatioTable& table);
+void AddXmlLoad(CRatioTable& table);
+void AddWholeProcess(CRatioTable& table);
+void AddQueries(CRatioTable& table);
+void AddLibraryLoad(CRatioTable& table);
+void AddGrowth(CRatioTable& table);
+
+}  // namespace bench
