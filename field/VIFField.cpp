@@ -50,10 +50,19 @@ CVIFField::CVIFField(bool isNumeric, const std::string& name, const std::string&
                      const std::array<VifIndex, MAX_INDEX_DEPTH>& indexes)
     : m_indexes(indexes),
       m_name(name),
-      m_value(value),
-      m_description(description),
       m_numericValue(InitNumericValue(value, isNumeric)),
-      m_isNumeric(isNumeric) {}
+      m_isNumeric(isNumeric),
+      m_value(value),
+      m_description(description) {}
+
+CVIFField::CVIFField(bool isNumeric, std::string&& name, std::string&& value, std::string&& description,
+                     const std::array<VifIndex, MAX_INDEX_DEPTH>& indexes)
+    : m_indexes(indexes),
+      m_name(std::move(name)),
+      m_numericValue(InitNumericValue(value, isNumeric)),
+      m_isNumeric(isNumeric),
+      m_value(std::move(value)),
+      m_description(std::move(description)) {}
 
 CVIFField::CVIFField(bool isNumeric, const std::string& name, const std::string& value, const std::string& description,
                      const VifIndex& index1, const VifIndex& index2, const VifIndex& index3)

@@ -60,6 +60,10 @@ class VIF_API CVIFField {
   CVIFField(bool isNumeric, const std::string& name, const std::string& value, const std::string& description,
             const std::array<VifIndex, MAX_INDEX_DEPTH>& indexes);
 
+  /// The same, with the texts taken over instead of copied.
+  CVIFField(bool isNumeric, std::string&& name, std::string&& value, std::string&& description,
+            const std::array<VifIndex, MAX_INDEX_DEPTH>& indexes);
+
   /// The same with the slots one by one.
   CVIFField(bool isNumeric, const std::string& name, const std::string& value, const std::string& description,
             const VifIndex& index1, const VifIndex& index2, const VifIndex& index3);
@@ -148,8 +152,8 @@ class VIF_API CVIFField {
   // What queries look at stands first, so that it lies in as few cache lines as possible.
   std::array<VifIndex, MAX_INDEX_DEPTH> m_indexes;
   CSafeString m_name;
+  std::uint64_t m_numericValue;  // made of the value, so before the value can be taken over
+  bool m_isNumeric;
   CSafeString m_value;
   CSafeString m_description;
-  std::uint64_t m_numericValue;
-  bool m_isNumeric;
 };

@@ -108,6 +108,9 @@ class VIF_API CVendorInfoFile {
   std::size_t Count(std::nullptr_t, const VifIndex& index1, const VifIndex& index2, const VifIndex& index3) const;
   std::size_t Count(std::nullptr_t, const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
 
+  /// All fields held, without copying them. Valid until this object is changed or destroyed.
+  const std::vector<CVIFField>& Fields() const noexcept;
+
   /// Copies of all fields held.
   VifFieldList GetFields() const;
 
@@ -201,7 +204,6 @@ class VIF_API CVendorInfoFile {
 
  private:
   CVIFImpl& Content();
-  const std::vector<CVIFField>& Fields() const noexcept;
 
   CVIFImpl* m_impl;  // owned; null, which stands for empty content, after a move or a failed append
 };

@@ -41,8 +41,7 @@ void WriteCsv(const CVendorInfoFile& vif) {
     header += ",location" + std::to_string(slot) + ",index" + std::to_string(slot);
   }
   Write(header.append(kLineEnd));
-  const VifFieldList fields = vif.GetFields();
-  for (const CVIFField& field : *fields) Write(Line(field));
+  for (const CVIFField& field : vif.Fields()) Write(Line(field));
 }
 
 }  // namespace tool

@@ -3,41 +3,74 @@
 #include "Output.h"
 #include "Writers.h"
 
+#include <algorithm>
+#include <string>
+#include <string_view>
+
 namespace tool {
 
 namespace {
 
-Json ToJson(const CVIFField& field) {
-  Json indexes = Json::array();
+/// As many bytes are collected before they are written.
+constexpr std::size_t kBlock = std::size_t{64} * 1024;
+
+bool IsSimple(char c) { return c >= ' ' && c <= '~' && c != '"' && c != '\\'; }
+
+/// Text that needs no escapes, as nearly all does, is put between quotes as it is: without this, and with an object
+/// made of each field, a file of 200 components takes three times as long to list.
+void AppendText(std::string& out, std::string_view text) {
+  if (!std::all_of(text.begin(), text.end(), IsSimple)) {
+    out += Dump(Json(text));
+    return;
+  }
+  out += '"';
+  out += text;
+  out += '"';
+}
+
+void AppendIndexes(std::string& out, const CVIFField& field) {
+  out += '[';
+  const char* separator = "";
   for (const VifIndex& slot : field.Indexes()) {
     if (!IsUsed(slot)) continue;
-    const Json number = HasNumber(slot) ? Json(std::get<1>(slot)) : Json();
-    indexes.push_back({{"location", LocationName(slot)}, {"index", number}});
+    out.append(separator).append(R"({"location":)");
+    AppendText(out, LocationName(slot));
+    out.append(R"(,"index":)").append(HasNumber(slot) ? std::to_string(std::get<1>(slot)) : "null").append("}");
+    separator = ",";
   }
-  return {
-      {"name", field.Name()},
-      {"value", field.Value()},
-      {"description", field.Description()},
-      {"numeric", field.IsNumeric()},
-      {"number", HasNumber(field) ? Json(field.GetULongNumericValue()) : Json()},
-      {"indexes", std::move(indexes)},
-  };
+  out += ']';
+}
+
+void AppendField(std::string& out, const CVIFField& field) {
+  out += R"({"name":)";
+  AppendText(out, field.Name());
+  out += R"(,"value":)";
+  AppendText(out, field.Value());
+  out += R"(,"description":)";
+  AppendText(out, field.Description());
+  out.append(R"(,"numeric":)").append(field.IsNumeric() ? "true" : "false");
+  out.append(R"(,"number":)").append(HasNumber(field) ? std::to_string(field.GetULongNumericValue()) : "null");
+  out += R"(,"indexes":)";
+  AppendIndexes(out, field);
+  out += '}';
 }
 
 }  // namespace
 
-// Written field by field, so that a large file needs no second copy of itself in memory.
+// Written block by block, so that a large file needs no second copy of itself in memory.
 void WriteJson(const std::vector<std::string>& fileNames, const CVendorInfoFile& vif) {
-  Write("{\"files\":" + Dump(fileNames) + ",\n");
-  Write("\"componentCount\":" + std::to_string(vif.ComponentCount()) + ",\n");
-  Write("\"fields\":[");
-  const VifFieldList fields = vif.GetFields();
+  std::string block = "{\"files\":" + Dump(fileNames) + ",\n";
+  block.append("\"componentCount\":").append(std::to_string(vif.ComponentCount())).append(",\n\"fields\":[");
   const char* separator = "\n";
-  for (const CVIFField& field : *fields) {
-    Write(separator + Dump(ToJson(field)));
+  for (const CVIFField& field : vif.Fields()) {
+    block += separator;
+    AppendField(block, field);
     separator = ",\n";
+    if (block.size() < kBlock) continue;
+    Write(block);
+    block.clear();
   }
-  Write("\n]}\n");
+  Write(block + "\n]}\n");
 }
 
 }  // namespace tool

@@ -8,8 +8,7 @@ namespace tool {
 void WriteTable(const CVendorInfoFile& vif) {
   CColumns table;
   table.Add({"LOCATION", "NAME", "VALUE", "DESCRIPTION"});
-  const VifFieldList fields = vif.GetFields();
-  for (const CVIFField& field : *fields) {
+  for (const CVIFField& field : vif.Fields()) {
     const std::string value = Printable(field.Value());
     table.Add({LocationText(field), Printable(field.Name()), field.IsNumeric() ? value : '"' + value + '"',
                Printable(field.Description())});

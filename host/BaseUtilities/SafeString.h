@@ -1,8 +1,10 @@
 // The host's owned narrow string.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 
 /// An owned, NUL-terminated narrow string.
 ///
@@ -19,6 +21,11 @@ class CSafeString {
 
   /// A copy of the text up to its first NUL. Throws only `std::bad_alloc`.
   CSafeString(const std::string& text) : m_text(text, 0, text.find('\0')) {}
+
+  /// The text up to its first NUL, taken over. Throws nothing.
+  CSafeString(std::string&& text) noexcept : m_text(std::move(text)) {
+    if (const std::size_t end = m_text.find('\0'); end != std::string::npos) m_text.erase(end);
+  }
 
   CSafeString(const CSafeString&) = default;
   CSafeString& operator=(const CSafeString&) = default;
