@@ -18,6 +18,9 @@ if(WIN32)
   set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
 endif()
 
+# Lists of sanitizers, such as "address,undefined". Every finding ends the program.
+set(VENDORINFOFILE_SANITIZE "" CACHE STRING "Sanitizers to build everything with, separated by commas")
+
 add_library(project_settings INTERFACE)
 target_compile_features(project_settings INTERFACE cxx_std_20)
 if(WIN32)
@@ -34,8 +37,21 @@ else()
     -Woverloaded-virtual)
 endif()
 
-# Lists of sanitizers, such as "address,undefined". Every finding ends the program.
-set(VENDORINFOFILE_SANITIZE "" CACHE STRING "Sanitizers to build everything with, separated by commas")
+# What the library reads comes from anywhere. A mistake of its own that a file finds is to end the process rather than be
+# made use of.
+if(NOT MSVC)
+  target_compile_definitions(project_settings INTERFACE _GLIBCXX_ASSERTIONS)
+endif()
+if(UNIX AND NOT APPLE)
+  target_compile_options(project_settings INTERFACE -fstack-protector-strong)
+  # It needs an optimised build, and the sanitizers watch the same calls themselves.
+  if(NOT VENDORINFOFILE_SANITIZE)
+    target_compile_options(project_settings INTERFACE
+      $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE$<SEMICOLON>-D_FORTIFY_SOURCE=2>)
+  endif()
+  target_link_options(project_settings INTERFACE LINKER:-z,relro,-z,now,-z,noexecstack)
+endif()
+
 if(VENDORINFOFILE_SANITIZE)
   add_compile_options(-fsanitize=${VENDORINFOFILE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${VENDORINFOFILE_SANITIZE})

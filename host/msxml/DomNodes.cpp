@@ -166,8 +166,9 @@ class CDomNode final : public CCounted<IXMLDOMElement> {
   HRESULT get_text(BSTR* text) override {
     if (text == nullptr) return E_INVALIDARG;
     return Guarded([&] {
-      const bool isAttribute = m_node->type == XML_ATTRIBUTE_NODE;
-      *text = isAttribute ? MakeBstr(AttributeValue(*m_node)) : MakeBstr(NodeText(*m_node));
+      const std::optional<std::string_view> plain =
+          m_node->type == XML_ATTRIBUTE_NODE ? AttributeValue(*m_node) : PlainText(*m_node);
+      *text = plain ? MakeBstr(*plain) : MakeBstr(NodeText(*m_node));
       return S_OK;
     });
   }

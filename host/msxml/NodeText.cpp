@@ -114,19 +114,20 @@ std::string Trim(const std::string& text, const Joined& joined) {
   return text.substr(begin, end - begin);
 }
 
-/// Whether there is nothing to join or to trim, as in nearly all elements that are asked for their text.
-bool IsPlain(const xmlNode& element) {
-  const xmlNode* text = element.children;
-  if (text == nullptr) return true;
-  if (text->next != nullptr || text->type != XML_TEXT_NODE) return false;
-  const std::string_view content = View(text->content);
-  return !content.empty() && !IsWhiteSpace(content.substr(0, 1)) && !IsWhiteSpace(content.substr(content.size() - 1));
-}
-
 }  // namespace
 
+std::optional<std::string_view> PlainText(const xmlNode& element) {
+  const xmlNode* text = element.children;
+  if (text == nullptr) return std::string_view();
+  if (text->next != nullptr || text->type != XML_TEXT_NODE) return std::nullopt;
+  const std::string_view content = View(text->content);
+  if (content.empty() || IsWhiteSpace(content.substr(0, 1)) || IsWhiteSpace(content.substr(content.size() - 1))) {
+    return std::nullopt;
+  }
+  return content;
+}
+
 std::string NodeText(const xmlNode& element) {
-  if (IsPlain(element)) return element.children != nullptr ? std::string(View(element.children->content)) : "";
   const bool isPreserving = IsPreserving(element);
   CTextJoiner joiner;
   const Joined joined = joiner.Append(element, isPreserving);

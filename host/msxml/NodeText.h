@@ -3,7 +3,9 @@
 
 #include <libxml/tree.h>
 
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace msxml {
 
@@ -13,5 +15,9 @@ namespace msxml {
 /// blank between what stands before and behind it inside the element, and as nothing elsewhere or between two CDATA
 /// sections. White space at both ends of the whole is removed, but for that of a CDATA section, which stays.
 std::string NodeText(const xmlNode& element);
+
+/// The same where there is nothing to join and nothing to remove, as in nearly all elements that are asked for their
+/// text: a part of the tree. Nothing elsewhere.
+std::optional<std::string_view> PlainText(const xmlNode& element);
 
 }  // namespace msxml

@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <mutex>
 #include <new>
 #include <string>
@@ -72,8 +73,9 @@ std::uint32_t CountCharacters(std::string_view utf8) {
 /// is no longer in the parser's buffer.
 Position StartTagPosition(const xmlParserInput& input) {
   const std::string_view read = Between(input.base, input.cur);
-  const std::size_t found = read.rfind('<');  // no attribute's value can contain one
-  const std::size_t begin = found != std::string_view::npos ? found : 0;
+  const void* found = memrchr(read.data(), '<', read.size());  // no attribute's value can contain one
+  const std::size_t begin =
+      found != nullptr ? static_cast<std::size_t>(static_cast<const char*>(found) - read.data()) : 0;
   const std::string_view tag = read.substr(begin);
   const auto line = static_cast<std::uint32_t>(std::max(input.line, 1));
   if (tag.find('\n') == std::string_view::npos) {
