@@ -219,6 +219,8 @@ void ReadXmlVif(const std::filesystem::path& path, FieldSink sink) {
   LoadXmlVif(path, document);
   ReserveFor(path, sink.fields);
   ExtractFields(*document.GetRootElement(), sink);
+  // A file may be made of something else than fields nearly entirely.
+  if (sink.fields.capacity() > 2 * sink.fields.size()) sink.fields.shrink_to_fit();
 }
 
 void LoadXmlVif(const std::filesystem::path& path, CDOMDocVIF& document) {

@@ -19,8 +19,8 @@ class CCounted : public Interface {
   ULONG AddRef() override { return ++m_references; }
 
   ULONG Release() override {
-    // Whoever has the only reference shares it with nobody, so counting it down can be saved: that takes as long as a
-    // hundred ordinary instructions.
+    // Whoever has the only reference shares it with nobody, so counting it down can be saved, which is dear where
+    // threads could share it.
     const ULONG left = m_references.load(std::memory_order_acquire) == 1 ? 0 : --m_references;
     if (left == 0) delete this;
     return left;

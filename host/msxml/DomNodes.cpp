@@ -248,6 +248,7 @@ std::vector<xmlNode*> Select(const DocumentState& state, xmlNode* from, std::wst
 }  // namespace
 
 BSTR MakeBstr(std::string_view utf8) {
+  if (utf8.size() > std::numeric_limits<UINT>::max()) _com_issue_error(E_OUTOFMEMORY);
   BSTR text = SysAllocStringLen(nullptr, static_cast<UINT>(utf8.size()));
   if (text == nullptr) _com_issue_error(E_OUTOFMEMORY);
   if (CopyAscii(utf8, text)) return text;

@@ -7,11 +7,11 @@ namespace msxml {
 
 namespace {
 
-/// The beginnings of the names.
-constexpr std::string_view kEncodings[] = {
-    "UTF-8",    "UTF8",      "UTF-16", "UTF16",       "US-ASCII", "ASCII", "ISO-8859-", "ISO_8859-",
-    "ISO8859-", "ISO LATIN", "LATIN",  "WINDOWS-125", "CP125",    "CP932", "SHIFT_JIS", "SHIFT-JIS",
-    "SJIS",     "EUC-",      "GB2312", "GBK",         "GB18030",  "BIG5",  "KOI8-",     "TIS-620"};
+/// The beginnings of the names. Shift_JIS, GBK, GB18030 and Big5 are none of them: there, a byte that is a bracket in
+/// ASCII may be the second half of a character.
+constexpr std::string_view kEncodings[] = {"UTF-8",     "UTF8",      "UTF-16",   "UTF16",     "US-ASCII", "ASCII",
+                                           "ISO-8859-", "ISO_8859-", "ISO8859-", "ISO LATIN", "LATIN",    "WINDOWS-125",
+                                           "CP125",     "EUC-",      "GB2312",   "KOI8-",     "TIS-620"};
 
 }  // namespace
 

@@ -40,7 +40,7 @@ const char* CTagGuard::SkipDull(const char* at, const char* end) {
   switch (m_state) {
     case State::Text: return FindByte(at, end, '<');
     case State::Opening: return SkipShortTag(at, end);
-    case State::Value: return FindByte(at, end, m_quote);
+    case State::Value: return FindByte(at, FindByte(at, end, m_quote), '<');
     case State::Comment:
     case State::CData:
     case State::Instruction: return FindByte(at, end, '>');
@@ -48,8 +48,8 @@ const char* CTagGuard::SkipDull(const char* at, const char* end) {
   }
 }
 
-/// There is no "<" in a tag, or the parser refuses the file. So when the next one is near, what stands before it cannot
-/// have too many attributes, and need not be looked at. So it is with nearly all tags.
+/// There is no "<" in a tag. So when the next one is near, what stands before it cannot have too many attributes, and
+/// need not be looked at. So it is with nearly all tags.
 const char* CTagGuard::SkipShortTag(const char* at, const char* end) {
   if (*at == '!' || *at == '?') return at;
   const char* farthest = at + std::min(static_cast<std::size_t>(end - at), kMostAttributes);
@@ -124,10 +124,14 @@ void CTagGuard::TakeCharacter(char c) {
         ++m_attributes;
       } else if (c == '>') {
         m_state = State::Text;
+      } else if (c == '<') {
+        m_state = State::Opening;
       }
       break;
     case State::Value:
       if (c == m_quote) m_state = State::Tag;
+      // The file is malformed, but the parser goes on to look for mistakes, and takes this for the next tag.
+      if (c == '<') m_state = State::Opening;
       break;
     case State::Declaration:
       if (c == '[') m_state = State::CData;

@@ -5,6 +5,7 @@
 #include <libxml/parserInternals.h>
 
 #include <algorithm>
+#include <limits>
 #include <new>
 
 namespace msxml {
@@ -13,6 +14,9 @@ namespace {
 
 constexpr std::size_t kPointersOfNamespace = 2;
 constexpr std::size_t kPointersOfAttribute = 5;
+
+/// libxml2 counts the bytes of a text in an int.
+constexpr std::size_t kLongestText = std::numeric_limits<int>::max();
 
 /// An attribute and its value, which is a text node of its own.
 struct ValuedAttribute {
@@ -50,6 +54,7 @@ xmlNode& CTreeBuilder::MakeText(xmlElementType type, const xmlChar* name, std::s
 
 /// Adds a node behind the last in the open element, or in the document when none is open.
 void CTreeBuilder::Append(xmlNode& node) {
+  EndText();
   xmlNode* parent = m_context.node;
   node.parent = parent != nullptr ? parent : reinterpret_cast<xmlNode*>(m_context.myDoc);
   xmlNode*& first = parent != nullptr ? parent->children : m_first;
@@ -61,7 +66,7 @@ void CTreeBuilder::Append(xmlNode& node) {
 
 xmlNode& CTreeBuilder::StartElement(const StartTag& tag) {
   auto& element = Make<xmlNode>();
-  Begin(element, XML_ELEMENT_NODE, tag.name);
+  Begin(element, XML_ELEMENT_NODE, ElementName(tag));
   Append(element);
   AddNamespaces(element, tag);
   if (tag.uri != nullptr && element.ns == nullptr) element.ns = InheritNamespace(element, tag);
@@ -70,7 +75,18 @@ xmlNode& CTreeBuilder::StartElement(const StartTag& tag) {
   return element;
 }
 
-void CTreeBuilder::EndElement() { nodePop(&m_context); }
+void CTreeBuilder::EndElement() {
+  EndText();
+  nodePop(&m_context);
+}
+
+/// The local name; of an element whose prefix is declared nowhere, which the parser reports, all of it.
+const xmlChar* CTreeBuilder::ElementName(const StartTag& tag) const {
+  if (tag.prefix == nullptr || tag.uri != nullptr) return tag.name;
+  const xmlChar* name = xmlDictQLookup(m_context.dict, tag.prefix, tag.name);
+  if (name == nullptr) throw std::bad_alloc();
+  return name;
+}
 
 void CTreeBuilder::AddNamespaces(xmlNode& element, const StartTag& tag) {
   xmlNs** place = &element.nsDef;
@@ -132,15 +148,21 @@ void CTreeBuilder::AppendPiece(xmlElementType type, const xmlChar* name, std::st
   xmlNode* last = open->last;
   if (last == nullptr || last->type != type) {
     Append(MakeText(type, name, text));
-    m_length = m_capacity = text.size();
     return;
   }
-  if (m_capacity - m_length < text.size()) {
-    m_capacity = 2 * (m_length + text.size());
-    last->content = Put(Between(last->content, last->content + m_length), m_memory.allocate(m_capacity + 1, 1));
+  if (m_growing == nullptr) {
+    m_growing = last;
+    m_text = View(last->content);
   }
-  Put(text, last->content + m_length);
-  m_length += text.size();
+  if (text.size() > kLongestText - m_text.size()) throw std::bad_alloc();
+  m_text += text;
+}
+
+/// Gives the text that has come in more than one piece to its node: memory that it outgrew in the pool would be kept.
+void CTreeBuilder::EndText() {
+  if (m_growing == nullptr) return;
+  m_growing->content = Put(m_text, m_memory.allocate(m_text.size() + 1, 1));
+  m_growing = nullptr;
 }
 
 void CTreeBuilder::AddText(std::string_view text) { AppendPiece(XML_TEXT_NODE, xmlStringText, text); }

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <memory_resource>
+#include <string>
 #include <string_view>
 
 namespace msxml {
@@ -56,6 +57,8 @@ class CTreeBuilder {
   xmlNode& MakeText(xmlElementType type, const xmlChar* name, std::string_view text);
   void Append(xmlNode& node);
   void AppendPiece(xmlElementType type, const xmlChar* name, std::string_view text);
+  void EndText();
+  const xmlChar* ElementName(const StartTag& tag) const;
   void AddNamespaces(xmlNode& element, const StartTag& tag);
   void AddAttributes(xmlNode& element, const StartTag& tag);
   xmlAttr& MakeAttribute(xmlNode& element, const xmlChar** given);
@@ -66,8 +69,8 @@ class CTreeBuilder {
   TreeMemory& m_memory;
   xmlNode* m_first = nullptr;  // of the nodes directly in the document
   xmlNode* m_last = nullptr;
-  std::size_t m_length = 0;  // of the text that was added last, which may go on
-  std::size_t m_capacity = 0;
+  xmlNode* m_growing = nullptr;  // the text to which pieces are still added, in m_text; null when there is none
+  std::string m_text;
 };
 
 }  // namespace msxml

@@ -27,22 +27,10 @@ namespace msxml {
 
 namespace {
 
-// The limits that libxml2 sets on the length of texts and names are lifted: a text takes no more memory than the file
-// has, and entities, which could multiply it, cannot be declared.
-// That the five entities of every document are replaced everywhere has to be asked for.
+// The limits that libxml2 sets on the length of texts and names are lifted: a text takes little more memory than the
+// file has, and entities, which could multiply it, cannot be declared. That the five entities of every document are
+// replaced everywhere has to be asked for.
 constexpr int kOptions = XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_NOENT;
-
-/// What the parser reads from: a file whose tags are kept within bounds.
-struct Source {
-  CInputFile file;
-  CTagGuard guard;
-
-  static int Read(void* context, char* buffer, int length) noexcept {
-    auto& source = *static_cast<Source*>(context);
-    const int count = CInputFile::Read(&source.file, buffer, length);
-    return count <= 0 || source.guard.Take(buffer, static_cast<std::size_t>(count)) ? count : -1;
-  }
-};
 
 struct FreeContext {
   void operator()(xmlParserCtxt* context) const { xmlFreeParserCtxt(context); }
@@ -63,6 +51,25 @@ struct Run {
 };
 
 Run& RunOf(const xmlParserCtxt& context) { return *static_cast<Run*>(context._private); }
+
+/// What the parser reads from: a file whose tags are kept within bounds.
+struct Source {
+  CInputFile file;
+  CTagGuard guard;
+  xmlParserCtxt& context;
+
+  /// Ends where the file is no longer well-formed: behind that the parser, which goes on, may find tags where the guard
+  /// sees none.
+  static int Read(void* data, char* buffer, int length) noexcept {
+    auto& source = *static_cast<Source*>(data);
+    if (source.context.wellFormed == 0) {
+      RunOf(source.context).isStopped = true;
+      return 0;
+    }
+    const int count = CInputFile::Read(&source.file, buffer, length);
+    return count <= 0 || source.guard.Take(buffer, static_cast<std::size_t>(count)) ? count : -1;
+  }
+};
 
 std::uint32_t CountCharacters(std::string_view utf8) {
   const auto isFirstByte = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
@@ -246,13 +253,13 @@ ContextPointer MakeContext() {
 
 std::shared_ptr<const CXmlTree> ParseXmlFile(const std::filesystem::path& path, CProblems& problems) {
   InitializeXmlLibrary();
-  Source source{CInputFile(path), {}};
+  const ContextPointer context = MakeContext();
+  Source source{CInputFile(path), {}, *context};
   if (!source.file.IsOpen()) {
     problems.Add(0, 0, {}, "The file " + source.file.Error() + ".");
     return nullptr;
   }
   auto memory = std::make_unique<TreeMemory>(MemoryFor(source.file));
-  const ContextPointer context = MakeContext();
   CTreeBuilder builder(*context, *memory);
   Run run{problems, source.guard, builder, {}};
   context->_private = &run;

@@ -122,7 +122,13 @@ class CScanner {
         const std::size_t begin = at + 1;
         at = m_text.find(m_text[at], begin);
         if (at == std::string_view::npos) break;
-        m_scope.TakeAttribute(name, m_text.substr(begin, at - begin));
+        const std::string_view value = m_text.substr(begin, at - begin);
+        if (value.find('<') != std::string_view::npos) {
+          // A parser that goes on behind the mistake would take it for the next tag, and what follows for attributes.
+          Refuse(m_open.back().name, "There is a '<' in the value of an attribute.");
+          break;
+        }
+        m_scope.TakeAttribute(name, value);
       }
       nameBegin = ++at;
     }

@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <limits>
 #include <optional>
+#include <random>
 #include <regex>
 #include <stdexcept>
 #include <string>
@@ -145,6 +146,70 @@ TEST(Field, HoldsWhatEveryConstructorWasGiven) {
       EXPECT_EQ(field.GetNumericValue(), isNumeric ? 12 : kUnset32);
     }
   }
+}
+
+/// A text as values are, and as they are not.
+std::string RandomText(std::mt19937_64& generator) {
+  const std::array texts = {""s,
+                            "12"s,
+                            "0x1Fz"s,
+                            "YES"s,
+                            "false"s,
+                            "no\0"s,
+                            "1\0002"s,
+                            "\0007"s,
+                            "12 V"s,
+                            " 5"s,
+                            "Text"s,
+                            "\xFF\x80"s,
+                            "0x"s,
+                            "18446744073709551616"s,
+                            kLongName,
+                            "9\0"s + kLongName,
+                            kLongName + "\0x"s};
+  return texts[testsupport::RandomBelow(generator, texts.size())];
+}
+
+TEST(Field, HoldsTheSameWhetherItTakesItsTextsOverOrCopiesThem) {
+  SCOPED_TRACE(testsupport::SeedMessage());
+  std::mt19937_64 generator = testsupport::SeededGenerator();
+  const Slots slots = {{{eVifLocComponent, 1}, {eVifLocSrcPdo, 2}, kUnused}};
+  for (int i = 0; i < 2000; ++i) {
+    const bool isNumeric = testsupport::RandomBelow(generator, 2) == 0;
+    std::string name = RandomText(generator);
+    std::string value = RandomText(generator);
+    std::string description = RandomText(generator);
+    const CVIFField copied(isNumeric, name, value, description, slots);
+    const CVIFField taken(isNumeric, std::move(name), std::move(value), std::move(description), slots);
+    ASSERT_STREQ(taken.Name(), copied.Name());
+    ASSERT_STREQ(taken.Value(), copied.Value());
+    ASSERT_STREQ(taken.Description(), copied.Description());
+    ASSERT_EQ(taken.IsNumeric(), isNumeric);
+    ASSERT_EQ(taken.Indexes(), slots);
+    ASSERT_EQ(taken.GetNumericValue(), copied.GetNumericValue()) << copied.Value();
+    if (!isNumeric) continue;
+    ASSERT_EQ(taken.GetULongNumericValue(), copied.GetULongNumericValue()) << copied.Value();
+  }
+}
+
+TEST(Field, TakesTextsOverWithoutCopyingThem) {
+  std::string name = kLongName;
+  std::string value = kLongName;
+  std::string description = kLongName;
+  const std::array characters = {name.data(), value.data(), description.data()};
+  const CVIFField field(false, std::move(name), std::move(value), std::move(description), {kUnused, kUnused, kUnused});
+  EXPECT_EQ(field.Name(), characters[0]);
+  EXPECT_EQ(field.Value(), characters[1]);
+  EXPECT_EQ(field.Description(), characters[2]);
+}
+
+TEST(Field, LeavesTextsThatItMayNotTakeOver) {
+  std::string name = kLongName;
+  const std::string value = kLongName;
+  const CVIFField field(false, std::move(name), value, value, {kUnused, kUnused, kUnused});
+  EXPECT_EQ(field.Value(), kLongName);
+  EXPECT_EQ(field.Description(), kLongName);
+  EXPECT_EQ(value, kLongName);
 }
 
 TEST(Field, OwnsItsTexts) {

@@ -5,7 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <random>
 #include <string>
 #include <vector>
@@ -39,9 +41,9 @@ void AppendElement(Generator& generator, int depth, std::string& xml) {
   xml += "</" + name + '>';
 }
 
-std::string RandomDocument(Generator& generator) {
+std::string RandomDocument(Generator& generator, int depth = 3) {
   std::string xml = "<p:A xmlns:p='urn:p' xmlns:q='urn:q' xmlns:r='urn:p'>";
-  for (int i = 0; i < 6; ++i) AppendElement(generator, 3, xml);
+  for (int i = 0; i < 6; ++i) AppendElement(generator, depth, xml);
   return xml + "</p:A>";
 }
 
@@ -50,11 +52,12 @@ struct Paths {
   std::wstring explicitAxes;
 };
 
-Paths RandomPaths(Generator& generator) {
-  constexpr std::array steps = {L"x:*", L"y:*", L"x:A", L"x:B", L"y:A", L"y:B", L"x:C"};
+/// \param mostSteps more than four are libxml2's own business, however they are written
+template <std::size_t count>
+Paths RandomPaths(Generator& generator, const std::array<const wchar_t*, count>& steps, std::size_t mostSteps) {
   Paths paths;
-  const std::size_t count = 1 + RandomBelow(generator, 3);
-  for (std::size_t i = 0; i < count; ++i) {
+  const std::size_t stepCount = 1 + RandomBelow(generator, mostSteps);
+  for (std::size_t i = 0; i < stepCount; ++i) {
     const std::wstring step = steps[RandomBelow(generator, steps.size())];
     const wchar_t* separator = i != 0 ? L"/" : L"";
     paths.plain += separator + step;
@@ -62,6 +65,11 @@ Paths RandomPaths(Generator& generator) {
   }
   return paths;
 }
+
+constexpr std::array kSteps = {L"x:*", L"y:*", L"x:A", L"x:B", L"y:A", L"y:B", L"x:C"};
+
+/// Of which even long paths find something.
+constexpr std::array kMixedSteps = {L"x:*", L"x:*", L"x:*", L"*", L"*", L"*", L"x:A", L"x:B", L"y:*", L"A"};
 
 /// What a path finds, as names with places.
 std::vector<std::string> Found(const CTextDocument& document, IXMLDOMNode& from, const std::wstring& path) {
@@ -82,13 +90,141 @@ TEST(MsxmlSelectionDifferentialTest, ChildStepsFindWhatExplicitAxesFind) {
     std::vector<DOMNodePtr> starts = Select(document.Document(), L"/ | //*[*]");
     for (int j = 0; j < 60; ++j) {
       IXMLDOMNode& from = *starts[RandomBelow(generator, starts.size())];
-      const Paths paths = RandomPaths(generator);
+      const Paths paths = RandomPaths(generator, kSteps, 3);
       const std::vector<std::string> plain = Found(document, from, paths.plain);
       ASSERT_EQ(plain, Found(document, from, paths.explicitAxes)) << Utf16ToUtf8(paths.plain) << " in\n" << xml;
       foundCount += plain.size();
     }
   }
   EXPECT_GT(foundCount, 1000U);
+}
+
+/// A generated document with two prefixes for its expressions, and the nodes to ask.
+class CAskedDocument {
+ public:
+  CAskedDocument(Generator& generator, int depth) : m_document(RandomDocument(generator, depth)) {
+    testsupport::Require(SetSelectionNamespaces(m_document.Document(), L"xmlns:x='urn:p' xmlns:y='urn:q'"));
+    m_starts = Select(m_document.Document(), L"/ | //*[*]");
+  }
+
+  CTextDocument& Document() { return m_document; }
+
+  IXMLDOMNode& Any(Generator& generator) const { return *m_starts[RandomBelow(generator, m_starts.size())]; }
+
+  std::vector<std::string> Found(IXMLDOMNode& from, const std::wstring& path) const {
+    return ::Found(m_document, from, path);
+  }
+
+ private:
+  CTextDocument m_document;
+  std::vector<DOMNodePtr> m_starts;
+};
+
+TEST(MsxmlSelectionDifferentialTest, LongPathsAndNamesWithoutPrefixesFindWhatExplicitAxesFind) {
+  SCOPED_TRACE(testsupport::SeedMessage());
+  Generator generator = testsupport::SeededGenerator();
+  std::array<std::size_t, 7> foundCounts{};  // by the number of steps
+  for (int i = 0; i < 80; ++i) {
+    const CAskedDocument document(generator, 6);
+    for (int j = 0; j < 120; ++j) {
+      IXMLDOMNode& from = document.Any(generator);
+      const Paths paths = RandomPaths(generator, kMixedSteps, 6);
+      const std::vector<std::string> plain = document.Found(from, paths.plain);
+      ASSERT_EQ(plain, document.Found(from, paths.explicitAxes)) << Utf16ToUtf8(paths.plain);
+      ASSERT_EQ(plain, document.Found(from, L"./" + paths.plain)) << Utf16ToUtf8(paths.plain);
+      foundCounts[1 + static_cast<std::size_t>(std::count(paths.plain.begin(), paths.plain.end(), L'/'))] +=
+          plain.size();
+    }
+  }
+  for (std::size_t steps = 1; steps < foundCounts.size(); ++steps) EXPECT_GT(foundCounts[steps], 0U) << steps;
+}
+
+TEST(MsxmlSelectionDifferentialTest, TheFirstThatAPathFindsIsTheFirstOfItsList) {
+  SCOPED_TRACE(testsupport::SeedMessage());
+  Generator generator = testsupport::SeededGenerator();
+  for (int i = 0; i < 30; ++i) {
+    CAskedDocument document(generator, 3);
+    for (int j = 0; j < 30; ++j) {
+      IXMLDOMNode& from = document.Any(generator);
+      const Paths paths = RandomPaths(generator, kSteps, 3);
+      const std::vector<DOMNodePtr> all = Select(from, paths.explicitAxes);
+      const DOMNodePtr first = testsupport::SelectOne(from, paths.plain);
+      ASSERT_EQ(first == nullptr, all.empty()) << Utf16ToUtf8(paths.plain);
+      if (first == nullptr) continue;
+      ASSERT_EQ(PlaceOf(document.Document(), *first), PlaceOf(document.Document(), *all.front()));
+    }
+  }
+}
+
+TEST(MsxmlSelectionDifferentialTest, PathsAskedInTurnsFindWhatExplicitAxesFind) {
+  SCOPED_TRACE(testsupport::SeedMessage());
+  Generator generator = testsupport::SeededGenerator();
+  for (int i = 0; i < 40; ++i) {
+    const CAskedDocument document(generator, 4);
+    const std::array turns = {RandomPaths(generator, kSteps, 4), RandomPaths(generator, kSteps, 4),
+                              RandomPaths(generator, kMixedSteps, 6)};
+    for (int j = 0; j < 60; ++j) {
+      IXMLDOMNode& from = document.Any(generator);
+      const Paths& paths = turns[RandomBelow(generator, turns.size())];
+      const std::vector<std::string> plain = document.Found(from, paths.plain);
+      ASSERT_EQ(plain, document.Found(from, paths.plain)) << Utf16ToUtf8(paths.plain);
+      if (RandomBelow(generator, 2) == 0) continue;  // so that the same path is asked for without another between
+      ASSERT_EQ(plain, document.Found(from, paths.explicitAxes)) << Utf16ToUtf8(paths.plain);
+    }
+  }
+}
+
+TEST(MsxmlSelectionDifferentialTest, PathsThatFailDoNotSpoilThoseBehindThem) {
+  SCOPED_TRACE(testsupport::SeedMessage());
+  Generator generator = testsupport::SeededGenerator();
+  const CAskedDocument document(generator, 4);
+  for (const wchar_t* bad : {L"", L"/x:*/", L"x:*/", L"x:*//", L"z:A", L"x:A/z:A", L"x:", L"x:*[", L"x:A x:B", L"1"}) {
+    for (int i = 0; i < 20; ++i) {
+      IXMLDOMNode& from = document.Any(generator);
+      const std::vector<std::string> before = document.Found(from, L"x:*/x:*");
+      EXPECT_THROW(Select(from, bad), _com_error) << Utf16ToUtf8(bad);
+      ASSERT_EQ(document.Found(from, L"x:*/x:*"), before) << Utf16ToUtf8(bad);
+      ASSERT_EQ(document.Found(from, L"child::x:*/child::x:*"), before) << Utf16ToUtf8(bad);
+    }
+  }
+}
+
+TEST(MsxmlSelectionDifferentialTest, PathsAreThoseOfThePrefixesThatAreSet) {
+  SCOPED_TRACE(testsupport::SeedMessage());
+  Generator generator = testsupport::SeededGenerator();
+  for (int i = 0; i < 30; ++i) {
+    CAskedDocument document(generator, 3);
+    IXMLDOMDocument2& asked = document.Document().Document();
+    for (const wchar_t* namespaces : {L"xmlns:x='urn:q' xmlns:y='urn:p'", L"xmlns:x='urn:p' xmlns:y='urn:p'",
+                                      L"xmlns:x='urn:none' xmlns:y='urn:q'", L"xmlns:x='urn:p' xmlns:y='urn:q'"}) {
+      const Paths paths = RandomPaths(generator, kSteps, 4);
+      document.Found(asked, paths.plain);  // which must not be what is answered below
+      ASSERT_EQ(SetSelectionNamespaces(asked, namespaces), S_OK);
+      ASSERT_EQ(document.Found(asked, paths.plain), document.Found(asked, paths.explicitAxes))
+          << Utf16ToUtf8(paths.plain);
+    }
+  }
+}
+
+TEST(MsxmlSelectionDifferentialTest, NodesKeepThePrefixesThatTheyWereSelectedWith) {
+#ifdef _WIN32
+  GTEST_SKIP() << "MSXML asks the document for them each time";
+#else
+  SCOPED_TRACE(testsupport::SeedMessage());
+  Generator generator = testsupport::SeededGenerator();
+  for (int i = 0; i < 30; ++i) {
+    CAskedDocument document(generator, 3);
+    for (int j = 0; j < 10; ++j) {
+      IXMLDOMNode& node = document.Any(generator);
+      const Paths paths = RandomPaths(generator, kSteps, 3);
+      const std::vector<std::string> before = document.Found(node, paths.plain);
+      ASSERT_EQ(SetSelectionNamespaces(document.Document().Document(), L"xmlns:x='urn:q' xmlns:y='urn:p'"), S_OK);
+      document.Found(document.Document().Document(), paths.plain);
+      ASSERT_EQ(document.Found(node, paths.plain), before) << Utf16ToUtf8(paths.plain);
+      ASSERT_EQ(document.Found(node, paths.explicitAxes), before) << Utf16ToUtf8(paths.plain);
+    }
+  }
+#endif
 }
 
 }  // namespace

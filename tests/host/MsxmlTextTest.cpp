@@ -1,10 +1,12 @@
 // The text of elements.
+#include "support/Random.h"
 #include "support/XmlDocument.h"
 
 #include <gtest/gtest.h>
 
 #include <cstddef>
 #include <iterator>
+#include <random>
 #include <string>
 
 namespace {
@@ -86,6 +88,21 @@ TEST(MsxmlTextTest, TextOfTheDocumentIsThatOfTheRoot) {
 TEST(MsxmlTextTest, LongTextsAreWhole) {
   const std::string half(500'000, 'x');
   EXPECT_EQ(RootText("<a>" + half + " " + half + "</a>"), half + " " + half);
+}
+
+TEST(MsxmlTextTest, TextAloneIsWhatItIsBesideAComment) {
+  SCOPED_TRACE(testsupport::SeedMessage());
+  std::mt19937_64 generator = testsupport::SeededGenerator();
+  constexpr const char* pieces[] = {" ", "\t", "\n", "x", "y z", "\u00A0", "\u00E4"};
+  for (const std::string tag : {"a", "a xml:space='preserve'", "a xml:space='default'"}) {
+    for (int i = 0; i < 100; ++i) {
+      std::string text;
+      for (std::size_t count = testsupport::RandomBelow(generator, 6); count > 0; --count) {
+        text += pieces[testsupport::RandomBelow(generator, std::size(pieces))];
+      }
+      ASSERT_EQ(RootText("<" + tag + ">" + text + "</a>"), RootText("<" + tag + ">" + text + "<!--c--></a>")) << text;
+    }
+  }
 }
 
 struct TextCase {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -16,6 +17,8 @@ static_assert(std::is_nothrow_move_constructible_v<CSafeString>);
 static_assert(std::is_nothrow_move_assignable_v<CSafeString>);
 static_assert(std::is_convertible_v<const char*, CSafeString>);
 static_assert(std::is_convertible_v<std::string, CSafeString>);
+static_assert(std::is_convertible_v<const std::string&, CSafeString>);
+static_assert(std::is_nothrow_constructible_v<CSafeString, std::string&&>);
 
 // Too long to be held inside the string object, so that moving it moves its memory.
 const std::string kLongText(1000, 'x');
@@ -42,6 +45,43 @@ TEST(SafeString, DropsTextBehindAnEmbeddedNul) {
   EXPECT_STREQ(fromStandard.get(), "kept");
   EXPECT_STREQ(CSafeString("kept\0dropped").get(), "kept");
   EXPECT_STREQ(CSafeString("\0dropped"s).get(), "");
+}
+
+TEST(SafeString, TakesAStandardStringOver) {
+  std::string text = kLongText;
+  const char* characters = text.data();
+  const CSafeString taken(std::move(text));
+  EXPECT_EQ(taken.get(), characters);
+  EXPECT_EQ(taken.get(), kLongText);
+}
+
+TEST(SafeString, LeavesAStandardStringThatItCopiesAsItWas) {
+  const std::string text = "kept\0too"s;
+  const CSafeString copied(text);
+  EXPECT_STREQ(copied.get(), "kept");
+  EXPECT_EQ(text, "kept\0too"s);
+}
+
+TEST(SafeString, StandardStringThatWasTakenOverMayBeUsedAgain) {
+  std::string text = kLongText;
+  const CSafeString taken(std::move(text));
+  text = "again";
+  EXPECT_EQ(taken.get(), kLongText);
+  const CSafeString second(std::move(text));
+  EXPECT_STREQ(second.get(), "again");
+}
+
+TEST(SafeString, TakesOverTheSameTextThatItWouldCopy) {
+  for (std::size_t length = 0; length < 100; ++length) {
+    for (std::size_t nul = 0; nul <= length; ++nul) {
+      std::string text(length, 'x');
+      if (nul < length) text[nul] = '\0';
+      const CSafeString copied(text);
+      const CSafeString taken(std::move(text));
+      ASSERT_STREQ(taken.get(), copied.get());
+      ASSERT_EQ(std::string_view(taken.get()).size(), nul);
+    }
+  }
 }
 
 TEST(SafeString, KeepsBytesThatAreNotUtf8) { EXPECT_STREQ(CSafeString("\xFF\x80"s).get(), "\xFF\x80"); }

@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
+#include <random>
 #include <string>
 #include <string_view>
 #include <thread>
@@ -254,6 +255,63 @@ TEST(Utf8ToUtf16, AgreesWithTheDefinitionOnRandomBytes) {
       text += static_cast<char>(byte < 256 ? byte : 0x80 + byte % 64);
     }
     ASSERT_EQ(Utf8ToUtf16(text), Wide(DecodeByDefinition(text))) << Hex(text);
+  }
+}
+
+TEST(StringConvert, ConvertsACharacterAtEveryPlaceInAsciiOfEveryLength) {
+  for (const char32_t codePoint : {U'\0', U'\x7F', U'\x80', U'\u00E4', U'\u20AC', U'\uFFFF', U'\U0001F50C'}) {
+    for (size_t length = 1; length <= 70; ++length) {
+      for (size_t place = 0; place < length; ++place) {
+        std::u32string codePoints(length, U'a');
+        codePoints[place] = codePoint;
+        const std::string utf8 = std::string(place, 'a') + Encode(codePoint) + std::string(length - place - 1, 'a');
+        ASSERT_EQ(Utf8ToUtf16(utf8), Wide(codePoints)) << Hex(utf8);
+        ASSERT_EQ(Utf16ToUtf8(Wide(codePoints)), utf8) << Hex(utf8);
+      }
+    }
+  }
+}
+
+TEST(StringConvert, ConvertsRandomTextsCharacterByCharacter) {
+  SCOPED_TRACE(testsupport::SeedMessage());
+  std::mt19937_64 generator = testsupport::SeededGenerator();
+  for (int i = 0; i < 20'000; ++i) {
+    const size_t length = testsupport::RandomBelow(generator, 71);
+    const size_t asciiIn100 = testsupport::RandomBelow(generator, 101);
+    std::u32string codePoints;
+    std::string utf8;
+    while (codePoints.size() < length) {
+      const bool isAscii = testsupport::RandomBelow(generator, 100) < asciiIn100;
+      const auto codePoint = static_cast<char32_t>(testsupport::RandomBelow(generator, isAscii ? 0x80 : 0x11'0000));
+      if (IsSurrogate(codePoint)) continue;
+      codePoints += codePoint;
+      utf8 += Encode(codePoint);
+    }
+    ASSERT_EQ(Utf8ToUtf16(utf8), Wide(codePoints)) << Hex(utf8);
+    ASSERT_EQ(Utf16ToUtf8(Wide(codePoints)), utf8) << Hex(utf8);
+  }
+}
+
+TEST(Utf8ToUtf16, ReplacesAByteAtEveryPlaceInAsciiOfEveryLength) {
+  for (size_t length = 1; length <= 70; ++length) {
+    for (size_t place = 0; place < length; ++place) {
+      std::string text(length, 'a');
+      text[place] = '\x80';
+      std::wstring expected(length, L'a');
+      expected[place] = L'\uFFFD';
+      ASSERT_EQ(Utf8ToUtf16(text), expected) << place << " of " << length;
+    }
+  }
+}
+
+TEST(Utf16ToUtf8, ReplacesASurrogateAtEveryPlaceInAsciiOfEveryLength) {
+  for (size_t length = 1; length <= 70; ++length) {
+    for (size_t place = 0; place < length; ++place) {
+      std::wstring text(length, L'a');
+      text[place] = static_cast<wchar_t>(0xDC41);  // whose lower byte is a letter
+      const std::string expected = std::string(place, 'a') + "\xEF\xBF\xBD" + std::string(length - place - 1, 'a');
+      ASSERT_EQ(Utf16ToUtf8(text), expected) << place << " of " << length;
+    }
   }
 }
 

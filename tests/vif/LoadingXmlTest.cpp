@@ -58,6 +58,14 @@ TEST(LoadingXmlTest, TextAndXmlFilesAreNumberedOn) {
   EXPECT_EQ(vif.FileName(), first.wstring());
 }
 
+TEST(LoadingXmlTest, ListOfAFileThatIsMostlyBlankTakesNoMoreMemoryThanItNeeds) {
+  const TempDir dir;
+  const std::string component = "<vif:Component><vif:PD_Power_As_Source value=\"7\"/></vif:Component>";
+  const CVendorInfoFile vif(dir.Write("x.xml", XmlVif(component + std::string(100'000, ' '))));
+  ASSERT_EQ(vif.Count(), 1U);
+  EXPECT_LE(vif.Fields().capacity(), 2U);
+}
+
 TEST(LoadingXmlTest, OwnDefinitionsAreNotUsed) {
   const TempDir dir;
   std::vector<VifFieldDef> table = {{L"Renamed", std::wregex(L"PD_Power_As_Source"), {}}};

@@ -220,6 +220,47 @@ TEST_F(VendorInfoFileTest, FieldListOutlivesTheObject) {
   EXPECT_THAT(FieldTexts(*fields), ElementsAre("USB_VID=1 @6.1", "A=2"));
 }
 
+// The fields themselves.
+
+TEST_F(VendorInfoFileTest, FieldsAreThoseThatAListOfAllHas) {
+  CVendorInfoFile vif(m_first);
+  AppendFile(vif, m_second);
+  vif.Append({Field("X")});
+  EXPECT_EQ(FieldTexts(vif.Fields()), Texts(vif));
+  EXPECT_THAT(FieldTexts(vif.Fields()), ElementsAre("USB_VID=1 @6.1", "A=2", "PID=3 @6.2", "A=4", "X=1"));
+}
+
+TEST_F(VendorInfoFileTest, FieldsAreNotCopied) {
+  const CVendorInfoFile vif(m_first);
+  EXPECT_EQ(&vif.Fields(), &vif.Fields());
+  EXPECT_EQ(vif.Fields().data(), vif.Fields().data());
+  static_assert(std::is_same_v<decltype(vif.Fields()), const std::vector<CVIFField>&>);
+  static_assert(noexcept(vif.Fields()));
+}
+
+TEST_F(VendorInfoFileTest, FieldsAreNoneWhenTheObjectIsEmpty) {
+  EXPECT_THAT(CVendorInfoFile().Fields(), IsEmpty());
+  EXPECT_THAT(CVendorInfoFile(nullptr).Fields(), IsEmpty());
+  EXPECT_THAT(CVendorInfoFile(std::vector<CVIFField>()).Fields(), IsEmpty());
+}
+
+TEST_F(VendorInfoFileTest, FieldsMoveWithTheContent) {
+  CVendorInfoFile source(m_first);
+  const CVIFField* first = source.Fields().data();
+  const CVendorInfoFile target(std::move(source));
+  EXPECT_EQ(target.Fields().data(), first);
+  EXPECT_EQ(target.Fields().size(), 2U);
+  EXPECT_THAT(source.Fields(), IsEmpty());
+}
+
+TEST_F(VendorInfoFileTest, FieldsOfAMovedFromObjectThatIsUsedAgainAreItsOwn) {
+  CVendorInfoFile source(m_first);
+  const CVendorInfoFile target(std::move(source));
+  source.Append({Field("X")});
+  EXPECT_THAT(FieldTexts(source.Fields()), ElementsAre("X=1"));
+  EXPECT_THAT(FieldTexts(target.Fields()), ElementsAre("USB_VID=1 @6.1", "A=2"));
+}
+
 // Copying.
 
 TEST_F(VendorInfoFileTest, CopyHoldsTheSame) {
