@@ -57,6 +57,31 @@ void Require(bool isKept, std::string_view promise) {
   std::abort();
 }
 
+std::string Shown(std::string_view text) {
+  constexpr std::string_view digits = "0123456789abcdef";
+  std::string shown = "\"";
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (c >= ' ' && c <= '~') {
+      shown += c;
+    } else {
+      shown.append("\\x") += digits[byte / 16U];
+      shown += digits[byte % 16U];
+    }
+  }
+  return shown += '"';
+}
+
+std::string Shown(std::uint64_t number) { return std::to_string(number); }
+
+std::string Shown(const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& slots) {
+  std::string shown;
+  for (const auto& [location, number] : slots) {
+    shown.append(GetVifLocInfo(location).name).append(" ").append(Shown(number)).append(", ");
+  }
+  return shown;
+}
+
 void CheckField(const CVIFField& field) {
   CheckSlots(field);
   CheckNumber(field);

@@ -1,43 +1,81 @@
 #!/usr/bin/env bash
-# Feeds generated files to both readers, built by clang++ with sanitizers, and fails when one does not take them well.
+# Feeds generated inputs to all fuzzers, built by clang++ with sanitizers, and fails when one of them finds something.
 #
-#   scripts/fuzz.sh SECONDS    for each reader
+#   scripts/fuzz.sh SECONDS    so long in all, shared evenly, beginning the same way each time
+#   scripts/fuzz.sh --long     each up to 10 million inputs or its share of 30 minutes
 #
-# Files that reach something new are kept in build/fuzz/corpus for the next time, files that are not taken well are
-# left in build/fuzz/findings. To see what one of them does: build/fuzz/fuzz/xml_reader_fuzzer FILE
+# Inputs that reach something new are kept in build/fuzz/corpus for the next time, those that are findings are left in
+# build/fuzz/findings, and with them what each fuzzer says. To see what one of them does:
+# build/fuzz/fuzz/xml_reader_fuzzer FILE
 set -euo pipefail
 cd "$(dirname "$0")/.."
-if ! [[ ${1:-} =~ ^[1-9][0-9]*$ ]]; then
-  echo "usage: scripts/fuzz.sh SECONDS" >&2
+if [ "${1:-}" = --long ]; then
+  seconds=1800
+  runs=10000000
+  seed=0  # another one each time
+elif [[ ${1:-} =~ ^[1-9][0-9]*$ ]]; then
+  seconds=$1
+  runs=-1
+  seed=1
+else
+  echo "usage: scripts/fuzz.sh SECONDS|--long" >&2
   exit 2
 fi
-seconds=$1
-build=build/fuzz
+
+fuzzers=(text_reader xml_reader query name number format text_conversion command)
+# The longest inputs: longer ones mostly take longer. Those of the readers leave room for the examples with one component.
+declare -A longest=([text_reader]=8192 [xml_reader]=12288 [query]=256 [name]=128 [number]=64 [format]=256
+  [text_conversion]=256 [command]=2048)
+cores=$(nproc)
+rounds=$(((${#fuzzers[@]} + cores - 1) / cores))
+share=$((seconds > rounds ? seconds / rounds : 1))
+build=$PWD/build/fuzz  # in full, as the command's fuzzer works in a directory of its own
 
 scripts/build.sh fuzz
 mkdir -p "$build/findings"
+TMPDIR=$(mktemp -d)
+export TMPDIR
+trap 'rm -rf "$TMPDIR"' EXIT
 
-# The lengths leave room for the examples with one component; longer files mostly take longer.
-fuzz() {
-  local form=$1 longest=$2
-  local log=$build/findings/$form.log
-  mkdir -p "$build/corpus/$form"
-  echo "==> Fuzzing the $form reader for $seconds seconds"
-  if "$build/fuzz/${form}_reader_fuzzer" "$build/corpus/$form" "fuzz/corpus/$form" examples/vif \
-      -dict="fuzz/$form.dict" -max_len="$longest" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 \
-      -artifact_prefix="$build/findings/$form-" -print_final_stats=1 >"$log" 2>&1; then
-    grep -E 'DONE|number_of_executed_units|average_exec_per_sec' "$log"
-  else
-    tail -n 60 "$log" >&2
-    echo "The $form reader does not take a file well that is in $build/findings; see $log" >&2
-    return 1
-  fi
+# Reading a large corpus takes as long as it takes, unless it is interrupted.
+run_fuzzer() {
+  local fuzzer=$1 name=${1%_reader}
+  local seeds=("$build/corpus/$name" "fuzz/corpus/$name")
+  [ "$name" = "$fuzzer" ] || seeds+=(examples/vif)
+  mkdir -p "${seeds[0]}"
+  timeout --signal=INT $((share + 5)) "$build/fuzz/${fuzzer}_fuzzer" "${seeds[@]}" \
+    -dict="fuzz/dictionaries/$name.dict" -max_len="${longest[$fuzzer]}" -max_total_time="$share" -runs="$runs" -seed="$seed" \
+    -timeout=10 -rss_limit_mb=2048 -artifact_prefix="$build/findings/$name-" -print_final_stats=1
 }
 
-# Side by side, as a fuzzer keeps one core busy.
+print_row() { printf '%-16s %12s %8s %8s %9s\n' "$@"; }
+
+# The last number that stands behind a word in a log.
+number_behind() { grep -oE "$1 [0-9]+" "$2" | tail -n 1 | grep -oE '[0-9]+$' || echo '?'; }
+
+fuzz() {
+  local fuzzer=$1 log=$build/findings/$1.log begin=$SECONDS findings=0 status=0
+  run_fuzzer "$fuzzer" >"$log" 2>&1 || status=$?
+  [ $status -eq 0 ] || [ $status -eq 124 ] || findings=1  # a fuzzer ends with its first; 124 is for want of time
+  print_row "$fuzzer" "$(number_behind number_of_executed_units: "$log")" "$((SECONDS - begin)) s" \
+    "$(number_behind cov: "$log")" "$findings"
+  [ $findings -eq 0 ] && return
+  tail -n 60 "$log" >&2
+  echo "The input of $fuzzer's finding is in $build/findings; see $log" >&2
+  return 1
+}
+
+echo "==> Fuzzing, $share seconds each"
+print_row fuzzer executions time edges findings
 status=0
-fuzz text 8192 &
-text=$!
-fuzz xml 12288 || status=1
-wait "$text" || status=1
+running=0
+for fuzzer in "${fuzzers[@]}"; do
+  if [ $running -eq "$cores" ]; then
+    wait -n || status=1
+    running=$((running - 1))
+  fi
+  fuzz "$fuzzer" &
+  running=$((running + 1))
+done
+for ((; running > 0; running--)); do wait -n || status=1; done
 exit $status

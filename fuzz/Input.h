@@ -1,0 +1,59 @@
+// Takes an input apart. Inputs are lines of text, so that they can be read and written by hand.
+#pragma once
+
+#include "VIFField.h"
+
+#include <array>
+#include <charconv>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace fuzz {
+
+using Slots = std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>;
+
+/// The number that a text begins with; 0 when it begins with none.
+template <typename Number>
+Number NumberIn(std::string_view text) {
+  Number number = 0;
+  std::from_chars(text.data(), text.data() + text.size(), number);
+  return number;
+}
+
+/// What stands before the separator, which is taken away with it; all of the text where there is none.
+inline std::string_view TakeUpTo(char separator, std::string_view& text) {
+  const std::string_view part = text.substr(0, text.find(separator));
+  text.remove_prefix(part.size() < text.size() ? part.size() + 1 : part.size());
+  return part;
+}
+
+/// Slots as "6:1 7:*": locations with their numbers, any number being `*`. What is missing is not in use.
+inline Slots SlotsIn(std::string_view text) {
+  Slots slots;
+  for (VifIndex& slot : slots) {
+    std::string_view number = TakeUpTo(' ', text);
+    const auto location = static_cast<EVifLocation>(NumberIn<std::int32_t>(TakeUpTo(':', number)));
+    slot = {location, number == "*" ? CVIFField::INDEX_NOT_SPECIFIED : NumberIn<std::uint64_t>(number)};
+    if (location == eVifLocUnset) slot = CVIFField::UNSPECIFIED_INDEX;
+  }
+  return slots;
+}
+
+/// A text that ends where its memory ends, so that reading on behind its NUL is seen.
+template <typename Char>
+class CExactText {
+ public:
+  explicit CExactText(std::basic_string_view<Char> text) : m_text(std::make_unique<Char[]>(text.size() + 1)) {
+    text.copy(m_text.get(), text.size());
+  }
+
+  const Char* Get() const { return m_text.get(); }
+
+ private:
+  std::unique_ptr<Char[]> m_text;
+};
+
+}  // namespace fuzz
