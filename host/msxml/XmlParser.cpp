@@ -139,9 +139,10 @@ void StartElement(void* data, const xmlChar* name, const xmlChar* prefix, const 
 }
 
 void EndElement(void* data, const xmlChar*, const xmlChar*, const xmlChar*) {
-  Run& run = RunOf(*static_cast<const xmlParserCtxt*>(data));
-  run.BeginText();
-  run.builder.EndElement();
+  Build(*static_cast<xmlParserCtxt*>(data), [](Run& run) {
+    run.BeginText();
+    run.builder.EndElement();
+  });
 }
 
 void Characters(void* data, const xmlChar* text, int length) {
