@@ -21,6 +21,7 @@ class CScanner {
       : m_text(file.ascii), m_isUtf8(file.isUtf8), m_problems(problems) {}
 
   TagScan Run() {
+    RefuseForbiddenCharacters();
     while (m_problems.IsEmpty() && m_at < m_text.size()) {
       const std::size_t tag = std::min(m_text.find('<', m_at), m_text.size());
       m_textLength += tag - m_at;
@@ -59,10 +60,19 @@ class CScanner {
     } else if (IsAt("</")) {
       TakeEndTag();
     } else if (IsAt("<!")) {
-      MoveBehind(">", m_at);  // nothing that a well-formed file without a document type has
+      Refuse({}, "There is a declaration that is not allowed.");
     } else {
       TakeStartTag();
     }
+  }
+
+  /// A parser that goes on behind a mistake may find tags where there are none, so that it must not get so far.
+  void RefuseForbiddenCharacters() {
+    const auto isForbidden = [](char c) { return c > 0 && c < ' ' && c != '\t' && c != '\n' && c != '\r'; };
+    const auto found = std::find_if(m_text.begin(), m_text.end(), isForbidden);
+    if (found == m_text.end()) return;
+    MoveTo(static_cast<std::size_t>(found - m_text.begin()));
+    Refuse({}, "There is a character that is not allowed.");
   }
 
   /// What cuts a text in pieces.
@@ -121,11 +131,10 @@ class CScanner {
       } else {
         const std::size_t begin = at + 1;
         at = m_text.find(m_text[at], begin);
-        if (at == std::string_view::npos) break;
         const std::string_view value = m_text.substr(begin, at - begin);
-        if (value.find('<') != std::string_view::npos) {
+        if (at == std::string_view::npos || value.find('<') != std::string_view::npos) {
           // A parser that goes on behind the mistake would take it for the next tag, and what follows for attributes.
-          Refuse(m_open.back().name, "There is a '<' in the value of an attribute.");
+          Refuse(m_open.back().name, "The value of an attribute does not end before the next '<'.");
           break;
         }
         m_scope.TakeAttribute(name, value);
