@@ -14,7 +14,6 @@
 
 namespace {
 
-using testsupport::EForm;
 using testsupport::Encode;
 using testsupport::kForms;
 using testsupport::RandomBelow;
