@@ -17,8 +17,9 @@
 /// Files are taken for hostile: a document with a document type declaration, with elements nested more than 256 deep,
 /// or in anything but a regular file is not valid. Nor is one that would take much more time than its size justifies:
 /// with more than 1,000 attributes in a tag or 1,000 namespaces in force, or with a text in very many pieces; or one in
-/// an encoding in which ASCII is not itself, but for UTF-16. Nothing but the file and the schemas is read, and never
-/// the network: while schemas are compiled, libxml2's external entity loader is another for the thread that does it.
+/// an encoding in which a byte of ASCII may be something else, such as Shift_JIS or GBK, but for UTF-16. Nothing but
+/// the file and the schemas is read, and never the network: while schemas are compiled, libxml2's external entity
+/// loader is another for the thread that does it.
 ///
 /// One object is for one thread at a time. Any number of threads may use objects of their own at once; compiled schemas
 /// are shared between them and kept until the process ends, or until a schema file changes.
