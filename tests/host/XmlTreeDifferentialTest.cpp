@@ -132,6 +132,12 @@ std::string RandomFile(Generator& generator) {
 
 class XmlTreeDifferentialTest : public testing::Test {
  protected:
+  /// The tree of a generated file; null when it is refused.
+  std::shared_ptr<const msxml::CXmlTree> RandomTree() {
+    msxml::CProblems problems;
+    return msxml::ParseXmlFile(m_dir.Write("x.xml", RandomFile(m_generator)), problems);
+  }
+
   testing::ScopedTrace m_trace{__FILE__, __LINE__, testsupport::SeedMessage()};
   Generator m_generator = testsupport::SeededGenerator();
   TempDir m_dir;
@@ -233,9 +239,7 @@ std::size_t CountLooseNodes(const xmlNode* parent, const xmlDoc* document) {
 
 TEST_F(XmlTreeDifferentialTest, NodesAreLinkedInAllDirections) {
   for (int i = 0; i < 50; ++i) {
-    const std::filesystem::path path = m_dir.Write("x.xml", RandomFile(m_generator));
-    msxml::CProblems problems;
-    const auto tree = msxml::ParseXmlFile(path, problems);
+    const std::shared_ptr<const msxml::CXmlTree> tree = RandomTree();
     ASSERT_NE(tree, nullptr);
     const xmlDoc* document = tree->Document();
     ASSERT_EQ(CountLooseNodes(reinterpret_cast<const xmlNode*>(document), document), 0U);
@@ -253,9 +257,7 @@ void AppendNumbers(const xmlNode* first, std::vector<std::size_t>& numbers) {
 
 TEST_F(XmlTreeDifferentialTest, ElementsAreNumberedInTheirOrder) {
   for (int i = 0; i < 50; ++i) {
-    const std::filesystem::path path = m_dir.Write("x.xml", RandomFile(m_generator));
-    msxml::CProblems problems;
-    const auto tree = msxml::ParseXmlFile(path, problems);
+    const std::shared_ptr<const msxml::CXmlTree> tree = RandomTree();
     ASSERT_NE(tree, nullptr);
     std::vector<std::size_t> numbers;
     AppendNumbers(tree->Document()->children, numbers);
