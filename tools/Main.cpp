@@ -10,7 +10,10 @@
 #include <algorithm>
 #include <clocale>
 #include <cstdio>
+#include <cstdlib>
+#include <exception>
 #include <iostream>
+#include <new>
 
 namespace {
 
@@ -66,10 +69,29 @@ Status Run(int argc, char** argv) {
   return status;
 }
 
-}  // namespace
+/// As it stands: there is no memory to make anything of it.
+Status FailWithoutMemory() {
+  std::fputs("vif: out of memory\n", stderr);
+  return kFailed;
+}
 
-int main(int argc, char** argv) {
-  std::setlocale(LC_CTYPE, "C.UTF-8");  // for the width of characters; the library asks the C++ locale, not this one
+/// What ends the process when another exception escapes.
+std::terminate_handler g_endOtherwise = nullptr;
+
+/// CLI11 copies names in functions that must not throw, so memory that runs out there comes here.
+[[noreturn]] void EndWithoutMemory() {
+  try {
+    if (const std::exception_ptr error = std::current_exception()) std::rethrow_exception(error);
+  } catch (const std::bad_alloc&) {
+    std::_Exit(FailWithoutMemory());
+  } catch (...) {
+    g_endOtherwise();
+  }
+  std::abort();
+}
+
+/// Runs the command and says why it could not be done, unless memory has run out.
+Status RunOrFail(int argc, char** argv) {
   try {
     tool::PrepareOutput();
     const CComApartment apartment;
@@ -77,10 +99,22 @@ int main(int argc, char** argv) {
   } catch (const tool::Wanting& finding) {
     return Fail(finding.what(), tool::kWanting);
   } catch (const std::bad_alloc&) {
-    return Fail("out of memory");
+    throw;
   } catch (const std::exception& error) {
     return Fail(error.what());
   } catch (const _com_error&) {
     return Fail("COM cannot be used");
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  g_endOtherwise = std::set_terminate(EndWithoutMemory);
+  std::setlocale(LC_CTYPE, "C.UTF-8");  // for the width of characters; the library asks the C++ locale, not this one
+  try {
+    return RunOrFail(argc, argv);
+  } catch (const std::bad_alloc&) {
+    return FailWithoutMemory();
   }
 }

@@ -11,6 +11,15 @@
 
 #include <utility>
 
+namespace {
+
+/// In a function, because GCC loses the memory when a constructor throws in the initialiser of a member.
+CComPointer<msxml::CDomDocument> MakeDocument() {
+  return CComPointer<msxml::CDomDocument>(new msxml::CDomDocument, false);
+}
+
+}  // namespace
+
 struct CDOMDoc::Content {
   std::vector<msxml::SchemaSource> schemas;
   std::string rootNamespace;  // with rootName: what the root must be; any when rootName is empty
@@ -18,7 +27,7 @@ struct CDOMDoc::Content {
   std::filesystem::path file;
   std::vector<DOMDocProblem> problems;
   std::unique_ptr<const msxml::CElementPaths> paths;  // of the document's elements; made when first asked for
-  CComPointer<msxml::CDomDocument> document{new msxml::CDomDocument, false};
+  CComPointer<msxml::CDomDocument> document = MakeDocument();
 
   /// Parses a file; null when it cannot be, with the reasons in `problems`.
   std::shared_ptr<const msxml::CXmlTree> Parse(const std::filesystem::path& path);
