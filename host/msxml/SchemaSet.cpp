@@ -1,6 +1,7 @@
 #include "msxml/SchemaSet.h"
 
 #include "TestUtilities/DOMDocReasons.h"
+#include "msxml/MemoryWatch.h"
 #include "msxml/ThreadErrors.h"
 #include "msxml/XmlError.h"
 #include "msxml/XmlParser.h"
@@ -121,13 +122,15 @@ void CollectInvalidity(void* data, xmlErrorPtr error) {
 CSchemaSet::CSchemaSet(const std::vector<SchemaSource>& sources) : m_sources(sources) {
   for (const SchemaSource& source : sources) CheckSource(source);
   CSchemaLoader loader;
+  const CMemoryWatch watch;
   const CThreadErrors otherErrors(CSchemaLoader::ReportError, nullptr);
   const std::string driver = JoiningSchema(sources);
   const std::unique_ptr<xmlSchemaParserCtxt, FreeParserContext> context(
       xmlSchemaNewMemParserCtxt(driver.data(), static_cast<int>(driver.size())));
-  if (context == nullptr) throw std::bad_alloc();
+  watch.RequireMemory();
   xmlSchemaSetParserStructuredErrors(context.get(), CSchemaLoader::ReportError, nullptr);
   m_schema.reset(xmlSchemaParse(context.get()));
+  watch.RequireMemory();
   m_files = loader.Files();
   if (!loader.IsOutOfMemory() && !loader.Failure().empty()) ThrowSchemaError(loader.Failure());
   if (loader.IsOutOfMemory() || m_schema == nullptr) throw std::bad_alloc();
@@ -154,12 +157,14 @@ std::shared_ptr<const CSchemaSet> CSchemaSet::Get(const std::vector<SchemaSource
 }
 
 void CSchemaSet::Validate(const CXmlTree& tree, CProblems& problems) const {
-  const std::unique_ptr<xmlSchemaValidCtxt, FreeValidContext> context(xmlSchemaNewValidCtxt(m_schema.get()));
-  if (context == nullptr) throw std::bad_alloc();
   Validation validation{tree, m_sources, problems};
   const CThreadErrors otherErrors(CollectInvalidity, &validation);
+  const CMemoryWatch watch;
+  const std::unique_ptr<xmlSchemaValidCtxt, FreeValidContext> context(xmlSchemaNewValidCtxt(m_schema.get()));
+  watch.RequireMemory();  // also when there is a context: libxml2 makes it without its dictionary, and uses that
   xmlSchemaSetValidStructuredErrors(context.get(), CollectInvalidity, &validation);
   const int result = xmlSchemaValidateDoc(context.get(), tree.Document());
+  watch.RequireMemory();
   if (result < 0 && problems.IsEmpty()) problems.RanOutOfMemory();
   if (result > 0 && problems.IsEmpty()) problems.Add(0, 0, {}, "The document does not fit its schema.");
 }

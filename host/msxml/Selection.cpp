@@ -1,5 +1,6 @@
 #include "msxml/Selection.h"
 
+#include "msxml/MemoryWatch.h"
 #include "msxml/ThreadErrors.h"
 #include "msxml/XmlText.h"
 
@@ -124,21 +125,20 @@ void CChildPath::SelectFrom(const xmlNode& parent, std::size_t depth, std::vecto
 }
 
 Outcome SelectByXPath(xmlNode* from, std::string_view xpath, const Prefixes& prefixes, std::vector<xmlNode*>& nodes) {
+  const CMemoryWatch watch;
+  const CThreadErrors otherErrors(IgnoreError, nullptr);
   const std::unique_ptr<xmlXPathContext, FreeXPathContext> context(xmlXPathNewContext(from->doc));
   if (context == nullptr) return Outcome::OutOfMemory;
   context->node = from;
   context->error = IgnoreError;
-  const CThreadErrors otherErrors(IgnoreError, nullptr);
   for (const auto& [prefix, uri] : prefixes) {
     if (xmlXPathRegisterNs(context.get(), Xml(prefix.c_str()), Xml(uri.c_str())) != 0) return Outcome::OutOfMemory;
   }
   const std::string expression(xpath);
   const std::unique_ptr<xmlXPathObject, FreeXPathObject> result(
       xmlXPathEvalExpression(Xml(expression.c_str()), context.get()));
-  if (result == nullptr) {
-    return context->lastError.code == XML_ERR_NO_MEMORY ? Outcome::OutOfMemory : Outcome::BadExpression;
-  }
-  if (result->type != XPATH_NODESET) return Outcome::BadExpression;
+  if (watch.HasRunOut()) return Outcome::OutOfMemory;
+  if (result == nullptr || result->type != XPATH_NODESET) return Outcome::BadExpression;
   const int count = xmlXPathNodeSetGetLength(result->nodesetval);
   for (int i = 0; i < count; ++i) {
     xmlNode* node = xmlXPathNodeSetItem(result->nodesetval, i);

@@ -4,6 +4,7 @@
 #include "msxml/CountBytes.h"
 #include "msxml/InputFile.h"
 #include "msxml/Limits.h"
+#include "msxml/MemoryWatch.h"
 #include "msxml/TagGuard.h"
 #include "msxml/ThreadErrors.h"
 #include "msxml/XmlError.h"
@@ -227,6 +228,8 @@ void ReportError(void* data, xmlErrorPtr error) {
            static_cast<std::size_t>(std::max(error->int2, 0)), element);
 }
 
+void IgnoreError(void*, xmlErrorPtr) {}
+
 /// How much memory to begin with. A VIF's tree takes about seven times as much as its file; the more pieces it comes
 /// in, the more is asked of the system, and given back to it at the end.
 std::size_t MemoryFor(const CInputFile& file) {
@@ -235,6 +238,7 @@ std::size_t MemoryFor(const CInputFile& file) {
 }
 
 ContextPointer MakeContext() {
+  const CThreadErrors otherErrors(IgnoreError, nullptr);  // that there is no memory, which would be printed
   ContextPointer context(xmlNewParserCtxt());
   if (context == nullptr) throw std::bad_alloc();
   context->sax->startDocument = StartDocument;
@@ -254,6 +258,7 @@ ContextPointer MakeContext() {
 
 std::shared_ptr<const CXmlTree> ParseXmlFile(const std::filesystem::path& path, CProblems& problems) {
   InitializeXmlLibrary();
+  const CMemoryWatch watch;
   const ContextPointer context = MakeContext();
   Source source{CInputFile(path), {}, *context};
   if (!source.file.IsOpen()) {
@@ -266,6 +271,7 @@ std::shared_ptr<const CXmlTree> ParseXmlFile(const std::filesystem::path& path, 
   context->_private = &run;
   const CThreadErrors otherErrors(ReportError, context.get());
   DocumentPointer document(xmlCtxtReadIO(context.get(), Source::Read, nullptr, &source, nullptr, nullptr, kOptions));
+  watch.RequireMemory();
   // What the parser says of a file that ends too early is of no interest.
   if (source.file.HasFailed() || source.guard.HasTripped()) problems.Clear();
   if (source.file.HasFailed()) problems.Add(0, 0, {}, "The file " + source.file.Error() + ".");
@@ -284,10 +290,15 @@ std::shared_ptr<const CXmlTree> ParseXmlFile(const std::filesystem::path& path, 
 }
 
 void InitializeXmlLibrary() {
+  static std::once_flag watched;
+  std::call_once(watched, CMemoryWatch::Install);
   static std::once_flag once;
   std::call_once(once, [] {
+    const CThreadErrors otherErrors(IgnoreError, nullptr);
+    const CMemoryWatch watch;
     xmlInitParser();
-    xmlSchemaInitTypes();  // has no lock of its own
+    xmlSchemaInitTypes();   // has no lock of its own
+    watch.RequireMemory();  // the next call tries again
   });
 }
 
