@@ -3,7 +3,7 @@
 #include "RecordingHost.h"
 #include "TestSuiteVIF.h"
 #include "VendorInfoFile.h"
-#include "support/FailingMemory.h"
+#include "support/ForEveryFailingAllocation.h"
 #include "support/TempDir.h"
 #include "support/XmlVif.h"
 
@@ -11,14 +11,13 @@
 
 #include <cstddef>
 #include <filesystem>
-#include <new>
+#include <memory>
 #include <string>
 
 namespace {
 
-using testsupport::CFailingMemory;
 using testsupport::CRecordingHost;
-using testsupport::Memory;
+using testsupport::ForEveryFailingAllocation;
 
 constexpr std::size_t kFieldCount = 3;
 
@@ -35,49 +34,70 @@ class HooksMemoryTest : public testing::TestWithParam<const char*> {
   testsupport::TempDir m_dir;
 };
 
-/// Runs one hook while the k-th allocation fails, and says whether it was asked for.
-template <typename Hook>
-bool FailsAt(Memory kind, std::size_t k, const Hook& hook) {
-  const CFailingMemory memory(kind, k);
-  try {
-    hook();
-  } catch (const std::bad_alloc&) {
-    EXPECT_TRUE(memory.HasFailed());
-  }
-  return memory.HasFailed();
+using HostPointer = std::unique_ptr<CRecordingHost>;
+
+HostPointer HostWithFile(const std::filesystem::path& path) {
+  auto host = std::make_unique<CRecordingHost>();
+  host->suiteLog.SetVifFileName(path.string().c_str());
+  return host;
 }
 
 TEST_P(HooksMemoryTest, InitializePublishesTheWholeFileOrNothing) {
-  const std::string path = File().string();
-  for (const Memory kind : {Memory::OperatorNew, Memory::Bstr}) {
-    std::size_t k = 0;
-    for (bool hasFailed = true; hasFailed;) {
-      CRecordingHost host;
-      host.suiteLog.SetVifFileName(path.c_str());
-      hasFailed = FailsAt(kind, ++k, [&] { host.Initialize(); });
-      const CVendorInfoFile* vif = CAppState::TestSuiteVIF();
-      EXPECT_TRUE(vif == nullptr || vif->Count() == kFieldCount) << "allocation " << k;
-      EXPECT_TRUE(hasFailed || vif != nullptr);
-    }
-    EXPECT_TRUE(kind == Memory::Bstr || k > 20) << "only " << k << " allocations";
-  }
+  const std::filesystem::path path = File();
+  ForEveryFailingAllocation([&] { return HostWithFile(path); }, [](HostPointer& host) { host->Initialize(); },
+                            [](const HostPointer& host, bool isDone) {
+                              const CVendorInfoFile* vif = CAppState::TestSuiteVIF();
+                              EXPECT_TRUE(vif == nullptr || vif->Count() == kFieldCount);
+                              // A third line says why there is none.
+                              if (isDone) {
+                                EXPECT_EQ(host->log.Lines().size(), vif != nullptr ? 2U : 3U);
+                              }
+                            });
 }
 
 TEST_P(HooksMemoryTest, CleanupWithdrawsAndDeletesWhateverFails) {
-  const std::string path = File().string();
-  std::size_t k = 0;
-  for (bool hasFailed = true; hasFailed;) {
-    CRecordingHost host;
-    host.suiteLog.SetVifFileName(path.c_str());
-    host.Initialize();
-    ASSERT_NE(CAppState::TestSuiteVIF(), nullptr);
-    hasFailed = FailsAt(Memory::OperatorNew, ++k, [&] { host.Cleanup(); });
-    EXPECT_EQ(CAppState::TestSuiteVIF(), nullptr);
-  }
-  EXPECT_GT(k, 1u);
+  const std::filesystem::path path = File();
+  const auto begin = [&] {
+    HostPointer host = HostWithFile(path);
+    host->Initialize();
+    EXPECT_NE(CAppState::TestSuiteVIF(), nullptr);
+    return host;
+  };
+  ForEveryFailingAllocation(
+      begin, [](HostPointer& host) { host->Cleanup(); },
+      [](const HostPointer& host, bool isDone) {
+        EXPECT_EQ(CAppState::TestSuiteVIF(), nullptr);
+        EXPECT_EQ(host->log.Lines().size(), isDone ? 3U : 2U);
+      });
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, HooksMemoryTest, testing::Values("txt", "xml"),
                          [](const auto& form) { return std::string(form.param); });
+
+TEST(HooksMemory, InitializeThatFindsNoFile) {
+  const testsupport::TempDir dir;
+  const std::filesystem::path path = dir.Path() / "no file of that name.txt";
+  ForEveryFailingAllocation([&] { return HostWithFile(path); }, [](HostPointer& host) { host->Initialize(); },
+                            [](const HostPointer& host, bool isDone) {
+                              EXPECT_EQ(CAppState::TestSuiteVIF(), nullptr);
+                              if (isDone) {
+                                EXPECT_EQ(host->log.Lines().size(), 3U);
+                              }
+                            });
+}
+
+TEST(HooksMemory, InitializeThatRefuses) {
+  const auto begin = [] {
+    auto host = std::make_unique<CRecordingHost>();
+    host->input.chooses = false;
+    return host;
+  };
+  ForEveryFailingAllocation(
+      begin, [](HostPointer& host) { host->Initialize(); },
+      [](const HostPointer& host, bool isDone) {
+        EXPECT_EQ(CAppState::TestSuiteVIF(), nullptr);
+        EXPECT_EQ(host->log.Lines().size(), isDone ? 1U : 0U);
+      });
+}
 
 }  // namespace

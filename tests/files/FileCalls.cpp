@@ -1,0 +1,168 @@
+#include "FileCalls.h"
+
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/types.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdarg>
+#include <cstdio>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace testsupport {
+
+namespace {
+
+using Kind = FileCall::Kind;
+
+/// The function of that name that stands behind the one here.
+template <typename Function>
+Function* Behind(const char* name) {
+  return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+}
+
+struct Watch {
+  std::string file;
+  FileScript script;
+  std::array<std::size_t, 4> counts = {};
+  // What was opened last by the name.
+  bool isOpened = false;
+  dev_t device = 0;
+  ino_t inode = 0;
+  std::size_t position = 0;
+};
+
+Watch g_watch;
+thread_local bool t_isPassing = false;  // in calls of the script's and in calls inside of calls
+
+int StatusBehind(int descriptor, struct stat* status) {
+  static auto* const behind = Behind<int(int, struct stat*)>("fstat");
+  return behind(descriptor, status);
+}
+
+bool IsWatched(const char* name) { return !t_isPassing && g_watch.script && name != nullptr && g_watch.file == name; }
+
+bool IsWatched(int descriptor) {
+  if (t_isPassing || !g_watch.script || !g_watch.isOpened) return false;
+  struct stat status = {};
+  return StatusBehind(descriptor, &status) == 0 && status.st_dev == g_watch.device && status.st_ino == g_watch.inode;
+}
+
+FileCallFate Decide(Kind kind) {
+  t_isPassing = true;
+  const int former = errno;
+  const FileCallFate fate = g_watch.script({kind, ++g_watch.counts[static_cast<std::size_t>(kind)], g_watch.position});
+  errno = fate.error != 0 ? fate.error : former;
+  t_isPassing = false;
+  return fate;
+}
+
+/// Remembers what has been opened by the name.
+void TakeOpened(int descriptor) {
+  struct stat status = {};
+  if (StatusBehind(descriptor, &status) != 0) return;
+  g_watch.isOpened = true;
+  g_watch.device = status.st_dev;
+  g_watch.inode = status.st_ino;
+  g_watch.position = 0;
+}
+
+template <typename... Mode>
+int Open(const char* function, const char* name, int flags, Mode... mode) {
+  auto* const behind = Behind<int(const char*, int, ...)>(function);
+  const bool isWatched = IsWatched(name);
+  if (isWatched && Decide(Kind::Open).error != 0) return -1;
+  const int descriptor = behind(name, flags, mode...);
+  if (isWatched && descriptor >= 0) TakeOpened(descriptor);
+  return descriptor;
+}
+
+int Open(const char* function, const char* name, int flags, va_list arguments) {
+  if ((flags & O_CREAT) == 0) return Open(function, name, flags);
+  return Open(function, name, flags, va_arg(arguments, int));
+}
+
+std::FILE* OpenStream(const char* function, const char* name, const char* mode) {
+  auto* const behind = Behind<std::FILE*(const char*, const char*)>(function);
+  const bool isWatched = IsWatched(name);
+  if (isWatched && Decide(Kind::Open).error != 0) return nullptr;
+  const bool wasPassing = std::exchange(t_isPassing, true);  // it may open by way of the functions here
+  std::FILE* file = behind(name, mode);
+  t_isPassing = wasPassing;
+  if (isWatched && file != nullptr) TakeOpened(fileno(file));
+  return file;
+}
+
+}  // namespace
+
+CFileCalls::CFileCalls(const std::filesystem::path& file, FileScript script) {
+  g_watch = {};
+  g_watch.file = file.native();
+  g_watch.script = std::move(script);
+}
+
+CFileCalls::~CFileCalls() { g_watch.script = nullptr; }
+
+std::size_t CFileCalls::Count(FileCall::Kind kind) { return g_watch.counts[static_cast<std::size_t>(kind)]; }
+
+}  // namespace testsupport
+
+using testsupport::Behind;
+using testsupport::Decide;
+using testsupport::IsWatched;
+using testsupport::Kind;
+
+// They stand in front of the C library's functions for the program and all libraries in it.
+#define FRONT __attribute__((visibility("default")))
+
+extern "C" FRONT int open(const char* name, int flags, ...) {
+  va_list arguments;
+  va_start(arguments, flags);
+  const int descriptor = testsupport::Open("open", name, flags, arguments);
+  va_end(arguments);
+  return descriptor;
+}
+
+extern "C" FRONT std::FILE* fopen(const char* name, const char* mode) {
+  return testsupport::OpenStream("fopen", name, mode);
+}
+
+extern "C" FRONT int stat(const char* name, struct stat* status) noexcept {
+  static auto* const behind = Behind<int(const char*, struct stat*)>("stat");
+  return IsWatched(name) && Decide(Kind::Stat).error != 0 ? -1 : behind(name, status);
+}
+
+extern "C" FRONT int fstat(int descriptor, struct stat* status) noexcept {
+  if (IsWatched(descriptor) && Decide(Kind::Status).error != 0) return -1;
+  return testsupport::StatusBehind(descriptor, status);
+}
+
+extern "C" FRONT ssize_t read(int descriptor, void* buffer, std::size_t size) {
+  static auto* const behind = Behind<ssize_t(int, void*, std::size_t)>("read");
+  if (!IsWatched(descriptor)) return behind(descriptor, buffer, size);
+  const testsupport::FileCallFate fate = Decide(Kind::Read);
+  if (fate.error != 0) return -1;
+  const ssize_t count = behind(descriptor, buffer, std::min(size, fate.mostBytes));
+  if (count > 0) testsupport::g_watch.position += static_cast<std::size_t>(count);
+  return count;
+}
+
+// With the GNU C library, the functions for large files have names of their own.
+#ifdef __GLIBC__
+extern "C" FRONT int open64(const char* name, int flags, ...) {
+  va_list arguments;
+  va_start(arguments, flags);
+  const int descriptor = testsupport::Open("open64", name, flags, arguments);
+  va_end(arguments);
+  return descriptor;
+}
+
+extern "C" FRONT std::FILE* fopen64(const char* name, const char* mode) {
+  return testsupport::OpenStream("fopen64", name, mode);
+}
+#endif

@@ -1,0 +1,50 @@
+// Makes the C library's calls on one file fail, or do less than they could, or be the moment at which something happens
+// to the file. What a disk, a network or another process does to a reader at its own time is done here at a known one.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <functional>
+#include <limits>
+
+namespace testsupport {
+
+/// A call on the file, before it is made.
+struct FileCall {
+  enum class Kind {
+    Stat,    ///< by name
+    Open,    ///< by name, for reading, as a descriptor or as a stream
+    Status,  ///< of the open file
+    Read,
+  };
+
+  Kind kind;
+  std::size_t number;    ///< of its kind, from 1
+  std::size_t position;  ///< how many bytes have been read since the file was opened
+};
+
+/// What becomes of a call.
+struct FileCallFate {
+  int error = 0;                                               ///< it fails with this number; 0: it is made
+  std::size_t mostBytes = std::numeric_limits<size_t>::max();  ///< a read delivers no more
+};
+
+/// Decides on each call. Calls that it makes itself are made as ever.
+using FileScript = std::function<FileCallFate(const FileCall&)>;
+
+/// While it lives, the script decides on all calls of this process on one file. Only one may live at a time, and only one
+/// thread may make calls on the file.
+class CFileCalls {
+ public:
+  /// \param file the name with which calls by name are made; whatever is opened by it is read under the script, whatever
+  ///   becomes of the name meanwhile
+  CFileCalls(const std::filesystem::path& file, FileScript script);
+  CFileCalls(const CFileCalls&) = delete;
+  CFileCalls& operator=(const CFileCalls&) = delete;
+  ~CFileCalls();
+
+  /// How many calls of that kind there were.
+  static std::size_t Count(FileCall::Kind kind);
+};
+
+}  // namespace testsupport

@@ -1,0 +1,109 @@
+// Stands in front of the C library's malloc in a program that is started with LD_PRELOAD. The environment says what
+// fails: VIF_TEST_FAILS_AT is the number of an allocation, counted from 1 from the beginning of `main`, because without
+// memory for the libraries no program can be loaded, and VIF_TEST_FAILS_ON, when it is there, has all behind it fail,
+// too. VIF_TEST_COUNT names a file into which the number of allocations is written at the end.
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <cerrno>
+#include <charconv>
+#include <cstddef>
+#include <cstdlib>
+
+extern "C" {
+// The GNU C library's own.
+void* __libc_malloc(std::size_t size);                     // NOLINT(bugprone-reserved-identifier)
+void* __libc_calloc(std::size_t count, std::size_t size);  // NOLINT(bugprone-reserved-identifier)
+void* __libc_realloc(void* memory, std::size_t size);      // NOLINT(bugprone-reserved-identifier)
+}
+
+namespace {
+
+std::atomic<bool> g_isArmed = false;
+std::atomic<unsigned long> g_count = 0;
+unsigned long g_failsAt = 0;
+bool g_failsOn = false;
+bool g_isSpared = false;
+
+bool MustFail() {
+  if (!g_isArmed || g_isSpared) return false;
+  const unsigned long number = ++g_count;
+  const bool mustFail = number == g_failsAt || (g_failsOn && g_failsAt != 0 && number > g_failsAt);
+  if (mustFail) errno = ENOMEM;
+  return mustFail;
+}
+
+using Main = int (*)(int, char**, char**);
+Main g_main = nullptr;
+
+int ArmAndRun(int argc, char** argv, char** environment) {
+  const char* number = std::getenv("VIF_TEST_FAILS_AT");
+  g_failsAt = number != nullptr ? std::strtoul(number, nullptr, 10) : 0;
+  g_failsOn = std::getenv("VIF_TEST_FAILS_ON") != nullptr;
+  g_isArmed = true;
+  return g_main(argc, argv, environment);
+}
+
+__attribute__((destructor)) void Report() {
+  g_isArmed = false;
+  const char* name = std::getenv("VIF_TEST_COUNT");
+  if (name == nullptr) return;
+  char digits[24];
+  const char* end = std::to_chars(digits, digits + sizeof(digits), g_count.load()).ptr;
+  const int file = open(name, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+  if (file < 0 || write(file, digits, static_cast<std::size_t>(end - digits)) < 0) _exit(99);
+  close(file);
+}
+
+}  // namespace
+
+#define FRONT __attribute__((visibility("default")))
+
+extern "C" FRONT void* malloc(std::size_t size) noexcept { return MustFail() ? nullptr : __libc_malloc(size); }
+extern "C" FRONT void* calloc(std::size_t count, std::size_t size) noexcept {
+  return MustFail() ? nullptr : __libc_calloc(count, size);
+}
+extern "C" FRONT void* realloc(void* memory, std::size_t size) noexcept {
+  return MustFail() ? nullptr : __libc_realloc(memory, size);
+}
+
+namespace {
+
+/// Calls the function of that name that stands behind, with no allocation failing.
+template <typename Result, typename... Arguments>
+Result CallSpared(const char* name, Arguments... arguments) {
+  const auto real = reinterpret_cast<Result (*)(Arguments...)>(dlsym(RTLD_NEXT, name));
+  struct Spared {
+    Spared() { g_isSpared = true; }
+    ~Spared() { g_isSpared = false; }
+  } spared;
+  return real(arguments...);
+}
+
+}  // namespace
+
+// In these, libxml2 2.9.14 itself goes wrong when it gets no memory: the first two use null pointers, and for the
+// others see FailingXmlPosix.cpp.
+extern "C" FRONT void xmlInitParser() { CallSpared<void>("xmlInitParser"); }
+extern "C" FRONT void xmlSchemaInitTypes() { CallSpared<void>("xmlSchemaInitTypes"); }
+extern "C" FRONT void* xmlSchemaParse(void* context) { return CallSpared<void*>("xmlSchemaParse", context); }
+extern "C" FRONT int xmlSchemaValidateDoc(void* context, void* document) {
+  return CallSpared<int>("xmlSchemaValidateDoc", context, document);
+}
+extern "C" FRONT void* xmlXPathEvalExpression(const unsigned char* expression, void* context) {
+  return CallSpared<void*>("xmlXPathEvalExpression", expression, context);
+}
+extern "C" FRONT int xmlXPathRegisterNs(void* context, const unsigned char* prefix, const unsigned char* uri) {
+  return CallSpared<int>("xmlXPathRegisterNs", context, prefix, uri);
+}
+
+/// What a program begins with.
+// NOLINTNEXTLINE(bugprone-reserved-identifier): it is the C library's name
+extern "C" FRONT int __libc_start_main(Main main, int argc, char** argv, void (*begin)(), void (*end)(),
+                                       void (*endOfLoader)(), void* stack) {
+  g_main = main;
+  const auto real = reinterpret_cast<decltype(&__libc_start_main)>(dlsym(RTLD_NEXT, "__libc_start_main"));
+  return real(ArmAndRun, argc, argv, begin, end, endOfLoader, stack);
+}
