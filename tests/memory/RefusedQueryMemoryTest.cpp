@@ -5,7 +5,6 @@ namespace {
 
 using testsupport::ExpectAllFormsBearFailures;
 using testsupport::ExpectFirstFormsBearFailures;
-using testsupport::ExpectQueryBearsFailures;
 using testsupport::kAnywhere;
 using testsupport::kUnused;
 

@@ -1,19 +1,16 @@
 // Threads that query one object at once. Of most use under ThreadSanitizer, and with each test in a process of its own,
 // so that its threads are the first to meet regular expressions.
 #include "QueryOutcome.h"
+#include "support/InAllThreads.h"
 #include "support/TempDir.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <array>
-#include <atomic>
 #include <cstddef>
 #include <cstdint>
-#include <exception>
 #include <regex>
 #include <string>
-#include <thread>
 #include <tuple>
 #include <vector>
 
@@ -22,11 +19,12 @@ namespace {
 using testing::Each;
 using testing::ElementsAre;
 using testsupport::FieldTexts;
+using testsupport::InAllThreads;
+using testsupport::kThreads;
 using testsupport::OutcomeOf;
 using testsupport::Slots;
 using testsupport::TempDir;
 
-constexpr std::size_t kThreads = 8;
 constexpr int kRounds = 50;
 constexpr VifIndex kUnused = CVIFField::UNSPECIFIED_INDEX;
 constexpr Slots kAnywhere = {kUnused, kUnused, kUnused};
@@ -47,31 +45,6 @@ CVendorInfoFile Subject() {
   fields.push_back(Field("Twin", "2", 2));
   fields.emplace_back(false, "Vendor_Name", "ABC", "", Component(2), kUnused, kUnused);
   return CVendorInfoFile(fields);
-}
-
-/// Runs the action, which is told the thread's number, in all threads at once and returns what each came to.
-template <typename Action>
-auto InAllThreads(const Action& action) {
-  std::array<decltype(action(std::size_t{})), kThreads> results;
-  std::array<std::exception_ptr, kThreads> failures;
-  std::atomic<std::size_t> waiting = kThreads;
-  std::vector<std::thread> threads;
-  for (std::size_t number = 0; number < kThreads; ++number) {
-    threads.emplace_back([&, number] {
-      --waiting;
-      while (waiting != 0) std::this_thread::yield();
-      try {
-        results[number] = action(number);
-      } catch (...) {
-        failures[number] = std::current_exception();
-      }
-    });
-  }
-  for (std::thread& thread : threads) thread.join();
-  for (const std::exception_ptr& failure : failures) {
-    if (failure) std::rethrow_exception(failure);
-  }
-  return results;
 }
 
 /// Asks the query again and again and returns all its outcomes.
