@@ -3,6 +3,7 @@
 #include <libxml/xmlmemory.h>
 
 #include <cstddef>
+#include <mutex>
 #include <new>
 #include <utility>
 
@@ -15,6 +16,7 @@ thread_local bool g_hasRunOut = false;
 // What libxml2 allocated with before.
 xmlFreeFunc g_free = nullptr;
 xmlMallocFunc g_allocate = nullptr;
+xmlMallocFunc g_allocateAtomic = nullptr;  // what will hold no pointers
 xmlReallocFunc g_reallocate = nullptr;
 xmlStrdupFunc g_duplicate = nullptr;
 
@@ -26,7 +28,12 @@ Memory* Watched(Memory* memory) noexcept {
 
 void* Allocate(std::size_t size) { return Watched(g_allocate(size)); }
 
-void* Reallocate(void* memory, std::size_t size) { return Watched(g_reallocate(memory, size)); }
+void* AllocateAtomic(std::size_t size) { return Watched(g_allocateAtomic(size)); }
+
+void* Reallocate(void* memory, std::size_t size) {
+  void* moved = g_reallocate(memory, size);
+  return size != 0 ? Watched(moved) : moved;  // to nothing is a release
+}
 
 char* Duplicate(const char* text) { return Watched(g_duplicate(text)); }
 
@@ -36,9 +43,12 @@ CMemoryWatch::CMemoryWatch() noexcept : m_hadRunOut(std::exchange(g_hasRunOut, f
 
 CMemoryWatch::~CMemoryWatch() { g_hasRunOut = g_hasRunOut || m_hadRunOut; }
 
-void CMemoryWatch::Install() noexcept {
-  xmlMemGet(&g_free, &g_allocate, &g_reallocate, &g_duplicate);
-  xmlMemSetup(g_free, Allocate, Reallocate, Duplicate);
+void CMemoryWatch::Install() {
+  static std::once_flag once;
+  std::call_once(once, [] {
+    xmlGcMemGet(&g_free, &g_allocate, &g_allocateAtomic, &g_reallocate, &g_duplicate);
+    xmlGcMemSetup(g_free, Allocate, AllocateAtomic, Reallocate, Duplicate);
+  });
 }
 
 bool CMemoryWatch::HasRunOut() const noexcept { return g_hasRunOut; }

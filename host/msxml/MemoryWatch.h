@@ -12,9 +12,9 @@ class CMemoryWatch {
   CMemoryWatch& operator=(const CMemoryWatch&) = delete;
   ~CMemoryWatch();
 
-  /// Has libxml2 allocate through functions that call those set so far. Once in the process, before any of these lives;
-  /// they stay.
-  static void Install() noexcept;
+  /// Has libxml2 allocate through functions that call those set so far, from the first call on. Before that, none of
+  /// these sees anything.
+  static void Install();
 
   /// Whether an allocation has failed while this lives.
   bool HasRunOut() const noexcept;

@@ -290,8 +290,7 @@ std::shared_ptr<const CXmlTree> ParseXmlFile(const std::filesystem::path& path, 
 }
 
 void InitializeXmlLibrary() {
-  static std::once_flag watched;
-  std::call_once(watched, CMemoryWatch::Install);
+  CMemoryWatch::Install();
   static std::once_flag once;
   std::call_once(once, [] {
     const CThreadErrors otherErrors(IgnoreError, nullptr);
