@@ -38,7 +38,8 @@ class VIF_API CVendorInfoFile {
   /// No fields, no file name, the built-in field definitions.
   CVendorInfoFile();
 
-  /// Loads a file. An empty path, or a literal null, loads nothing and fails in nothing.
+  /// Loads a file. An empty path, or a literal null, loads nothing and fails in nothing. A text file that the system
+  /// cannot read on ends there, and nobody is told; `CheckTextVif` tells.
   /// \param fieldDefs the definitions that the names of text VIFs are resolved through, here and in later appends;
   ///   borrowed, so it must outlive the object and its copies. Null means the built-in table.
   /// \throws CZoRunTimeException "VIF Does not exist. (name: <path>)",

@@ -5,12 +5,12 @@
 #include "LineGrammar.h"
 #include "LineSource.h"
 #include "PathText.h"
+#include "TextFile.h"
 
-#include <fstream>
+#include <memory>
 #include <optional>
 #include <regex>
 #include <string_view>
-#include <system_error>
 
 namespace vif {
 
@@ -108,13 +108,10 @@ class CLineReader {
   std::string m_description;
 };
 
-std::ifstream Open(const std::filesystem::path& path) {
+std::unique_ptr<std::istream> Open(const std::filesystem::path& path) {
   if (path.empty()) ThrowRunTimeError("%s: Internal error: NULL file name.", "CVIFImpl::ReadTextFile");
-
-  std::error_code statusError;
-  std::ifstream stream;
-  if (std::filesystem::is_regular_file(path, statusError)) stream.open(path);
-  if (!stream.is_open()) ThrowRunTimeError("Couldn't open Vendor Info File: %S.", NarrowPathText(path));
+  std::unique_ptr<std::istream> stream = OpenTextFile(path);
+  if (stream == nullptr) ThrowRunTimeError("Couldn't open Vendor Info File: %S.", NarrowPathText(path));
   return stream;
 }
 
@@ -129,8 +126,8 @@ void ReadLines(std::istream& stream, const std::string& pathText, CLineReader& r
 }  // namespace
 
 void ReadTextVif(const std::filesystem::path& path, const std::vector<VifFieldDef>* table, FieldSink sink) {
-  std::ifstream stream = Open(path);
-  ReadTextVif(stream, NarrowPathText(path), table, sink);
+  const std::unique_ptr<std::istream> stream = Open(path);
+  ReadTextVif(*stream, NarrowPathText(path), table, sink);
 }
 
 void ReadTextVif(std::istream& stream, const std::string& pathText, const std::vector<VifFieldDef>* table,
@@ -141,8 +138,8 @@ void ReadTextVif(std::istream& stream, const std::string& pathText, const std::v
 }
 
 void FollowTextVif(const std::filesystem::path& path, const std::vector<VifFieldDef>* table, TextObservers observers) {
-  std::ifstream stream = Open(path);
-  FollowTextVif(stream, NarrowPathText(path), table, observers);
+  const std::unique_ptr<std::istream> stream = Open(path);
+  FollowTextVif(*stream, NarrowPathText(path), table, observers);
 }
 
 void FollowTextVif(std::istream& stream, const std::string& pathText, const std::vector<VifFieldDef>* table,

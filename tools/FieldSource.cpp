@@ -3,7 +3,9 @@
 #include "Command.h"
 
 #include <BaseUtilities/SimpleBuffer.h>
+#include <BaseUtilities/StringConvert.h>
 #include <VIFInvalidFile.h>
+#include <VIFTextCheck.h>
 #include <msxml/ComPointer.h>
 
 #include <new>
@@ -24,12 +26,29 @@ std::string ReasonText(const std::vector<DOMDocProblem>& problems) {
   return text;
 }
 
+/// Whether the library's message says which file it is about. The one about extensions does not, although it may quote
+/// what is all of a name.
+bool IsNamed(const std::string& fileName, const std::string& reason) {
+  return !reason.starts_with("Invalid file type") && reason.find(fileName) != std::string::npos;
+}
+
+/// A text file that cannot be read to its end is loaded as far as it can be, and nobody is told; here somebody is.
+void RequireReadable(const std::string& fileName) {
+  CheckTextVif(PathOf(fileName), [](const VifLineReport& report) {
+    if (report.problem != eVifLineReadFailed) return;
+    throw Failure(std::string("the file could not be read on from line ").append(std::to_string(report.line)));
+  });
+}
+
 }  // namespace
 
 CVendorInfoFile LoadFiles(const std::vector<std::string>& fileNames) {
   CVendorInfoFile vif;
   for (const std::string& fileName : fileNames) {
-    ReadFile(fileName, [&] { vif.Append(fileName.c_str()); });
+    ReadFile(fileName, [&] {
+      vif.Append(fileName.c_str());
+      if (HasExtension(PathOf(fileName), ".txt")) RequireReadable(fileName);
+    });
   }
   return vif;
 }
@@ -45,11 +64,20 @@ void ReadFile(const std::string& fileName, const std::function<void()>& read) {
   } catch (const _com_error& error) {
     CSimpleBuffer reason;
     throw Failure(reason.Printf("%s: COM error 0x%08X", fileName, error.Error()));
+  } catch (const Failure& error) {
+    throw Failure(std::string(fileName).append(": ").append(error.what()));
   } catch (const std::exception& error) {
     const std::string reason = error.what();
-    if (reason.find(fileName) != std::string::npos) throw Failure(reason);
+    if (IsNamed(fileName, reason)) throw Failure(reason);
     throw Failure(std::string(fileName).append(": ").append(reason));
   }
+}
+
+bool HasExtension(const std::filesystem::path& path, std::string_view extension) {
+  const std::u8string given = path.extension().u8string();
+  std::string text(given.begin(), given.end());
+  ToLower(text);
+  return text == extension;
 }
 
 std::filesystem::path PathOf(const std::string& fileName) { return std::u8string(fileName.begin(), fileName.end()); }

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tool {
@@ -20,5 +21,8 @@ void ReadFile(const std::string& fileName, const std::function<void()>& read);
 
 /// The path that a UTF-8 name stands for; outside Windows its bytes are taken as they are.
 std::filesystem::path PathOf(const std::string& fileName);
+
+/// Whether a path has that extension, which is given in small letters, in any letter case.
+bool HasExtension(const std::filesystem::path& path, std::string_view extension);
 
 }  // namespace tool

@@ -1,4 +1,4 @@
-// A file that libxml2 reads from.
+// A file that is read.
 #pragma once
 
 #include <cstdint>
@@ -32,15 +32,20 @@ class CInputFile {
   };
   const Stamp& GetStamp() const { return m_stamp; }
 
-  /// libxml2's read callback.
-  /// \param context the CInputFile
+  /// Reads on, in the form of libxml2's read callback. It fills the buffer unless the file ends or cannot be read on,
+  /// in however small pieces the system delivers it: libxml2 looks for the encoding in what it gets first. What has
+  /// been read before a failure is delivered before the failure; behind that and behind the end nothing more is read.
+  /// \param context the CInputFile, which must be open
   /// \return the number of bytes read, 0 at the end, -1 on failure
   static int Read(void* context, char* buffer, int length) noexcept;
 
  private:
   enum class Failure { None, NotOpened, NotRegular, NotRead };
 
-  int m_descriptor = -1;
+  void Close();
+
+  int m_descriptor;
+  bool m_isAtEnd = false;
   Failure m_failure = Failure::None;
   int m_errorNumber = 0;
   Stamp m_stamp;

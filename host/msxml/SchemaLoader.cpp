@@ -82,6 +82,11 @@ void CSchemaLoader::ReportError(void*, xmlErrorPtr error) {
   if (error->code == XML_ERR_NO_MEMORY) g_loader->m_isOutOfMemory = true;
   if (error->level == XML_ERR_WARNING || error->message == nullptr) return;
   try {
+    // What libxml2 says of a file that it could not read to its end is that it ends too early.
+    const bool isUnread = !g_loader->m_open.empty() && g_loader->m_open.back().HasFailed();
+    if (isUnread && !g_loader->m_files.empty()) {
+      g_loader->Fail(g_loader->m_files.back().path.native() + ": the file " + g_loader->m_open.back().Error());
+    }
     std::string_view reason = error->message;
     while (reason.ends_with('\n')) reason.remove_suffix(1);
     g_loader->Fail(g_loader->Place(*error) + ": " + std::string(reason));

@@ -16,17 +16,9 @@
 
 namespace testsupport {
 
-namespace {
+struct CFileCalls::Watch {
+  Watch(std::string name, FileScript decisions) : file(std::move(name)), script(std::move(decisions)) {}
 
-using Kind = FileCall::Kind;
-
-/// The function of that name that stands behind the one here.
-template <typename Function>
-Function* Behind(const char* name) {
-  return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
-}
-
-struct Watch {
   std::string file;
   FileScript script;
   std::array<std::size_t, 4> counts = {};
@@ -37,7 +29,19 @@ struct Watch {
   std::size_t position = 0;
 };
 
-Watch g_watch;
+namespace {
+
+using Kind = FileCall::Kind;
+
+/// The function of that name that stands behind the one here.
+template <typename Function>
+Function* Behind(const char* name) {
+  return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+}
+
+/// Of the object that lives. There are calls before anything of the program's is initialised, and behind its end.
+CFileCalls::Watch* g_watch = nullptr;
+
 thread_local bool t_isPassing = false;  // in calls of the script's and in calls inside of calls
 
 int StatusBehind(int descriptor, struct stat* status) {
@@ -45,18 +49,21 @@ int StatusBehind(int descriptor, struct stat* status) {
   return behind(descriptor, status);
 }
 
-bool IsWatched(const char* name) { return !t_isPassing && g_watch.script && name != nullptr && g_watch.file == name; }
+bool IsWatched(const char* name) {
+  return g_watch != nullptr && !t_isPassing && name != nullptr && g_watch->file == name;
+}
 
 bool IsWatched(int descriptor) {
-  if (t_isPassing || !g_watch.script || !g_watch.isOpened) return false;
+  if (g_watch == nullptr || t_isPassing || !g_watch->isOpened) return false;
   struct stat status = {};
-  return StatusBehind(descriptor, &status) == 0 && status.st_dev == g_watch.device && status.st_ino == g_watch.inode;
+  return StatusBehind(descriptor, &status) == 0 && status.st_dev == g_watch->device && status.st_ino == g_watch->inode;
 }
 
 FileCallFate Decide(Kind kind) {
   t_isPassing = true;
   const int former = errno;
-  const FileCallFate fate = g_watch.script({kind, ++g_watch.counts[static_cast<std::size_t>(kind)], g_watch.position});
+  const std::size_t number = ++g_watch->counts[static_cast<std::size_t>(kind)];
+  const FileCallFate fate = g_watch->script({kind, number, g_watch->position});
   errno = fate.error != 0 ? fate.error : former;
   t_isPassing = false;
   return fate;
@@ -66,10 +73,10 @@ FileCallFate Decide(Kind kind) {
 void TakeOpened(int descriptor) {
   struct stat status = {};
   if (StatusBehind(descriptor, &status) != 0) return;
-  g_watch.isOpened = true;
-  g_watch.device = status.st_dev;
-  g_watch.inode = status.st_ino;
-  g_watch.position = 0;
+  g_watch->isOpened = true;
+  g_watch->device = status.st_dev;
+  g_watch->inode = status.st_ino;
+  g_watch->position = 0;
 }
 
 template <typename... Mode>
@@ -100,15 +107,14 @@ std::FILE* OpenStream(const char* function, const char* name, const char* mode) 
 
 }  // namespace
 
-CFileCalls::CFileCalls(const std::filesystem::path& file, FileScript script) {
-  g_watch = {};
-  g_watch.file = file.native();
-  g_watch.script = std::move(script);
+CFileCalls::CFileCalls(const std::filesystem::path& file, FileScript script)
+    : m_watch(std::make_unique<Watch>(file.native(), std::move(script))) {
+  g_watch = m_watch.get();
 }
 
-CFileCalls::~CFileCalls() { g_watch.script = nullptr; }
+CFileCalls::~CFileCalls() { g_watch = nullptr; }
 
-std::size_t CFileCalls::Count(FileCall::Kind kind) { return g_watch.counts[static_cast<std::size_t>(kind)]; }
+std::size_t CFileCalls::Count(FileCall::Kind kind) const { return m_watch->counts[static_cast<std::size_t>(kind)]; }
 
 }  // namespace testsupport
 
@@ -148,7 +154,7 @@ extern "C" FRONT ssize_t read(int descriptor, void* buffer, std::size_t size) {
   const testsupport::FileCallFate fate = Decide(Kind::Read);
   if (fate.error != 0) return -1;
   const ssize_t count = behind(descriptor, buffer, std::min(size, fate.mostBytes));
-  if (count > 0) testsupport::g_watch.position += static_cast<std::size_t>(count);
+  if (count > 0) testsupport::g_watch->position += static_cast<std::size_t>(count);
   return count;
 }
 

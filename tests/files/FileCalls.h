@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <functional>
 #include <limits>
+#include <memory>
 
 namespace testsupport {
 
@@ -32,11 +33,12 @@ struct FileCallFate {
 /// Decides on each call. Calls that it makes itself are made as ever.
 using FileScript = std::function<FileCallFate(const FileCall&)>;
 
-/// While it lives, the script decides on all calls of this process on one file. Only one may live at a time, and only one
-/// thread may make calls on the file.
+/// While it lives, the script decides on all calls of this process on one file. Only one may live at a time, and only
+/// one thread may make calls on the file.
 class CFileCalls {
  public:
-  /// \param file the name with which calls by name are made; whatever is opened by it is read under the script, whatever
+  /// \param file the name with which calls by name are made; whatever is opened by it is read under the script,
+  /// whatever
   ///   becomes of the name meanwhile
   CFileCalls(const std::filesystem::path& file, FileScript script);
   CFileCalls(const CFileCalls&) = delete;
@@ -44,7 +46,12 @@ class CFileCalls {
   ~CFileCalls();
 
   /// How many calls of that kind there were.
-  static std::size_t Count(FileCall::Kind kind);
+  std::size_t Count(FileCall::Kind kind) const;
+
+  struct Watch;  ///< what the functions that stand in front of the C library's know
+
+ private:
+  std::unique_ptr<Watch> m_watch;
 };
 
 }  // namespace testsupport

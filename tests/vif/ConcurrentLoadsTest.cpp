@@ -1,6 +1,6 @@
-// Threads that load files at once, each into an object of its own. Of most use under ThreadSanitizer, and with each test in
-// a process of its own, so that its threads are the first to compile the schemas, the expressions and whatever else is
-// made once.
+// Threads that load files at once, each into an object of its own. Of most use under ThreadSanitizer, and with each
+// test in a process of its own, so that its threads are the first to compile the schemas, the expressions and whatever
+// else is made once.
 #include "BaseUtilities/Exceptions.h"
 #include "VIFInvalidFile.h"
 #include "VendorInfoFile.h"

@@ -3,8 +3,6 @@
 #include "Command.h"
 #include "FieldSource.h"
 
-#include <BaseUtilities/StringConvert.h>
-
 #include <algorithm>
 #include <system_error>
 #include <tuple>
@@ -36,22 +34,15 @@ Findings CheckXml(const std::filesystem::path& path) {
   return findings;
 }
 
-std::string Extension(const std::filesystem::path& path) {
-  const std::u8string extension = path.extension().u8string();
-  std::string text(extension.begin(), extension.end());
-  ToLower(text);
-  return text;
-}
-
 Findings CheckPath(const std::filesystem::path& path) {
   std::error_code error;
   const std::filesystem::file_status status = std::filesystem::status(path, error);
   if (status.type() == std::filesystem::file_type::not_found) throw Failure("there is no such file");
   if (!std::filesystem::status_known(status)) throw Failure(error.message());
-  const std::string extension = Extension(path);
-  if (extension != ".txt" && extension != ".xml") throw Failure("a VIF is a text (*.txt) or XML (*.xml) file");
+  const bool isText = HasExtension(path, ".txt");
+  if (!isText && !HasExtension(path, ".xml")) throw Failure("a VIF is a text (*.txt) or XML (*.xml) file");
   if (!std::filesystem::is_regular_file(status)) throw Failure("only a regular file can be read");
-  return extension == ".txt" ? CheckText(path) : CheckXml(path);
+  return isText ? CheckText(path) : CheckXml(path);
 }
 
 }  // namespace

@@ -5,12 +5,10 @@
 
 #include <BaseUtilities/Exceptions.h>
 #include <VIFInvalidFile.h>
+#include <VIFTextCheck.h>
 #include <VIFXmlCheck.h>
 
 #include <algorithm>
-#include <fstream>
-#include <ios>
-#include <limits>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -42,10 +40,19 @@ Finding DescribeProblem(const DOMDocProblem& problem) {
           (isNamed ? "" : Quoted(problem.element) + ": ") + Printable(problem.reason)};
 }
 
+/// Whether all of the file can be read. It is followed as text, whatever it holds, because so nothing but a regular
+/// file is opened, although another may have the name by now, and nothing is waited for.
 bool CanBeRead(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  file.ignore(std::numeric_limits<std::streamsize>::max());
-  return file.eof() && !file.bad();
+  bool canBeRead = true;
+  const VifLineObserver observer = [&](const VifLineReport& report) {
+    if (report.problem == eVifLineReadFailed) canBeRead = false;
+  };
+  try {
+    CheckTextVif(path, observer);
+  } catch (const CZoRunTimeException&) {
+    return false;
+  }
+  return canBeRead;
 }
 
 Findings DescribeProblems(const std::vector<DOMDocProblem>& problems, const std::filesystem::path& path) {

@@ -1,0 +1,56 @@
+#include "TextFile.h"
+#include "msxml/InputFile.h"
+
+#include <cstddef>
+#include <streambuf>
+
+namespace vif {
+
+namespace {
+
+/// An odd number: some files that the system makes up, such as /proc/self/pagemap, which look regular and go on for
+/// hundreds of gigabytes, deliver only whole records.
+constexpr std::size_t kChunkSize = 8191;
+
+/// The standard library's file buffers open by name, whatever it stands for by then: if that is a pipe, they wait.
+class CFileBuffer : public std::streambuf {
+ public:
+  explicit CFileBuffer(const std::filesystem::path& path) : m_file(path) {}
+
+  bool IsOpen() const { return m_file.IsOpen(); }
+
+ protected:
+  int_type underflow() override {
+    if (gptr() == egptr()) {
+      const int count = msxml::CInputFile::Read(&m_file, m_chunk, kChunkSize);
+      if (count < 0) throw std::ios_base::failure(m_file.Error());  // of which the stream makes its `badbit`
+      setg(m_chunk, m_chunk, m_chunk + count);
+    }
+    return gptr() != egptr() ? traits_type::to_int_type(*gptr()) : traits_type::eof();
+  }
+
+ private:
+  msxml::CInputFile m_file;
+  char m_chunk[kChunkSize] = {};
+};
+
+/// A stream with its buffer.
+class CFileStream : public std::istream {
+ public:
+  explicit CFileStream(const std::filesystem::path& path) : std::istream(nullptr), m_buffer(path) { rdbuf(&m_buffer); }
+
+  bool IsOpen() const { return m_buffer.IsOpen(); }
+
+ private:
+  CFileBuffer m_buffer;
+};
+
+}  // namespace
+
+std::unique_ptr<std::istream> OpenTextFile(const std::filesystem::path& path) {
+  auto stream = std::make_unique<CFileStream>(path);
+  if (!stream->IsOpen()) return nullptr;
+  return stream;
+}
+
+}  // namespace vif
