@@ -42,11 +42,9 @@ struct FreeXml {
   void operator()(void* memory) const { xmlFree(memory); }
 };
 
-/// The file that a URL or a plain path stands for; empty when it stands for none of this machine.
+/// The file that a URL stands for; empty when it stands for none of this machine.
 std::filesystem::path FileOf(std::string_view url) {
-  if (!url.starts_with(kFileScheme)) {
-    return url.find("://") == std::string_view::npos ? std::filesystem::path(url) : std::filesystem::path();
-  }
+  if (!url.starts_with(kFileScheme) || !url.substr(kFileScheme.size()).starts_with('/')) return {};
   const std::string escaped(url.substr(kFileScheme.size()));
   const std::unique_ptr<char, FreeXml> path(xmlURIUnescapeString(escaped.c_str(), 0, nullptr));
   if (path == nullptr) throw std::bad_alloc();

@@ -38,11 +38,16 @@ std::string EscapeAttribute(std::string_view text) {
   return escaped;
 }
 
+/// An attribute with a namespace; nothing when that is none.
+std::string NamespaceAttribute(std::string_view name, std::string_view uri) {
+  if (uri.empty()) return {};
+  return std::string(" ").append(name).append("=\"").append(EscapeAttribute(uri)) + '"';
+}
+
 /// The last of the schemas whose namespace no other one shares; null when there is none.
 const SchemaSource* FindMain(const std::vector<SchemaSource>& sources) {
   const auto isOnly = [&](const SchemaSource& source) {
-    return !source.targetNamespace.empty() &&
-           std::count_if(sources.begin(), sources.end(), [&](const SchemaSource& other) {
+    return std::count_if(sources.begin(), sources.end(), [&](const SchemaSource& other) {
              return other.targetNamespace == source.targetNamespace;
            }) == 1;
   };
@@ -56,11 +61,10 @@ const SchemaSource* FindMain(const std::vector<SchemaSource>& sources) {
 std::string JoiningSchema(const std::vector<SchemaSource>& sources) {
   const SchemaSource* main = FindMain(sources);
   std::string schema = R"(<xs:schema xmlns:xs="http://www.w3.org/2001/XMLSchema")";
-  if (main != nullptr) schema += R"( targetNamespace=")" + EscapeAttribute(main->targetNamespace) + '"';
+  if (main != nullptr) schema += NamespaceAttribute("targetNamespace", main->targetNamespace);
   schema += '>';
   for (const SchemaSource& source : sources) {
-    schema +=
-        &source == main ? "<xs:include" : R"(<xs:import namespace=")" + EscapeAttribute(source.targetNamespace) + '"';
+    schema += &source == main ? "<xs:include" : "<xs:import" + NamespaceAttribute("namespace", source.targetNamespace);
     schema += R"( schemaLocation=")" + EscapeAttribute(FileUrl(source.file)) + R"("/>)";
   }
   return schema + "</xs:schema>";

@@ -156,6 +156,24 @@ TEST_F(DomDocSchemaErrorsTest, NothingIsFetchedFromTheNetwork) {
   EXPECT_FALSE(listener.WasCalled());
 }
 
+#ifndef _WIN32
+TEST_F(DomDocSchemaErrorsTest, NothingIsLoadedFromTheCurrentDirectory) {
+  const fs::path before = fs::current_path();
+  const fs::path elsewhere = Dir().Path() / "elsewhere";
+  fs::create_directory(elsewhere);
+  Dir().Write("elsewhere/x.xsd", Schema("urn:t", kElement));
+  fs::create_directory(elsewhere / "localhost");
+  Dir().Write("elsewhere/localhost/x.xsd", Schema("urn:t", kElement));
+  fs::current_path(elsewhere);
+  for (const std::string url : {"file:x.xsd", "file://localhost/x.xsd", "urn:x.xsd", "//localhost/x.xsd"}) {
+    EXPECT_THAT(ErrorOfText(Schema("urn:t", "<xs:include schemaLocation='" + url + "'/>")),
+                testing::EndsWith(": nothing is loaded from the network"))
+        << url;
+  }
+  fs::current_path(before);
+}
+#endif
+
 TEST_F(DomDocSchemaErrorsTest, SchemaOnTheNetworkIsAFileThatIsMissing) {
   const CLoopbackListener listener;
   EXPECT_THAT(ErrorOf(listener.Url("http") + "/t.xsd"), StartsWith("Couldn't load the schema "));

@@ -154,6 +154,47 @@ TEST_F(DomDocSchemasTest, NamespacesMayNeedEscaping) {
   EXPECT_FALSE(document.ValidateDoc(Dir().Write("2.xml", begin + "x</n>")));
 }
 
+TEST_F(DomDocSchemasTest, NamespaceMayBeOneThatNoDocumentCanHave) {
+  const fs::path schema = Dir().Write("t.xsd",
+                                      "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' "
+                                      "targetNamespace='urn:&lt;a>&quot;b&quot;'>"
+                                      "<xs:element name='n' type='xs:integer'/></xs:schema>");
+  CSchemaDocument document({{schema, "urn:<a>\"b\""}});
+  EXPECT_FALSE(document.ValidateDoc(Dir().Write("x.xml", "<n>1</n>")));
+  EXPECT_THAT(document.Problems(), SizeIs(1));
+}
+
+#ifndef _WIN32  // up to MSXML
+TEST_F(DomDocSchemasTest, SchemaMayBeForElementsInNoNamespace) {
+  const fs::path none = Dir().Write("none.xsd",
+                                    "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'>"
+                                    "<xs:element name='n' type='xs:integer'/></xs:schema>");
+  const fs::path other = WriteSchema(kNumbers);
+  const fs::path number = Dir().Write("1.xml", "<n>1</n>");
+  const fs::path text = Dir().Write("2.xml", "<n>x</n>");
+  for (const CSchemaDocument::Schemas& schemas :
+       {CSchemaDocument::Schemas{{none, ""}}, {{none, ""}, {other, "urn:t"}}, {{other, "urn:t"}, {none, ""}}}) {
+    CSchemaDocument document(schemas);
+    EXPECT_TRUE(document.ValidateDoc(number));
+    EXPECT_FALSE(document.ValidateDoc(text));
+    if (schemas.size() > 1) {
+      EXPECT_TRUE(Validate(document, "<n>1</n>"));
+      EXPECT_FALSE(Validate(document, "<n>x</n>"));
+    }
+  }
+}
+#endif
+
+TEST_F(DomDocSchemasTest, NamespaceMayStandBehindOtherAttributes) {
+  const fs::path schema = Dir().Write("t.xsd",
+                                      "<xs:schema xml:lang='en' elementFormDefault='qualified' targetNamespace='urn:t' "
+                                      "xmlns:xs='http://www.w3.org/2001/XMLSchema'>"
+                                      "<xs:element name='n' type='xs:integer'/></xs:schema>");
+  CSchemaDocument document({{schema, "urn:t"}});
+  EXPECT_TRUE(document.ValidateDoc(Dir().Write("1.xml", "<n xmlns='urn:t'>1</n>")));
+  EXPECT_FALSE(document.ValidateDoc(Dir().Write("2.xml", "<n xmlns='urn:t'>x</n>")));
+}
+
 TEST_F(DomDocSchemasTest, TryingValidatesOnlyWhenAskedTo) {
   CSchemaDocument document({{WriteSchema(kNumbers), "urn:t"}});
   const fs::path file = Dir().Write("x.xml", "<n xmlns='urn:t'>x</n>");
