@@ -61,6 +61,18 @@ if(VENDORINFOFILE_SANITIZE)
   endif()
 endif()
 
+# Every run adds to the counts of the runs before it; each program and library has a file of them. Counts that threads
+# write over one another would let branches appear that were never taken.
+option(VENDORINFOFILE_COVERAGE "Count what is run of the sources, with clang++, for scripts/coverage.sh" OFF)
+if(VENDORINFOFILE_COVERAGE)
+  if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    message(FATAL_ERROR "VENDORINFOFILE_COVERAGE needs clang++; ${CMAKE_CXX_COMPILER} is another compiler")
+  endif()
+  add_compile_options(
+    "-fprofile-instr-generate=${PROJECT_BINARY_DIR}/coverage/%m.profraw" -fprofile-update=atomic -fcoverage-mapping)
+  add_link_options(-fprofile-instr-generate)
+endif()
+
 # Keeps instantiations of the standard library's templates, which are visible by default, out of the library's
 # interface: only what the map names is exported.
 function(project_export_only target map)

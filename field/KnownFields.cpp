@@ -286,7 +286,7 @@ constexpr KnownField kKnownFields[] = {
 
 /// Digits are taken greedily when a spelling is matched, which is right only as long as no digit of the name
 /// itself follows an index.
-constexpr bool NoDigitFollowsAnIndex() {
+consteval bool NoDigitFollowsAnIndex() {
   for (const KnownField& field : kKnownFields) {
     for (size_t i = 0; i + 1 < field.spelling.size(); ++i) {
       const char next = field.spelling[i + 1];

@@ -95,19 +95,18 @@ TEST_STATUS Initialize(const TestSuiteContext& context) {
 }
 
 /// Writes the farewell line and deletes the VIF.
-void Delete(CTULog* log, std::unique_ptr<CVendorInfoFile> vif) {
+void Delete(CTULog& log, std::unique_ptr<CVendorInfoFile> vif) {
   std::wstring fileName = L"<unknown file>";
   try {
     fileName = vif->FileName();
-    if (log != nullptr) Write(*log, kInformation, L"Deleting Test Suite VIF: %ls", fileName);
+    Write(log, kInformation, L"Deleting Test Suite VIF: %ls", fileName);
     vif = nullptr;
   } catch (const std::bad_alloc&) {
     throw;
   } catch (const std::exception& error) {
-    if (log == nullptr) return;
-    TryToWrite(*log, kInformation, L"Unexpected error deleting %ls: %ls.", fileName, Utf8ToUtf16(error.what()));
+    TryToWrite(log, kInformation, L"Unexpected error deleting %ls: %ls.", fileName, Utf8ToUtf16(error.what()));
   } catch (...) {
-    if (log != nullptr) TryToWrite(*log, kInformation, L"Unexpected error deleting %ls: <unknown>.", fileName);
+    TryToWrite(log, kInformation, L"Unexpected error deleting %ls: <unknown>.", fileName);
   }
 }
 
@@ -130,6 +129,6 @@ TEST_STATUS TestSuiteVIF_Cleanup(const TestSuiteContext* context) {
   CTULog* log = context != nullptr ? context->log : nullptr;
   std::unique_ptr<CVendorInfoFile> vif(CAppState::TestSuiteVIF());
   CAppState::TestSuiteVIF(nullptr);  // before anything can fail
-  if (vif != nullptr) Delete(log, std::move(vif));
+  if (vif != nullptr && log != nullptr) Delete(*log, std::move(vif));
   return kDone;
 }

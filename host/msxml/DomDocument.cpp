@@ -23,9 +23,7 @@ void CDomDocument::SetTree(std::shared_ptr<const CXmlTree> tree) {
   m_state = std::make_shared<const DocumentState>(DocumentState{std::move(tree), m_state->prefixes, {}, {}});
 }
 
-xmlNode* CDomDocument::Node() const {
-  return Tree() != nullptr ? reinterpret_cast<xmlNode*>(Tree()->Document()) : nullptr;
-}
+xmlNode* CDomDocument::Node() const { return reinterpret_cast<xmlNode*>(Tree()->Document()); }
 
 HRESULT CDomDocument::QueryInterface(REFIID iid, void** object) {
   if (object == nullptr) return E_POINTER;

@@ -27,9 +27,7 @@ HRESULT GiveText(const xmlChar* text, BSTR* place) {
 }
 
 /// A document without a type declaration has no attribute whose value is in pieces.
-std::string_view AttributeValue(const xmlNode& attribute) {
-  return attribute.children != nullptr ? View(attribute.children->content) : std::string_view();
-}
+std::string_view AttributeValue(const xmlNode& attribute) { return View(attribute.children->content); }
 
 class CDomNode;
 
@@ -49,7 +47,7 @@ class CDomAttributes final : public IXMLDOMNamedNodeMap {
 
  private:
   static bool IsNamed(const xmlAttr& attribute, std::string_view wanted) {
-    if (attribute.ns == nullptr || attribute.ns->prefix == nullptr) return View(attribute.name) == wanted;
+    if (attribute.ns == nullptr) return View(attribute.name) == wanted;
     return QualifiedName(attribute.ns, attribute.name) == wanted;
   }
 

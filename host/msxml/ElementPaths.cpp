@@ -40,8 +40,8 @@ void CElementPaths::NumberChildren(const xmlNode& parent) {
 
 std::string CElementPaths::PathOf(const xmlNode& element) const {
   const std::string step = PathStep(View(element.name), m_numbers[CXmlTree::NumberOf(element)]);
-  const xmlNode* parent = element.parent;
-  return parent != nullptr && parent->type == XML_ELEMENT_NODE ? PathOf(*parent) + '/' + step : step;
+  const xmlNode& parent = *element.parent;
+  return parent.type == XML_ELEMENT_NODE ? PathOf(parent) + '/' + step : step;
 }
 
 }  // namespace msxml

@@ -18,7 +18,7 @@ bool IsWhiteSpace(std::string_view text) { return text.find_first_not_of(kWhiteS
 std::optional<bool> OwnPreserving(const xmlNode& element) {
   for (const xmlAttr* attribute = element.properties; attribute != nullptr; attribute = attribute->next) {
     if (attribute->ns == nullptr || View(attribute->ns->prefix) != "xml" || View(attribute->name) != "space") continue;
-    const std::string_view value = attribute->children != nullptr ? View(attribute->children->content) : "";
+    const std::string_view value = View(attribute->children->content);
     if (value == "preserve") return true;
     if (value == "default") return false;
   }
@@ -26,7 +26,7 @@ std::optional<bool> OwnPreserving(const xmlNode& element) {
 }
 
 bool IsPreserving(const xmlNode& element) {
-  for (const xmlNode* node = &element; node != nullptr && node->type == XML_ELEMENT_NODE; node = node->parent) {
+  for (const xmlNode* node = &element; node->type == XML_ELEMENT_NODE; node = node->parent) {
     if (const std::optional<bool> own = OwnPreserving(*node)) return *own;
   }
   return false;
@@ -64,9 +64,10 @@ class CTextJoiner {
  private:
   static bool IsLeftOver(const xmlNode& node) { return node.type == XML_TEXT_NODE && IsWhiteSpace(View(node.content)); }
 
-  /// Whether only white space stands between this CDATA section and another one before it.
+  /// Whether only white space stands between this CDATA section, which is not the first node, and another one before
+  /// it.
   static bool FollowsCData(const xmlNode& section) {
-    return section.prev != nullptr && IsLeftOver(*section.prev) && section.prev->prev != nullptr &&
+    return IsLeftOver(*section.prev) && section.prev->prev != nullptr &&
            section.prev->prev->type == XML_CDATA_SECTION_NODE;
   }
 
@@ -121,7 +122,7 @@ std::optional<std::string_view> PlainText(const xmlNode& element) {
   if (text == nullptr) return std::string_view();
   if (text->next != nullptr || text->type != XML_TEXT_NODE) return std::nullopt;
   const std::string_view content = View(text->content);
-  if (content.empty() || IsWhiteSpace(content.substr(0, 1)) || IsWhiteSpace(content.substr(content.size() - 1))) {
+  if (IsWhiteSpace(content.substr(0, 1)) || IsWhiteSpace(content.substr(content.size() - 1))) {
     return std::nullopt;
   }
   return content;

@@ -23,7 +23,6 @@ class CProblems {
   /// Remembers that memory ran out.
   void RanOutOfMemory() noexcept { m_isOutOfMemory = true; }
 
-  bool IsOutOfMemory() const noexcept { return m_isOutOfMemory; }
   bool IsEmpty() const noexcept { return m_list.empty() && !m_isOutOfMemory; }
 
   /// \throws std::bad_alloc when memory ran out on the way

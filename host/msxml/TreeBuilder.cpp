@@ -104,7 +104,7 @@ void CTreeBuilder::AddNamespaces(xmlNode& element, const StartTag& tag) {
 /// The declaration in force for an element that has none of its own. Mostly it is that of the element around.
 xmlNs* CTreeBuilder::InheritNamespace(xmlNode& element, const StartTag& tag) const {
   xmlNs* outer = m_context.node != nullptr ? m_context.node->ns : nullptr;
-  if (outer != nullptr && outer->prefix == tag.prefix && outer->href == tag.uri) return outer;
+  if (outer != nullptr && outer->prefix == tag.prefix) return outer;
   return SearchNamespace(element, tag.prefix, tag.uri);
 }
 

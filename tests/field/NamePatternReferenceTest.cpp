@@ -18,6 +18,11 @@ TEST_P(ReferenceBeyondAllGroups, IsAnError) {
   EXPECT_EQ(outcome.error, std::regex_constants::error_backref);
 }
 
+TEST_P(ReferenceBeyondAllGroups, IsAnErrorBehindAnotherEscape) {
+  const auto outcome = NamePatternOutcome(std::string("(a)\\.\\") + GetParam(), "a.a");
+  EXPECT_EQ(outcome.error, std::regex_constants::error_backref);
+}
+
 // The first two are 1 in 32 and in 64 bits.
 INSTANTIATE_TEST_SUITE_P(Of, ReferenceBeyondAllGroups,
                          testing::Values("4294967297", "18446744073709551617", "11111111111111111111111111111111"));
@@ -26,6 +31,11 @@ TEST(DigitsThatAreNoReference, AreTakenAsTheyStand) {
   EXPECT_EQ(NamePatternOutcome("\\d1234567890.?", "71234567890").answer, true);
   EXPECT_EQ(NamePatternOutcome("\\\\1234567890.?", "\\1234567890").answer, true);
   EXPECT_EQ(NamePatternOutcome("(a)\\1.*1234567890", "aa1234567890").answer, true);
+}
+
+TEST(DigitsThatAreNoReference, FollowANulThatIsWrittenAsZero) {
+  EXPECT_EQ(NamePatternOutcome("(a)\\01234567890", "a1234567890").answer, false);
+  EXPECT_EQ(NamePatternOutcome("(a)\\0?1234567890", "a1234567890").answer, true);
 }
 
 }  // namespace

@@ -38,6 +38,15 @@ TEST(DomDocReasonsTest, AreCutWhereTheyQuoteALongText) {
   }
 }
 
+TEST(DomDocReasonsTest, AreCutBetweenCharacters) {
+  for (const std::string character : {"\u00E4", "\u3042"}) {
+    for (std::size_t cut = 1; cut < character.size(); ++cut) {
+      const std::string before(1000 - cut, 'b');
+      EXPECT_EQ(ProblemsOf("<" + before + character + "c></a>").at(0).element, before + "...");
+    }
+  }
+}
+
 TEST(DomDocReasonsTest, AreOnOneLine) {
   for (const DOMDocProblem& problem : ProblemsOf("<a b='\n\n' b='\n'>\n</c>")) {
     EXPECT_EQ(problem.reason.find_first_of("\r\n\t"), std::string::npos);

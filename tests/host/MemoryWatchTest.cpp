@@ -51,6 +51,12 @@ TEST_F(MemoryWatchTest, SeesNothingWhileThereIsMemory) {
   EXPECT_NO_THROW(watch.RequireMemory());
 }
 
+TEST_F(MemoryWatchTest, ReallocatingToNothingIsNoFailure) {
+  const CMemoryWatch watch;
+  static_cast<void>(xmlRealloc(xmlMalloc(1), 0));
+  EXPECT_FALSE(watch.HasRunOut());
+}
+
 TEST_F(MemoryWatchTest, SeesEachWayOfAllocatingFail) {
   void* memory = xmlMalloc(1);
   char text[] = "text";

@@ -153,6 +153,21 @@ TEST(MsxmlComTest, CopiedPointerCountsOnceMore) {
   EXPECT_EQ(copy.GetInterfacePtr(), &object);
 }
 
+TEST(MsxmlComTest, CopyOfAnEmptyPointerIsEmpty) {
+  const CountedPointer pointer;
+  const CountedPointer copy(pointer);
+  EXPECT_TRUE(copy == nullptr);
+}
+
+TEST(MsxmlComTest, PointerAssignedToItselfKeepsItsReference) {
+  CountedObject object;
+  CountedPointer pointer(&object);
+  const CountedPointer& itself = pointer;
+  pointer = itself;
+  EXPECT_EQ(object.references, 2U);
+  EXPECT_EQ(pointer.GetInterfacePtr(), &object);
+}
+
 TEST(MsxmlComTest, MovedPointerLeavesTheCount) {
   CountedObject object;
   CountedPointer pointer(&object);
@@ -243,6 +258,12 @@ TEST(MsxmlComTest, VariantOwnerWithoutATextReadsAsTheEmptyText) {
   EXPECT_EQ(variant.get().vt, VT_EMPTY);
   EXPECT_EQ(variant.Text(), L"");
   variant.Receive()->vt = VT_NULL;
+  EXPECT_EQ(variant.Text(), L"");
+}
+
+TEST(MsxmlComTest, VariantOwnerOfANullTextReadsAsTheEmptyText) {
+  const CVariant variant{CBstr()};
+  EXPECT_EQ(variant.get().vt, VT_BSTR);
   EXPECT_EQ(variant.Text(), L"");
 }
 

@@ -104,6 +104,13 @@ TEST(MsxmlNodesTest, NamespaceOfAnElementIsThatOfItsPrefixOrTheDefault) {
   EXPECT_EQ(NamespaceOf(*SelectOne(document.Root(), L"*[2]")), "<none>");
 }
 
+TEST(MsxmlNodesTest, PrefixXmlNeedsNoDeclaration) {
+  CTextDocument document("<xml:a><xml:b/></xml:a>");
+  EXPECT_EQ(NodeName(document.Root()), "xml:a");
+  EXPECT_EQ(NamespaceOf(document.Root()), "http://www.w3.org/XML/1998/namespace");
+  EXPECT_EQ(NamespaceOf(*SelectOne(document.Root(), L"*")), "http://www.w3.org/XML/1998/namespace");
+}
+
 TEST(MsxmlNodesTest, NamespaceMayHaveAnAmpersand) {
   CTextDocument document("<a xmlns='urn:a?b&amp;c'/>");
   EXPECT_EQ(NamespaceOf(document.Root()), "urn:a?b&c");
@@ -239,12 +246,20 @@ TEST(MsxmlNodesTest, ItemOutOfRangeIsNone) {
   }
 }
 
+TEST(MsxmlNodesTest, ListOfNothingHasNoItem) {
+  CTextDocument document("<a/>");
+  IXMLDOMNode* node = &document.Root();
+  EXPECT_EQ(ListOf(document.Root(), L"b")->get_item(0, &node), S_FALSE);
+  EXPECT_EQ(node, nullptr);
+}
+
 // Interfaces and lifetimes.
 
 TEST(MsxmlNodesTest, ObjectsAnswerToTheirInterfacesOnly) {
-  CTextDocument document("<a x='1'/>");
+  CTextDocument document("<a x='1'><b/></a>");
   const DOMNodePtr attribute = AttributeNode(document.Root(), L"x");
   const DOMNodeListPtr list = ListOf(document.Root(), L"b");
+  const DOMNodeListPtr listOfNothing = ListOf(document.Root(), L"c");
   DOMNamedNodeMapPtr map;
   ASSERT_EQ(document.Root().get_attributes(map.Receive()), S_OK);
   const struct {
@@ -254,6 +269,7 @@ TEST(MsxmlNodesTest, ObjectsAnswerToTheirInterfacesOnly) {
                  {document.Root(), {IID_IUnknown, IID_IXMLDOMNode, IID_IXMLDOMElement}},
                  {*attribute, {IID_IUnknown, IID_IXMLDOMNode}},
                  {*list, {IID_IUnknown, IID_IXMLDOMNodeList}},
+                 {*listOfNothing, {IID_IUnknown, IID_IXMLDOMNodeList}},
                  {*map, {IID_IUnknown, IID_IXMLDOMNamedNodeMap}}};
   for (const auto& [object, interfaces] : objects) {
     for (const IID& iid : {IID_IUnknown, IID_IXMLDOMNode, IID_IXMLDOMNodeList, IID_IXMLDOMNamedNodeMap,
@@ -339,10 +355,12 @@ TEST(MsxmlNodesTest, NullPlaceForAnAnswerIsAnInvalidArgument) {
 }
 
 TEST(MsxmlNodesTest, NullPlaceForAnItemIsAnInvalidArgument) {
-  CTextDocument document("<a x='1'/>");
-  const DOMNodeListPtr list = ListOf(document.Root(), L"*");
-  EXPECT_EQ(list->get_item(0, nullptr), E_INVALIDARG);
-  EXPECT_EQ(list->get_length(nullptr), E_INVALIDARG);
+  CTextDocument document("<a x='1'><b/></a>");
+  for (const wchar_t* xpath : {L"b", L"c"}) {
+    const DOMNodeListPtr list = ListOf(document.Root(), xpath);
+    EXPECT_EQ(list->get_item(0, nullptr), E_INVALIDARG);
+    EXPECT_EQ(list->get_length(nullptr), E_INVALIDARG);
+  }
   DOMNamedNodeMapPtr map;
   ASSERT_EQ(document.Root().get_attributes(map.Receive()), S_OK);
   EXPECT_EQ(map->getNamedItem(CBstr(L"x").get(), nullptr), E_INVALIDARG);
@@ -352,12 +370,13 @@ TEST(MsxmlNodesTest, NullPlaceForAnInterfaceIsAnInvalidPointer) {
 #ifdef _WIN32
   GTEST_SKIP() << "COM does not say what happens then, and not every MSXML survives it";
 #else
-  CTextDocument document("<a/>");
+  CTextDocument document("<a><b/></a>");
   DOMNamedNodeMapPtr map;
   ASSERT_EQ(document.Root().get_attributes(map.Receive()), S_OK);
   EXPECT_EQ(document.Root().QueryInterface(IID_IUnknown, nullptr), E_POINTER);
   EXPECT_EQ(document.Document().QueryInterface(IID_IUnknown, nullptr), E_POINTER);
-  EXPECT_EQ(ListOf(document.Root(), L"*")->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
+  EXPECT_EQ(ListOf(document.Root(), L"b")->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
+  EXPECT_EQ(ListOf(document.Root(), L"c")->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
   EXPECT_EQ(map->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
 #endif
 }
@@ -375,8 +394,10 @@ TEST(MsxmlNodesTest, NullNameIsAnInvalidArgument) {
 
 TEST(MsxmlNodesTest, NullXPathIsAnInvalidArgument) {
   CTextDocument document("<a/>");
+  CPlainDocument empty;
   for (IXMLDOMNode* const from :
-       {static_cast<IXMLDOMNode*>(&document.Document()), static_cast<IXMLDOMNode*>(&document.Root())}) {
+       {static_cast<IXMLDOMNode*>(&document.Document()), static_cast<IXMLDOMNode*>(&document.Root()),
+        static_cast<IXMLDOMNode*>(&empty.Document())}) {
     IXMLDOMNode* node = from;
     EXPECT_EQ(from->selectSingleNode(nullptr, &node), E_INVALIDARG);
 #ifndef _WIN32  // not every MSXML writes an answer when it fails

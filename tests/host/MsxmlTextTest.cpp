@@ -26,6 +26,10 @@ TEST(MsxmlTextTest, WhiteSpaceStaysWhereItIsPreserved) {
   EXPECT_EQ(RootText("<a xml:space=\"preserve\">  x \n </a>"), "  x \n ");
 }
 
+TEST(MsxmlTextTest, NoOtherAttributePreserves) {
+  EXPECT_EQ(RootText("<a space='preserve' xml:lang='preserve' q:space='preserve' xmlns:q='urn:q'> x </a>"), "x");
+}
+
 TEST(MsxmlTextTest, PreservingEndsWhereDefaultIsInForceAgain) {
   CTextDocument document("<a xml:space='preserve'><b xml:space='default'> x </b></a>");
   EXPECT_EQ(Text(*SelectOne(document.Root(), L"b")), "x");

@@ -191,6 +191,21 @@ TEST_F(TagGuardDifferentialTest, EqualsSignsSideBySideAreCountedToo) {
   }
 }
 
+TEST_F(TagGuardDifferentialTest, TagThatBeginsInsideAnotherIsCountedAnew) {
+  const std::string signs(600, '=');
+  const auto pieceLength = [] { return std::size_t{1}; };
+  EXPECT_EQ(LineOfGuard("<a " + signs + "<b " + signs + "/>", pieceLength), 0U);
+  EXPECT_EQ(LineOfGuard("<a " + signs + "<b " + signs + signs + "/>", pieceLength), 1U);
+}
+
+TEST_F(TagGuardDifferentialTest, HalfAByteOrderMarkIsNone) {
+  for (const std::string_view begin : {"\xFF<", "\xFE<", "\xFF\xFF", "\xFE\xFE"}) {
+    msxml::CTagGuard guard;
+    EXPECT_TRUE(guard.Take(begin.data(), begin.size()));
+    EXPECT_FALSE(guard.IsUtf16());
+  }
+}
+
 TEST_F(TagGuardDifferentialTest, TakesNothingMoreOnceItHasTripped) {
   msxml::CTagGuard guard;
   const std::string xml = TagAt(3, 1001);

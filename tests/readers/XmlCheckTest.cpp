@@ -62,6 +62,18 @@ TEST(XmlCheckTest, WhatGivesWayToADescriptionIsPassedOver) {
               ElementsAre("3:14 VIF/VIF_App/Description: Description=\"\" ; D", "4:1 VIF/VIF_App/Name: gives way"));
 }
 
+TEST(XmlCheckTest, ElementsThatAnApplicationDoesNotHaveArePassedOver) {
+  EXPECT_THAT(Check("<vif:VIF_App><vif:Vendor>V</vif:Vendor>\n<vif:TID>1</vif:TID></vif:VIF_App>"),
+              ElementsAre("3:1 VIF/VIF_App: VIF_Producer=\"V -- --\" ; V -- -- @1.0", "4:1 VIF/VIF_App/TID: not read"));
+}
+
+TEST(XmlCheckTest, SecondElementOfAnApplicationIsPassedOver) {
+  EXPECT_THAT(
+      Check("<vif:VIF_App><vif:Description>D</vif:Description>\n<vif:Description>E</vif:Description>"
+            "</vif:VIF_App>"),
+      ElementsAre("3:14 VIF/VIF_App/Description[1]: Description=\"\" ; D", "4:1 VIF/VIF_App/Description[2]: not read"));
+}
+
 TEST(XmlCheckTest, ElementsThatTheRootDoesNotHaveArePassedOverWithWhatIsInThem) {
   EXPECT_THAT(Check("<vif:RP_Value value=\"1\"/>\n<vif:SrcPdoList><vif:SrcPDO><vif:A value=\"1\"/></vif:SrcPDO>"
                     "</vif:SrcPdoList>"),

@@ -425,6 +425,17 @@ TEST_F(XmlReaderTest, ReasonsOutliveTheExceptionsCopy) {
   EXPECT_THAT(kept.front().Problems().at(0).reason, HasSubstr("root element"));
 }
 
+TEST_F(XmlReaderTest, AssignedExceptionHasTheMessageAndTheReasons) {
+  CVIFInvalidFile kept("", {{}});
+  try {
+    ReadDocument("<VIF/>");
+  } catch (const CVIFInvalidFile& error) {
+    kept = error;
+  }
+  EXPECT_THAT(kept.what(), HasSubstr("is not a valid Vendor Info File."));
+  EXPECT_THAT(kept.Problems().at(0).reason, HasSubstr("root element"));
+}
+
 }  // namespace
 
 }  // namespace vif

@@ -1,0 +1,37 @@
+// What the host's modules do that a host does not derive from, or not in full.
+#include "TestUtilities/TULog.h"
+#include "TestUtilities/TUUserInput.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(HostModulesTest, LogByItselfGivesBackTheStatusOfALine) {
+  CTULog log;
+  EXPECT_EQ(log.DoWrite(1, eZoLogVerbosityAlways, nullptr, "line"), 1U);
+  EXPECT_EQ(log.DoWrite(0x40000000, eZoLogVerbosityDetailed, nullptr, L"line"), 0x40000000U);
+}
+
+/// Answers the one question that every host must.
+class CNobody final : public CTUUserInput {
+ public:
+  bool ChooseFile(const wchar_t*, const wchar_t*, unsigned long, unsigned long) override { return false; }
+};
+
+TEST(HostModulesTest, QuestionsToNobodyAreAnsweredByNothing) {
+  CNobody nobody;
+  CTUUserInput& input = nobody;
+  EXPECT_NO_THROW(input.ShowMessage(L"prompt", L"caption"));
+  EXPECT_FALSE(input.AskYesNo(L"prompt", L"caption"));
+  const wchar_t* const items[] = {L"one", L"two"};
+  EXPECT_EQ(input.ChooseItem(L"prompt", L"caption", items, 2), -1);
+}
+
+TEST(HostModulesTest, NumberThatNobodyGivesLeavesThePlaceUntouched) {
+  CNobody nobody;
+  long number = 7;
+  EXPECT_FALSE(nobody.AskNumber(L"prompt", L"caption", 1, 9, &number));
+  EXPECT_EQ(number, 7);
+}
+
+}  // namespace
