@@ -100,8 +100,7 @@ void CFieldResolver::ResolveByPatterns(std::string_view name, ResolvedName& resu
   result.name = definition->name != nullptr ? Utf16ToUtf8(definition->name) : std::string();
   std::string captured;
   const auto capture = [&](size_t group) -> std::string_view {
-    captured.clear();
-    if (group >= match.size() || !match[group].matched) return captured;
+    // A group that took no part, or that there is not, is empty and stands at the end of the name.
     captured = Utf16ToUtf8({match[group].first.Position(), match[group].second.Position()});
     return captured;
   };

@@ -25,7 +25,7 @@ size_t FindComment(std::string_view line) {
   // The semicolon counts as quoted. The comment then begins at the first other character behind the quotes, so a
   // semicolon directly behind the closing quote stays in the content, which then fits no pattern. Files are
   // written with this rule in mind; it is kept as it is.
-  return line.find_first_not_of(';', std::max(semicolon + 1, behindQuotes));
+  return line.find_first_not_of(';', behindQuotes);
 }
 
 template <typename Predicate>

@@ -184,6 +184,11 @@ TEST(FieldResolver, TakesANumberOfAMillionDigitsWithoutTryingThePatternsOfTheBui
   }
 }
 
+TEST(FieldResolver, ReadsNoDigitBehindTheName) {
+  const std::string_view longer = "Src_PDO_Voltage12";
+  EXPECT_EQ(Resolved(nullptr, longer.substr(0, longer.size() - 1)), "Src_PDO_Voltage 6.5 7.1 -");
+}
+
 TEST(FieldResolver, LeavesNothingOfTheNameBefore) {
   const vif::CFieldResolver resolver(nullptr, kComponent);
   vif::ResolvedName resolved;

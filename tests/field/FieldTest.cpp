@@ -252,7 +252,8 @@ TEST(NumericValue, KnowsTheFourWordsInAnyLetterCase) {
 }
 
 TEST(NumericValue, KnowsTheFourWordsOnlyAsTheWholeText) {
-  for (const std::string& text : {"NOT"s, "Y"s, "YES "s, " YES"s, "TRUEFALSE"s, "FALS"s, "YES."s, "N0"s, "YES\0"s}) {
+  for (const std::string& text :
+       {"NOT"s, "Y"s, "YES "s, " YES"s, "TRUEFALSE"s, "FALS"s, "YES."s, "N0"s, "NO}"s, "YE{"s, "YES\0"s}) {
     EXPECT_EQ(NumberOf(text), kUnset64) << text;
   }
 }

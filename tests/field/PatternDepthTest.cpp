@@ -62,6 +62,11 @@ TEST(PatternDepth, CountsAQuantifiedTermAsMore) {
   EXPECT_EQ(Depth("xa*y"), Depth("a*") + 2);
 }
 
+TEST(PatternDepth, CountsEveryQuantifierAlike) {
+  EXPECT_EQ(Depth("a+"), Depth("a*"));
+  EXPECT_EQ(Depth("a?"), Depth("a*"));
+}
+
 TEST(PatternDepth, CountsAGroupAsMoreThanItsContent) {
   EXPECT_GT(Depth("(a)"), Depth("a"));
   EXPECT_GT(Depth("()"), 0U);
@@ -110,6 +115,10 @@ TEST(PatternDepth, CountsARepetitionAsOftenAsItsBracesSay) {
   EXPECT_PRED2(isOnceAsOften, Depth("(ab){30}"), 30 * Depth("(ab)"));
   EXPECT_PRED2(isOnceAsOften, Depth("((a){30}){40}"), 40 * Depth("((a){30})"));
   EXPECT_PRED2(isOnceAsOften, Depth("a{0}"), 1U);
+}
+
+TEST(PatternDepth, IsNotMultipliedByBracesThatAskForOne) {
+  EXPECT_LT(Depth(Nested("(", "a", "){1}", 10)), 2 * Depth(Nested("(", "a", ")", 10)));
 }
 
 TEST(PatternDepth, CountsEveryRepetitionOfARepetition) {

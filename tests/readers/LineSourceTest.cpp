@@ -170,6 +170,11 @@ TEST(LineSourceTest, FailureEndsTheLinesQuietlyByDefault) {
   EXPECT_TRUE(source.HasFailed());
 }
 
+TEST(LineSourceTest, HasNotFailedBeforeItIsRead) {
+  std::istringstream stream;
+  EXPECT_FALSE(CLineSource(stream, "x.txt").HasFailed());
+}
+
 TEST(LineSourceTest, AfterAFailureThereIsNoLine) {
   ScriptedBuffer buffer({"a\nb"}, FailToRead);
   std::istream stream(&buffer);

@@ -355,6 +355,14 @@ TEST_F(VendorInfoFileTest, CopyAssignmentToItselfChangesNothing) {
   EXPECT_EQ(vif.FileName(), m_first.wstring());
 }
 
+TEST_F(VendorInfoFileTest, CopyAssignmentToItselfLeavesTheFieldsWhereTheyAre) {
+  CVendorInfoFile vif(m_first);
+  const CVendorInfoFile& self = vif;
+  const std::vector<CVIFField>* const before = &vif.Fields();
+  vif = self;
+  EXPECT_EQ(&vif.Fields(), before);
+}
+
 // Moving.
 
 TEST_F(VendorInfoFileTest, MoveTakesEverythingAndLeavesTheSourceEmpty) {
