@@ -1,0 +1,78 @@
+#!/usr/bin/env bash
+# Everything that docs/reliability.md has figures of, in its long form; of most, .ci/run does a short one.
+#
+#   scripts/reliability.sh [memory | files | threads | fuzzing | coverage | mutation | analysis]...
+#
+# All of them when none is named, which takes some two hours on two cores. Ends with a non-zero status when one has found
+# something.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+# Runs a test program and says in how many places its tests had memory run out.
+count_failure_points() {
+  local program=$1 report
+  report=$(mktemp)
+  "$program" --gtest_brief=1 --gtest_output="xml:$report"
+  grep -o 'name="failurePoints" value="[0-9]*"' "$report" | tr -dc '0-9\n' |
+    awk -v program="$(basename "$program")" '{ sum += $1 } END { print program ": " sum " failures of an allocation" }'
+  rm "$report"
+}
+
+memory() {
+  scripts/build.sh release -DVENDORINFOFILE_BUILD_TESTS=ON
+  for program in memory/failing_memory_tests testsuite/hooks_memory_tests memory/command/command_memory_tests; do
+    count_failure_points "build/release/tests/$program"
+  done
+  scripts/build.sh asan --target failing_memory_tests --target hooks_memory_tests
+  for program in memory/failing_memory_tests testsuite/hooks_memory_tests; do
+    count_failure_points "build/asan/tests/$program"
+  done
+}
+
+files() {
+  scripts/build.sh release -DVENDORINFOFILE_BUILD_TESTS=ON
+  ctest --preset release --parallel "$(nproc)" -R '^(file_tests|command_file_tests)|Posix|Hostile'
+}
+
+# Each test in a process of its own, as what is made once is made once in a process.
+threads() {
+  scripts/build.sh tsan --target field_tests --target host_tests --target vif_tests
+  ctest --preset tsan --parallel "$(nproc)" -R 'Thread|Concurrent' --repeat until-fail:100
+}
+
+fuzzing() { scripts/fuzz.sh --long; }
+
+coverage() {
+  scripts/build.sh asan
+  scripts/coverage.sh
+}
+
+mutation() { scripts/mutate.sh --count 350; }
+
+analysis() {
+  scripts/check-cppcheck.sh
+  cmake --preset clang >/dev/null
+  scripts/check-tidy.sh build/clang
+  scripts/build.sh release
+  scripts/check-hardening.sh
+}
+
+scripts/setup.sh check
+parts=("$@")
+[ $# -gt 0 ] || parts=(memory files threads fuzzing coverage mutation analysis)
+status=0
+for part in "${parts[@]}"; do
+  case $part in
+    memory | files | threads | fuzzing | coverage | mutation | analysis) ;;
+    *) echo "There is no part '$part'" >&2; exit 2 ;;
+  esac
+done
+for part in "${parts[@]}"; do
+  echo "==> ${part^}"
+  set +e
+  (set -e; "$part")  # what fails in it ends it, but not the parts behind it
+  result=$?
+  set -e
+  [ $result -eq 0 ] || { echo "==> ${part^} has found something" >&2; status=1; }
+done
+exit $status
