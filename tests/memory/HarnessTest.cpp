@@ -53,12 +53,15 @@ std::string FirstFailure(const Operation& operation) {
   return failures.size() != 0 ? failures.GetTestPartResult(0).message() : "nothing is found";
 }
 
+/// By calls, which unlike `new` and `delete` a compiler may not leave out.
+void Allocate() { ::operator delete(::operator new(1)); }
+
 TEST(ForEveryFailingAllocation, SeesALeak) {
   std::unique_ptr<int> leaked;
   const std::string failure = FirstFailure([&] {
     auto first = std::make_unique<int>(1);
     try {
-      const auto second = std::make_unique<int>(2);
+      Allocate();
     } catch (const std::bad_alloc&) {
       leaked = std::move(first);
       throw;
@@ -74,7 +77,7 @@ TEST(ForEveryFailingAllocation, SeesALeak) {
 TEST(ForEveryFailingAllocation, SeesAnotherException) {
   const std::string failure = FirstFailure([] {
     try {
-      const auto pointer = std::make_unique<int>(1);
+      Allocate();
     } catch (const std::bad_alloc&) {
       throw std::runtime_error("a wrong exception");
     }
