@@ -37,7 +37,7 @@ files() {
 # Each test in a process of its own, as what is made once is made once in a process.
 threads() {
   scripts/build.sh tsan --target field_tests --target host_tests --target vif_tests
-  ctest --preset tsan --parallel "$(nproc)" -R 'Thread|Concurrent' --repeat until-fail:100
+  ctest --preset tsan --parallel "$(nproc)" -R 'Thread|Concurrent' --repeat until-fail:20
 }
 
 fuzzing() { scripts/fuzz.sh --long; }
