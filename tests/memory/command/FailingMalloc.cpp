@@ -99,6 +99,12 @@ extern "C" FRONT int xmlXPathRegisterNs(void* context, const unsigned char* pref
   return CallSpared<int>("xmlXPathRegisterNs", context, prefix, uri);
 }
 
+// The GNU C library ends the process when it has no memory to remember that an object of a thread is to be destroyed.
+// NOLINTNEXTLINE(bugprone-reserved-identifier): it is the C library's name
+extern "C" FRONT int __cxa_thread_atexit_impl(void (*destroy)(void*), void* object, void* library) {
+  return CallSpared<int>("__cxa_thread_atexit_impl", destroy, object, library);
+}
+
 /// What a program begins with.
 // NOLINTNEXTLINE(bugprone-reserved-identifier): it is the C library's name
 extern "C" FRONT int __libc_start_main(Main main, int argc, char** argv, void (*begin)(), void (*end)(),
