@@ -34,10 +34,8 @@ bool IsNamed(const std::string& fileName, const std::string& reason) {
 
 /// A text file that cannot be read to its end is loaded as far as it can be, and nobody is told; here somebody is.
 void RequireReadable(const std::string& fileName) {
-  CheckTextVif(PathOf(fileName), [](const VifLineReport& report) {
-    if (report.problem != eVifLineReadFailed) return;
-    throw Failure(std::string("the file could not be read on from line ").append(std::to_string(report.line)));
-  });
+  const std::optional<std::size_t> line = FirstUnreadableLine(PathOf(fileName));
+  if (line) throw Failure(std::string("the file could not be read on from line ").append(std::to_string(*line)));
 }
 
 }  // namespace
@@ -71,6 +69,14 @@ void ReadFile(const std::string& fileName, const std::function<void()>& read) {
     if (IsNamed(fileName, reason)) throw Failure(reason);
     throw Failure(std::string(fileName).append(": ").append(reason));
   }
+}
+
+std::optional<std::size_t> FirstUnreadableLine(const std::filesystem::path& path) {
+  std::optional<std::size_t> line;
+  CheckTextVif(path, [&](const VifLineReport& report) {
+    if (report.problem == eVifLineReadFailed) line = report.line;
+  });
+  return line;
 }
 
 bool HasExtension(const std::filesystem::path& path, std::string_view extension) {

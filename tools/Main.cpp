@@ -75,46 +75,26 @@ Status FailWithoutMemory() {
   return kFailed;
 }
 
-/// What ends the process when another exception escapes.
-std::terminate_handler g_endOtherwise = nullptr;
+/// Ends the process where memory runs out. An exception would not always come through: streams keep it to themselves and
+/// are cut, and CLI11 copies texts in functions that must not throw.
+[[noreturn]] void EndWithoutMemory() { std::_Exit(FailWithoutMemory()); }
 
-/// CLI11 copies names in functions that must not throw, so memory that runs out there comes here.
-[[noreturn]] void EndWithoutMemory() {
-  try {
-    if (const std::exception_ptr error = std::current_exception()) std::rethrow_exception(error);
-  } catch (const std::bad_alloc&) {
-    std::_Exit(FailWithoutMemory());
-  } catch (...) {
-    g_endOtherwise();
-  }
-  std::abort();
-}
+}  // namespace
 
-/// Runs the command and says why it could not be done, unless memory has run out.
-Status RunOrFail(int argc, char** argv) {
+int main(int argc, char** argv) {
+  std::set_new_handler(EndWithoutMemory);
+  std::setlocale(LC_CTYPE, "C.UTF-8");  // for the width of characters; the library asks the C++ locale, not this one
   try {
     tool::PrepareOutput();
     const CComApartment apartment;
     return Run(argc, argv);
   } catch (const tool::Wanting& finding) {
     return Fail(finding.what(), tool::kWanting);
-  } catch (const std::bad_alloc&) {
-    throw;
+  } catch (const std::bad_alloc&) {  // from what does not allocate by `new`
+    return FailWithoutMemory();
   } catch (const std::exception& error) {
     return Fail(error.what());
   } catch (const _com_error&) {
     return Fail("COM cannot be used");
-  }
-}
-
-}  // namespace
-
-int main(int argc, char** argv) {
-  g_endOtherwise = std::set_terminate(EndWithoutMemory);
-  std::setlocale(LC_CTYPE, "C.UTF-8");  // for the width of characters; the library asks the C++ locale, not this one
-  try {
-    return RunOrFail(argc, argv);
-  } catch (const std::bad_alloc&) {
-    return FailWithoutMemory();
   }
 }

@@ -1,11 +1,11 @@
 #include "CheckFile.h"
 #include "Command.h"
+#include "FieldSource.h"
 #include "Sentence.h"
 #include "Text.h"
 
 #include <BaseUtilities/Exceptions.h>
 #include <VIFInvalidFile.h>
-#include <VIFTextCheck.h>
 #include <VIFXmlCheck.h>
 
 #include <algorithm>
@@ -40,19 +40,12 @@ Finding DescribeProblem(const DOMDocProblem& problem) {
           (isNamed ? "" : Quoted(problem.element) + ": ") + Printable(problem.reason)};
 }
 
-/// Whether all of the file can be read. It is followed as text, whatever it holds, because so nothing but a regular
-/// file is opened, although another may have the name by now, and nothing is waited for.
 bool CanBeRead(const std::filesystem::path& path) {
-  bool canBeRead = true;
-  const VifLineObserver observer = [&](const VifLineReport& report) {
-    if (report.problem == eVifLineReadFailed) canBeRead = false;
-  };
   try {
-    CheckTextVif(path, observer);
+    return !FirstUnreadableLine(path);
   } catch (const CZoRunTimeException&) {
     return false;
   }
-  return canBeRead;
 }
 
 Findings DescribeProblems(const std::vector<DOMDocProblem>& problems, const std::filesystem::path& path) {
