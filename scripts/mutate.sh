@@ -4,9 +4,9 @@
 # scripts/mutation/survivors.txt explains; or when what that explains is caught, or is no change at all any more. The
 # sources stay as they are.
 #
-#   scripts/mutate.sh [--count N] [--seed N] [--jobs N] [--least PERCENT]    some drawn by the seed, 36 and 1 by default
-#   scripts/mutate.sh --only FILE[:LINE]...                                  all of there
-#   scripts/mutate.sh --list ...                                             only says which
+#   scripts/mutate.sh [--count N] [--seed N] [--jobs N] [--least PERCENT]    tries N mutants drawn at random; 36 unless said
+#   scripts/mutate.sh --only FILE[:LINE]...                                  tries all those of a file or a line
+#   scripts/mutate.sh --list ...                                             lists the mutants and tries none
 #
 # With --build DIRECTORY it uses that build with tests instead of what ./test.sh builds.
 set -euo pipefail

@@ -36,6 +36,7 @@ class CDomDocument final : public CCounted<IXMLDOMDocument2> {
   HRESULT getProperty(BSTR name, VARIANT* value) override;
 
  private:
+  /// Of a document that has been loaded.
   xmlNode* Node() const;
 
   StatePointer m_state;

@@ -4,7 +4,8 @@
 namespace msxml {
 
 /// Notices when an allocation of libxml2's fails on this thread. libxml2 does not always say so: to its parser a name
-/// that could not be kept is no name, and a node that could not be listed is not found.
+/// that could not be kept is no name, and a node that could not be listed is not found. One that lives inside another
+/// one begins anew, and the outer one gets to know what the inner has noticed. It stays on the thread that made it.
 class CMemoryWatch {
  public:
   CMemoryWatch() noexcept;
@@ -13,7 +14,7 @@ class CMemoryWatch {
   ~CMemoryWatch();
 
   /// Has libxml2 allocate through functions that call those set so far, from the first call on. Before that, none of
-  /// these sees anything.
+  /// these sees anything. Threads may call it at once.
   static void Install();
 
   /// Whether an allocation has failed while this lives.

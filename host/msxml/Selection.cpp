@@ -43,8 +43,6 @@ struct FreeXPathObject {
   void operator()(xmlXPathObject* object) const { xmlXPathFreeObject(object); }
 };
 
-void IgnoreError(void*, xmlErrorPtr) {}
-
 bool IsSelectable(const xmlNode& node) {
   return node.type == XML_ELEMENT_NODE || node.type == XML_ATTRIBUTE_NODE || node.type == XML_DOCUMENT_NODE;
 }
@@ -126,11 +124,11 @@ void CChildPath::SelectFrom(const xmlNode& parent, std::size_t depth, std::vecto
 
 Outcome SelectByXPath(xmlNode* from, std::string_view xpath, const Prefixes& prefixes, std::vector<xmlNode*>& nodes) {
   const CMemoryWatch watch;
-  const CThreadErrors otherErrors(IgnoreError, nullptr);
+  const CThreadErrors otherErrors(CThreadErrors::Ignore, nullptr);
   const std::unique_ptr<xmlXPathContext, FreeXPathContext> context(xmlXPathNewContext(from->doc));
   if (context == nullptr) return Outcome::OutOfMemory;
   context->node = from;
-  context->error = IgnoreError;
+  context->error = CThreadErrors::Ignore;
   for (const auto& [prefix, uri] : prefixes) {
     if (xmlXPathRegisterNs(context.get(), Xml(prefix.c_str()), Xml(uri.c_str())) != 0) return Outcome::OutOfMemory;
   }

@@ -10,6 +10,9 @@ namespace msxml {
 /// decoded, goes to a function. Otherwise it would be written to standard error.
 class CThreadErrors {
  public:
+  /// A function for what nobody wants to know.
+  static void Ignore(void*, xmlErrorPtr) {}
+
   CThreadErrors(xmlStructuredErrorFunc function, void* data)
       : m_functionBefore(xmlStructuredError),
         m_dataBefore(xmlStructuredErrorContext),

@@ -228,8 +228,6 @@ void ReportError(void* data, xmlErrorPtr error) {
            static_cast<std::size_t>(std::max(error->int2, 0)), element);
 }
 
-void IgnoreError(void*, xmlErrorPtr) {}
-
 /// How much memory to begin with. A VIF's tree takes about seven times as much as its file; the more pieces it comes
 /// in, the more is asked of the system, and given back to it at the end.
 std::size_t MemoryFor(const CInputFile& file) {
@@ -238,7 +236,7 @@ std::size_t MemoryFor(const CInputFile& file) {
 }
 
 ContextPointer MakeContext() {
-  const CThreadErrors otherErrors(IgnoreError, nullptr);  // that there is no memory, which would be printed
+  const CThreadErrors otherErrors(CThreadErrors::Ignore, nullptr);  // that there is no memory, which would be printed
   ContextPointer context(xmlNewParserCtxt());
   if (context == nullptr) throw std::bad_alloc();
   context->sax->startDocument = StartDocument;
@@ -293,7 +291,7 @@ void InitializeXmlLibrary() {
   CMemoryWatch::Install();
   static std::once_flag once;
   std::call_once(once, [] {
-    const CThreadErrors otherErrors(IgnoreError, nullptr);
+    const CThreadErrors otherErrors(CThreadErrors::Ignore, nullptr);
     const CMemoryWatch watch;
     xmlInitParser();
     xmlSchemaInitTypes();   // has no lock of its own

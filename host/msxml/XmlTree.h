@@ -49,7 +49,7 @@ class CXmlTree {
     element._private = reinterpret_cast<void*>(number);  // NOLINT(performance-no-int-to-ptr)
   }
 
-  /// Where the element stands; of an attribute, where its element does. Null for anything else.
+  /// Where an element of this tree stands; of an attribute, where its element does. Null for anything else.
   const Position* Locate(const xmlNode* node) const;
 
  private:
