@@ -10,7 +10,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 "$root/scripts/setup.sh" build >&2
 "$root/scripts/build.sh" release --target vif >&2
 
-vif=$root/build/release/tools/vif
+vif=$root/build/release/cli/vif
 if [ $# -eq 0 ]; then
   set -- show "$root/examples/vif/usb4-dock.xml"
   echo "==> vif $*" >&2

@@ -34,7 +34,7 @@ check() {
   require "$file" "assertion of the standard library" uses "$file" '.*__glibcxx_assert_fail'
 }
 
-command=$build/tools/vif
+command=$build/cli/vif
 echo "==> Safeguards of what is built in $build"
 for file in "$build/libVendorInfoFile.so" "$build/host/libVendorInfoFileHost.so" "$command"; do check "$file"; done
 require "$command" "code that can stand at any address" has_entry "$command" 'FLAGS_1.* PIE'

@@ -22,7 +22,7 @@ cp examples/vif/*.txt examples/vif/*.xml "$work/files"
 cd "$work/files"
 
 # What the command makes of files: what it prints and its exit status.
-list_here() { "$here/tools/vif" list --format json "$@" 2>&1 && echo "status 0" || echo "status $?"; }
+list_here() { "$here/cli/vif" list --format json "$@" 2>&1 && echo "status 0" || echo "status $?"; }
 list_there() { "${windows[@]}" list --format json "$@" 2>&1 && echo "status 0" || echo "status $?"; }
 
 # Without what each system's XML parser has to say.
@@ -48,7 +48,7 @@ compare() {
 refused=()
 loaded=()
 for file in *; do
-  if "$here/tools/vif" list --format json "$file" >/dev/null 2>&1; then loaded+=("$file"); else refused+=("$file"); fi
+  if "$here/cli/vif" list --format json "$file" >/dev/null 2>&1; then loaded+=("$file"); else refused+=("$file"); fi
 done
 export -f list_here list_there without_reason differ compare
 export here work

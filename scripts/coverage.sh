@@ -33,7 +33,7 @@ fi
 
 mapfile -t objects < <(
   find "$build" -maxdepth 2 -name 'lib*.so'
-  find "$build/tests" "$build/tools" -type f \( -name '*_tests' -o -name vif \))
+  find "$build/tests" "$build/cli" -type f \( -name '*_tests' -o -name vif \))
 others=()
 for object in "${objects[@]:1}"; do others+=(-object "$object"); done
 

@@ -1,0 +1,65 @@
+#include "Columns.h"
+
+#include "Output.h"
+#include "Text.h"
+
+#include <algorithm>
+#include <numeric>
+#include <optional>
+
+namespace cli {
+
+namespace {
+
+constexpr std::size_t kGap = 2;
+
+/// In a pipe longer cells are not cut, but they do not widen the column for all the others either.
+constexpr std::size_t kWidestColumn = 60;
+constexpr std::size_t kNarrowestColumn = 6;
+
+/// Takes from the widest columns until the line fits, or all are as narrow as can be read.
+void Fit(std::vector<std::size_t>& widths, std::size_t lineWidth) {
+  const std::size_t gaps = kGap * (widths.size() - 1);
+  while (std::accumulate(widths.begin(), widths.end(), gaps) > lineWidth) {
+    const auto widest = std::max_element(widths.begin(), widths.end());
+    if (*widest <= kNarrowestColumn) return;
+    --*widest;
+  }
+}
+
+}  // namespace
+
+void CColumns::Write() const {
+  if (m_rows.empty()) return;
+  const std::optional<std::size_t> lineWidth = TerminalWidth();
+  std::vector<std::size_t> widths = NaturalWidths(lineWidth.value_or(kWidestColumn));
+  if (lineWidth) Fit(widths, *lineWidth > m_indent ? *lineWidth - m_indent : 0);
+  for (const std::vector<std::string>& row : m_rows) WriteRow(row, widths, lineWidth.has_value());
+}
+
+std::vector<std::size_t> CColumns::NaturalWidths(std::size_t widest) const {
+  std::vector<std::size_t> widths(m_rows.front().size());
+  for (const std::vector<std::string>& row : m_rows) {
+    for (std::size_t i = 0; i < row.size(); ++i) {
+      widths[i] = std::max(widths[i], std::min(DisplayWidth(row[i]), widest));
+    }
+  }
+  return widths;
+}
+
+void CColumns::WriteRow(const std::vector<std::string>& row, const std::vector<std::size_t>& widths, bool cut) const {
+  std::string line;
+  std::size_t pending = m_indent;  // blanks owed before the next cell that is not empty
+  for (std::size_t i = 0; i < row.size(); ++i) {
+    const std::string cell = cut ? CutToWidth(row[i], widths[i]) : row[i];
+    const std::size_t width = DisplayWidth(cell);
+    if (!cell.empty()) {
+      line.append(pending, ' ').append(cell);
+      pending = 0;
+    }
+    pending += (widths[i] > width ? widths[i] - width : 0) + kGap;
+  }
+  cli::Write(line += '\n');
+}
+
+}  // namespace cli

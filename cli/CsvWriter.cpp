@@ -1,0 +1,47 @@
+#include "FieldText.h"
+#include "Output.h"
+#include "Text.h"
+#include "Writers.h"
+
+#include <string_view>
+
+namespace cli {
+
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+
+std::string Quoted(std::string_view text) {
+  std::string valid = ValidUtf8(text);
+  if (valid.find_first_of(",\"\r\n") == std::string::npos) return valid;
+  std::string out = "\"";
+  for (const char c : valid) {
+    if (c == '"') out += '"';
+    out += c;
+  }
+  return out + '"';
+}
+
+std::string Line(const CVIFField& field) {
+  std::string line = Quoted(field.Name()) + ',' + Quoted(field.Value()) + ',' + Quoted(field.Description()) + ',';
+  line += field.IsNumeric() ? "true," : "false,";
+  if (HasNumber(field)) line += std::to_string(field.GetULongNumericValue());
+  for (const VifIndex& slot : field.Indexes()) {
+    line += ',' + (IsUsed(slot) ? LocationName(slot) : std::string()) + ',';
+    if (IsUsed(slot) && HasNumber(slot)) line += std::to_string(std::get<1>(slot));
+  }
+  return line.append(kLineEnd);
+}
+
+}  // namespace
+
+void WriteCsv(const CVendorInfoFile& vif) {
+  std::string header = "name,value,description,numeric,number";
+  for (size_t slot = 1; slot <= CVIFField::MAX_INDEX_DEPTH; ++slot) {
+    header += ",location" + std::to_string(slot) + ",index" + std::to_string(slot);
+  }
+  Write(header.append(kLineEnd));
+  for (const CVIFField& field : vif.Fields()) Write(Line(field));
+}
+
+}  // namespace cli

@@ -1,0 +1,91 @@
+#include "FieldSource.h"
+
+#include "Command.h"
+
+#include <BaseUtilities/SimpleBuffer.h>
+#include <BaseUtilities/StringConvert.h>
+#include <VIFInvalidFile.h>
+#include <VIFTextCheck.h>
+#include <msxml/ComPointer.h>
+
+#include <new>
+
+namespace cli {
+
+namespace {
+
+/// The first reason why a file is not valid, and how many more there are.
+std::string ReasonText(const std::vector<DOMDocProblem>& problems) {
+  const DOMDocProblem& first = problems.front();
+  std::string text;
+  if (first.line != 0) text += "line " + std::to_string(first.line);
+  if (first.column != 0) text += ", column " + std::to_string(first.column);
+  if (!text.empty()) text += ": ";
+  text += first.reason;
+  if (problems.size() > 1) text += " (and " + std::to_string(problems.size() - 1) + " more; see 'vif check')";
+  return text;
+}
+
+/// Whether the library's message says which file it is about. The one about extensions does not, although it may quote
+/// what is all of a name.
+bool IsNamed(const std::string& fileName, const std::string& reason) {
+  return !reason.starts_with("Invalid file type") && reason.find(fileName) != std::string::npos;
+}
+
+/// A text file that cannot be read to its end is loaded as far as it can be, and nobody is told; here somebody is.
+void RequireReadable(const std::string& fileName) {
+  const std::optional<std::size_t> line = FirstUnreadableLine(PathOf(fileName));
+  if (line) throw Failure(std::string("the file could not be read on from line ").append(std::to_string(*line)));
+}
+
+}  // namespace
+
+CVendorInfoFile LoadFiles(const std::vector<std::string>& fileNames) {
+  CVendorInfoFile vif;
+  for (const std::string& fileName : fileNames) {
+    ReadFile(fileName, [&] {
+      vif.Append(fileName.c_str());
+      if (HasExtension(PathOf(fileName), ".txt")) RequireReadable(fileName);
+    });
+  }
+  return vif;
+}
+
+void ReadFile(const std::string& fileName, const std::function<void()>& read) {
+  if (fileName.empty()) throw Failure("a file name is empty");
+  try {
+    read();
+  } catch (const std::bad_alloc&) {
+    throw;
+  } catch (const CVIFInvalidFile& error) {
+    throw Failure(std::string(error.what()).append(" ").append(ReasonText(error.Problems())));
+  } catch (const _com_error& error) {
+    CSimpleBuffer reason;
+    throw Failure(reason.Printf("%s: COM error 0x%08X", fileName, error.Error()));
+  } catch (const Failure& error) {
+    throw Failure(std::string(fileName).append(": ").append(error.what()));
+  } catch (const std::exception& error) {
+    const std::string reason = error.what();
+    if (IsNamed(fileName, reason)) throw Failure(reason);
+    throw Failure(std::string(fileName).append(": ").append(reason));
+  }
+}
+
+std::optional<std::size_t> FirstUnreadableLine(const std::filesystem::path& path) {
+  std::optional<std::size_t> line;
+  CheckTextVif(path, [&](const VifLineReport& report) {
+    if (report.problem == eVifLineReadFailed) line = report.line;
+  });
+  return line;
+}
+
+bool HasExtension(const std::filesystem::path& path, std::string_view extension) {
+  const std::u8string given = path.extension().u8string();
+  std::string text(given.begin(), given.end());
+  ToLower(text);
+  return text == extension;
+}
+
+std::filesystem::path PathOf(const std::string& fileName) { return std::u8string(fileName.begin(), fileName.end()); }
+
+}  // namespace cli

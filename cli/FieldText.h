@@ -1,0 +1,29 @@
+// Fields and locations as text.
+#pragma once
+
+#include <VIFField.h>
+
+#include <string>
+
+namespace cli {
+
+/// The short name of a location, such as "SrcPdo".
+std::string LocationName(const VifIndex& slot);
+
+/// Whether the slot is in use.
+bool IsUsed(const VifIndex& slot);
+
+/// Whether the slot has a number.
+bool HasNumber(const VifIndex& slot);
+
+/// Whether the field is numeric and its value gives a number.
+bool HasNumber(const CVIFField& field);
+
+/// The slot's number, "?" when it has none.
+std::string NumberText(const VifIndex& slot);
+
+/// The field's place, outermost group first, such as "Component 1 · SrcPdo 2"; "?" stands for a number that the file
+/// does not give. Empty for a field in no group.
+std::string LocationText(const CVIFField& field);
+
+}  // namespace cli

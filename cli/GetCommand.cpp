@@ -1,0 +1,186 @@
+#include "Command.h"
+#include "FieldSource.h"
+#include "FieldText.h"
+#include "Output.h"
+#include "SchemasOption.h"
+#include "Text.h"
+
+#include <BaseUtilities/Exceptions.h>
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <memory>
+#include <optional>
+#include <regex>
+#include <string_view>
+
+namespace cli {
+
+namespace {
+
+using Query = std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>;
+
+constexpr std::string_view kAny = "any";
+
+struct LocationOption {
+  const char* name;
+  EVifLocation location;
+  const char* help;
+};
+
+constexpr LocationOption kLocationOptions[] = {
+    {"--component", eVifLocComponent, "In this component"},
+    {"--router", eVifLocRouter, "In this USB4 router"},
+    {"--endpoint", eVifLocRouterPcie, "In this PCIe endpoint of a router"},
+    {"--src-pdo", eVifLocSrcPdo, "In this source PDO"},
+    {"--snk-pdo", eVifLocSnkPdo, "In this sink PDO"},
+    {"--sop-svid", eVifLocSopSvid, "In this SOP SVID"},
+    {"--sop-mode", eVifLocSopSvidMode, "In this mode of an SOP SVID"},
+    {"--cable-svid", eVifLocCableSvid, "In this cable SVID"},
+    {"--cable-mode", eVifLocCableSvidMode, "In this mode of a cable SVID"},
+};
+
+struct GetOptions {
+  std::array<std::string, std::size(kLocationOptions)> numbers;  // empty where an option is not given
+  bool asNumber = false;
+  bool withName = false;
+  bool unique = false;
+  std::string file;
+  std::string pattern;
+};
+
+constexpr const char* kDescription = "Print the values of the fields that match a name and a place";
+
+constexpr const char* kFooter =
+    "PATTERN is a regular expression (ECMAScript) that must fit the whole name, in any letter\n"
+    "case; without it, or when it is empty, any name will do. The location options say where\n"
+    "the field must stand, at most three of them; each takes a number, or 'any' or nothing\n"
+    "when any number will do ('--' ends the options before a FILE named 1). Components, PDOs, SVIDs, modes and "
+    "endpoints are numbered from 1,\n"
+    "routers from 0.\n"
+    "\n"
+    "Examples:\n"
+    "  vif get --component 1 --src-pdo 2 --number charger.txt Src_PDO_Voltage\n"
+    "  vif get --snk-pdo any --with-name tablet.txt 'Snk_PDO_.*'\n"
+    "  vif get --unique tablet.txt '.*Vendor_Name'\n"
+    "\n"
+    "Exit status: 0 when a field matches; 1 when none does, when --unique finds several, or\n"
+    "when --number meets a field without a number, for which it prints '-'; 2 on failure.";
+
+std::optional<std::uint64_t> ParseNumber(std::string_view text) {
+  std::uint64_t number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  return number;
+}
+
+std::uint64_t LocationNumber(const LocationOption& option, const std::string& text) {
+  if (text == kAny) return CVIFField::INDEX_NOT_SPECIFIED;
+  const std::optional<std::uint64_t> number = ParseNumber(text);
+  if (!number) throw Failure(std::string(option.name) + " takes a number or 'any', not '" + text + "'");
+  return *number;
+}
+
+Query MakeQuery(const GetOptions& options) {
+  Query query;
+  query.fill(CVIFField::UNSPECIFIED_INDEX);
+  size_t used = 0;
+  for (size_t i = 0; i < options.numbers.size(); ++i) {
+    if (options.numbers[i].empty()) continue;
+    if (used == query.size()) throw Failure("at most three location options can be given (see 'vif get --help')");
+    query[used++] = {kLocationOptions[i].location, LocationNumber(kLocationOptions[i], options.numbers[i])};
+  }
+  return query;
+}
+
+/// The library compiles a pattern only when a field's place fits; a user wants to know in any case.
+void RequireSoundPattern(const std::string& pattern) {
+  try {
+    CVIFField().Match(pattern.c_str(),
+                      {CVIFField::UNSPECIFIED_INDEX, CVIFField::UNSPECIFIED_INDEX, CVIFField::UNSPECIFIED_INDEX});
+  } catch (const std::regex_error& error) {
+    throw Failure("the pattern '" + pattern + "' cannot be used: " + error.what());
+  }
+}
+
+VifFieldList Find(const CVendorInfoFile& vif, const GetOptions& options, const Query& query) {
+  if (!options.unique) return vif.GetFields(options.pattern.c_str(), query);
+  try {
+    const std::vector<CVIFField> one = {vif.GetUniqueField(options.pattern.c_str(), query)};
+    return CVendorInfoFile(one).GetFields();
+  } catch (const CZoRunTimeException& finding) {
+    throw Wanting(finding.what());
+  }
+}
+
+std::string ValueText(const CVIFField& field, bool asNumber) {
+  if (!asNumber) return Printable(field.Value());
+  return HasNumber(field) ? std::to_string(field.GetULongNumericValue()) : "-";
+}
+
+Status RunGet(const GetOptions& options) {
+  const Query query = MakeQuery(options);
+  RequireSoundPattern(options.pattern);
+  const CVendorInfoFile vif = LoadFiles({options.file});
+  const VifFieldList fields = Find(vif, options, query);
+  if (fields->empty()) throw Wanting("no field in \"" + options.file + "\" matches");
+  bool complete = true;
+  for (const CVIFField& field : *fields) {
+    if (options.withName) Write(Printable(field.Name()) + '\t' + LocationText(field) + '\t');
+    Write(ValueText(field, options.asNumber) + '\n');
+    complete = complete && (!options.asNumber || HasNumber(field));
+  }
+  return complete ? kDone : kWanting;
+}
+
+bool IsLocationOption(std::string_view argument) {
+  return std::any_of(std::begin(kLocationOptions), std::end(kLocationOptions),
+                     [&](const LocationOption& option) { return argument == option.name; });
+}
+
+}  // namespace
+
+std::vector<std::string> CompleteLocationOptions(std::vector<std::string> arguments) {
+  if (arguments.empty() || arguments.front() != "get") return arguments;
+  std::vector<std::string> completed;
+  for (size_t i = 0; i < arguments.size(); ++i) {
+    if (arguments[i] == "--") {
+      completed.insert(completed.end(), arguments.begin() + static_cast<std::ptrdiff_t>(i), arguments.end());
+      break;
+    }
+    completed.push_back(arguments[i]);
+    if (arguments[i].ends_with('=') &&
+        IsLocationOption(std::string_view(arguments[i]).substr(0, arguments[i].size() - 1))) {
+      throw Failure(arguments[i] + " takes a number or 'any' (see 'vif get --help')");
+    }
+    if (!IsLocationOption(arguments[i])) continue;
+    const bool hasNumber =
+        i + 1 < arguments.size() && (arguments[i + 1] == kAny || ParseNumber(arguments[i + 1]).has_value());
+    completed.back() += '=' + (hasNumber ? arguments[++i] : std::string(kAny));
+  }
+  return completed;
+}
+
+void AddGetCommand(CLI::App& app, Status& status) {
+  CLI::App* command = app.add_subcommand("get", kDescription);
+  command->footer(kFooter);
+  command->group("Commands");
+  const auto options = std::make_shared<GetOptions>();
+  for (size_t i = 0; i < options->numbers.size(); ++i) {
+    command->add_option(kLocationOptions[i].name, options->numbers[i], kLocationOptions[i].help)
+        ->option_text("[N]")
+        ->group("Location options");
+  }
+  command->add_flag("--number", options->asNumber, "Print the number that each value stands for");
+  command->add_flag("--with-name", options->withName, "Print name, place and value, separated by tabs");
+  command->add_flag("--unique", options->unique, "Insist on exactly one matching field");
+  AddSchemasOption(*command);
+  command->add_option("FILE", options->file, "The file, text (.txt) or XML (.xml)")->required()->option_text(" ");
+  command->add_option("PATTERN", options->pattern, "The names wanted")->option_text(" ");
+  command->callback([options, &status] { status = RunGet(*options); });
+}
+
+}  // namespace cli

@@ -1,0 +1,16 @@
+// JSON as the commands print it.
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <string>
+
+namespace cli {
+
+/// Members keep the order in which they are added.
+using Json = nlohmann::ordered_json;
+
+/// On one line; bytes that are not UTF-8 become U+FFFD.
+inline std::string Dump(const Json& json) { return json.dump(-1, ' ', false, Json::error_handler_t::replace); }
+
+}  // namespace cli

@@ -1,0 +1,37 @@
+#include "SchemasOption.h"
+
+#include "Command.h"
+#include "FieldSource.h"
+
+#include <TestUtilities/DOMDoc.h>
+
+#include <CLI/CLI.hpp>
+
+#include <filesystem>
+#include <string>
+#include <system_error>
+
+namespace cli {
+
+namespace {
+
+void UseSchemas(const std::string& name) {
+  const std::filesystem::path directory = PathOf(name);
+  std::error_code error;
+  if (!std::filesystem::is_directory(directory, error)) throw Failure("--schemas: \"" + name + "\" is no directory");
+  const bool hasAny = std::filesystem::exists(directory / "VendorInfoFile.xsd", error) ||
+                      std::filesystem::exists(directory / "VendorInfoFileOptionalContent.xsd", error);
+  if (!hasAny) throw Failure("--schemas: there is none of the two schemas in \"" + name + "\"");
+  CDOMDoc::SetSchemaDirectory(directory);
+}
+
+}  // namespace
+
+void AddSchemasOption(CLI::App& command) {
+  command
+      .add_option_function<std::string>("--schemas", UseSchemas,
+                                        "Where the schemas for XML files are, instead of where they are installed")
+      ->option_text("DIR");
+}
+
+}  // namespace cli

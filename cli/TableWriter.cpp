@@ -1,0 +1,19 @@
+#include "Columns.h"
+#include "FieldText.h"
+#include "Text.h"
+#include "Writers.h"
+
+namespace cli {
+
+void WriteTable(const CVendorInfoFile& vif) {
+  CColumns table;
+  table.Add({"LOCATION", "NAME", "VALUE", "DESCRIPTION"});
+  for (const CVIFField& field : vif.Fields()) {
+    const std::string value = Printable(field.Value());
+    table.Add({LocationText(field), Printable(field.Name()), field.IsNumeric() ? value : '"' + value + '"',
+               Printable(field.Description())});
+  }
+  table.Write();
+}
+
+}  // namespace cli

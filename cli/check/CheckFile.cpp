@@ -1,0 +1,60 @@
+#include "CheckFile.h"
+
+#include "Command.h"
+#include "FieldSource.h"
+
+#include <algorithm>
+#include <system_error>
+#include <tuple>
+
+namespace cli {
+
+namespace {
+
+Findings CheckText(const std::filesystem::path& path) {
+  auto [fields, findings] = ReadTextFile(path);
+  FindBadNumbering(fields, findings);
+  FindTextsForGroups(fields, findings);
+  FindDuplicates(fields, findings);
+  FindBadNumbers(fields, findings);
+  FindWrongCounts(fields, findings);
+  FindNothing(fields, findings);
+  return findings;
+}
+
+Findings CheckXml(const std::filesystem::path& path) {
+  auto [fields, findings] = ReadXmlFile(path);
+  FindUnknownNames(fields, findings);
+  FindMisplaced(fields, findings);
+  FindDuplicates(fields, findings);
+  FindBadNumbers(fields, findings);
+  FindMissingValues(fields, findings);
+  FindWrongCounts(fields, findings);
+  FindNothing(fields, findings);
+  return findings;
+}
+
+Findings CheckPath(const std::filesystem::path& path) {
+  std::error_code error;
+  const std::filesystem::file_status status = std::filesystem::status(path, error);
+  if (status.type() == std::filesystem::file_type::not_found) throw Failure("there is no such file");
+  if (!std::filesystem::status_known(status)) throw Failure(error.message());
+  const bool isText = HasExtension(path, ".txt");
+  if (!isText && !HasExtension(path, ".xml")) throw Failure("a VIF is a text (*.txt) or XML (*.xml) file");
+  if (!std::filesystem::is_regular_file(status)) throw Failure("only a regular file can be read");
+  return isText ? CheckText(path) : CheckXml(path);
+}
+
+}  // namespace
+
+CheckedFile CheckFile(const std::string& fileName) {
+  CheckedFile checked = {fileName, {}};
+  ReadFile(fileName, [&] { checked.findings = CheckPath(PathOf(fileName)); });
+  std::stable_sort(checked.findings.begin(), checked.findings.end(), [](const Finding& a, const Finding& b) {
+    // What is at no place is about the whole file, and comes last.
+    return std::make_tuple(a.line == 0, a.line, a.column) < std::make_tuple(b.line == 0, b.line, b.column);
+  });
+  return checked;
+}
+
+}  // namespace cli
