@@ -1,10 +1,10 @@
 #include "TextReader.h"
 
+#include "BaseUtilities/PathText.h"
 #include "Errors.h"
 #include "FieldResolver.h"
 #include "LineGrammar.h"
 #include "LineSource.h"
-#include "PathText.h"
 #include "TextFile.h"
 
 #include <memory>
@@ -111,7 +111,7 @@ class CLineReader {
 std::unique_ptr<std::istream> Open(const std::filesystem::path& path) {
   if (path.empty()) ThrowRunTimeError("%s: Internal error: NULL file name.", "CVIFImpl::ReadTextFile");
   std::unique_ptr<std::istream> stream = OpenTextFile(path);
-  if (stream == nullptr) ThrowRunTimeError("Couldn't open Vendor Info File: %S.", NarrowPathText(path));
+  if (stream == nullptr) ThrowRunTimeError("Couldn't open Vendor Info File: %S.", PathToSystem(path));
   return stream;
 }
 
@@ -127,7 +127,7 @@ void ReadLines(std::istream& stream, const std::string& pathText, CLineReader& r
 
 void ReadTextVif(const std::filesystem::path& path, const std::vector<VifFieldDef>* table, FieldSink sink) {
   const std::unique_ptr<std::istream> stream = Open(path);
-  ReadTextVif(*stream, NarrowPathText(path), table, sink);
+  ReadTextVif(*stream, PathToSystem(path), table, sink);
 }
 
 void ReadTextVif(std::istream& stream, const std::string& pathText, const std::vector<VifFieldDef>* table,
@@ -139,7 +139,7 @@ void ReadTextVif(std::istream& stream, const std::string& pathText, const std::v
 
 void FollowTextVif(const std::filesystem::path& path, const std::vector<VifFieldDef>* table, TextObservers observers) {
   const std::unique_ptr<std::istream> stream = Open(path);
-  FollowTextVif(*stream, NarrowPathText(path), table, observers);
+  FollowTextVif(*stream, PathToSystem(path), table, observers);
 }
 
 void FollowTextVif(std::istream& stream, const std::string& pathText, const std::vector<VifFieldDef>* table,

@@ -1,12 +1,12 @@
 #include "XmlReader.h"
 
+#include "BaseUtilities/PathText.h"
 #include "BaseUtilities/StringConvert.h"
 #include "DOMDocVIF.h"
 #include "DomCalls.h"
 #include "Errors.h"
 #include "GroupNames.h"
 #include "HeaderElements.h"
-#include "PathText.h"
 #include "VIFInvalidFile.h"
 
 #include <algorithm>
@@ -221,7 +221,7 @@ void ReadXmlVif(const std::filesystem::path& path, FieldSink sink) {
 
 void LoadXmlVif(const std::filesystem::path& path, CDOMDocVIF& document) {
   if (document.ValidateDoc(path)) return;
-  throw CVIFInvalidFile(MessageBuffer().Printf("%s is not a valid Vendor Info File.", NarrowPathText(path)),
+  throw CVIFInvalidFile(MessageBuffer().Printf("%s is not a valid Vendor Info File.", PathToSystem(path)),
                         document.Problems());
 }
 

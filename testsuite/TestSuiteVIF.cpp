@@ -1,7 +1,7 @@
 #include "TestSuiteVIF.h"
 
+#include "BaseUtilities/PathText.h"
 #include "BaseUtilities/StringConvert.h"
-#include "NarrowPath.h"
 #include "TestUtilities/AppState.h"
 #include "TestUtilities/TUUserInput.h"
 #include "VendorInfoFile.h"
@@ -79,7 +79,7 @@ void WriteCreateError(CTULog& log, const char* fileName) {
 /// Loads the file that the operator chose and publishes it.
 void LoadAndPublish(CTULog& log, const char* fileName) {
   Write(log, kInformation, "Initializing VIF...");
-  auto vif = std::make_unique<CVendorInfoFile>(NarrowToPath(fileName));
+  auto vif = std::make_unique<CVendorInfoFile>(PathFromSystem(fileName));
   CAppState::TestSuiteVIF(vif.get());
   static_cast<void>(vif.release());  // NOLINT(bugprone-unused-return-value): the application state's from here on
 }

@@ -1,7 +1,7 @@
 #include "VendorInfoFile.h"
 
+#include "BaseUtilities/PathText.h"
 #include "Errors.h"
-#include "PathText.h"
 #include "VIFImpl.h"
 #include "msxml/ComPointer.h"
 
@@ -15,8 +15,7 @@ namespace {
   CSimpleBuffer reason;
   const auto* text = error.ErrorMessage();
   if (text == nullptr) text = reason.Printf(L"COM Error Code 0x%08X", error.Error());
-  vif::ThrowDomDocError(R"(Vendor Info File Create Exception (file name: "%ls") - %ls)", vif::WidePathText(fileName),
-                        text);
+  vif::ThrowDomDocError(R"(Vendor Info File Create Exception (file name: "%ls") - %ls)", PathToWide(fileName), text);
 }
 
 }  // namespace
@@ -62,7 +61,9 @@ const std::vector<CVIFField>& CVendorInfoFile::Fields() const noexcept {
   return m_impl != nullptr ? m_impl->Fields() : none;
 }
 
-void CVendorInfoFile::Append(const char* fileName) { Content().Append(vif::PathFromUtf8(fileName)); }
+void CVendorInfoFile::Append(const char* fileName) {
+  Content().Append(PathFromUtf8(fileName != nullptr ? fileName : ""));
+}
 
 void CVendorInfoFile::Append(const std::vector<CVIFField>& fields) {
   try {
