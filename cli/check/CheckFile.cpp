@@ -2,8 +2,10 @@
 
 #include "Command.h"
 #include "FieldSource.h"
+#include "FileForm.h"
 
 #include <algorithm>
+#include <optional>
 #include <system_error>
 #include <tuple>
 
@@ -42,7 +44,10 @@ Findings CheckPath(const std::filesystem::path& path) {
   const bool isText = HasExtension(path, ".txt");
   if (!isText && !HasExtension(path, ".xml")) throw Failure("a VIF is a text (*.txt) or XML (*.xml) file");
   if (!std::filesystem::is_regular_file(status)) throw Failure("only a regular file can be read");
-  return isText ? CheckText(path) : CheckXml(path);
+  Findings findings = isText ? CheckText(path) : CheckXml(path);
+  if (findings.empty()) return findings;
+  const std::optional<std::string> advice = AdviceOnExtension(path);
+  return advice ? Findings{{&code::kWrongExtension, 0, 0, {}, *advice}} : findings;
 }
 
 }  // namespace
@@ -51,7 +56,7 @@ CheckedFile CheckFile(const std::string& fileName) {
   CheckedFile checked = {fileName, {}};
   ReadFile(fileName, [&] { checked.findings = CheckPath(PathOf(fileName)); });
   std::stable_sort(checked.findings.begin(), checked.findings.end(), [](const Finding& a, const Finding& b) {
-    // What is at no place is about the whole file, and comes last.
+    // Findings without a line are about the whole file and come last.
     return std::make_tuple(a.line == 0, a.line, a.column) < std::make_tuple(b.line == 0, b.line, b.column);
   });
   return checked;
