@@ -12,7 +12,6 @@ namespace vif {
 
 namespace {
 
-constexpr std::string_view kSpecialCharacters = "^$\\.*+?()[]{}|";
 constexpr std::string_view kQuantifiers = "*+?{";
 
 /// A stepwise match takes a few steps for each character, and more than one for each pair of them only where a pattern
@@ -21,13 +20,11 @@ constexpr std::size_t kStepwiseStepBudget = 100'000'000;
 
 constexpr auto kSyntax = std::regex_constants::ECMAScript | std::regex_constants::icase;
 
-bool IsPlain(std::string_view pattern) { return pattern.find_first_of(kSpecialCharacters) == std::string_view::npos; }
-
 /// What every name begins with that the pattern fits, as far as that is seen easily: its plain characters up to the
 /// first special one. Names that begin otherwise need not be matched, without which "Src_PDO_.*" over fields of all
 /// kinds would take four times as long.
 std::string_view Beginning(std::string_view pattern) {
-  if (IsPlain(pattern)) return pattern;
+  if (IsPlainPattern(pattern)) return pattern;
   if (pattern.find('|') != std::string_view::npos) return {};  // the other alternative begins in its own way
   const std::size_t end = pattern.find_first_of(kSpecialCharacters);
   const bool isLastOneQuantified = end > 0 && kQuantifiers.find(pattern[end]) != std::string_view::npos;
@@ -61,7 +58,7 @@ bool RefersBeyondAllGroups(std::string_view pattern) {
 
 CNamePattern::CNamePattern(const char* pattern)
     : m_pattern(pattern), m_beginning(Beginning(pattern), std::use_facet<std::ctype<char>>(m_locale)) {
-  if (IsPlain(pattern)) return;
+  if (IsPlainPattern(pattern)) return;
   if (PatternDepth(pattern) > kMaxPatternDepth) throw std::regex_error(std::regex_constants::error_stack);
   if (RefersBeyondAllGroups(pattern)) throw std::regex_error(std::regex_constants::error_backref);
   m_expression.emplace(pattern, kSyntax);

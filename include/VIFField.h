@@ -16,8 +16,9 @@
 using VifIndex = std::tuple<EVifLocation, std::uint64_t>;
 
 namespace vif {
+class CFieldDigests;
 class CFieldQuery;
-}
+}  // namespace vif
 
 /// One field: a name, a value, a description, whether the value is numeric and which number it stands for, and
 /// up to three location indexes, outermost group first.
@@ -143,7 +144,9 @@ class VIF_API CVIFField {
   CSafeString MakeOutputString() const;
 
  private:
-  friend class vif::CFieldQuery;  // looks at the slots and names of many fields, without a call for each
+  // Look at the slots and names of many fields, without a call for each.
+  friend class vif::CFieldDigests;
+  friend class vif::CFieldQuery;
 
   static std::uint64_t InitNumericValue(const std::string& text, bool isNumeric);
 
