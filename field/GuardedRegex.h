@@ -50,9 +50,9 @@ struct MatchBudget {
 };
 
 /// Walks over text for a regular expression and looks at what is left to the match whenever a character is read,
-/// positions are compared or a position is kept. libstdc++ recurses for every character, repetition, group and assertion
-/// it matches, and does one of these for each; only alternatives that directly follow each other escape the guard. Where
-/// the standard library guards its own stack, this guard is merely never the first to act.
+/// positions are compared or a position is kept. libstdc++ recurses for every character, repetition, group and
+/// assertion it matches, and does one of these for each; only alternatives that directly follow each other escape the
+/// guard. Where the standard library guards its own stack, this guard is merely never the first to act.
 template <typename Char>
 class CGuardedIterator {
  public:
@@ -126,8 +126,8 @@ bool GuardedRegexMatch(std::basic_string_view<Char> text, GuardedMatch<Char>& ma
                                      : StepwiseRegexMatch(first, last, match, expression);
 }
 
-/// Matches texts with one expression: recursively, which is fast, or else stepwise, where the stack or the steps are not
-/// enough for that.
+/// Matches texts with one expression: recursively, which is fast, or else stepwise, where the stack or the steps are
+/// not enough for that.
 class CGuardedMatcher {
  public:
   explicit CGuardedMatcher(const RegexShape& shape) : m_shape(shape) {}

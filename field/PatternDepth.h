@@ -27,8 +27,8 @@ PatternCost CostOf(std::string_view pattern);
 
 constexpr std::size_t kGroupDepth = 8;
 
-/// What compiling may take of the stack for each 1 of the depth. A term takes 64 to 144 bytes and a group 270 to 850, and
-/// in the largest frames that a sanitizer makes 480 and 1,950.
+/// What compiling may take of the stack for each 1 of the depth. A term takes 64 to 144 bytes and a group 270 to 850,
+/// and in the largest frames that a sanitizer makes 480 and 1,950.
 constexpr std::uintptr_t kStackPerDepth = kHasLargeFrames ? 768 : 256;
 
 /// As many joints as take about a second. An alternation of 1,000 names has 2,000.

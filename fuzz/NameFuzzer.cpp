@@ -1,5 +1,5 @@
-// Resolves any name by the built-in table and by a copy of it, which plain code does, and by the same definitions compiled
-// once more, whose regular expressions are matched one after the other.
+// Resolves any name by the built-in table and by a copy of it, which plain code does, and by the same definitions
+// compiled once more, whose regular expressions are matched one after the other.
 #include "Checks.h"
 #include "FieldResolver.h"
 #include "KnownFields.h"

@@ -410,15 +410,13 @@ TEST(OwnTable, ResolvesLongNamesOnASmallStack) { testsupport::RunOnSmallStack(Ex
 #endif
 
 TEST(OwnTable, FailsOnLongNamesWhereAPatternRefersBackOnASmallStack) {
-  testsupport::RunOnSmallStack(
-      [] { EXPECT_EQ(ErrorOnLongName(L"(a)\\1*"), std::regex_constants::error_stack); });
+  testsupport::RunOnSmallStack([] { EXPECT_EQ(ErrorOnLongName(L"(a)\\1*"), std::regex_constants::error_stack); });
 }
 
 TEST(OwnTable, RefersBackAsFarAsTheStackGoes) {
   const Table table = {{L"Twice", std::wregex(L"(a)\\1.*"), {}}};
-  testsupport::RunOnStack(testsupport::kOrdinaryStack, [&] {
-    EXPECT_EQ(Resolved(&table, std::string(3000, 'a')), "Twice - - -");
-  });
+  testsupport::RunOnStack(testsupport::kOrdinaryStack,
+                          [&] { EXPECT_EQ(Resolved(&table, std::string(3000, 'a')), "Twice - - -"); });
 }
 
 TEST(OwnTable, EndsOnAPatternThatGoesDeepWithoutReadingAnything) {

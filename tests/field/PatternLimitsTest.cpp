@@ -88,8 +88,10 @@ INSTANTIATE_TEST_SUITE_P(
         Question{".{0,2000}", {"", "a", "Src_PDO", std::string(2000, 'a'), std::string(2001, 'a')}},
         Question{"[0-9]{2000}", {"", "1", "Src_PDO", std::string(2000, '1'), std::string(1999, '1')}},
         Question{std::string(1990, 'a') + ".*", {"", "a", std::string(1990, 'A'), std::string(2500, 'a')}},
-        Question{Nested("(", "a", ")", 200), {"a", "b", ""}}, Question{Nested("(", "a*", ")*", 12), {"a", "aaa", "b", ""}},
-        Question{Nested("(?:", "a", ")?", 200), {"a", "b", ""}}, Question{"(a)\\1.*", {std::string(3000, 'a'), "aa", "a"}},
+        Question{Nested("(", "a", ")", 200), {"a", "b", ""}},
+        Question{Nested("(", "a*", ")*", 12), {"a", "aaa", "b", ""}},
+        Question{Nested("(?:", "a", ")?", 200), {"a", "b", ""}},
+        Question{"(a)\\1.*", {std::string(3000, 'a'), "aa", "a"}},
         Question{"(a|b)\\1*", {std::string(3000, 'a'), std::string(2999, 'b') + "a"}},
         Question{"(.)(.*)\\1", {std::string(2000, 'a') + "b", "b" + std::string(2000, 'a') + "b"}}));
 
@@ -160,18 +162,10 @@ TEST(HostilePattern, IsRejectedForWantOfStack) {
 }
 
 TEST(HostilePattern, ThatBracesMakeLargeEndsInAnError) {
-  const std::string patterns[] = {"(a*){30000}",
-                                  "(a{1000}){1000}",
-                                  "((((((a{9}){9}){9}){9}){9}){9}){9}",
-                                  "a{1000000}",
-                                  "(){100000}",
-                                  "(^){100000}",
-                                  "(^){40}{40}{10}",
-                                  "(a?){40}{40}{8}",
-                                  "(){40}{40}{12}",
-                                  "(?:){20000}",
-                                  "a{0}{40000}",
-                                  Repeated("a|", 200'000)};
+  const std::string patterns[] = {"(a*){30000}",     "(a{1000}){1000}", "((((((a{9}){9}){9}){9}){9}){9}){9}",
+                                  "a{1000000}",      "(){100000}",      "(^){100000}",
+                                  "(^){40}{40}{10}", "(a?){40}{40}{8}", "(){40}{40}{12}",
+                                  "(?:){20000}",     "a{0}{40000}",     Repeated("a|", 200'000)};
   for (const std::size_t stack : {kSmallStack, kOrdinaryStack}) {
     RunOnStack(stack, [&] {
       for (const std::string& pattern : patterns) EXPECT_TRUE(IsAnEnd(OutcomeOf(pattern))) << pattern.substr(0, 40);
@@ -233,16 +227,17 @@ TEST_P(PatternOfEverySize, EndsOnStacksOfEverySize) {
   EXPECT_GT(errors, 0U);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Of, PatternOfEverySize,
-    testing::Values(Shape{".", ""}, Shape{"^", ""}, Shape{"\\b", ""}, Shape{"[ab]", ""}, Shape{"a?", ""},
-                    Shape{"a??", ""}, Shape{"a*", ""}, Shape{"(a)", ""}, Shape{"()", ""}, Shape{"(a)?", ""},
-                    Shape{"(^)", ""}, Shape{"(?:a)?", ""}, Shape{"(?=a)", ""}, Shape{"(?!b)", ""}, Shape{"(a|b)", ""},
-                    Shape{"(|a)", ""}, Shape{".|", ""}, Shape{"|", ""}, Shape{"(a){3}", ""}, Shape{"(a?){3}", ""},
-                    Shape{"(^){3}", ""}, Shape{"(?:|){9}", ""}, Shape{"(b)?\\1", ""}, Shape{"(|^)", ""},
-                    Shape{"(^)*", ""}, Shape{"(a?)*?", ""}, Shape{"(", ")"}, Shape{"(?:", ")"}, Shape{"(?=", ")"},
-                    Shape{"(a|", ")"}, Shape{"(", "|a)"}, Shape{"(?:b|", ")"}, Shape{"(?:", "|b)"}, Shape{"(", ")?"},
-                    Shape{"(?:", ")?"}, Shape{"(a", ")"}, Shape{"(", ")*"}, Shape{"(?=(", ")*)"}, Shape{"(?:a?", ")+"},
-                    Shape{"(", "a)"}, Shape{"(?:|", "|)"}, Shape{"(b)|\\1(?:", ")"}));
+INSTANTIATE_TEST_SUITE_P(Of, PatternOfEverySize,
+                         testing::Values(Shape{".", ""}, Shape{"^", ""}, Shape{"\\b", ""}, Shape{"[ab]", ""},
+                                         Shape{"a?", ""}, Shape{"a??", ""}, Shape{"a*", ""}, Shape{"(a)", ""},
+                                         Shape{"()", ""}, Shape{"(a)?", ""}, Shape{"(^)", ""}, Shape{"(?:a)?", ""},
+                                         Shape{"(?=a)", ""}, Shape{"(?!b)", ""}, Shape{"(a|b)", ""}, Shape{"(|a)", ""},
+                                         Shape{".|", ""}, Shape{"|", ""}, Shape{"(a){3}", ""}, Shape{"(a?){3}", ""},
+                                         Shape{"(^){3}", ""}, Shape{"(?:|){9}", ""}, Shape{"(b)?\\1", ""},
+                                         Shape{"(|^)", ""}, Shape{"(^)*", ""}, Shape{"(a?)*?", ""}, Shape{"(", ")"},
+                                         Shape{"(?:", ")"}, Shape{"(?=", ")"}, Shape{"(a|", ")"}, Shape{"(", "|a)"},
+                                         Shape{"(?:b|", ")"}, Shape{"(?:", "|b)"}, Shape{"(", ")?"}, Shape{"(?:", ")?"},
+                                         Shape{"(a", ")"}, Shape{"(", ")*"}, Shape{"(?=(", ")*)"}, Shape{"(?:a?", ")+"},
+                                         Shape{"(", "a)"}, Shape{"(?:|", "|)"}, Shape{"(b)|\\1(?:", ")"}));
 
 }  // namespace

@@ -11,9 +11,9 @@
 #define NOMINMAX
 #include <windows.h>
 
+#include <process.h>
 #include <cerrno>
 #include <cstdint>
-#include <process.h>
 #else
 #include <pthread.h>
 #endif

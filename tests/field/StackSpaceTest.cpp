@@ -93,7 +93,8 @@ TEST(StackLeft, IsAssumedOnAStackThatIsNotTheThreads) {
   coroutine.uc_stack.ss_sp = stack.data();
   coroutine.uc_stack.ss_size = stack.size();
   coroutine.uc_link = &caller;
-  makecontext(&coroutine, [] { leftOnOwnStack = StackLeft(); }, 0);
+  makecontext(
+      &coroutine, [] { leftOnOwnStack = StackLeft(); }, 0);
   ASSERT_EQ(swapcontext(&caller, &coroutine), 0);
   EXPECT_LE(leftOnOwnStack, vif::kAssumedStack);
   EXPECT_GT(leftOnOwnStack, vif::kAssumedStack - 4 * kKilobyte);

@@ -27,14 +27,13 @@ std::vector<std::optional<std::wstring>> CapturesOf(const std::wsmatch& match) {
 struct Answers {
   std::wsmatch recursive;
   std::wsmatch stepwise;
-  bool fits = false;     // by the recursive engine
+  bool fits = false;    // by the recursive engine
   bool agrees = false;  // the other one on that
 };
 
 void Ask(const std::wregex& expression, const std::wstring& name, Answers& answers) {
   answers.fits = std::regex_match(name, answers.recursive, expression);
-  answers.agrees =
-      answers.fits == vif::StepwiseRegexMatch(name.cbegin(), name.cend(), answers.stepwise, expression);
+  answers.agrees = answers.fits == vif::StepwiseRegexMatch(name.cbegin(), name.cend(), answers.stepwise, expression);
 }
 
 TEST(StepwiseEngine, AnswersAsTheRecursiveOneDoes) {
@@ -60,14 +59,16 @@ TEST(StepwiseEngine, AnswersAsTheRecursiveOneDoes) {
 TEST(StepwiseEngine, CapturesWhatTheRecursiveOneDoes) {
   SCOPED_TRACE(testsupport::SeedMessage());
   std::mt19937_64 generator = testsupport::SeededGenerator();
-  constexpr const wchar_t* pieces[] = {L"a",      L"b",      L"_",      L"1",       L"(1*)",  L"(1*?)",     L"([0-9]+)",
-                                       L"(a|ab)", L"(ab|a)", L"(b|)",   L"(|b)",    L"(.*)",  L"(.*?)",     L"(a)?",
-                                       L"(a)??",  L"(?:a|b)", L"(a|b)*", L"(ab|1)+", L"(_)*?", L"([a-b]+?)", L"((a)|(b))"};
+  constexpr const wchar_t* pieces[] = {L"a",        L"b",         L"_",        L"1",       L"(1*)",   L"(1*?)",
+                                       L"([0-9]+)", L"(a|ab)",    L"(ab|a)",   L"(b|)",    L"(|b)",   L"(.*)",
+                                       L"(.*?)",    L"(a)?",      L"(a)??",    L"(?:a|b)", L"(a|b)*", L"(ab|1)+",
+                                       L"(_)*?",    L"([a-b]+?)", L"((a)|(b))"};
   Answers answers;
   std::size_t fitting = 0;
   for (int i = 0; i < 20'000; ++i) {
     std::wstring pattern;
-    for (std::size_t n = 1 + RandomBelow(generator, 6); n > 0; --n) pattern += pieces[RandomBelow(generator, std::size(pieces))];
+    for (std::size_t n = 1 + RandomBelow(generator, 6); n > 0; --n)
+      pattern += pieces[RandomBelow(generator, std::size(pieces))];
     const std::wregex expression(L"^" + pattern + L"$");
     for (int j = 0; j < 8; ++j) {
       std::wstring name(RandomBelow(generator, 8), L' ');
