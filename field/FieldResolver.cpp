@@ -143,10 +143,11 @@ size_t CFieldResolver::PositionOf(const KnownFieldMatch& known) const {
 
 const VifFieldDef* CFieldResolver::FindOwnPattern(std::wstring_view name, size_t end,
                                                   GuardedMatch<wchar_t>& match) const {
+  const std::uintptr_t lowestFrame = LowestFrame();
   for (const OwnPattern& own : m_ownPatterns) {
     if (own.position >= end) break;
     const VifFieldDef& definition = (*m_ownTable)[own.position];
-    if (CGuardedMatcher(own.shape).Match(name, match, definition.pattern)) return &definition;
+    if (CGuardedMatcher(own.shape).Match(name, match, definition.pattern, lowestFrame)) return &definition;
   }
   return nullptr;
 }

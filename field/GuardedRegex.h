@@ -133,10 +133,12 @@ class CGuardedMatcher {
   explicit CGuardedMatcher(const RegexShape& shape) : m_shape(shape) {}
 
   /// \param expression the one that the shape is of
+  /// \param lowestUsableFrame as `LowestFrame` says, which need not be asked for every match of many
   /// \throws std::regex_error as `GuardedRegexMatch` does, when no engine can answer
   template <typename Char>
-  bool Match(std::basic_string_view<Char> text, GuardedMatch<Char>& match, const std::basic_regex<Char>& expression) {
-    const std::uintptr_t lowestFrame = LowestFrame() + m_shape.alternatives * kStackPerAlternative;
+  bool Match(std::basic_string_view<Char> text, GuardedMatch<Char>& match, const std::basic_regex<Char>& expression,
+             std::uintptr_t lowestUsableFrame = LowestFrame()) {
+    const std::uintptr_t lowestFrame = lowestUsableFrame + m_shape.alternatives * kStackPerAlternative;
     if (m_shape.needsRecursion) return GuardedRegexMatch(text, match, expression, {lowestFrame, kMatchStepBudget});
     if (text.size() < m_tooLong) {
       try {

@@ -3,8 +3,6 @@
 #include <algorithm>
 
 #if defined(_WIN32)
-#define WIN32_LEAN_AND_MEAN
-#define NOMINMAX
 #include <windows.h>
 #elif defined(__GLIBC__)
 #include <pthread.h>
@@ -14,11 +12,14 @@ namespace vif {
 
 namespace {
 
-/// Where a thread's stack begins and ends; both 0 where that cannot be determined.
+/// Where a thread's stack begins and ends.
 struct StackBounds {
   std::uintptr_t lowest = 0;
   std::uintptr_t end = 0;
 };
+
+/// Bounds within which no frame is, for a stack whose own cannot be determined.
+[[maybe_unused]] constexpr StackBounds kUnknown = {0, 1};
 
 #if defined(_WIN32)
 
@@ -34,30 +35,26 @@ StackBounds ThreadStack() noexcept {
 
 StackBounds DetermineThreadStack() noexcept {
   pthread_attr_t attributes;
-  if (pthread_getattr_np(pthread_self(), &attributes) != 0) return {};
+  if (pthread_getattr_np(pthread_self(), &attributes) != 0) return kUnknown;
   void* lowest = nullptr;
   std::size_t size = 0;
   const bool isKnown = pthread_attr_getstack(&attributes, &lowest, &size) == 0;
   pthread_attr_destroy(&attributes);
-  if (!isKnown) return {};
+  if (!isKnown) return kUnknown;
   const auto address = reinterpret_cast<std::uintptr_t>(lowest);
   return {address, address + size};
 }
 
 // Kept from call to call: for the main thread the C library reads /proc/self/maps.
 StackBounds ThreadStack() noexcept {
-  thread_local bool isDetermined = false;
   thread_local StackBounds bounds;
-  if (!isDetermined) {
-    bounds = DetermineThreadStack();
-    isDetermined = true;
-  }
+  if (bounds.end == 0) bounds = DetermineThreadStack();
   return bounds;
 }
 
 #else
 
-StackBounds ThreadStack() noexcept { return {}; }
+StackBounds ThreadStack() noexcept { return kUnknown; }
 
 #endif
 

@@ -49,9 +49,8 @@ TEST(ConcurrentQueriesInALocale, OfTheHostsOwnFacetsCompileTheirFirstExpressions
 }
 
 TEST(ConcurrentQueriesInALocale, ThatCombinesOthersCompileTheirFirstExpressionsAtOnce) {
-  ExpectAnswersInFreshLocales([] {
-    return std::locale(std::locale::classic(), testsupport::Latin1Locale(), std::locale::ctype);
-  });
+  ExpectAnswersInFreshLocales(
+      [] { return std::locale(std::locale::classic(), testsupport::Latin1Locale(), std::locale::ctype); });
 }
 
 }  // namespace
