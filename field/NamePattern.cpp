@@ -57,6 +57,7 @@ void RequireModestCost(std::string_view pattern) {
   const PatternCost cost = CostOf(pattern);
   if (cost.depth > StackLeft() / kStackPerDepth) ThrowStackTooSmall();
   if (cost.joints > kMostJoints) ThrowTooManySteps();
+  if (cost.repetitions > kMostRepetitions) throw std::regex_error(std::regex_constants::error_space);
 }
 
 }  // namespace

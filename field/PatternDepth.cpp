@@ -24,13 +24,13 @@ struct OpenGroup {
     lastTermJoints = term.joints;
   }
   void EndAlternative() {
-    AddTerm({0, 2});
+    AddTerm({0, 2, 0});
     deepest = std::max(deepest, depth);
     depth = 0;
   }
   PatternCost Total() {
     EndAlternative();
-    return {Sum(deepest, kGroupDepth), Sum(joints, Sum(lastTermJoints, 1))};
+    return {Sum(deepest, kGroupDepth), Sum(joints, Sum(lastTermJoints, 1)), 0};
   }
 };
 
@@ -62,7 +62,7 @@ class CPatternReader {
     PatternCost total;
     for (OpenGroup& group : m_groups) {
       const PatternCost cost = group.Total();
-      total = {Sum(total.depth, cost.depth), Sum(total.joints, cost.joints)};
+      total = {Sum(total.depth, cost.depth), Sum(total.joints, cost.joints), m_repetitions};
     }
     return total;
   }
@@ -80,15 +80,15 @@ class CPatternReader {
       case '+':
       case '?': ++group.lastTermJoints; break;
       case '[':
-        group.AddTerm({1, 0});
+        group.AddTerm({1, 0, 0});
         m_position = EndOfBrackets(m_pattern, m_position - 1);
         break;
       case '\\':
-        group.AddTerm({1, 0});
+        group.AddTerm({1, 0, 0});
         // "\c" takes the character after it, whatever it is.
         m_position += m_pattern.substr(m_position, 1) == "c" ? 2U : 1U;
         break;
-      default: group.AddTerm({1, 0}); break;
+      default: group.AddTerm({1, 0, 0}); break;
     }
   }
 
@@ -102,12 +102,14 @@ class CPatternReader {
   void ReadBraces(OpenGroup& group) {
     const std::size_t end = std::min(m_pattern.find('}', m_position), m_pattern.size());
     const std::size_t copies = Copies(m_pattern.substr(m_position, end - m_position));
+    m_repetitions = std::max(m_repetitions, copies - 1);
     group.lastTermJoints = Sum(2, std::min(kEnough, group.lastTermJoints * copies));
     m_position = end + 1;
   }
 
   std::string_view m_pattern;
   std::size_t m_position = 0;
+  std::size_t m_repetitions = 0;
   std::vector<OpenGroup> m_groups{1};
 };
 

@@ -21,6 +21,9 @@ struct PatternCost {
   /// How many states libstdc++ makes only to join others, and follows one by one in the end, in a time that grows with
   /// the square of their number. Braces repeat them.
   std::size_t joints = 0;
+
+  /// The largest number in braces.
+  std::size_t repetitions = 0;
 };
 
 PatternCost CostOf(std::string_view pattern);
@@ -33,5 +36,9 @@ constexpr std::uintptr_t kStackPerDepth = kHasLargeFrames ? 768 : 256;
 
 /// As many joints as take about a second. An alternation of 1,000 names has 2,000.
 constexpr std::size_t kMostJoints = 20'000;
+
+/// No pattern that libstdc++ compiles repeats more often: it makes at most 100,000 states. A number of 19 digits
+/// overflows there.
+constexpr std::size_t kMostRepetitions = 1'000'000;
 
 }  // namespace vif

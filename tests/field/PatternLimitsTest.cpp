@@ -189,6 +189,15 @@ TEST(HostilePattern, ThatIsNoExpressionIsRejected) {
   });
 }
 
+TEST(HostilePattern, ThatRepeatsMoreOftenThanNumbersGoIsRejected) {
+  for (const char* pattern :
+       {"a{1000001}", "a{9999999999999999999}", "a{0,99999999999999999999999}", "(){999999999}"}) {
+    const RegexOutcome outcome = OutcomeOf(pattern);
+    EXPECT_FALSE(outcome.answer) << pattern;
+    EXPECT_NE(outcome.error, std::regex_constants::error_stack) << pattern;
+  }
+}
+
 TEST(HostilePattern, OfPlainTextIsNoneAndOfAnyLength) {
   const std::string pattern(1'000'000, 'a');
   RunOnStack(kSmallStack, [&] {
