@@ -31,11 +31,10 @@ std::uintptr_t StackLeftOf(std::size_t bytes) {
   return left;
 }
 
+// A system may give a thread more than was asked for: the C library uses the stacks of earlier threads again.
 TEST(StackLeft, IsNearlyAllOfANewThread) {
-  // Wine makes no stack smaller than a megabyte.
   for (const std::uintptr_t size : {kMegabyte, 2 * kMegabyte, 8 * kMegabyte, 32 * kMegabyte}) {
     const std::uintptr_t left = StackLeftOf(size);
-    EXPECT_LE(left, size - kStackReserve);
     EXPECT_GE(left, size - kStackReserve - 64 * kKilobyte) << size;
   }
 }
