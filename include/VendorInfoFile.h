@@ -31,7 +31,7 @@ using VifFieldList = std::unique_ptr<std::vector<CVIFField>, std::function<void(
 /// ".xml" as an XML VIF. Components are numbered from 1 over all files loaded into the object.
 ///
 /// Threads may call the `const` members of one object at once, as long as none changes it: appending to it,
-/// assigning it and destroying it need it alone. A host that sets a global C++ locale does so before its threads ask.
+/// assigning it and destroying it need it alone.
 /// A moved-from object is an empty one and may be used again, with the built-in definitions.
 class VIF_API CVendorInfoFile {
  public:
@@ -41,13 +41,17 @@ class VIF_API CVendorInfoFile {
   /// Loads a file. An empty path, or a literal null, loads nothing and fails in nothing. A text file that the system
   /// cannot read on ends there, and nobody is told; `CheckTextVif` tells.
   /// \param fieldDefs the definitions that the names of text VIFs are resolved through, here and in later appends;
-  ///   borrowed, so it must outlive the object and its copies. Null means the built-in table.
+  ///   borrowed, so it must outlive the object and its copies, and not to be changed during a load. Null means the
+  ///   built-in table. Names of any length load, unless a pattern of the caller's own refers back to a group or looks
+  ///   ahead.
   /// \throws CZoRunTimeException "VIF Does not exist. (name: <path>)",
   ///   "Invalid file type for VIF!  Must be text (*.txt) or XML (*.xml)",
   ///   "Couldn't open Vendor Info File: <path>.", which anything but a regular file gives too,
   ///   "I/O read failure on Vendor Info File <path>: <reason>",
   ///   "Internal error - Unknown EVifLocation: <value>" (see `VifFieldDef::locations`),
-  ///   or the text of a regular expression's error, which only definitions of the caller's own can cause
+  ///   or the text of a regular expression's error, which only patterns of the caller's own can cause:
+  ///   "The regular expression needs more stack than this thread has left." or
+  ///   "The regular expression takes too many steps."
   /// \throws std::filesystem::filesystem_error when the file cannot be found out about for another reason than
   ///   that it is not there
   CVendorInfoFile(const std::filesystem::path& fileName, std::vector<VifFieldDef>* fieldDefs = nullptr);
