@@ -1,6 +1,7 @@
 // The calls on XML documents that the reader makes, with their failures as exceptions.
 #pragma once
 
+#include "msxml/ComTypes.h"
 #include "msxml/MsXml.h"
 
 #include <optional>

@@ -2,6 +2,7 @@
 #include "DomCalls.h"
 #include "VIFXmlCheck.h"
 #include "XmlReader.h"
+#include "msxml/ComTypes.h"
 
 #include <algorithm>
 #include <cstdint>

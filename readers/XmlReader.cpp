@@ -1,4 +1,5 @@
 #include "XmlReader.h"
+#include "msxml/ComTypes.h"
 
 #include "DOMDocVIF.h"
 #include "DomCalls.h"

@@ -2,7 +2,9 @@
 # Checks one thing about the installed package, which lies in $PREFIX. See CMakeLists.txt for the environment.
 set -euo pipefail
 
+here=$(cd "$(dirname "$0")" && pwd)
 lib=$PREFIX/$LIBDIR
+headers=$PREFIX/include/vendorinfofile
 work=$WORK/$1
 rm -rf "$work"
 mkdir -p "$work"
@@ -37,6 +39,13 @@ exported_by() {
     nm -DC --defined-only "$lib/lib$1.so" | sed 's/^[^ ]* . //; s/@@.*//'
   fi
 }
+
+# Compiles with the installed headers; links too when told where to.
+compile() { "$CXX" -std=c++20 -Wall -Wextra -Werror "${flags[@]}" -I"$headers" "$@"; }
+link=("-L$lib" -lVendorInfoFile -lVendorInfoFileHost "-Wl,-rpath,$lib")
+
+# Prints a source that includes every installed header.
+include_all() { (cd "$headers" && find . -name '*.h' -printf '#include <%P>\n') | LC_ALL=C sort; }
 
 case $1 in
   FoundByCMake)
@@ -103,6 +112,25 @@ EOF
       count=$((count + 1))
     done < <(cd "$PREFIX/include/vendorinfofile" && find . -name '*.h')
     [ "$count" -ge 9 ] || fail "only $count headers are installed"
+    ;;
+  NamesLeftToPrograms)
+    [ -z "$EMULATOR" ] || { echo 'SKIPPED: COM declares these names itself'; exit; }
+    include_all >"$work/all.h"
+    for own in own_types own_macros; do
+      compile -include "$here/names/$own.h" -include "$work/all.h" "$CONSUMER/consumer.cpp" "${link[@]}" -o "$work/before" ||
+        fail "not after $own.h"
+      check_consumer "$work/before"
+      compile -include "$work/all.h" -include "$here/names/$own.h" "$CONSUMER/consumer.cpp" "${link[@]}" -o "$work/after" ||
+        fail "not before $own.h"
+      check_consumer "$work/after"
+    done
+    ;;
+  GlobalNamesAreKnown)
+    [ -z "$EMULATOR" ] || { echo 'SKIPPED: COM declares further names'; exit; }
+    include_all >"$work/all.h"
+    compile -E -dD -x c++ "$work/all.h" | python3 -B "$here/names/global_names.py" "$headers/" >"$work/global-names.txt"
+    diff "$here/names/global-names.txt" "$work/global-names.txt" ||
+      fail 'the headers declare other global names than tests/package/names/global-names.txt lists'
     ;;
   ExportsOnlyWhatIsIntended)
     for library in VendorInfoFile VendorInfoFileHost; do
