@@ -24,6 +24,7 @@ std::uint64_t CapturedNumber(std::string_view digits) {
 template <typename Capture>
 std::uint64_t LocationNumber(EVifLocation location, std::uint32_t component, const Capture& capture) {
   switch (location) {
+    case eVifLocUnset: break;
     case eVifLocVif:
     case eVifLocAppVersion:
     case eVifLocProduct: return 0;
@@ -37,8 +38,8 @@ std::uint64_t LocationNumber(EVifLocation location, std::uint32_t component, con
     case eVifLocRouterPcie:
     case eVifLocSopSvidMode:
     case eVifLocCableSvidMode: return CapturedNumber(capture(2));
-    default: ThrowRunTimeError("Internal error - Unknown EVifLocation: %d", location);
   }
+  ThrowRunTimeError("Internal error - Unknown EVifLocation: %d", location);
 }
 
 template <typename Capture>

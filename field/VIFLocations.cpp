@@ -5,34 +5,53 @@
 
 namespace {
 
-constexpr const char* kUnsetName = "<unset>";
+constexpr VifLocTypeInfo kUnset = {
+    eVifLocUnset, "<unset>",
+    // Deliberately not an XPath: code that prints the path of an unused slot shows plainly that there is none.
+    "<Nothing there: any associated value should be ignored>"};
 
-// Deliberately not an XPath: code that prints the path of an unused slot shows plainly that there is none.
-constexpr const char* kUnsetXPath = "<Nothing there: any associated value should be ignored>";
+// The blank at the end of each path belongs to it, and the mixed spelling of the element names is the format's own. A
+// group that stands in a list has the list's name in the path, just before its own.
+constexpr VifLocTypeInfo Describe(EVifLocation location) {
+  switch (location) {
+    case eVifLocUnset: break;
+    case eVifLocVif: return {location, "VIF", "/VIF "};
+    case eVifLocAppVersion: return {location, "AppVersion", "/VIF/VIF_App "};
+    case eVifLocProduct: return {location, "Product", "/VIF/Product "};
+    case eVifLocRouter: return {location, "Router", "/VIF/Product/USB4RouterList/Usb4Router "};
+    case eVifLocRouterPcie:
+      return {location, "RouterPcie", "/VIF/Product/USB4RouterList/Usb4Router/PCIeEndpointList/PCIeEndpoint "};
+    case eVifLocComponent: return {location, "Component", "/VIF/Component "};
+    case eVifLocSrcPdo: return {location, "SrcPdo", "/VIF/Component/SrcPdoList/SrcPDO "};
+    case eVifLocSnkPdo: return {location, "SnkPdo", "/VIF/Component/SnkPdoList/SnkPDO "};
+    case eVifLocSopSvid: return {location, "SopSvid", "/VIF/Component/SOPSVIDList/SOPSVID "};
+    case eVifLocSopSvidMode:
+      return {location, "SopSvidMode", "/VIF/Component/SOPSVIDList/SOPSVID/SOPSVIDModeList/SOPSVIDMode "};
+    case eVifLocCableSvid: return {location, "CableSvid", "/VIF/Component/CableSVIDList/CableSVID "};
+    case eVifLocCableSvidMode:
+      return {location, "CableSvidMode", "/VIF/Component/CableSVIDList/CableSVID/CableSVIDModeList/CableSVIDMode "};
+  }
+  return kUnset;
+}
 
-// In the order of their values. The blank at the end of each path belongs to it, and the mixed spelling of the
-// element names is the format's own.
-constexpr std::array<VifLocTypeInfo, 13> kLocations = {{
-    {eVifLocUnset, kUnsetName, kUnsetXPath},
-    {eVifLocVif, "VIF", "/VIF "},
-    {eVifLocAppVersion, "AppVersion", "/VIF/VIF_App "},
-    {eVifLocProduct, "Product", "/VIF/Product "},
-    {eVifLocRouter, "Router", "/VIF/Product/USB4RouterList/Usb4Router "},
-    {eVifLocRouterPcie, "RouterPcie", "/VIF/Product/USB4RouterList/Usb4Router/PCIeEndpointList/PCIeEndpoint "},
-    {eVifLocComponent, "Component", "/VIF/Component "},
-    {eVifLocSrcPdo, "SrcPdo", "/VIF/Component/SrcPdoList/SrcPDO "},
-    {eVifLocSnkPdo, "SnkPdo", "/VIF/Component/SnkPdoList/SnkPDO "},
-    {eVifLocSopSvid, "SopSvid", "/VIF/Component/SOPSVIDList/SOPSVID "},
-    {eVifLocSopSvidMode, "SopSvidMode", "/VIF/Component/SOPSVIDList/SOPSVID/SOPSVIDModeList/SOPSVIDMode "},
-    {eVifLocCableSvid, "CableSvid", "/VIF/Component/CableSVIDList/CableSVID "},
-    {eVifLocCableSvidMode, "CableSvidMode", "/VIF/Component/CableSVIDList/CableSVID/CableSVIDModeList/CableSVIDMode "},
-}};
+constexpr std::size_t CountLocations() {
+  std::size_t count = 1;
+  while (Describe(static_cast<EVifLocation>(count)).location != eVifLocUnset) ++count;
+  return count;
+}
 
-constexpr VifLocTypeInfo kUnknown = {eVifLocUnset, kUnsetName, kUnsetXPath};
+// In the order of their values, which have no gaps.
+constexpr auto kLocations = [] {
+  std::array<VifLocTypeInfo, CountLocations()> locations{};
+  for (std::size_t value = 0; value < locations.size(); ++value) {
+    locations[value] = Describe(static_cast<EVifLocation>(value));
+  }
+  return locations;
+}();
 
 }  // namespace
 
 const VifLocTypeInfo& GetVifLocInfo(EVifLocation location) {
-  const auto index = static_cast<size_t>(location);  // a negative value becomes a huge one
-  return index < kLocations.size() ? kLocations[index] : kUnknown;
+  const auto index = static_cast<std::size_t>(location);  // a negative value becomes a huge one
+  return index < kLocations.size() ? kLocations[index] : kUnset;
 }

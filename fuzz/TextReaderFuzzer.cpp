@@ -14,26 +14,11 @@ namespace {
 
 using fuzz::Require;
 
-/// The group that a location lies in; `eVifLocUnset` for the outermost.
-constexpr EVifLocation GroupAround(EVifLocation location) {
-  switch (location) {
-    case eVifLocRouter: return eVifLocProduct;
-    case eVifLocRouterPcie: return eVifLocRouter;
-    case eVifLocSrcPdo:
-    case eVifLocSnkPdo:
-    case eVifLocSopSvid:
-    case eVifLocCableSvid: return eVifLocComponent;
-    case eVifLocSopSvidMode: return eVifLocSopSvid;
-    case eVifLocCableSvidMode: return eVifLocCableSvid;
-    default: return eVifLocUnset;
-  }
-}
-
 void CheckPlace(const CVIFField& field) {
   EVifLocation around = eVifLocUnset;
   for (const auto& [location, number] : field.Indexes()) {
     if (location == eVifLocUnset) break;
-    Require(GroupAround(location) == around, "the slots lead from the outermost group to the innermost");
+    Require(GetVifLocParent(location) == around, "the slots lead from the outermost group to the innermost");
     Require(location != eVifLocComponent || number == 1, "the file is component 1");
     around = location;
   }

@@ -76,7 +76,8 @@ class VIF_API CVendorInfoFile {
   /// \throws as the constructor from a path does
   void Append(const char* fileName);
 
-  /// Appends copies of the given fields. The file name and the component count stay.
+  /// Appends copies of the given fields, which may be this object's own `Fields()`. The file name and the component
+  /// count stay.
   /// \throws std::bad_alloc when memory runs out; the object is then empty: the fields held before, the file name and
   ///   the definitions are gone too
   void Append(const std::vector<CVIFField>& fields);

@@ -1,47 +1,43 @@
 #include "GroupNames.h"
 
 #include <algorithm>
-#include <iterator>
+#include <cstdint>
+#include <string_view>
 
 namespace vif {
 
 namespace {
 
-struct GroupName {
-  std::wstring_view name;
-  EVifLocation location;
-};
+bool IsEqual(std::wstring_view wide, std::string_view ascii) {
+  return std::equal(wide.begin(), wide.end(), ascii.begin(), ascii.end(),
+                    [](wchar_t a, char b) { return a == static_cast<wchar_t>(b); });
+}
 
-constexpr GroupName kGroupNames[] = {
-    {L"VIF", eVifLocVif},
-    {L"VIF_App", eVifLocAppVersion},
-    {L"Product", eVifLocProduct},
-    {L"USB4RouterList", eVifLocRouter},
-    {L"Usb4Router", eVifLocRouter},
-    {L"PCIeEndpointList", eVifLocRouterPcie},
-    {L"PCIeEndpoint", eVifLocRouterPcie},
-    {L"Component", eVifLocComponent},
-    {L"SrcPdoList", eVifLocSrcPdo},
-    {L"SrcPDO", eVifLocSrcPdo},
-    {L"SnkPdoList", eVifLocSnkPdo},
-    {L"SnkPDO", eVifLocSnkPdo},
-    {L"SOPSVIDList", eVifLocSopSvid},
-    {L"SOPSVID", eVifLocSopSvid},
-    {L"SOPSVIDModeList", eVifLocSopSvidMode},
-    {L"SOPSVIDMode", eVifLocSopSvidMode},
-    {L"CableSVIDList", eVifLocCableSvid},
-    {L"CableSVID", eVifLocCableSvid},
-    {L"CableSVIDModeList", eVifLocCableSvidMode},
-    {L"CableSVIDMode", eVifLocCableSvidMode},
-};
+/// Takes the last step off a path.
+std::string_view TakeLastStep(std::string_view& path) {
+  const std::size_t slash = path.rfind('/');
+  const std::string_view step = path.substr(slash + 1);
+  path = path.substr(0, slash);
+  return step;
+}
+
+/// Whether an element of that name is a group of that kind, or a list of such groups.
+bool IsNameOf(const VifLocTypeInfo& location, std::wstring_view localName) {
+  std::string_view path = location.xpath;
+  path.remove_suffix(1);  // the blank
+  if (IsEqual(localName, TakeLastStep(path))) return true;
+  const std::string_view around = TakeLastStep(path);
+  return around.ends_with("List") && IsEqual(localName, around);
+}
 
 }  // namespace
 
 std::optional<EVifLocation> FindGroupLocation(std::wstring_view localName) {
-  const auto* found = std::find_if(std::begin(kGroupNames), std::end(kGroupNames),
-                                   [&](const GroupName& group) { return group.name == localName; });
-  if (found == std::end(kGroupNames)) return std::nullopt;
-  return found->location;
+  for (std::int32_t value = eVifLocUnset + 1;; ++value) {
+    const VifLocTypeInfo& location = GetVifLocInfo(static_cast<EVifLocation>(value));
+    if (location.location == eVifLocUnset) return std::nullopt;
+    if (IsNameOf(location, localName)) return location.location;
+  }
 }
 
 }  // namespace vif

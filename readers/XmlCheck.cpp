@@ -1,23 +1,24 @@
 #include "DOMDocVIF.h"
 #include "DomCalls.h"
+#include "HeaderElements.h"
 #include "VIFXmlCheck.h"
 #include "XmlReader.h"
 #include "msxml/ComTypes.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <iterator>
 #include <set>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace {
 
-/// The elements under the root of which the first of its name is read as a field.
-constexpr std::string_view kHeaderNames[] = {"VIF_Specification", "Vendor_Name", "Model_Part_Number",
-                                             "Product_Revision",  "TID",         "VIF_Product_Type",
-                                             "Certification_Type"};
+/// Whether the first element of that name under the root is read.
+bool IsHeaderName(const std::string& name) {
+  if (name == "VIF_App" || name == "VIF_Specification") return true;
+  return std::any_of(vif::kHeaderElements.begin(), vif::kHeaderElements.end(),
+                     [&](const vif::HeaderElement& element) { return element.name == name; });
+}
 
 /// Reports what becomes of the elements of one document.
 class CElementReporter {
@@ -45,7 +46,7 @@ class CElementReporter {
         if (!IsEmpty(element)) ReportItem(element);
       } else if (name == "Component") {
         ReportItem(element);
-      } else if (!m_seen.insert(name).second || !IsRead(name)) {
+      } else if (!m_seen.insert(name).second || !IsHeaderName(name)) {
         Report(eVifElementNotRead, element);
       } else if (name == "VIF_App") {
         ReportApplication(element);
@@ -54,11 +55,6 @@ class CElementReporter {
   }
 
  private:
-  static bool IsRead(const std::string& name) {
-    return name == "VIF_App" ||
-           std::find(std::begin(kHeaderNames), std::end(kHeaderNames), name) != std::end(kHeaderNames);
-  }
-
   template <typename Action>
   void ForEach(IXMLDOMNode& parent, const CBstr& xpath, const Action& action) const {
     const DOMNodeListPtr nodes = vif::SelectNodes(parent, xpath);

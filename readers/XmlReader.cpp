@@ -1,10 +1,12 @@
 #include "XmlReader.h"
 #include "msxml/ComTypes.h"
 
+#include "BaseUtilities/StringConvert.h"
 #include "DOMDocVIF.h"
 #include "DomCalls.h"
 #include "Errors.h"
 #include "GroupNames.h"
+#include "HeaderElements.h"
 #include "PathText.h"
 #include "VIFInvalidFile.h"
 
@@ -28,13 +30,10 @@ constexpr std::string_view kNo = "NO";
 using Slots = std::array<VifIndex, kDepth>;
 
 constexpr Slots kNoSlots = {CVIFField::UNSPECIFIED_INDEX, CVIFField::UNSPECIFIED_INDEX, CVIFField::UNSPECIFIED_INDEX};
-constexpr Slots kVifSlots = {VifIndex{eVifLocVif, 0}, CVIFField::UNSPECIFIED_INDEX, CVIFField::UNSPECIFIED_INDEX};
-constexpr Slots kProductSlots = {VifIndex{eVifLocProduct, 0}, CVIFField::UNSPECIFIED_INDEX,
-                                 CVIFField::UNSPECIFIED_INDEX};
 
-/// Products and routers are numbered from 0, as the format counts them; everything else from 1.
-constexpr std::uint64_t FirstNumber(EVifLocation location) {
-  return location == eVifLocProduct || location == eVifLocRouter ? 0 : 1;
+/// The slots of a field that stands outside any numbered group.
+constexpr Slots HeaderSlots(EVifLocation location) {
+  return {VifIndex{location, 0}, CVIFField::UNSPECIFIED_INDEX, CVIFField::UNSPECIFIED_INDEX};
 }
 
 /// Makes room for that many more fields; at least doubled, so that a list that grows file by file is not moved for
@@ -65,12 +64,9 @@ class CExtraction {
   void Run() {
     ReadApplication();
     ReadSpecification();
-    for (const wchar_t* xpath :
-         {L"vif:Vendor_Name", L"vif:Model_Part_Number", L"vif:Product_Revision", L"vif:TID", L"vif:VIF_Product_Type"}) {
-      ReadHeaderElement(xpath, kVifSlots);
+    for (const HeaderElement& element : kHeaderElements) {
+      ReadHeaderElement(Utf8ToUtf16("vif:" + std::string(element.name)), HeaderSlots(element.location));
     }
-    // The certification is the product's and not the file's.
-    ReadHeaderElement(L"vif:Certification_Type", kProductSlots);
     Walk(*SelectNodes(m_root, CBstr(L"vif:Product")), 0, kNoSlots, eVifLocProduct, nullptr, m_header);
     MoveBehind(m_sink.fields, m_header);
     Walk(*SelectNodes(m_root, CBstr(L"vif:Component")), 0, kNoSlots, eVifLocComponent, &m_sink.componentCount,
@@ -97,7 +93,7 @@ class CExtraction {
   }
 
   /// Returns whether there is such an element.
-  bool ReadHeaderElement(const wchar_t* xpath, const Slots& slots) {
+  bool ReadHeaderElement(std::wstring_view xpath, const Slots& slots) {
     const DOMNodePtr element = SelectSingleNode(m_root, CBstr(xpath));
     if (element != nullptr) ReadLeaf(*element, slots, m_header);
     return element != nullptr;
@@ -111,7 +107,7 @@ class CExtraction {
 
   /// A header field that is made of texts.
   void AddText(IXMLDOMNode& element, const std::string& name, const std::string& text) {
-    m_header.emplace_back(false, name, text, text, kVifSlots);
+    m_header.emplace_back(false, name, text, text, HeaderSlots(eVifLocVif));
     ReportField(element, m_header.back());
   }
 
@@ -137,14 +133,14 @@ class CExtraction {
   }
 
   /// Reads the items of one list, which is no deeper than there are slots: all leaves of an item first, then the lists
-  /// in it, wherever they stand. \param slots those of the groups around the items, filled up to the depth \param
-  /// counter counts the items over several lists and files; null numbers them within the list
+  /// in it, wherever they stand. `slots` are those of the groups around the items, filled up to the depth. `counter`
+  /// counts the items over several lists and files; null numbers them within the list.
   void Walk(IXMLDOMNodeList& items, std::size_t depth, Slots slots, EVifLocation location, std::uint32_t* counter,
             std::vector<CVIFField>& fields) {
     const LONG count = Length(items);
     for (LONG i = 0; i < count; ++i) {
       const std::uint64_t number = counter != nullptr ? (*counter)++ : static_cast<std::uint64_t>(i);
-      slots[depth] = {location, number + FirstNumber(location)};
+      slots[depth] = {location, number + GetVifLocFirstIndex(location)};
       ReadItem(*Item(items, i), depth, slots, fields);
     }
   }

@@ -22,6 +22,7 @@ constexpr TEST_STATUS kRefused = 0x40000000;
 
 constexpr const wchar_t* kPrompt = L"Select a Vendor Info File for the qualifying product under test";
 constexpr const wchar_t* kCaption = L"Choose VIF for test suite";
+constexpr const wchar_t* kUnknownError = L"<unknown error>";
 
 /// Writes one line; a wide format makes a wide line.
 template <typename Character, typename... Arguments>
@@ -46,9 +47,15 @@ TEST_STATUS Refuse(CTULog& log, const char* reason) {
   return kRefused;
 }
 
-/// To be called where an exception has been caught: writes what it says. Out-of-memory passes.
-/// \param fileName narrow, as the host gave it. It goes to a wide placeholder as it stands: the buffer looks at what it
-///   is given and prints it as it is.
+/// What an exception says; `otherwise` when that is nothing, which exceptions of a host's own may do.
+std::wstring TextOf(const std::exception& error, const wchar_t* otherwise) {
+  const char* text = error.what();
+  return text != nullptr ? Utf8ToUtf16(text) : otherwise;
+}
+
+/// Logs the exception being handled; out-of-memory passes. Call it in a handler only.
+/// \param fileName narrow, as the host gave it. It goes to a wide placeholder unconverted: the buffer sees its type and
+///   prints its text.
 void WriteCreateError(CTULog& log, const char* fileName) {
   constexpr const wchar_t* unexpected = L"Unexpected error creating %ls: %ls.";
   try {
@@ -63,9 +70,9 @@ void WriteCreateError(CTULog& log, const char* fileName) {
       TryToWrite(log, kRefused, L"Attempt to load valid VIF did not succeed: %ls", L"[Unknown COM Exception]");
     }
   } catch (const std::exception& error) {
-    TryToWrite(log, kInformation, unexpected, fileName, Utf8ToUtf16(error.what()));
+    TryToWrite(log, kInformation, unexpected, fileName, TextOf(error, kUnknownError));
   } catch (...) {
-    TryToWrite(log, kInformation, unexpected, fileName, L"<unknown error>");
+    TryToWrite(log, kInformation, unexpected, fileName, kUnknownError);
   }
 }
 
@@ -104,7 +111,7 @@ void Delete(CTULog& log, std::unique_ptr<CVendorInfoFile> vif) {
   } catch (const std::bad_alloc&) {
     throw;
   } catch (const std::exception& error) {
-    TryToWrite(log, kInformation, L"Unexpected error deleting %ls: %ls.", fileName, Utf8ToUtf16(error.what()));
+    TryToWrite(log, kInformation, L"Unexpected error deleting %ls: %ls.", fileName, TextOf(error, L"<unknown>"));
   } catch (...) {
     TryToWrite(log, kInformation, L"Unexpected error deleting %ls: <unknown>.", fileName);
   }

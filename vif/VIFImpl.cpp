@@ -52,6 +52,10 @@ void CVIFImpl::Append(const std::filesystem::path& fileName) {
 }
 
 void CVIFImpl::Append(const std::vector<CVIFField>& fields) {
+  if (&fields == &m_fields) {
+    Append(std::vector<CVIFField>(fields));  // a list cannot be inserted into itself
+    return;
+  }
   m_fields.insert(m_fields.end(), fields.begin(), fields.end());
 }
 

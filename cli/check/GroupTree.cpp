@@ -32,8 +32,13 @@ bool IsNumberedByNames(EVifLocation kind) {
     case eVifLocSopSvidMode:
     case eVifLocCableSvid:
     case eVifLocCableSvidMode: return true;
-    default: return false;
+    case eVifLocUnset:
+    case eVifLocVif:
+    case eVifLocAppVersion:
+    case eVifLocProduct:
+    case eVifLocComponent: break;
   }
+  return false;
 }
 
 }  // namespace cli

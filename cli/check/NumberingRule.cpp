@@ -9,8 +9,6 @@ namespace cli {
 
 namespace {
 
-std::uint64_t FirstNumber(EVifLocation kind) { return kind == eVifLocRouter ? 0 : 1; }
-
 /// Such as "SrcPdo 2 is" and "SrcPdo 2 to 5 are".
 std::string Missing(const std::string& kind, std::uint64_t first, std::uint64_t last) {
   const std::string text = kind + ' ' + std::to_string(first);
@@ -21,7 +19,7 @@ std::string Missing(const std::string& kind, std::uint64_t first, std::uint64_t 
 /// \param groups the groups of one kind in one group, by number
 void CheckNumbers(EVifLocation kind, const std::map<std::uint64_t, const FoundField*>& groups, Findings& findings) {
   const std::string name = GetVifLocInfo(kind).name;
-  std::uint64_t expected = FirstNumber(kind);
+  std::uint64_t expected = GetVifLocFirstIndex(kind);
   for (const auto& [number, found] : groups) {
     if (number == CVIFField::INDEX_NOT_SPECIFIED) continue;
     if (number < expected) {

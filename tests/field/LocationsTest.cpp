@@ -1,5 +1,7 @@
 #include "VIFLocations.h"
 
+#include "VIFFieldDefs.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
@@ -125,6 +127,64 @@ TEST(GetVifLocInfo, AnswersManyThreadsAtOnce) {
   ASSERT_EQ(seen[0].size(), 15U);
   EXPECT_STREQ(seen[0][8]->name, "SrcPdo");
   for (const std::vector<const VifLocTypeInfo*>& mine : seen) EXPECT_EQ(mine, seen[0]);
+}
+
+std::string_view PathOf(std::int32_t value) {
+  std::string_view xpath = Info(value).xpath;
+  xpath.remove_suffix(1);
+  return xpath;
+}
+
+/// The innermost group around a location's, by the paths of their elements; the VIF, which is around all, takes no
+/// slot.
+std::int32_t InnermostGroupAround(std::int32_t value) {
+  std::int32_t innermost = eVifLocUnset;
+  std::size_t longest = 0;
+  for (std::int32_t other = eVifLocVif + 1; other <= eVifLocCableSvidMode; ++other) {
+    const std::string path = std::string(PathOf(other)) + '/';
+    if (PathOf(value).starts_with(path) && path.size() > longest) {
+      innermost = other;
+      longest = path.size();
+    }
+  }
+  return innermost;
+}
+
+TEST(GetVifLocParent, IsTheGroupAroundByThePaths) {
+  for (std::int32_t value = 1; value <= 12; ++value) {
+    EXPECT_EQ(GetVifLocParent(static_cast<EVifLocation>(value)), InnermostGroupAround(value)) << value;
+  }
+}
+
+TEST(GetVifLocParent, IsTheLocationInTheSlotBefore) {
+  for (const VifFieldDef& definition : VifFieldDefs::GetVifFieldDefs()) {
+    EVifLocation before = eVifLocUnset;
+    for (const EVifLocation location : definition.locations) {
+      if (location == eVifLocUnset) break;
+      EXPECT_EQ(GetVifLocParent(location), before);
+      before = location;
+    }
+  }
+}
+
+TEST(GetVifLocParent, IsUnsetForAnyOtherValue) {
+  for (const std::int32_t value : {0, 13, -1}) {
+    EXPECT_EQ(GetVifLocParent(static_cast<EVifLocation>(value)), eVifLocUnset) << value;
+  }
+}
+
+TEST(GetVifLocFirstIndex, IsZeroForProductsAndRoutersAndOneForOtherNumberedGroups) {
+  for (const EVifLocation location : {eVifLocProduct, eVifLocRouter}) EXPECT_EQ(GetVifLocFirstIndex(location), 0U);
+  for (const EVifLocation location : {eVifLocRouterPcie, eVifLocComponent, eVifLocSrcPdo, eVifLocSnkPdo, eVifLocSopSvid,
+                                      eVifLocSopSvidMode, eVifLocCableSvid, eVifLocCableSvidMode}) {
+    EXPECT_EQ(GetVifLocFirstIndex(location), 1U) << location;
+  }
+}
+
+TEST(GetVifLocFirstIndex, IsZeroWhereNothingIsCounted) {
+  for (const std::int32_t value : {0, 1, 2, 13, -1}) {
+    EXPECT_EQ(GetVifLocFirstIndex(static_cast<EVifLocation>(value)), 0U) << value;
+  }
 }
 
 }  // namespace

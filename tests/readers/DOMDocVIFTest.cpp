@@ -154,6 +154,18 @@ TEST_F(DOMDocVIFTest, BooleanFieldsHaveBooleans) {
   }
 }
 
+// Some descriptions of the format have it as a code from 0 to 6, others as a boolean, so files may have either.
+TEST_F(DOMDocVIFTest, PowerThatAnAdapterNeedsFromVconnIsABooleanOrACode) {
+  for (const char* value : {"true", "false", "0", "1", "2", "6", " 3 "}) {
+    EXPECT_TRUE(Validate("<vif:AMA_VCONN_Power value='" + std::string(value) + "'/>")) << value;
+  }
+  for (const char* value : {"", "1.5", "1 W", "YES"}) {
+    SCOPED_TRACE(value);
+    EXPECT_FALSE(Validate("<vif:AMA_VCONN_Power value='" + std::string(value) + "'/>"));
+    ExpectBadElements(testing::Each("vif:AMA_VCONN_Power"));
+  }
+}
+
 TEST_F(DOMDocVIFTest, FieldsNeedNoValueAndMayHaveAnyText) {
   EXPECT_TRUE(Validate("<vif:Connector_Type>any text</vif:Connector_Type><vif:USB4_Supported/><vif:TID value='x'/>"));
 }

@@ -12,6 +12,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <exception>
 #include <filesystem>
 #include <new>
 #include <stdexcept>
@@ -27,6 +28,12 @@ using testsupport::TempDir;
 
 constexpr TEST_STATUS kDone = 1;
 constexpr TEST_STATUS kRefused = 0x40000000;
+
+/// A host's exception whose text is null, which nothing forbids.
+class WordlessError : public std::exception {
+ public:
+  const char* what() const noexcept override { return nullptr; }
+};
 
 /// The only field of that name.
 CVIFField Only(const CVendorInfoFile& vif, const char* name) {
@@ -285,6 +292,19 @@ TEST_F(TestSuiteVifTest, AnythingElseIsAnUnknownError) {
   EXPECT_EQ(m_host.log.Lines()[1], "4000000 L Unexpected error creating " + path + ": <unknown error>.");
 }
 
+TEST_F(TestSuiteVifTest, ExceptionWithoutATextIsAnUnknownError) {
+  const std::string path = Choose("a.txt", "PID: 1\n");
+  m_host.log.onLine = [&](std::size_t line) {
+    if (line != 2) return;
+    m_host.log.onLine = nullptr;
+    throw WordlessError();
+  };
+  EXPECT_EQ(m_host.Initialize(), kDone);
+  EXPECT_EQ(CAppState::TestSuiteVIF(), nullptr);
+  ASSERT_EQ(m_host.log.Lines().size(), 2u);
+  EXPECT_EQ(m_host.log.Lines()[1], "4000000 L Unexpected error creating " + path + ": <unknown error>.");
+}
+
 TEST_F(TestSuiteVifTest, OutOfMemoryReachesTheHost) {
   Choose("a.txt", "PID: 1\n");
   m_host.log.onLine = [](std::size_t line) {
@@ -372,6 +392,18 @@ TEST_F(TestSuiteVifTest, LogThatThrowsDoesNotKeepTheVif) {
   EXPECT_EQ(CAppState::TestSuiteVIF(), nullptr);
   ASSERT_EQ(m_host.log.Lines().size(), 3u);
   EXPECT_EQ(m_host.log.Lines()[2], "4000000 L Unexpected error deleting " + path + ": disk full.");
+}
+
+TEST_F(TestSuiteVifTest, CleanupLogsAnExceptionWithoutATextAsUnknown) {
+  const std::string path = Choose("a.txt", "PID: 1\n");
+  m_host.Initialize();
+  m_host.log.onLine = [&](std::size_t) {
+    m_host.log.onLine = nullptr;
+    throw WordlessError();
+  };
+  EXPECT_EQ(m_host.Cleanup(), kDone);
+  ASSERT_EQ(m_host.log.Lines().size(), 3u);
+  EXPECT_EQ(m_host.log.Lines()[2], "4000000 L Unexpected error deleting " + path + ": <unknown>.");
 }
 
 TEST_F(TestSuiteVifTest, AnythingElseThatCleanupMeetsIsUnknown) {

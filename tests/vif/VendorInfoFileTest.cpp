@@ -204,6 +204,21 @@ TEST_F(VendorInfoFileTest, ObjectMayBeAppendedItsOwnFields) {
   EXPECT_THAT(Texts(vif), ElementsAre("USB_VID=1 @6.1", "A=2", "USB_VID=1 @6.1", "A=2"));
 }
 
+TEST_F(VendorInfoFileTest, ObjectMayBeAppendedTheVeryListThatItHolds) {
+  CVendorInfoFile vif(m_first);
+  vif.Append(vif.Fields());
+  vif.Append(vif.Fields());
+  std::vector<std::string> expected;
+  for (int i = 0; i < 4; ++i) expected.insert(expected.end(), {"USB_VID=1 @6.1", "A=2"});
+  EXPECT_EQ(Texts(vif), expected);
+}
+
+TEST_F(VendorInfoFileTest, EmptyObjectMayBeAppendedItsOwnList) {
+  CVendorInfoFile vif;
+  vif.Append(vif.Fields());
+  EXPECT_EQ(vif.Count(), 0U);
+}
+
 TEST_F(VendorInfoFileTest, AppendedFieldsGiveNoNameAndNoComponent) {
   CVendorInfoFile vif(std::vector<CVIFField>{Field("X")});
   AppendFile(vif, m_first);
