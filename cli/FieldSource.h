@@ -24,9 +24,9 @@ void ReadFile(const std::string& fileName, const std::function<void()>& read);
 /// The path that a UTF-8 name stands for; outside Windows its bytes are taken as they are.
 std::filesystem::path PathOf(const std::string& fileName);
 
-/// The line from which on a file cannot be read, whatever it holds; nothing when all of it can be. Nothing but a
-/// regular file is opened, whatever has the name by now, and nothing is waited for. \throws CZoRunTimeException when it
-/// cannot be opened
+/// The line from which on a file cannot be read, whatever it holds; nothing when all of it can be. Only a regular file
+/// is opened, even if another one has the name by now, so there is no waiting.
+/// \throws CZoRunTimeException when it cannot be opened
 std::optional<std::size_t> FirstUnreadableLine(const std::filesystem::path& path);
 
 /// Whether a path has that extension, which is given in small letters, in any letter case.

@@ -25,9 +25,7 @@ install(FILES
   host/msxml/ComPointer.h
   host/msxml/MsXml.h
   DESTINATION "${header_dir}/msxml")
-install(FILES LICENSE README.md CHANGELOG.md DESTINATION "${CMAKE_INSTALL_DOCDIR}")
-install(DIRECTORY examples/vif/ DESTINATION "${CMAKE_INSTALL_DATADIR}/vendorinfofile/examples"
-  FILES_MATCHING PATTERN "*.txt" PATTERN "*.xml")
+include(InstallDocuments)
 
 install(EXPORT VendorInfoFileTargets NAMESPACE VendorInfoFile:: DESTINATION "${package_dir}")
 configure_package_config_file(cmake/VendorInfoFileConfig.cmake.in

@@ -42,14 +42,25 @@ class VIF_API CVendorInfoFile {
   /// cannot read on ends there, and nobody is told; `CheckTextVif` tells.
   /// \param fieldDefs the definitions that the names of text VIFs are resolved through, here and in later appends;
   ///   borrowed, so it must outlive the object and its copies. Null means the built-in table.
-  /// \throws CZoRunTimeException "VIF Does not exist. (name: <path>)",
+  ///
+  /// Everything that loading throws is a `std::exception`.
+  /// \throws CZoRunTimeException (BaseUtilities/Exceptions.h) "VIF Does not exist. (name: <path>)",
   ///   "Invalid file type for VIF!  Must be text (*.txt) or XML (*.xml)",
   ///   "Couldn't open Vendor Info File: <path>.", which anything but a regular file gives too,
   ///   "I/O read failure on Vendor Info File <path>: <reason>",
   ///   "Internal error - Unknown EVifLocation: <value>" (see `VifFieldDef::locations`),
+  ///   "Invalid node depth: groupLists should only be nested 3 levels deep.",
   ///   or the text of a regular expression's error, which only definitions of the caller's own can cause
-  /// \throws std::filesystem::filesystem_error when the file cannot be found out about for another reason than
-  ///   that it is not there
+  /// \throws CVIFInvalidFile (VIFInvalidFile.h), which is a CZoRunTimeException and has the reasons,
+  ///   "<path> is not a valid Vendor Info File." when an XML file is not
+  /// \throws CZoDOMDocException (BaseUtilities/Exceptions.h) for an XML file: "Couldn't load the schema <file>: <reason>"
+  ///   when a schema is missing or broken; "Unexpected list element name: <name>" and
+  ///   "ERROR:  Couldn't get node name.\r\n" when other schemas let through what the library cannot read;
+  ///   "Vendor Info File Create Exception (file name: "<path>") - <reason>" when a call on the document fails,
+  ///   as all do on Windows where COM is not initialised
+  /// \throws std::filesystem::filesystem_error when it cannot be found out whether the file exists: its name has too many
+  ///   characters, or a directory of its path may not be searched
+  /// \throws std::bad_alloc
   CVendorInfoFile(const std::filesystem::path& fileName, std::vector<VifFieldDef>* fieldDefs = nullptr);
   CVendorInfoFile(std::nullptr_t, std::vector<VifFieldDef>* fieldDefs = nullptr);
 
@@ -73,7 +84,8 @@ class VIF_API CVendorInfoFile {
   /// Loads a further file behind the fields already held, with the definitions given at construction. The object
   /// takes the file's name if it has none yet. After a failure what was read before it stays.
   /// \param fileName UTF-8; outside Windows any bytes that name a file. Null or empty does nothing.
-  /// \throws as the constructor from a path does
+  /// \throws as the constructor from a path does, but for one: when a call on an XML document fails, `_com_error` with the
+  ///   result of that call (<comdef.h> on Windows, msxml/ComError.h elsewhere), which is not a `std::exception`
   void Append(const char* fileName);
 
   /// Appends copies of the given fields, which may be this object's own `Fields()`. The file name and the component

@@ -162,5 +162,13 @@ EOF
         fail "$library has symbols of another version than $abi"
     done
     ;;
+  LinksOfDocumentsLead)
+    mapfile -t installed < <(find "$PREFIX/share/doc" -name '*.md')
+    [ ${#installed[@]} -ge 9 ] || fail "only ${#installed[@]} documents are installed"
+    python3 -B "$here/broken_links.py" "${installed[@]}" || fail 'the above links of installed documents lead nowhere'
+    mapfile -t sources < <(cd "$here/../.." && find . -name '*.md' -not -path './build*' -not -path './.git/*')
+    (cd "$here/../.." && python3 -B tests/package/broken_links.py "${sources[@]}") ||
+      fail 'the above links of the sources lead nowhere'
+    ;;
   *) fail "no check is called $1" ;;
 esac
