@@ -3,6 +3,7 @@
 set -euo pipefail
 
 here=$(cd "$(dirname "$0")" && pwd)
+sources=$(cd "$here/../.." && pwd)
 lib=$PREFIX/$LIBDIR
 headers=$PREFIX/include/vendorinfofile
 work=$WORK/$1
@@ -43,6 +44,9 @@ exported_by() {
 # Compiles with the installed headers; links too when told where to.
 compile() { "$CXX" -std=c++20 -Wall -Wextra -Werror "${flags[@]}" -I"$headers" "$@"; }
 link=("-L$lib" -lVendorInfoFile -lVendorInfoFileHost "-Wl,-rpath,$lib")
+
+# shellcheck source=tests/package/samples.sh
+. "$here/samples.sh"
 
 # Prints a source that includes every installed header.
 include_all() { (cd "$headers" && find . -name '*.h' -printf '#include <%P>\n') | LC_ALL=C sort; }
@@ -162,12 +166,53 @@ EOF
         fail "$library has symbols of another version than $abi"
     done
     ;;
+  PartOfAnotherProject)
+    with=(-DCMAKE_CXX_COMPILER="$CXX")
+    [ -z "$TOOLCHAIN" ] || with=(--toolchain "$TOOLCHAIN")
+    extract_samples
+    mkdir "$work/parent"
+    cp "$here/parent/CMakeLists.txt" "$work/parent"
+    cp "$CONSUMER/consumer.cpp" "$work/parent/my_tests.cpp"
+    cp "$(sample_with cmake 'add_subdirectory(VendorInfoFile)')" "$work/parent/sample.cmake"
+    ln -s "$sources" "$work/parent/VendorInfoFile"
+    # The flags are a distributor's.
+    cmake -S "$work/parent" -B "$work/build" -G Ninja "${with[@]}" -DCMAKE_COMPILE_WARNING_AS_ERROR=ON \
+      -DCMAKE_CXX_FLAGS="${flags[*]} -O1 -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3"
+    cmake --build "$work/build"
+    [ -n "$EMULATOR" ] || check_consumer "$work/build/my_tests$EXE"
+    cmake --install "$work/build" --prefix "$work/prefix"
+    installed=$(cd "$work/prefix" && find . -type f)
+    [ "$installed" = "./bin/my_tests$EXE" ] || fail "this was installed without being asked for: $installed"
+    ;;
+  FortifiedAsTheFlagsSay)
+    [ -z "$EMULATOR" ] || { echo 'SKIPPED: Windows has no such calls'; exit; }
+    [ -z "$SANITIZE" ] || { echo 'SKIPPED: the sanitizers watch these calls'; exit; }
+    # Expects a level of _FORTIFY_SOURCE in a source of the library, as a project with these flags compiles it.
+    expect_level() {
+      cmake -S "$sources" -B "$work/build" -G Ninja --fresh -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_CXX_FLAGS="$2" \
+        -DCMAKE_BUILD_TYPE="$3" -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >"$work/log.txt" || fail "cannot configure with $2"
+      local command level
+      command=$(grep -oP '"command": "\K[^"]*(?= -o )(?=.*/field/VIFField\.cpp")' \
+        <(sed 's/\\"/'"'"'/g' "$work/build/compile_commands.json")) || fail 'no command compiles VIFField.cpp'
+      level=$(cd "$work/build" && eval "$command -E -dM '$sources/field/VIFField.cpp'" |
+        sed -n 's/^#define _FORTIFY_SOURCE //p')
+      [ "$level" = "$1" ] || fail "with '$2' and build type '$3' the level is '$level', not '$1'"
+    }
+    none="$("$CXX" -O1 -E -dM -x c++ - </dev/null | sed -n 's/^#define _FORTIFY_SOURCE //p')"
+    expect_level "${none:-2}" '' Release
+    expect_level "${none:-2}" '' ''  # Release, for want of another
+    expect_level '' '' Debug
+    expect_level 3 '-D_FORTIFY_SOURCE=3' Release
+    expect_level 1 '-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=1' Release
+    expect_level '' '-U_FORTIFY_SOURCE' Release
+    ;;
+  DocumentedSamples) check_samples ;;
   LinksOfDocumentsLead)
     mapfile -t installed < <(find "$PREFIX/share/doc" -name '*.md')
     [ ${#installed[@]} -ge 9 ] || fail "only ${#installed[@]} documents are installed"
     python3 -B "$here/broken_links.py" "${installed[@]}" || fail 'the above links of installed documents lead nowhere'
-    mapfile -t sources < <(cd "$here/../.." && find . -name '*.md' -not -path './build*' -not -path './.git/*')
-    (cd "$here/../.." && python3 -B tests/package/broken_links.py "${sources[@]}") ||
+    mapfile -t documents < <(find "$sources" -name '*.md' -not -path "$sources/build/*")
+    python3 -B "$here/broken_links.py" "${documents[@]}" ||
       fail 'the above links of the sources lead nowhere'
     ;;
   *) fail "no check is called $1" ;;
