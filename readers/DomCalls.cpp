@@ -1,7 +1,7 @@
 #include "DomCalls.h"
 
 #include "BaseUtilities/StringConvert.h"
-#include "SystemText.h"
+#include "BaseUtilities/SystemText.h"
 
 namespace vif {
 
@@ -32,7 +32,7 @@ DOMNodePtr Item(IXMLDOMNodeList& nodes, LONG index) {
 std::string LocalName(IXMLDOMNode& node) {
   CBstr name;
   RequireSuccess(node.get_baseName(name.Receive()), node, IID_IXMLDOMNode);
-  return SystemText(name.View());
+  return WideToSystem(name.View());
 }
 
 std::string Namespace(IXMLDOMNode& node) {
@@ -44,7 +44,7 @@ std::string Namespace(IXMLDOMNode& node) {
 std::string Text(IXMLDOMNode& node) {
   CBstr text;
   RequireSuccess(node.get_text(text.Receive()), node, IID_IXMLDOMNode);
-  return SystemText(text.View());
+  return WideToSystem(text.View());
 }
 
 std::optional<std::string> Attribute(IXMLDOMNode& element, const CBstr& name) {

@@ -4,4 +4,4 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run --Werror
-! git grep -nE '//.*[^ /].*\\(param|return|throws) ' -- '*.h' '*.cpp'
+! git grep -nE '//.*[^ /].*\\(param|return|throws)( |$)' -- '*.h' '*.cpp'

@@ -1,8 +1,8 @@
 #include "VIFImpl.h"
 
+#include "BaseUtilities/PathText.h"
 #include "BaseUtilities/StringConvert.h"
 #include "Errors.h"
-#include "PathText.h"
 #include "TextReader.h"
 #include "XmlReader.h"
 
@@ -18,7 +18,7 @@ void RequireExistence(const std::filesystem::path& fileName) {
   std::error_code error;
   const std::filesystem::file_status status = std::filesystem::status(fileName, error);
   if (status.type() == std::filesystem::file_type::not_found) {
-    vif::ThrowRunTimeError("VIF Does not exist. (name: %s)", vif::NarrowPathText(fileName));
+    vif::ThrowRunTimeError("VIF Does not exist. (name: %s)", PathToSystem(fileName));
   }
   if (!std::filesystem::status_known(status)) throw std::filesystem::filesystem_error("exists", fileName, error);
 }
@@ -26,7 +26,7 @@ void RequireExistence(const std::filesystem::path& fileName) {
 FileType DetermineFileType(const std::filesystem::path& fileName) {
   if (fileName.empty()) return FileType::None;
   RequireExistence(fileName);
-  std::string extension = vif::NarrowPathText(fileName.extension());
+  std::string extension = PathToSystem(fileName.extension());
   ToLower(extension);
   if (extension == ".txt") return FileType::Text;
   if (extension == ".xml") return FileType::Xml;
@@ -36,7 +36,7 @@ FileType DetermineFileType(const std::filesystem::path& fileName) {
 }  // namespace
 
 CVIFImpl::CVIFImpl(const std::filesystem::path& fileName, std::vector<VifFieldDef>* fieldDefs)
-    : m_fieldDefs(fieldDefs), m_fileName(vif::WidePathText(fileName)) {
+    : m_fieldDefs(fieldDefs), m_fileName(PathToWide(fileName)) {
   Append(fileName);
 }
 
@@ -48,7 +48,7 @@ void CVIFImpl::Append(const std::filesystem::path& fileName) {
     case FileType::Other: vif::ThrowRunTimeError("Invalid file type for VIF!  Must be text (*.txt) or XML (*.xml)");
     default: vif::ThrowRunTimeError("%s: Internal error: unknown file type %u.", "CVIFImpl::Append", type);
   }
-  if (m_fileName.empty()) m_fileName = vif::WidePathText(fileName);
+  if (m_fileName.empty()) m_fileName = PathToWide(fileName);
 }
 
 void CVIFImpl::Append(const std::vector<CVIFField>& fields) {

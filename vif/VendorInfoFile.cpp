@@ -1,7 +1,7 @@
 #include "VendorInfoFile.h"
 
+#include "BaseUtilities/PathText.h"
 #include "Errors.h"
-#include "PathText.h"
 #include "VIFImpl.h"
 #include "msxml/ComPointer.h"
 
@@ -15,8 +15,7 @@ namespace {
   CSimpleBuffer reason;
   const auto* text = error.ErrorMessage();
   if (text == nullptr) text = reason.Printf(L"COM Error Code 0x%08X", error.Error());
-  vif::ThrowDomDocError(R"(Vendor Info File Create Exception (file name: "%ls") - %ls)", vif::WidePathText(fileName),
-                        text);
+  vif::ThrowDomDocError(R"(Vendor Info File Create Exception (file name: "%ls") - %ls)", PathToWide(fileName), text);
 }
 
 }  // namespace
@@ -39,7 +38,7 @@ CVendorInfoFile::CVendorInfoFile(CVendorInfoFile&& other) noexcept : m_impl(std:
 
 CVendorInfoFile& CVendorInfoFile::operator=(const CVendorInfoFile& other) {
   if (this == &other) return *this;
-  // Copied before anything is given up, so that a copy that fails costs nothing.
+  // Copy before letting go of anything, so that a failed copy changes nothing.
   CVIFImpl* copy = other.m_impl != nullptr ? new CVIFImpl(*other.m_impl) : nullptr;
   delete std::exchange(m_impl, copy);
   return *this;
@@ -62,13 +61,15 @@ const std::vector<CVIFField>& CVendorInfoFile::Fields() const noexcept {
   return m_impl != nullptr ? m_impl->Fields() : none;
 }
 
-void CVendorInfoFile::Append(const char* fileName) { Content().Append(vif::PathFromUtf8(fileName)); }
+void CVendorInfoFile::Append(const char* fileName) {
+  Content().Append(PathFromUtf8(fileName != nullptr ? fileName : ""));
+}
 
 void CVendorInfoFile::Append(const std::vector<CVIFField>& fields) {
   try {
     Content().Append(fields);
   } catch (...) {
-    // Kept as it has always been: a list that cannot be appended in full takes the fields held before with it.
+    // Deliberate: hosts expect an object to be empty after a list could not be appended in full.
     delete std::exchange(m_impl, nullptr);
     throw;
   }

@@ -1,9 +1,9 @@
 #include "HostLog.h"
 
-#include "FileNames.h"
 #include "Printable.h"
 #include "Status.h"
 
+#include <BaseUtilities/PathText.h>
 #include <BaseUtilities/StringConvert.h>
 
 #include <array>
@@ -38,7 +38,7 @@ std::string StatusText(TEST_STATUS status) {
 
 }  // namespace
 
-CHostLog::CHostLog(const std::string& file) : m_file(PathOf(file), std::ios::app | std::ios::binary) {
+CHostLog::CHostLog(const std::string& file) : m_file(PathFromUtf8(file), std::ios::app | std::ios::binary) {
   if (!m_file) throw std::runtime_error("Cannot write to the log " + file);
 }
 

@@ -11,7 +11,6 @@
 //
 // They meet in CAppState. It must exist once in the process: so all three use the one shared library that has it.
 #include "Console.h"
-#include "FileNames.h"
 #include "HostLog.h"
 #include "Options.h"
 #include "Printable.h"
@@ -21,6 +20,7 @@
 #include "VifSession.h"
 #include "suite/ComplianceSuite.h"
 
+#include <BaseUtilities/PathText.h>
 #include <msxml/ComApartment.h>
 
 #include <exception>
@@ -35,8 +35,8 @@ using namespace host;
 enum ExitStatus { kNothingFailed = 0, kChecksFailed = 1, kCouldNotRun = 2 };
 
 std::unique_ptr<CTUUserInput> MakeUserInput(const Options& options) {
-  if (!options.vif.empty()) return std::make_unique<CGivenFile>(PathOf(options.vif));
-  return std::make_unique<CTerminalInput>(PathOf(options.directory.empty() ? "." : options.directory));
+  if (!options.vif.empty()) return std::make_unique<CGivenFile>(PathFromUtf8(options.vif));
+  return std::make_unique<CTerminalInput>(PathFromUtf8(options.directory.empty() ? "." : options.directory));
 }
 
 /// The whole of a run, in the order in which things must be there; they go in the opposite order. The library comes

@@ -1,6 +1,6 @@
 #include "Options.h"
 
-#include "FileNames.h"
+#include <BaseUtilities/PathText.h>
 
 #include <filesystem>
 #include <string_view>
@@ -36,7 +36,7 @@ void Check(const Options& options) {
   if (options.directory.empty()) return;
   if (!options.vif.empty()) throw CUsageError("with --vif nobody is asked: give no directory");
   std::error_code ignored;
-  if (!std::filesystem::is_directory(PathOf(options.directory), ignored)) {
+  if (!std::filesystem::is_directory(PathFromUtf8(options.directory), ignored)) {
     throw CUsageError("there is no directory " + options.directory);
   }
 }

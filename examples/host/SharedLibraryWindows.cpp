@@ -1,6 +1,6 @@
-#include "FileNames.h"
 #include "SharedLibrary.h"
 
+#include <BaseUtilities/PathText.h>
 #include <windows.h>
 
 #include <system_error>
@@ -10,7 +10,7 @@ namespace host {
 namespace {
 
 // A bare name is looked for beside the program first.
-void* Load(const std::string& file) { return LoadLibraryW(PathOf(file).make_preferred().c_str()); }
+void* Load(const std::string& file) { return LoadLibraryW(PathFromUtf8(file).make_preferred().c_str()); }
 
 }  // namespace
 

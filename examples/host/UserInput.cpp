@@ -1,10 +1,10 @@
 #include "UserInput.h"
 
 #include "Console.h"
-#include "FileNames.h"
 #include "Printable.h"
 #include "VifDirectory.h"
 
+#include <BaseUtilities/PathText.h>
 #include <BaseUtilities/StringConvert.h>
 #include <TestUtilities/AppState.h>
 #include <ZorvenLog/TestSuiteLog.h>
@@ -26,7 +26,7 @@ using Files = std::vector<std::filesystem::path>;
 bool Record(const std::filesystem::path& file) {
   CTestSuiteLog* suiteLog = CAppState::TestSuiteLog();
   if (suiteLog == nullptr) return false;
-  suiteLog->SetVifFileName(CSafeString(NameOf(file)));
+  suiteLog->SetVifFileName(CSafeString(PathToUtf8(file)));
   return true;
 }
 
@@ -47,7 +47,7 @@ std::optional<std::filesystem::path> FileOfNumber(const std::string& answer, con
 }
 
 std::optional<std::filesystem::path> FileOfPath(const std::string& answer) {
-  std::filesystem::path file = PathOf(answer);
+  std::filesystem::path file = PathFromUtf8(answer);
   std::error_code ignored;
   if (!std::filesystem::is_regular_file(file, ignored)) {
     std::cout << "There is no file " << Printable(answer) << ".\n";
@@ -64,14 +64,14 @@ std::optional<std::filesystem::path> FileOfPath(const std::string& answer) {
 CTerminalInput::CTerminalInput(std::filesystem::path directory) : m_directory(std::move(directory)) {}
 
 void CTerminalInput::ShowList(const Files& files) const {
-  const std::string directory = Printable(NameOf(m_directory));
+  const std::string directory = Printable(PathToUtf8(m_directory));
   if (files.empty()) {
     std::cout << "There are no VIFs in " << directory << ".\n";
     return;
   }
   std::cout << "VIFs in " << directory << ":\n";
   for (std::size_t i = 0; i < files.size(); ++i) {
-    std::cout << "  " << i + 1 << "  " << Printable(NameOf(files[i].filename())) << '\n';
+    std::cout << "  " << i + 1 << "  " << Printable(PathToUtf8(files[i].filename())) << '\n';
   }
 }
 

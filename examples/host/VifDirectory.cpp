@@ -1,7 +1,6 @@
 #include "VifDirectory.h"
 
-#include "FileNames.h"
-
+#include <BaseUtilities/PathText.h>
 #include <BaseUtilities/StringConvert.h>
 
 #include <algorithm>
@@ -11,7 +10,7 @@
 namespace host {
 
 bool HasVifExtension(const std::filesystem::path& file) {
-  std::string extension = NameOf(file.extension());
+  std::string extension = PathToUtf8(file.extension());
   ToLower(extension);
   return extension == ".txt" || extension == ".xml";
 }

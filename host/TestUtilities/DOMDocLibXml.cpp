@@ -1,8 +1,8 @@
 // CDOMDoc where there is no MSXML.
+#include "BaseUtilities/PathText.h"
 #include "BaseUtilities/StringConvert.h"
 #include "TestUtilities/DOMDoc.h"
 #include "TestUtilities/DOMDocReasons.h"
-#include "TestUtilities/WidePath.h"
 #include "msxml/DomDocument.h"
 #include "msxml/ElementPaths.h"
 #include "msxml/SchemaSet.h"
@@ -73,14 +73,14 @@ bool CDOMDoc::Content::Validate(const msxml::CXmlTree& tree) {
 CDOMDoc::CDOMDoc(const std::vector<std::pair<std::wstring, std::wstring>>& schemas)
     : m_content(std::make_unique<Content>()) {
   for (const auto& [file, targetNamespace] : schemas) {
-    m_content->schemas.push_back({WideToPath(file), Utf16ToUtf8(targetNamespace)});
+    m_content->schemas.push_back({PathFromLosslessWide(file), Utf16ToUtf8(targetNamespace)});
   }
 }
 
 CDOMDoc::~CDOMDoc() = default;
 
 bool CDOMDoc::CanLoadDoc(const std::wstring& fileName, const std::wstring& rootName, bool validate) {
-  const std::shared_ptr<const msxml::CXmlTree> tree = m_content->Parse(WideToPath(fileName));
+  const std::shared_ptr<const msxml::CXmlTree> tree = m_content->Parse(PathFromLosslessWide(fileName));
   if (tree == nullptr) return false;
   msxml::CProblems found;
   CheckRoot(*tree, nullptr, Utf16ToUtf8(rootName), found);

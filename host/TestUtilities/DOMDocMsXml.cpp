@@ -1,8 +1,8 @@
 // CDOMDoc over MSXML 6.
+#include "BaseUtilities/PathText.h"
 #include "BaseUtilities/StringConvert.h"
 #include "TestUtilities/DOMDoc.h"
 #include "TestUtilities/DOMDocReasons.h"
-#include "TestUtilities/WidePath.h"
 #include "msxml6/DocumentLoader.h"
 #include "msxml6/ElementPlaces.h"
 #include "msxml6/SchemaCache.h"
@@ -64,7 +64,7 @@ bool CDOMDoc::Content::Validate(IXMLDOMDocument2& loaded, const std::vector<msxm
 CDOMDoc::CDOMDoc(const std::vector<std::pair<std::wstring, std::wstring>>& schemas)
     : m_content(std::make_unique<Content>()) {
   for (const auto& [file, targetNamespace] : schemas) {
-    m_content->schemas.push_back({WideToPath(file), targetNamespace});
+    m_content->schemas.push_back({PathFromLosslessWide(file), targetNamespace});
   }
 }
 
@@ -73,7 +73,7 @@ CDOMDoc::~CDOMDoc() = default;
 bool CDOMDoc::CanLoadDoc(const std::wstring& fileName, const std::wstring& rootName, bool validate) {
   const DOMDocument2Ptr document = msxml6::MakeDocument();
   msxml::CProblems found;
-  const auto tags = msxml6::LoadFile(*document, WideToPath(fileName), found);
+  const auto tags = msxml6::LoadFile(*document, PathFromLosslessWide(fileName), found);
   if (tags) CheckRoot(*document, *tags, nullptr, Utf16ToUtf8(rootName), found);
   m_content->problems = found.Take();
   return m_content->problems.empty() && (!validate || m_content->Validate(*document, *tags));

@@ -1,7 +1,7 @@
 // Where schema files are found.
+#include "BaseUtilities/PathText.h"
 #include "TestUtilities/DOMDoc.h"
 #include "TestUtilities/LibraryDirectory.h"
-#include "TestUtilities/WidePath.h"
 
 #include <mutex>
 #include <system_error>
@@ -36,12 +36,12 @@ std::vector<std::filesystem::path> Directories() {
 
 std::wstring CDOMDoc::MakeFullSchemaPath(const wchar_t* fileName) {
   const std::vector<std::filesystem::path> directories = Directories();
-  const std::filesystem::path name = WideToPath(fileName != nullptr ? fileName : L"");
+  const std::filesystem::path name = PathFromLosslessWide(fileName != nullptr ? fileName : L"");
   for (const std::filesystem::path& directory : directories) {
     std::error_code ignored;
-    if (std::filesystem::exists(directory / name, ignored)) return PathToWide(directory / name);
+    if (std::filesystem::exists(directory / name, ignored)) return PathToLosslessWide(directory / name);
   }
-  return PathToWide(directories.front() / name);
+  return PathToLosslessWide(directories.front() / name);
 }
 
 void CDOMDoc::SetSchemaDirectory(const std::filesystem::path& directory) {

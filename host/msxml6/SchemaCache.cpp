@@ -1,8 +1,8 @@
 #include "msxml6/SchemaCache.h"
 
+#include "BaseUtilities/PathText.h"
 #include "BaseUtilities/StringConvert.h"
 #include "TestUtilities/DOMDocReasons.h"
-#include "TestUtilities/WidePath.h"
 #include "msxml6/DocumentLoader.h"
 #include "msxml6/MsXmlIds.h"
 
@@ -45,7 +45,7 @@ bool RefersToFiles(IXMLDOMDocument2& schema) {
 DOMDocument2Ptr LoadSchema(const SchemaSource& source) {
   DOMDocument2Ptr schema = MakeDocument();
   msxml::CProblems problems;
-  const std::string file = Utf16ToUtf8(PathToWide(source.file));
+  const std::string file = Utf16ToUtf8(PathToLosslessWide(source.file));
   if (!LoadFile(*schema, source.file, problems)) ThrowSchemaError(file, problems.Take().front());
   RequireNamespace(file, Utf16ToUtf8(TargetNamespace(*schema)), Utf16ToUtf8(source.targetNamespace));
   if (RefersToFiles(*schema)) ThrowSchemaError(file + ": it has parts in other files, which is not supported here");
@@ -71,7 +71,7 @@ SchemaCollectionPtr LoadSchemas(const std::vector<SchemaSource>& sources) {
     const CBstr uri(source.targetNamespace);
     SetErrorInfo(0, nullptr);  // what failed before is of no interest
     if (FAILED(schemas->add(uri.get(), ObjectVariant(*schema.GetInterfacePtr())))) {
-      ThrowSchemaError(Utf16ToUtf8(PathToWide(source.file)) + ": " + LastErrorText());
+      ThrowSchemaError(Utf16ToUtf8(PathToLosslessWide(source.file)) + ": " + LastErrorText());
     }
   }
   return schemas;
