@@ -11,7 +11,7 @@ build_packages=(g++ cmake ninja-build libcli11-dev libxml2-dev nlohmann-json3-de
 test_packages=(libgtest-dev libgmock-dev pkg-config python3)
 check_packages=(clang cppcheck clang-format clang-tidy libclang-rt-14-dev llvm)
 windows_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest libcli11-dev nlohmann-json3-dev wine wine64)
-package_packages=(dpkg-dev file unzip zip)
+package_packages=(dpkg-dev file python3 unzip zip)
 bench_packages=(libbenchmark-dev libxml2-utils valgrind)
 
 case "${1:-}" in
