@@ -18,7 +18,7 @@ esac
 if ! command -v apt-get >/dev/null; then
   cat >&2 <<'END'
 ==> This system has no apt: its own packages must provide what is missing.
-    To build: g++ 12 or clang++ 14, CMake 3.25, Ninja, libxml2 2.9.10 with its headers, CLI11, nlohmann-json 3
+    To build: g++ 12 or clang++ 14, CMake 3.25, Ninja, libxml2 2.9.10 with its headers, CLI11, nlohmann-json 3.11
     To test: GoogleTest with GoogleMock, pkg-config, Python 3
     For anything else: what scripts/setup.sh lists by Debian's names
 END
