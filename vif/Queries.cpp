@@ -1,4 +1,4 @@
-// The queries of CVendorInfoFile: each is the one filter with other arguments.
+// The queries of CVendorInfoFile: one filter with different arguments.
 #include "BaseUtilities/StringConvert.h"
 #include "Errors.h"
 #include "FieldQuery.h"
@@ -17,7 +17,7 @@ using vif::QuerySlots;
 
 constexpr const char* kAnyName = nullptr;
 
-/// A wide pattern as the narrow queries take it; null becomes the empty pattern.
+/// A wide pattern as UTF-8; null becomes the empty pattern.
 std::string Narrow(const wchar_t* pattern) { return Utf16ToUtf8(pattern != nullptr ? pattern : L""); }
 
 VifFieldList MakeList(std::vector<CVIFField> fields) {
@@ -26,7 +26,7 @@ VifFieldList MakeList(std::vector<CVIFField> fields) {
   return list;
 }
 
-/// What messages call the object.
+/// The object's name in messages.
 std::string WhereText(const CVendorInfoFile& file) {
   return *file.FileName() != L'\0' ? Utf16ToUtf8(file.FileName()) : "this VIF";
 }
@@ -70,7 +70,8 @@ std::tuple<CVIFField, bool> CVendorInfoFile::GetSingleField(const char* pattern,
   return {*found.first, true};
 }
 
-// The bounds 0 and ComponentCount() - 1 stand as they always have, although components are numbered from 1.
+// Looks at components 0 to ComponentCount() - 1 although they are numbered from 1, so the last one is never found. Test
+// suites rely on what this returns.
 VifFieldList CVendorInfoFile::GetFirstFields(const char* pattern, const VifIndex& index2,
                                              const VifIndex& index3) const {
   const CFieldQuery query(pattern, {CVIFField::UNSPECIFIED_INDEX, index2, index3});
@@ -80,8 +81,8 @@ VifFieldList CVendorInfoFile::GetFirstFields(const char* pattern, const VifIndex
 CVIFField CVendorInfoFile::GetFirstUniqueField(const char* pattern, const VifIndex& index2,
                                                const VifIndex& index3) const {
   const VifFieldList found = GetFirstFields(pattern, index2, index3);
-  // The pattern stands in both places of this message, and finding nothing is another exception than elsewhere:
-  // callers have come to know both.
+  // Unlike the other queries, this one puts the pattern in both places of the message and throws another exception when
+  // it finds nothing. Callers depend on both.
   if (found->size() > 1) ThrowTooMany(found->size(), pattern != nullptr ? pattern : "(null)", pattern);
   if (found->empty()) throw std::out_of_range("invalid vector subscript");
   return found->front();

@@ -14,13 +14,13 @@ class CVIFImpl {
  public:
   CVIFImpl() = default;
 
-  /// Takes the file's name and loads it.
+  /// Remembers the file's name and loads the file.
   CVIFImpl(const std::filesystem::path& fileName, std::vector<VifFieldDef>* fieldDefs);
 
-  /// Loads one file behind the fields held. What was read before a failure stays.
+  /// Loads one file and appends its fields. After a failure, what was read before it stays.
   void Append(const std::filesystem::path& fileName);
 
-  /// Appends copies of the fields; when it fails, some may have been appended.
+  /// Appends copies of the fields. When that fails, some may have been appended.
   void Append(const std::vector<CVIFField>& fields);
 
   const std::vector<CVIFField>& Fields() const { return m_fields; }
