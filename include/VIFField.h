@@ -10,6 +10,10 @@
 #include <cstdint>
 #include <string>
 #include <tuple>
+#include <type_traits>
+
+/// The number of a group: `std::size_t` where that has 64 bits, and 64 bits wide everywhere.
+using VifIndexNumber = std::conditional_t<sizeof(std::size_t) == sizeof(std::uint64_t), std::size_t, std::uint64_t>;
 
 /// One location index: a group of the file and its number, such as (eVifLocSrcPdo, 2) for source PDO 2.
 /// A slot whose location is `eVifLocUnset` is not in use, and its number means nothing.
@@ -32,7 +36,7 @@ class VIF_API CVIFField {
   static constexpr std::size_t MAX_INDEX_DEPTH = 3;
 
   /// In a field: a group without a number. In a query: any number at that location.
-  static constexpr std::size_t INDEX_NOT_SPECIFIED = 0xFFFFFFFFFFFFFFFF;
+  static constexpr VifIndexNumber INDEX_NOT_SPECIFIED = 0xFFFFFFFFFFFFFFFF;
 
   /// A slot that is not in use. In a query: a wildcard, which every field passes.
   static constexpr VifIndex UNSPECIFIED_INDEX = {eVifLocUnset, INDEX_NOT_SPECIFIED};
@@ -103,14 +107,14 @@ class VIF_API CVIFField {
 
   /// The number in the first slot with that location; `INDEX_NOT_SPECIFIED` when there is none, when the slot
   /// has no number, and always for `eVifLocUnset`.
-  std::size_t Index(EVifLocation location) const noexcept;
+  VifIndexNumber Index(EVifLocation location) const noexcept;
 
   /// Whether a slot has that location. For `eVifLocUnset` that means: whether a slot is unused.
   bool HasIndex(EVifLocation location) const noexcept;
 
   /// The component's number minus one, so that the first component is 0. The subtraction is unconditional: a
   /// field outside any component gives 0xFFFFFFFFFFFFFFFE, and component number 0 gives 0xFFFFFFFFFFFFFFFF.
-  std::size_t ComponentIndex() noexcept;
+  VifIndexNumber ComponentIndex() noexcept;
 
   /// The number that the value stands for, `VIF_VALUE_UNSET_64` when the text is no number.
   ///

@@ -193,31 +193,31 @@ class VIF_API CVendorInfoFile {
   // are those written in the names.
 
   /// The fields of a component.
-  VifFieldList GetComponent(std::size_t component) const;
+  VifFieldList GetComponent(VifIndexNumber component) const;
 
   /// The fields of a USB4 router of product 0.
-  VifFieldList GetRouter(std::size_t router) const;
+  VifFieldList GetRouter(VifIndexNumber router) const;
 
   /// The fields of a PCIe endpoint of a USB4 router of product 0.
-  VifFieldList GetPcieEndpointIds(std::size_t router, std::size_t endpoint) const;
+  VifFieldList GetPcieEndpointIds(VifIndexNumber router, VifIndexNumber endpoint) const;
 
   /// The fields of a source PDO.
-  VifFieldList GetSrcPdo(std::size_t component, std::size_t pdo) const;
+  VifFieldList GetSrcPdo(VifIndexNumber component, VifIndexNumber pdo) const;
 
   /// The fields of a sink PDO.
-  VifFieldList GetSnkPdo(std::size_t component, std::size_t pdo) const;
+  VifFieldList GetSnkPdo(VifIndexNumber component, VifIndexNumber pdo) const;
 
   /// The fields of an SOP SVID.
-  VifFieldList GetSopSvid(std::size_t component, std::size_t svid) const;
+  VifFieldList GetSopSvid(VifIndexNumber component, VifIndexNumber svid) const;
 
   /// The fields of a mode of an SOP SVID.
-  VifFieldList GetSopSvidMode(std::size_t component, std::size_t svid, std::size_t mode) const;
+  VifFieldList GetSopSvidMode(VifIndexNumber component, VifIndexNumber svid, VifIndexNumber mode) const;
 
   /// The fields of a cable SVID.
-  VifFieldList GetCableSvid(std::size_t component, std::size_t svid) const;
+  VifFieldList GetCableSvid(VifIndexNumber component, VifIndexNumber svid) const;
 
   /// The fields of a mode of a cable SVID.
-  VifFieldList GetCableSvidMode(std::size_t component, std::size_t svid, std::size_t mode) const;
+  VifFieldList GetCableSvidMode(VifIndexNumber component, VifIndexNumber svid, VifIndexNumber mode) const;
 
  private:
   CVIFImpl& Content();

@@ -33,9 +33,9 @@ FoundFields FindFields(const SearchedFields& searched, CFieldQuery query) {
 std::vector<CVIFField> FirstComponentFields(const std::vector<CVIFField>& fields, std::uint32_t componentCount,
                                             CFieldQuery query) {
   // Sorted by component before a name is looked at: a name in a later component must not be able to fail the query.
-  std::map<std::size_t, std::vector<const CVIFField*>> byComponent;
+  std::map<VifIndexNumber, std::vector<const CVIFField*>> byComponent;
   for (const CVIFField& field : fields) {
-    const std::size_t component = field.Index(eVifLocComponent);
+    const VifIndexNumber component = field.Index(eVifLocComponent);
     if (component < componentCount && query.PassesLocations(field)) byComponent[component].push_back(&field);
   }
   std::vector<CVIFField> passing;

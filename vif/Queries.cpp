@@ -206,47 +206,48 @@ CVIFField CVendorInfoFile::GetFirstUniqueField(std::nullptr_t, const VifIndex& i
 
 // The groups of a file.
 
-VifFieldList CVendorInfoFile::GetComponent(std::size_t component) const {
+VifFieldList CVendorInfoFile::GetComponent(VifIndexNumber component) const {
   return GetFields(kAnyName, VifIndex{eVifLocComponent, component}, CVIFField::UNSPECIFIED_INDEX,
                    CVIFField::UNSPECIFIED_INDEX);
 }
 
-VifFieldList CVendorInfoFile::GetRouter(std::size_t router) const {
+VifFieldList CVendorInfoFile::GetRouter(VifIndexNumber router) const {
   return GetFields(kAnyName, VifIndex{eVifLocProduct, 0}, VifIndex{eVifLocRouter, router},
                    CVIFField::UNSPECIFIED_INDEX);
 }
 
-VifFieldList CVendorInfoFile::GetPcieEndpointIds(std::size_t router, std::size_t endpoint) const {
+VifFieldList CVendorInfoFile::GetPcieEndpointIds(VifIndexNumber router, VifIndexNumber endpoint) const {
   return GetFields(kAnyName, VifIndex{eVifLocProduct, 0}, VifIndex{eVifLocRouter, router},
                    VifIndex{eVifLocRouterPcie, endpoint});
 }
 
-VifFieldList CVendorInfoFile::GetSrcPdo(std::size_t component, std::size_t pdo) const {
+VifFieldList CVendorInfoFile::GetSrcPdo(VifIndexNumber component, VifIndexNumber pdo) const {
   return GetFields(kAnyName, VifIndex{eVifLocComponent, component}, VifIndex{eVifLocSrcPdo, pdo},
                    CVIFField::UNSPECIFIED_INDEX);
 }
 
-VifFieldList CVendorInfoFile::GetSnkPdo(std::size_t component, std::size_t pdo) const {
+VifFieldList CVendorInfoFile::GetSnkPdo(VifIndexNumber component, VifIndexNumber pdo) const {
   return GetFields(kAnyName, VifIndex{eVifLocComponent, component}, VifIndex{eVifLocSnkPdo, pdo},
                    CVIFField::UNSPECIFIED_INDEX);
 }
 
-VifFieldList CVendorInfoFile::GetSopSvid(std::size_t component, std::size_t svid) const {
+VifFieldList CVendorInfoFile::GetSopSvid(VifIndexNumber component, VifIndexNumber svid) const {
   return GetFields(kAnyName, VifIndex{eVifLocComponent, component}, VifIndex{eVifLocSopSvid, svid},
                    CVIFField::UNSPECIFIED_INDEX);
 }
 
-VifFieldList CVendorInfoFile::GetSopSvidMode(std::size_t component, std::size_t svid, std::size_t mode) const {
+VifFieldList CVendorInfoFile::GetSopSvidMode(VifIndexNumber component, VifIndexNumber svid, VifIndexNumber mode) const {
   return GetFields(kAnyName, VifIndex{eVifLocComponent, component}, VifIndex{eVifLocSopSvid, svid},
                    VifIndex{eVifLocSopSvidMode, mode});
 }
 
-VifFieldList CVendorInfoFile::GetCableSvid(std::size_t component, std::size_t svid) const {
+VifFieldList CVendorInfoFile::GetCableSvid(VifIndexNumber component, VifIndexNumber svid) const {
   return GetFields(kAnyName, VifIndex{eVifLocComponent, component}, VifIndex{eVifLocCableSvid, svid},
                    CVIFField::UNSPECIFIED_INDEX);
 }
 
-VifFieldList CVendorInfoFile::GetCableSvidMode(std::size_t component, std::size_t svid, std::size_t mode) const {
+VifFieldList CVendorInfoFile::GetCableSvidMode(VifIndexNumber component, VifIndexNumber svid,
+                                               VifIndexNumber mode) const {
   return GetFields(kAnyName, VifIndex{eVifLocComponent, component}, VifIndex{eVifLocCableSvid, svid},
                    VifIndex{eVifLocCableSvidMode, mode});
 }

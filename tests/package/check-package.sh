@@ -10,8 +10,8 @@ work=$WORK/$1
 rm -rf "$work"
 mkdir -p "$work"
 xml=$PREFIX/share/vendorinfofile/examples/usb4-dock.xml
-flags=()
-[ -z "$SANITIZE" ] || flags=("-fsanitize=$SANITIZE")
+read -ra flags <<<"$FLAGS"
+[ -z "$SANITIZE" ] || flags+=("-fsanitize=$SANITIZE")
 
 fail() { echo "FAILED: $*" >&2; exit 1; }
 
@@ -110,12 +110,13 @@ EOF
   HeadersStandAlone)
     count=0
     while IFS= read -r header; do
-      printf '#include "%s"\n' "$header" >"$work/one.cpp"
-      "$CXX" -std=c++20 -Wall -Wextra -Werror -I"$PREFIX/include/vendorinfofile" -fsyntax-only "$work/one.cpp" ||
-        fail "$header cannot be included alone"
       count=$((count + 1))
+      printf '#include "%s"\n' "$header" >"$work/$count.cpp"
     done < <(cd "$PREFIX/include/vendorinfofile" && find . -name '*.h')
     [ "$count" -ge 9 ] || fail "only $count headers are installed"
+    printf '%s\0' "$work"/*.cpp | xargs -0 -P "$(nproc)" -n 1 \
+      "$CXX" -std=c++20 "${flags[@]}" -Wall -Wextra -Werror -I"$PREFIX/include/vendorinfofile" -fsyntax-only ||
+      fail 'the above cannot be included alone'
     ;;
   NamesLeftToPrograms)
     [ -z "$EMULATOR" ] || { echo 'SKIPPED: COM declares these names itself'; exit; }

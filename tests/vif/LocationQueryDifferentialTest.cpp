@@ -22,7 +22,7 @@ using testsupport::RandomBelow;
 
 using Slots = std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>;
 
-constexpr std::size_t kAny = CVIFField::INDEX_NOT_SPECIFIED;
+constexpr VifIndexNumber kAny = CVIFField::INDEX_NOT_SPECIFIED;
 
 class CGenerator {
  public:

@@ -43,7 +43,7 @@ using testsupport::Slots;
 using testsupport::TempDir;
 
 constexpr VifIndex kUnused = CVIFField::UNSPECIFIED_INDEX;
-constexpr std::size_t kAny = CVIFField::INDEX_NOT_SPECIFIED;
+constexpr VifIndexNumber kAny = CVIFField::INDEX_NOT_SPECIFIED;
 constexpr Slots kAnywhere = {kUnused, kUnused, kUnused};
 const char* const kNoNarrow = nullptr;
 const wchar_t* const kNoWide = nullptr;
@@ -996,7 +996,7 @@ TEST(Queries, LeaveTheObjectUnchanged) {
   const std::vector<std::string> fields = Texts(vif.GetFields());
   const std::wstring fileName = vif.FileName();
   for (const char* pattern : {"", "a", "b", ".*", "None", "("}) OutcomesOfAllQueries(vif, pattern, kAnywhere);
-  for (const std::size_t number : {std::size_t{0}, std::size_t{1}, kAny}) {
+  for (const VifIndexNumber number : {VifIndexNumber{0}, VifIndexNumber{1}, kAny}) {
     vif.GetComponent(number);
     vif.GetRouter(number);
     vif.GetSrcPdo(number, number);
