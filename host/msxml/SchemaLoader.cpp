@@ -78,7 +78,8 @@ xmlParserInputPtr CSchemaLoader::Load(const char* url, const char* id, xmlParser
 void CSchemaLoader::ReportError(void*, xmlErrorPtr error) {
   if (g_loader == nullptr) return;
   if (error->code == XML_ERR_NO_MEMORY) g_loader->m_isOutOfMemory = true;
-  if (error->level == XML_ERR_WARNING || error->message == nullptr) return;
+  // A namespace is a name, whether or not it has the form of a URI.
+  if (error->level == XML_ERR_WARNING || error->code == XML_WAR_NS_URI || error->message == nullptr) return;
   try {
     // What libxml2 says of a file that it could not read to its end is that it ends too early.
     const bool isUnread = !g_loader->m_open.empty() && g_loader->m_open.back().HasFailed();
