@@ -53,7 +53,7 @@ std::filesystem::path FileOf(std::string_view url) {
 
 }  // namespace
 
-CSchemaLoader::CSchemaLoader() {
+CSchemaLoader::CSchemaLoader(std::map<std::string, std::string> replaced) : m_replaced(std::move(replaced)) {
   g_before = xmlGetExternalEntityLoader();
   g_loader = this;
   xmlSetExternalEntityLoader(Load);
@@ -68,7 +68,9 @@ CSchemaLoader::~CSchemaLoader() {
 xmlParserInputPtr CSchemaLoader::Load(const char* url, const char* id, xmlParserCtxtPtr context) {
   if (g_loader == nullptr) return g_before.load()(url, id, context);
   try {
-    return url != nullptr ? g_loader->LoadFile(url, context) : nullptr;
+    if (url == nullptr) return nullptr;
+    const auto replaced = g_loader->m_replaced.find(url);
+    return g_loader->LoadFile(replaced != g_loader->m_replaced.end() ? replaced->second : url, context);
   } catch (const std::bad_alloc&) {
     g_loader->m_isOutOfMemory = true;
     return nullptr;
