@@ -23,10 +23,10 @@ Form FormOf(std::string_view bytes) {
   return Form::Bytes;
 }
 
-/// Whether there is a NUL character from an offset on, which is even.
+/// Whether there is a NUL character from an offset on.
 bool HasNul(std::string_view bytes, std::size_t from) {
   if (FormOf(bytes) == Form::Bytes) return bytes.find('\0', from) != std::string_view::npos;
-  for (std::size_t i = from; i + 1 < bytes.size(); i += 2) {
+  for (std::size_t i = from - from % 2; i + 1 < bytes.size(); i += 2) {
     if (bytes[i] == '\0' && bytes[i + 1] == '\0') return true;
   }
   return false;
@@ -36,13 +36,17 @@ bool HasNul(std::string_view bytes, std::size_t from) {
 /// ends may be nothing else.
 /// \return what is wrong, as the end of a sentence; empty when nothing is
 std::string ReadBytes(const std::filesystem::path& path, std::string& bytes) {
-  constexpr int chunk = 1 << 16;
+  constexpr std::size_t least = std::size_t{1} << 16;
+  constexpr std::size_t most = std::size_t{1} << 20;
   CInputFile file(path);
   if (!file.IsOpen()) return file.Error();
+  // One byte more, so that the first piece shows that there is no second.
+  const std::size_t size = file.ExpectedSize();
+  const auto chunk = static_cast<int>(size != 0 ? std::min(size, most) + 1 : least);
   for (;;) {
     const std::size_t before = bytes.size();
     if (before > kLargestFile) return "is too large";
-    bytes.resize(before + chunk);
+    bytes.resize(before + static_cast<std::size_t>(chunk));
     const int count = CInputFile::Read(&file, bytes.data() + before, chunk);
     bytes.resize(before + static_cast<std::size_t>(std::max(count, 0)));
     if (file.HasFailed()) return file.Error();

@@ -1,6 +1,7 @@
 // A file that is read.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -20,6 +21,9 @@ class CInputFile {
 
   /// Why it could not be opened or read to its end, as the end of a sentence; empty when neither happened.
   std::string Error() const;
+
+  /// How many bytes there should be to read, by what the system says; 0 when it does not say.
+  std::size_t ExpectedSize() const;
 
   /// Reads on. It fills the buffer unless the file ends or cannot be read on, in however small pieces the system
   /// delivers it. What was read before a failure is delivered before the failure; after that and after the end it reads

@@ -57,6 +57,8 @@ std::string CInputFile::Error() const {
   }
 }
 
+std::size_t CInputFile::ExpectedSize() const { return static_cast<std::size_t>(m_stamp.size); }
+
 int CInputFile::Read(void* context, char* buffer, int length) noexcept {
   auto& file = *static_cast<CInputFile*>(context);
   int filled = 0;

@@ -75,6 +75,11 @@ std::string CInputFile::Error() const {
   }
 }
 
+std::size_t CInputFile::ExpectedSize() const {
+  LARGE_INTEGER size = {};
+  return GetFileSizeEx(Handle(m_handle), &size) != 0 ? static_cast<std::size_t>(size.QuadPart) : 0;
+}
+
 int CInputFile::Read(void* context, char* buffer, int length) noexcept {
   auto& file = *static_cast<CInputFile*>(context);
   int filled = 0;

@@ -1,20 +1,32 @@
 #include "xmlfile/MarkupReader.h"
 
 #include <algorithm>
-#include <array>
 
 namespace xmlfile {
 
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r\n";
+bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 
 /// The characters at which something changes inside a start tag.
-constexpr auto kMarks = [] {
-  std::array<bool, 256> marks{};
-  for (const char c : std::string_view(" \t\r\n=\"'<>")) marks[static_cast<unsigned char>(c)] = true;
+struct Marks {
+  bool of[256] = {};
+};
+constexpr Marks kMarks = [] {
+  Marks marks;
+  for (const char c : std::string_view(" \t\r\n=\"'<>")) marks.of[static_cast<unsigned char>(c)] = true;
   return marks;
 }();
+
+/// The offset of the next character at which something changes; the text's size when there is none. Half of most files
+/// is start tags, so that each character counts.
+std::size_t SkipDull(std::string_view text, std::size_t at) {
+  const char* const begin = text.data();
+  const char* const end = begin + text.size();
+  const char* next = begin + std::min(at, text.size());
+  while (next != end && !kMarks.of[static_cast<unsigned char>(*next)]) ++next;
+  return static_cast<std::size_t>(next - begin);
+}
 
 }  // namespace
 
@@ -63,15 +75,13 @@ void CMarkupReader::ReadOther(Markup& markup) const {
   }
 }
 
-/// Looks at each character once: half of most files is start tags.
 void CMarkupReader::ReadStartTag(Markup& markup) const {
   constexpr std::string_view declaration = "xmlns";
   markup.kind = Markup::Kind::StartTag;
   markup.end = m_text.size();
   std::size_t nameBegin = m_at + 1;
-  for (std::size_t at = m_at + 1; at < m_text.size(); ++at) {
+  for (std::size_t at = SkipDull(m_text, m_at + 1); at < m_text.size(); at = SkipDull(m_text, at + 1)) {
     const char c = m_text[at];
-    if (!kMarks[static_cast<unsigned char>(c)]) continue;
     if (c == '>') {
       if (m_text[at - 1] == '/') markup.kind = Markup::Kind::EmptyTag;
       markup.end = at + 1;
@@ -84,7 +94,8 @@ void CMarkupReader::ReadStartTag(Markup& markup) const {
     }
     if (c == '=') {
       ++markup.attributes;
-      if (m_text.compare(nameBegin, declaration.size(), declaration) == 0) ++markup.namespaces;
+      if (m_text[nameBegin] == declaration.front() && m_text.substr(nameBegin).starts_with(declaration))
+        ++markup.namespaces;
     } else if (c == '"' || c == '\'') {
       const std::size_t close = m_text.find(c, at + 1);
       if (m_text.substr(at, close - at).find('<') != std::string_view::npos) {
@@ -97,9 +108,8 @@ void CMarkupReader::ReadStartTag(Markup& markup) const {
       nameBegin = close + 1;
     } else {
       // Blanks may stand before a name and before its "=".
-      const std::size_t next = std::min(m_text.find_first_not_of(kBlanks, at), m_text.size());
-      if (next < m_text.size() && m_text[next] != '=') nameBegin = next;
-      at = next - 1;
+      while (at + 1 < m_text.size() && IsBlank(m_text[at + 1])) ++at;
+      if (at + 1 < m_text.size() && m_text[at + 1] != '=') nameBegin = at + 1;
     }
   }
 }
