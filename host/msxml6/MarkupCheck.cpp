@@ -1,6 +1,7 @@
 #include "msxml6/MarkupCheck.h"
 
 #include "msxml6/PrefixScope.h"
+#include "xmlfile/Limits.h"
 #include "xmlfile/MarkupReader.h"
 #include "xmlfile/Places.h"
 
@@ -48,6 +49,10 @@ class CMarkupCheck {
       case Markup::Kind::EndTag: TakeEndTag(markup); break;
       case Markup::Kind::Instruction: TakeInstruction(markup); break;
       case Markup::Kind::Declaration: Refuse(markup.begin, {}, "There is a declaration that is not allowed."); break;
+      case Markup::Kind::DocumentType:
+        Refuse(markup.begin, NameAt(m_text, m_text.find_first_not_of(kBlanks, markup.begin + 9)),
+               xmlfile::kDocumentTypeReason);
+        break;
       default: break;
     }
   }

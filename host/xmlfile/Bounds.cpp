@@ -58,6 +58,7 @@ class CBoundsCheck {
         break;
       }
       case Markup::Kind::DocumentType:
+        if (m_bounds.tagCount != 0) break;  // it may stand before the root only, and is a mistake elsewhere
         Refuse(markup.begin, NameAt(m_text, m_text.find_first_not_of(kBlanks, markup.begin + 9)), kDocumentTypeReason);
         break;
       case Markup::Kind::Declaration: break;
