@@ -46,7 +46,7 @@ struct Run {
   bool isWhole;          // whether the file ends where the bytes end
   xmlParserCtxt* context = nullptr;
   std::size_t elementCount = 0;
-  std::vector<OpenElement> open = {};
+  std::vector<OpenElement> open = {};  // NOLINT(readability-redundant-member-init): GCC asks for it
   bool isMalformed = false;
   bool isStopped = false;  // what the parser says then is of no interest
 };

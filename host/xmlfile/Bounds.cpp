@@ -31,10 +31,7 @@ class CBoundsCheck {
       before = markup.end;
       Take(markup);
     }
-    if (!m_bounds.problem && m_bounds.end < m_text.size()) {
-      Refuse(m_bounds.end, {}, kNulReason);
-      m_bounds.problem->column = 0;
-    }
+    if (!m_bounds.problem && m_bounds.end < m_text.size()) RefuseNul();
     return std::move(m_bounds);
   }
 
@@ -94,6 +91,12 @@ class CBoundsCheck {
 
   void RefuseTag(const Markup& tag, const std::string& reason) {
     Refuse(tag.begin, NameAt(m_text, tag.begin + 1), reason);
+  }
+
+  /// Without a column, because a NUL is seldom a character of any line.
+  void RefuseNul() {
+    const std::size_t line = CPlaceCounter(m_file).At(m_bounds.end).line;
+    m_bounds.problem = DOMDocProblem{line, 0, {}, kNulReason};
   }
 
   void Refuse(std::size_t begin, std::string_view element, const std::string& reason) {
