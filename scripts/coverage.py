@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Shows the coverage of lines and branches that `llvm-cov export -skip-functions` reports, and fails below the
-thresholds, which are percentages of the whole. A branch is one outcome of a condition, true or false. Code that one copy
-of a template or inline function runs counts as run in all copies.
+"""Shows the coverage of lines and branches that `llvm-cov export -skip-functions` reports. Fails below the thresholds,
+which are percentages of the whole. A branch is one outcome of a condition, true or false. Code that runs in one copy of
+a template or inline function counts as run in all copies.
 
     coverage.py FILE SOURCE_DIRECTORY LEAST_LINES LEAST_BRANCHES [--missing]
 """
@@ -13,7 +13,7 @@ import sys
 
 
 def line_counts(segments):
-    """How often each line with code is run: the highest count of the segments that reach into it or begin in it."""
+    """How often each line with code is run: the highest count of the segments that reach or begin there."""
     counts = {}
     reaching = None
     for line, group in itertools.groupby(segments, lambda segment: segment[0]):
