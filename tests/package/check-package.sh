@@ -85,7 +85,8 @@ case $1 in
     ln -s "$lib"/*.so* "$work/files"
     ln -s "$lib" "$work/directory"
     for links in files directory; do
-      LD_LIBRARY_PATH=$work/$links "$PREFIX/bin/vif" list "$xml" >"$work/$links.txt" || fail "vif finds no schemas through links: $links"
+      LD_LIBRARY_PATH=$work/$links "$PREFIX/bin/vif" list "$xml" >"$work/$links.txt" ||
+        fail "no schemas through links: $links"
     done
     ;;
   SchemasFoundFromAnotherDirectory)
@@ -105,7 +106,8 @@ EOF
       -lVendorInfoFile -lVendorInfoFileHost $([ -z "$EMULATOR" ] || echo -lole32 -loleaut32) -o "$work/moving$EXE"
     mkdir "$work/elsewhere"
     cd "$PREFIX"
-    LD_LIBRARY_PATH=$LIBDIR "${run[@]}" "$work/moving$EXE" "$work/elsewhere" "$xml" || fail 'the library finds no schemas from another directory'
+    LD_LIBRARY_PATH=$LIBDIR "${run[@]}" "$work/moving$EXE" "$work/elsewhere" "$xml" ||
+      fail 'no schemas from another directory'
     ;;
   HeadersStandAlone)
     count=0
