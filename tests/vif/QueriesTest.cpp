@@ -70,7 +70,7 @@ CVendorInfoFile Charger() {
                           Field("Src_PDO_Voltage", "400", Component(1), SrcPdo(1))});
 }
 
-/// An object with `componentCount` components that have no fields of their own, and these fields.
+/// An object with `componentCount` components without fields of their own, and these fields.
 CVendorInfoFile WithComponents(std::size_t componentCount, const std::vector<CVIFField>& fields) {
   const TempDir dir;
   CVendorInfoFile vif;
@@ -81,14 +81,14 @@ CVendorInfoFile WithComponents(std::size_t componentCount, const std::vector<CVI
 
 std::vector<std::string> Texts(const VifFieldList& list) { return FieldTexts(*list); }
 
-/// The values of the fields, which tell them apart in most tests.
+/// The values of the fields, which identify them in most tests.
 std::vector<std::string> Values(const VifFieldList& list) {
   std::vector<std::string> values;
   for (const CVIFField& field : *list) values.emplace_back(field.Value());
   return values;
 }
 
-/// The outcomes of a query for any name and the slots, in every way to say "any name" with that query.
+/// The outcomes of a query for any name and the slots, in every way that the query can say "any name".
 template <typename Ask>
 std::vector<std::string> OutcomesForAnyName(const Slots& slots, const Ask& ask) {
   const auto ofPattern = [&](const auto& pattern) {
@@ -134,7 +134,7 @@ TEST(Count, ForTheEmptyQueryIsTheNumberOfFields) {
   EXPECT_THAT(OutcomesForAnyName(kAnywhere, Count(vif)), Each("7"));
 }
 
-TEST(Count, TakesALiteralNull) {
+TEST(Count, AcceptsALiteralNull) {
   EXPECT_EQ(Charger().Count(nullptr, kAnywhere), 7U);
   EXPECT_EQ(Charger().Count(nullptr, Component(1), kUnused, kUnused), 1U);
 }
@@ -176,7 +176,7 @@ TEST(GetFields, ForTheEmptyQueryGivesAllFields) {
   EXPECT_THAT(OutcomesForAnyName(kAnywhere, GetFields(vif)), Each(OutcomeOf([&] { return vif.GetFields(); })));
 }
 
-TEST(GetFields, TakesALiteralNull) {
+TEST(GetFields, AcceptsALiteralNull) {
   EXPECT_THAT(Values(Charger().GetFields(nullptr, SrcPdo(1), kUnused, kUnused)), ElementsAre("100", "400"));
   EXPECT_THAT(Values(Charger().GetFields(nullptr, Slots{SrcPdo(1), kUnused, kUnused})), ElementsAre("100", "400"));
 }
@@ -202,19 +202,19 @@ TEST(GetFields, ComparesSlotsByLocationAndNotByPosition) {
   }
 }
 
-TEST(GetFields, TakesASlotWithoutNumberForAnyNumber) {
+TEST(GetFields, TreatsASlotWithoutNumberAsAnyNumber) {
   const CVendorInfoFile vif = Charger();
   EXPECT_THAT(Values(vif.GetFields(nullptr, SrcPdo(kAny), kUnused, kUnused)), ElementsAre("100", "180", "240", "400"));
   EXPECT_THAT(Values(vif.GetFields(nullptr, Component(kAny), SnkPdo(kAny), kUnused)), ElementsAre("100"));
   EXPECT_EQ(vif.Count(nullptr, Component(kAny), kUnused, kUnused), 6U);
 }
 
-TEST(GetFields, TakesASlotWithoutLocationForAWildcardWhateverItsNumber) {
+TEST(GetFields, TreatsASlotWithoutLocationAsAWildcardWhateverItsNumber) {
   const VifIndex wildcard = {eVifLocUnset, 5};
   EXPECT_EQ(Charger().GetFields(nullptr, wildcard, wildcard, wildcard)->size(), 7U);
 }
 
-TEST(GetFields, FindsAnEmptyNameByPatternsThatFitIt) {
+TEST(GetFields, FindsAnEmptyNameByPatternsThatMatchIt) {
   const CVendorInfoFile vif({Field("", "nameless"), Field("a", "named")});
   EXPECT_THAT(Values(vif.GetFields("a*", kAnywhere)), ElementsAre("nameless", "named"));
   EXPECT_THAT(Values(vif.GetFields("^$", kAnywhere)), ElementsAre("nameless"));
@@ -277,7 +277,7 @@ TEST(QueryResults, CopyEveryMemberOfAField) {
   EXPECT_EQ(vif.GetFields("Number", kAnywhere)->front().GetULongNumericValue(), 4294967301U);
 }
 
-TEST(QueryResults, TravelWithTheFunctionThatReleasesThem) {
+TEST(QueryResults, CarryTheirDeleter) {
   VifFieldList list = Charger().GetFields();
   const VifFieldList::deleter_type release = list.get_deleter();
   ASSERT_TRUE(release);
@@ -317,7 +317,7 @@ TEST(GetUniqueField, GivesTheOneMatchingFieldInEveryForm) {
               Each("Src_PDO_Voltage=400 @6.1 @7.1"));
 }
 
-TEST(GetUniqueField, TakesALiteralNull) {
+TEST(GetUniqueField, AcceptsALiteralNull) {
   EXPECT_EQ(FieldText(Charger().GetUniqueField(nullptr, SnkPdo(1), kUnused, kUnused)), "Snk_PDO_Voltage=100 @6.0 @8.1");
   EXPECT_EQ(FieldText(Charger().GetUniqueField(nullptr, Slots{SnkPdo(1), kUnused, kUnused})),
             "Snk_PDO_Voltage=100 @6.0 @8.1");
@@ -384,7 +384,7 @@ TEST(GetSingleField, GivesTheOneMatchingFieldInEveryForm) {
               Each("true Src_PDO_Voltage=400 @6.1 @7.1"));
 }
 
-TEST(GetSingleField, TakesALiteralNull) {
+TEST(GetSingleField, AcceptsALiteralNull) {
   EXPECT_TRUE(std::get<bool>(Charger().GetSingleField(nullptr, SnkPdo(1), kUnused, kUnused)));
   EXPECT_FALSE(std::get<bool>(Charger().GetSingleField(nullptr, Slots{SnkPdo(2), kUnused, kUnused})));
 }
@@ -423,9 +423,9 @@ TEST(GetSingleField, PrintsAnAbsentPatternAsGetUniqueFieldDoes) {
               Each(HasSubstr("7 fields in \"this VIF\" matched with \"")));
 }
 
-// What messages call the object and the pattern.
+// How messages name the object and the pattern.
 
-/// Expects the messages of both failures on an object loaded from a file of that name.
+/// Expects both failures on an object loaded from a file of that name to name the file.
 void ExpectMessagesToName(const std::filesystem::path& name) {
   const TempDir dir;
   const std::filesystem::path path = dir.Write(name, "Src_PDO_Voltage1: 1\nSrc_PDO_Voltage2: 2\n");
@@ -482,7 +482,7 @@ TEST(QueryMessages, QuoteAPatternOfAnyLength) {
             "Couldn't find field in \"this VIF\" that matched with \"" + pattern + "\".");
 }
 
-TEST(QueryMessages, BelongToTheExceptionAndNotToTheNextFailure) {
+TEST(QueryMessages, AreKeptWhenAnotherFailureFollows) {
   const CVendorInfoFile vif = Charger();
   try {
     vif.GetUniqueField("First", kAnywhere);
@@ -523,7 +523,7 @@ TEST(GetFirstFields, GivesTheFieldsOfTheLowestComponentThatHasAny) {
   EXPECT_THAT(FirstOutcomesForAnyName(kUnused, kUnused, GetFirstFields(vif)), Each("[a=2 @6.0][a=4 @6.0]"));
 }
 
-TEST(GetFirstFields, TakesALiteralNull) {
+TEST(GetFirstFields, AcceptsALiteralNull) {
   const CVendorInfoFile vif = WithComponents(1, {Field("a", "1", Component(0))});
   EXPECT_THAT(Values(vif.GetFirstFields(nullptr, kUnused, kUnused)), ElementsAre("1"));
 }
@@ -586,13 +586,13 @@ TEST(GetFirstFields, FindsTheComponentInAnySlot) {
   EXPECT_THAT(Values(vif.GetFirstFields("a", SrcPdo(1), kUnused)), ElementsAre("2"));
 }
 
-TEST(GetFirstFields, LooksAtTheFirstOfSeveralComponentSlots) {
+TEST(GetFirstFields, UsesTheFirstOfSeveralComponentSlots) {
   const CVendorInfoFile vif =
       WithComponents(2, {Field("a", "1", Component(1), Component(0)), Field("a", "2", Component(9), Component(0))});
   EXPECT_THAT(Values(vif.GetFirstFields("a", kUnused, kUnused)), ElementsAre("1"));
 }
 
-TEST(GetFirstFields, TakesAComponentOfTheCallersForAFurtherCondition) {
+TEST(GetFirstFields, TreatsTheCallersComponentAsAFurtherCondition) {
   const CVendorInfoFile vif = WithComponents(3, {Field("a", "0", Component(0)), Field("a", "1", Component(1))});
   EXPECT_THAT(Values(vif.GetFirstFields("a", Component(1), kUnused)), ElementsAre("1"));
   EXPECT_THAT(Values(vif.GetFirstFields("a", kUnused, Component(kAny))), ElementsAre("0"));
@@ -639,7 +639,7 @@ TEST(GetFirstUniqueField, PrintsAnAbsentPatternInBothPlaces) {
               ElementsAre(null, null, empty, empty, empty));
 }
 
-TEST(GetFirstUniqueField, RaisesOutOfRangeWithoutAMatch) {
+TEST(GetFirstUniqueField, ThrowsOutOfRangeWithoutAMatch) {
   const std::string outOfRange = "std::out_of_range: invalid vector subscript";
   const CVendorInfoFile noComponents = Charger();
   const CVendorInfoFile twoComponents = WithComponents(2, {Field("a", "1", Component(2)), Field("a", "2")});
@@ -650,7 +650,7 @@ TEST(GetFirstUniqueField, RaisesOutOfRangeWithoutAMatch) {
   }
 }
 
-TEST(GetFirstUniqueField, RaisesNoExceptionOfTheHostWithoutAMatch) {
+TEST(GetFirstUniqueField, ThrowsNoHostExceptionWithoutAMatch) {
   try {
     Charger().GetFirstUniqueField("None", kUnused, kUnused);
     FAIL() << "no exception";
@@ -674,23 +674,23 @@ TEST(ComponentCount, IsTheNumberOfComponentsReadFromAllFiles) {
   EXPECT_EQ(vif.GetFields()->back().Index(eVifLocComponent), 2U);
 }
 
-TEST(ComponentCount, DoesNotLookAtFieldsThatAreAppended) {
+TEST(ComponentCount, IgnoresAppendedFields) {
   CVendorInfoFile vif = Charger();
   EXPECT_EQ(vif.ComponentCount(), 0U);
   vif.Append({Field("a", "1", Component(41))});
   EXPECT_EQ(vif.ComponentCount(), 0U);
 }
 
-TEST(ComponentCount, TravelsWithACopy) {
+TEST(ComponentCount, IsCopied) {
   const CVendorInfoFile vif = WithComponents(3, {});
   EXPECT_EQ(CVendorInfoFile(vif).ComponentCount(), 3U);
 }
 
-// The getters of groups. Every field's value says where it stands.
+// The getters of groups. Every field's value says where the field belongs.
 
 constexpr EVifLocation kInComponent[] = {eVifLocSrcPdo, eVifLocSnkPdo, eVifLocSopSvid, eVifLocCableSvid};
 
-/// Two components with fields of their own and two groups of every kind, their SVIDs with two modes; two products
+/// Two components, each with fields of its own and two groups of every kind, their SVIDs with two modes; two products
 /// with two routers with two endpoints; a field outside any group.
 CVendorInfoFile Groups() {
   std::vector<CVIFField> fields = {Field("Top", "top")};
@@ -753,7 +753,7 @@ TEST(GetRouter, GivesAllRoutersOfProductZeroForAnyNumber) {
               ElementsAre("P0 R0", "P0 R0 E1", "P0 R0 E2", "P0 R1", "P0 R1 E1", "P0 R1 E2"));
 }
 
-TEST(GetRouter, AsksForProductZero) {
+TEST(GetRouter, SearchesProductZeroOnly) {
   const CVendorInfoFile vif({Field("a", "other product", Product(1), Router(0)), Field("a", "no product", Router(0)),
                              Field("a", "any product", Product(kAny), Router(0))});
   EXPECT_THAT(Values(vif.GetRouter(0)), IsEmpty());
@@ -768,14 +768,14 @@ TEST(GetPcieEndpointIds, GivesTheEndpointOfARouterOfProductZero) {
   EXPECT_THAT(Values(vif.GetPcieEndpointIds(2, 1)), IsEmpty());
 }
 
-TEST(GetPcieEndpointIds, TakesAnyNumber) {
+TEST(GetPcieEndpointIds, AcceptsAnyNumber) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetPcieEndpointIds(0, kAny)), ElementsAre("P0 R0 E1", "P0 R0 E2"));
   EXPECT_THAT(Values(vif.GetPcieEndpointIds(kAny, 1)), ElementsAre("P0 R0 E1", "P0 R1 E1"));
   EXPECT_THAT(Values(vif.GetPcieEndpointIds(kAny, kAny)), ElementsAre("P0 R0 E1", "P0 R0 E2", "P0 R1 E1", "P0 R1 E2"));
 }
 
-TEST(GetPcieEndpointIds, AsksForProductZero) {
+TEST(GetPcieEndpointIds, SearchesProductZeroOnly) {
   const CVendorInfoFile vif(
       {Field("a", "1", Product(1), Router(0), Endpoint(1)), Field("a", "2", Router(0), Endpoint(1))});
   EXPECT_THAT(Values(vif.GetPcieEndpointIds(0, 1)), IsEmpty());
@@ -790,7 +790,7 @@ TEST(GetSrcPdo, GivesTheFieldsOfThePdo) {
   EXPECT_THAT(Values(vif.GetSrcPdo(3, 1)), IsEmpty());
 }
 
-TEST(GetSrcPdo, TakesAnyNumber) {
+TEST(GetSrcPdo, AcceptsAnyNumber) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetSrcPdo(kAny, 1)), ElementsAre("C1 SrcPdo1", "C2 SrcPdo1"));
   EXPECT_THAT(Values(vif.GetSrcPdo(2, kAny)), ElementsAre("C2 SrcPdo1", "C2 SrcPdo2"));
@@ -805,7 +805,7 @@ TEST(GetSnkPdo, GivesTheFieldsOfThePdo) {
   EXPECT_THAT(Values(vif.GetSnkPdo(3, 1)), IsEmpty());
 }
 
-TEST(GetSnkPdo, TakesAnyNumber) {
+TEST(GetSnkPdo, AcceptsAnyNumber) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetSnkPdo(kAny, 2)), ElementsAre("C1 SnkPdo2", "C2 SnkPdo2"));
   EXPECT_THAT(Values(vif.GetSnkPdo(1, kAny)), ElementsAre("C1 SnkPdo1", "C1 SnkPdo2"));
@@ -819,7 +819,7 @@ TEST(GetSopSvid, GivesTheFieldsOfTheSvidAndItsModes) {
   EXPECT_THAT(Values(vif.GetSopSvid(3, 1)), IsEmpty());
 }
 
-TEST(GetSopSvid, TakesAnyNumber) {
+TEST(GetSopSvid, AcceptsAnyNumber) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetSopSvid(kAny, 1)), ElementsAre("C1 SopSvid1", "C1 SopSvid1 Mode1", "C1 SopSvid1 Mode2",
                                                            "C2 SopSvid1", "C2 SopSvid1 Mode1", "C2 SopSvid1 Mode2"));
@@ -837,7 +837,7 @@ TEST(GetSopSvidMode, GivesTheFieldsOfTheMode) {
   EXPECT_THAT(Values(vif.GetSopSvidMode(3, 2, 1)), IsEmpty());
 }
 
-TEST(GetSopSvidMode, TakesAnyNumber) {
+TEST(GetSopSvidMode, AcceptsAnyNumber) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetSopSvidMode(kAny, 2, 1)), ElementsAre("C1 SopSvid2 Mode1", "C2 SopSvid2 Mode1"));
   EXPECT_THAT(Values(vif.GetSopSvidMode(1, kAny, 2)), ElementsAre("C1 SopSvid1 Mode2", "C1 SopSvid2 Mode2"));
@@ -853,7 +853,7 @@ TEST(GetCableSvid, GivesTheFieldsOfTheSvidAndItsModes) {
   EXPECT_THAT(Values(vif.GetCableSvid(3, 1)), IsEmpty());
 }
 
-TEST(GetCableSvid, TakesAnyNumber) {
+TEST(GetCableSvid, AcceptsAnyNumber) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetCableSvid(kAny, 2)),
               ElementsAre("C1 CableSvid2", "C1 CableSvid2 Mode1", "C1 CableSvid2 Mode2", "C2 CableSvid2",
@@ -873,7 +873,7 @@ TEST(GetCableSvidMode, GivesTheFieldsOfTheMode) {
   EXPECT_THAT(Values(vif.GetCableSvidMode(3, 2, 1)), IsEmpty());
 }
 
-TEST(GetCableSvidMode, TakesAnyNumber) {
+TEST(GetCableSvidMode, AcceptsAnyNumber) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetCableSvidMode(kAny, 1, 2)), ElementsAre("C1 CableSvid1 Mode2", "C2 CableSvid1 Mode2"));
   EXPECT_THAT(Values(vif.GetCableSvidMode(2, kAny, 1)), ElementsAre("C2 CableSvid1 Mode1", "C2 CableSvid2 Mode1"));
@@ -890,7 +890,7 @@ TEST(GroupGetters, ComparesAllBitsOfANumber) {
 
 // Invalid patterns
 
-/// Every query with a pattern and, where it takes three slots, the given ones; the first queries get two of them.
+/// Every query with a pattern and the given three slots; GetFirstFields and GetFirstUniqueField get the last two.
 std::vector<std::string> OutcomesOfAllQueries(const CVendorInfoFile& vif, const std::string& pattern,
                                               const Slots& slots) {
   std::vector<std::string> all;
@@ -911,7 +911,7 @@ std::string ErrorOf(const std::string& pattern) {
   });
 }
 
-TEST(InvalidPattern, RaisesItsErrorInEveryQueryWhenAFieldsLocationsPass) {
+TEST(InvalidPattern, ThrowsInEveryQueryWhenAFieldsLocationsMatch) {
   const CVendorInfoFile vif = WithComponents(1, {Field("a", "1", Component(0), SrcPdo(1))});
   for (const char* pattern : {"(", ")", "[", "[b-a]", "*", "a{", "a{2,1}", "\\", "(?", "[[:none:]]"}) {
     const std::string error = ErrorOf(pattern);
@@ -921,7 +921,7 @@ TEST(InvalidPattern, RaisesItsErrorInEveryQueryWhenAFieldsLocationsPass) {
   }
 }
 
-TEST(InvalidPattern, IsNotLookedAtInAnyQueryWhenNoFieldsLocationsPass) {
+TEST(InvalidPattern, IsIgnoredInEveryQueryWhenNoFieldsLocationsMatch) {
   const CVendorInfoFile vif = WithComponents(1, {Field("a", "1", Component(0), SrcPdo(1)), Field("b", "2")});
   const Slots elsewhere = {Component(0), SrcPdo(2), kUnused};
   const auto noSuchFieldOf = [&](const char* pattern) {
@@ -937,7 +937,7 @@ TEST(InvalidPattern, IsNotLookedAtInAnyQueryWhenNoFieldsLocationsPass) {
               Each("std::out_of_range: invalid vector subscript"));
 }
 
-TEST(InvalidPattern, IsNotLookedAtInAnEmptyObject) {
+TEST(InvalidPattern, IsIgnoredInAnEmptyObject) {
   const CVendorInfoFile vif;
   EXPECT_EQ(vif.Count("(", kAnywhere), 0U);
   EXPECT_THAT(*vif.GetFields("(", kAnywhere), IsEmpty());
@@ -945,19 +945,19 @@ TEST(InvalidPattern, IsNotLookedAtInAnEmptyObject) {
   EXPECT_FALSE(std::get<bool>(vif.GetSingleField("(", kAnywhere)));
 }
 
-TEST(InvalidPattern, IsNotLookedAtInComponentsThatAreNotSearched) {
+TEST(InvalidPattern, IsIgnoredInComponentsThatAreNotSearched) {
   const CVendorInfoFile vif = WithComponents(1, {Field("a", "1", Component(1)), Field("a", "2")});
   EXPECT_THAT(OutcomesOfFirstForms("(", kUnused, kUnused, GetFirstFields(vif)), Each(""));
   const CVendorInfoFile searched = WithComponents(2, {Field("a", "1", Component(1)), Field("a", "2")});
   EXPECT_THAT(OutcomesOfFirstForms("(", kUnused, kUnused, GetFirstFields(searched)), Each(ErrorOf("(")));
 }
 
-TEST(InvalidPattern, RaisesItsErrorAtALaterFieldToo) {
+TEST(InvalidPattern, ThrowsAtALaterFieldToo) {
   const CVendorInfoFile vif({Field("a", "1"), Field("a", "2"), Field("a", "3", Component(1))});
   EXPECT_THAT(OutcomesOfAllForms("[", {Component(kAny), kUnused, kUnused}, GetFields(vif)), Each(ErrorOf("[")));
 }
 
-TEST(InvalidPattern, LeavesTheObjectAsItWas) {
+TEST(InvalidPattern, LeavesTheObjectUnchanged) {
   const CVendorInfoFile vif = Charger();
   EXPECT_THROW(vif.GetFields("(", kAnywhere), std::regex_error);
   EXPECT_EQ(Texts(vif.GetFields()), Texts(Charger().GetFields()));
@@ -966,7 +966,7 @@ TEST(InvalidPattern, LeavesTheObjectAsItWas) {
 
 // Long names
 
-TEST(LongName, EndsInTheAnswerOrTheErrorOfTheExpression) {
+TEST(LongName, IsAnsweredOrThrowsTheErrorOfTheExpression) {
   const CVendorInfoFile vif({Field(std::string(200'000, 'a'), "1"), Field("x", "2"), Field("b", "3")});
   const auto isRegexErrorOr = [](const char* answer) {
     return testing::AnyOf(answer, testing::StartsWith("std::regex_error"));
@@ -1008,7 +1008,7 @@ TEST(Queries, LeaveTheObjectUnchanged) {
   EXPECT_EQ(vif.ComponentCount(), 2U);
 }
 
-TEST(Queries, AnswerTheSameWhenTheyAreAskedAgain) {
+TEST(Queries, AnswerTheSameWhenRepeated) {
   const CVendorInfoFile vif = WithComponents(2, {Field("a", "1", Component(0)), Field("b", "2", Component(1))});
   for (const char* pattern : {"", "a", "b", ".*", "None", "("}) {
     EXPECT_EQ(OutcomesOfAllQueries(vif, pattern, kAnywhere), OutcomesOfAllQueries(vif, pattern, kAnywhere)) << pattern;
@@ -1023,7 +1023,7 @@ TEST(Queries, SeeFieldsThatAreAppendedLater) {
   EXPECT_STREQ(vif.GetComponent(0)->back().Name(), "Late");
 }
 
-TEST(Queries, TakeAMovedFromObjectForAnEmptyOne) {
+TEST(Queries, TreatAMovedFromObjectAsEmpty) {
   CVendorInfoFile source = WithComponents(2, {Field("a", "1", Component(0))});
   const CVendorInfoFile target(std::move(source));
   // NOLINTBEGIN(bugprone-use-after-move,clang-analyzer-cplusplus.Move): a moved-from object is an empty one.
