@@ -88,7 +88,7 @@ TEST_P(BuiltInTable, GivesTheFirstNumberToTheOuterGroupAndTheSecondToTheInner) {
   EXPECT_EQ(Resolve("SVID3_Mode2_Recog_Value"), "SVID_Mode_Recog_Value 6.5 11.3 12.2");
 }
 
-TEST_P(BuiltInTable, TakesTheNumberAfterEndpointAsTheRouters) {
+TEST_P(BuiltInTable, TreatsTheNumberAfterEndpointAsTheRouters) {
   EXPECT_EQ(Resolve("USB4_PCIe_Endpoint1_Device_ID4"), "USB4_PCIe_Endpoint_Device_ID 3.0 4.1 5.4");
   EXPECT_EQ(Resolve("USB4_PCIe_Endpoint1_Vendor_ID2"), "USB4_PCIe_Endpoint_Vendor_ID 3.0 4.1 5.2");
 }
@@ -135,7 +135,7 @@ TEST_P(BuiltInTable, KeepsTheMisspelledFieldSeparate) {
   EXPECT_EQ(Resolve("Active_Cable_Optically_Isololated"), "Active_Cable_Optically_Isololated 6.5 - -");
 }
 
-TEST_P(BuiltInTable, GivesOptionalContentNoPlace) { EXPECT_EQ(Resolve("OptionalContent"), "OptionalContent - - -"); }
+TEST_P(BuiltInTable, GivesOptionalContentNoLocation) { EXPECT_EQ(Resolve("OptionalContent"), "OptionalContent - - -"); }
 
 TEST_P(BuiltInTable, LeavesAnUnknownNameAsWritten) {
   EXPECT_EQ(Resolve("My_Own_Field7"), "?My_Own_Field7 - - -");
@@ -488,7 +488,7 @@ TEST(CopiedTable, IsTriedInItsOwnOrder) {
   EXPECT_EQ(Resolved(&table, "TID"), "First - - -");
 }
 
-TEST(CopiedTable, TakesTheFirstOfSeveralCopies) {
+TEST(CopiedTable, UsesTheFirstOfSeveralCopies) {
   const VifFieldDef tid = VifFieldDefs::GetVifFieldDefs()[5];
   Table table = {tid, tid, tid};
   table[0].name = L"One";

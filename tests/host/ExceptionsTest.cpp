@@ -15,7 +15,7 @@ static_assert(std::is_abstract_v<CZoException>);
 static_assert(std::has_virtual_destructor_v<CZoException>);
 static_assert(!std::is_base_of_v<std::exception, CZoException>);
 
-// A pointer would not convert to a base that a class has twice.
+// Not std::is_base_of, which also holds for a base that a class has twice; pointers do not convert to that.
 static_assert(std::is_convertible_v<CZoRunTimeException*, CZoException*>);
 static_assert(std::is_convertible_v<CZoRunTimeException*, std::runtime_error*>);
 static_assert(std::is_convertible_v<CZoRunTimeException*, std::exception*>);

@@ -191,14 +191,14 @@ TEST_F(XmlReaderTest, ValueAttributeOfAnotherNamespaceIsIgnored) {
 }
 
 // The value is UTF-8 on every system; on Windows, names and texts are in the system's code page.
-TEST_F(XmlReaderTest, TextsMayBeOfAnyLanguage) {
+TEST_F(XmlReaderTest, TextsMayBeInAnyLanguage) {
   EXPECT_THAT(Fields("<vif:Component><vif:Port_Label>Type-C® 端口 &#x1F50C;</vif:Port_Label>"
                      "<vif:N\xC3\xA4me value=\"\xC3\xBC \xE7\xAB\xAF\"/></vif:Component>"),
               ElementsAre("Port_Label=\"\" ; " + SystemNarrow(L"Type-C\u00AE \u7AEF\u53E3 \U0001F50C") + " @6.1",
                           SystemNarrow(L"N\u00E4me") + "=\xC3\xBC \xE7\xAB\xAF @6.1"));
 }
 
-TEST_F(XmlReaderTest, HeaderMayBeOfAnyLanguage) {
+TEST_F(XmlReaderTest, HeaderMayBeInAnyLanguage) {
   EXPECT_THAT(Fields("<vif:VIF_App><vif:Vendor>\xC3\x84 \xE7\xAB\xAF</vif:Vendor></vif:VIF_App>"
                      "<vif:VIF_Specification>\xE2\x82\xAC</vif:VIF_Specification>"),
               ElementsAre("VIF_Producer=\"" + SystemNarrow(L"\u00C4 \u7AEF") + " -- --\" ; " +
@@ -367,7 +367,7 @@ TEST_F(XmlReaderTest, UnexpectedNameIsComparedExactly) {
             "Unexpected list element name: SrcPDOList");
 }
 
-TEST_F(XmlReaderTest, UnexpectedNameMayBeOfAnyLanguage) {
+TEST_F(XmlReaderTest, UnexpectedNameMayBeInAnyLanguage) {
   EXPECT_EQ(DomErrorOf("<vif:Component><vif:\xE7\xAB\xAF><vif:A/></vif:\xE7\xAB\xAF></vif:Component>"),
             "Unexpected list element name: \xE7\xAB\xAF");
 }

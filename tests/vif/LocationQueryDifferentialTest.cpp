@@ -103,7 +103,7 @@ TEST(LocationQueryDifferential, AgreesWithMatchOnAnyName) { ExpectAgreementWithM
 
 TEST(LocationQueryDifferential, AgreesWithMatchOnAName) { ExpectAgreementWithMatch("name"); }
 
-TEST(LocationQueryDifferential, TakesTheFirstOfTwoSlotsWithOneLocation) {
+TEST(LocationQueryDifferential, UsesTheFirstOfTwoSlotsWithOneLocation) {
   const EVifLocation odd = static_cast<EVifLocation>(70);
   const VifIndex unused = CVIFField::UNSPECIFIED_INDEX;
   const CVendorInfoFile vif(

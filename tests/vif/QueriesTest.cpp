@@ -164,14 +164,14 @@ TEST(GetFields, WithoutAMatchIsAnEmptyList) {
   EXPECT_THAT(OutcomesForAnyName({Component(7), kUnused, kUnused}, GetFields(vif)), Each(""));
 }
 
-TEST(GetFields, WithoutArgumentsGivesAllFieldsInTheOrderOfTheFile) {
+TEST(GetFields, WithoutArgumentsReturnsAllFieldsInTheOrderOfTheFile) {
   EXPECT_THAT(Texts(Charger().GetFields()),
               ElementsAre("VIF_Specification=3", "Port_Label=0 @6.0", "Src_PDO_Voltage=100 @6.0 @7.1",
                           "Src_PDO_Voltage=180 @6.0 @7.2", "Src_PDO_Voltage=240 @6.0 @7.3",
                           "Snk_PDO_Voltage=100 @6.0 @8.1", "Src_PDO_Voltage=400 @6.1 @7.1"));
 }
 
-TEST(GetFields, ForTheEmptyQueryGivesAllFields) {
+TEST(GetFields, ForTheEmptyQueryReturnsAllFields) {
   const CVendorInfoFile vif = Charger();
   EXPECT_THAT(OutcomesForAnyName(kAnywhere, GetFields(vif)), Each(OutcomeOf([&] { return vif.GetFields(); })));
 }
@@ -181,7 +181,7 @@ TEST(GetFields, AcceptsALiteralNull) {
   EXPECT_THAT(Values(Charger().GetFields(nullptr, Slots{SrcPdo(1), kUnused, kUnused})), ElementsAre("100", "400"));
 }
 
-TEST(GetFields, GivesTheMatchingFieldsInTheOrderOfTheFileInEveryForm) {
+TEST(GetFields, ReturnsTheMatchingFieldsInTheOrderOfTheFileInEveryForm) {
   const CVendorInfoFile vif = Charger();
   EXPECT_THAT(OutcomesOfAllForms("Src_PDO_Voltage", {SrcPdo(1), kUnused, kUnused}, GetFields(vif)),
               Each("[Src_PDO_Voltage=100 @6.0 @7.1][Src_PDO_Voltage=400 @6.1 @7.1]"));
@@ -308,7 +308,7 @@ TEST(QueryResults, HoldAListInEveryCase) {
 
 // GetUniqueField
 
-TEST(GetUniqueField, GivesTheOneMatchingFieldInEveryForm) {
+TEST(GetUniqueField, ReturnsTheOneMatchingFieldInEveryForm) {
   const CVendorInfoFile vif = Charger();
   EXPECT_THAT(OutcomesOfAllForms("Port_Label", kAnywhere, GetUniqueField(vif)), Each("Port_Label=0 @6.0"));
   EXPECT_THAT(OutcomesOfAllForms("s.*", {SrcPdo(3), kUnused, kUnused}, GetUniqueField(vif)),
@@ -375,7 +375,7 @@ TEST(GetUniqueField, PrintsANullPatternAsTheHostDoes) {
 
 // GetSingleField
 
-TEST(GetSingleField, GivesTheOneMatchingFieldInEveryForm) {
+TEST(GetSingleField, ReturnsTheOneMatchingFieldInEveryForm) {
   const CVendorInfoFile vif = Charger();
   EXPECT_THAT(OutcomesOfAllForms("Port_Label", kAnywhere, GetSingleField(vif)), Each("true Port_Label=0 @6.0"));
   EXPECT_THAT(OutcomesOfAllForms("s.*", {SrcPdo(3), kUnused, kUnused}, GetSingleField(vif)),
@@ -389,7 +389,7 @@ TEST(GetSingleField, AcceptsALiteralNull) {
   EXPECT_FALSE(std::get<bool>(Charger().GetSingleField(nullptr, Slots{SnkPdo(2), kUnused, kUnused})));
 }
 
-TEST(GetSingleField, GivesTheEmptyFieldWithoutAMatchInEveryForm) {
+TEST(GetSingleField, ReturnsTheEmptyFieldWithoutAMatchInEveryForm) {
   const CVendorInfoFile vif = Charger();
   EXPECT_THAT(OutcomesOfAllForms("None", kAnywhere, GetSingleField(vif)), Each("false ="));
   EXPECT_THAT(OutcomesForAnyName({Component(9), kUnused, kUnused}, GetSingleField(vif)), Each("false ="));
@@ -397,7 +397,7 @@ TEST(GetSingleField, GivesTheEmptyFieldWithoutAMatchInEveryForm) {
   EXPECT_THAT(OutcomesOfAllForms(".*", kAnywhere, GetSingleField(none)), Each("false ="));
 }
 
-TEST(GetSingleField, GivesADefaultFieldWithoutAMatch) {
+TEST(GetSingleField, ReturnsADefaultFieldWithoutAMatch) {
   const auto [field, found] = Charger().GetSingleField("None", kAnywhere);
   EXPECT_FALSE(found);
   EXPECT_STREQ(field.Name(), "");
@@ -514,7 +514,7 @@ TEST(GetFirstFields, IsEmptyWithAComponentCountOfZeroEvenIfFieldsHaveComponents)
   EXPECT_THAT(OutcomesOfFirstForms(".*", kUnused, kUnused, GetFirstFields(vif)), Each(""));
 }
 
-TEST(GetFirstFields, GivesTheFieldsOfTheLowestComponentThatHasAny) {
+TEST(GetFirstFields, ReturnsTheFieldsOfTheLowestComponentThatHasAny) {
   const CVendorInfoFile vif = WithComponents(2, {Field("a", "1", Component(1)), Field("a", "2", Component(0)),
                                                  Field("a", "3", Component(1)), Field("a", "4", Component(0))});
   EXPECT_THAT(Values(vif.GetFirstFields("a", kUnused, kUnused)), ElementsAre("2", "4"));
@@ -562,7 +562,7 @@ TEST(GetFirstFields, DoesNotSearchTheLastLoadedComponent) {
   EXPECT_THAT(Values(vif.GetFirstFields("Src_PDO_Voltage", kUnused, kUnused)), ElementsAre("100"));
 }
 
-TEST(GetFirstFields, GoesOnToTheNextComponentUntilOneMatches) {
+TEST(GetFirstFields, TriesTheNextComponentUntilOneMatches) {
   const CVendorInfoFile vif =
       WithComponents(4, {Field("a", "0", Component(0)), Field("b", "1", Component(1)),
                          Field("a", "2", Component(2), SrcPdo(1)), Field("a", "3", Component(3), SrcPdo(1))});
@@ -573,7 +573,7 @@ TEST(GetFirstFields, GoesOnToTheNextComponentUntilOneMatches) {
   EXPECT_THAT(*vif.GetFirstFields("b", SrcPdo(1), kUnused), IsEmpty());
 }
 
-TEST(GetFirstFields, NeverGivesFieldsOutsideAnyComponent) {
+TEST(GetFirstFields, NeverReturnsFieldsOutsideAnyComponent) {
   const CVendorInfoFile vif = WithComponents(
       3, {Field("a", "1"), Field("a", "2", Product(0)), Field("a", "3", SrcPdo(0)), Field("a", "4", Component(kAny))});
   EXPECT_THAT(*vif.GetFirstFields("a", kUnused, kUnused), IsEmpty());
@@ -599,7 +599,7 @@ TEST(GetFirstFields, TreatsTheCallersComponentAsAFurtherCondition) {
   EXPECT_THAT(*vif.GetFirstFields("a", Component(0), Component(1)), IsEmpty());
 }
 
-TEST(GetFirstFields, GivesCopiesThatOutliveTheObject) {
+TEST(GetFirstFields, ReturnsCopiesThatOutliveTheObject) {
   auto vif = std::make_optional<CVendorInfoFile>(WithComponents(1, {Field("a", "1", Component(0))}));
   const VifFieldList first = vif->GetFirstFields("a", kUnused, kUnused);
   const CVIFField unique = vif->GetFirstUniqueField("a", kUnused, kUnused);
@@ -612,7 +612,7 @@ TEST(GetFirstFields, GivesCopiesThatOutliveTheObject) {
 
 // GetFirstUniqueField
 
-TEST(GetFirstUniqueField, GivesTheOneFieldThatGetFirstFieldsFinds) {
+TEST(GetFirstUniqueField, ReturnsTheOneFieldThatGetFirstFieldsFinds) {
   const CVendorInfoFile vif =
       WithComponents(3, {Field("a", "2", Component(2)), Field("a", "1", Component(1)), Field("b", "3", Component(1))});
   EXPECT_THAT(OutcomesOfFirstForms("a", kUnused, kUnused, GetFirstUniqueField(vif)), Each("a=1 @6.1"));
@@ -726,7 +726,7 @@ CVendorInfoFile Groups() {
   return CVendorInfoFile(fields);
 }
 
-TEST(GetComponent, GivesAllFieldsOfTheComponentAndOfTheGroupsInIt) {
+TEST(GetComponent, ReturnsAllFieldsOfTheComponentAndOfTheGroupsInIt) {
   const CVendorInfoFile vif = Groups();
   const VifFieldList component = vif.GetComponent(2);
   EXPECT_THAT(Values(component), Each(testing::StartsWith("C2")));
@@ -735,20 +735,20 @@ TEST(GetComponent, GivesAllFieldsOfTheComponentAndOfTheGroupsInIt) {
   EXPECT_THAT(Values(Charger().GetComponent(0)), ElementsAre("0", "100", "180", "240", "100"));
 }
 
-TEST(GetComponent, GivesAllComponentsForAnyNumber) {
+TEST(GetComponent, ReturnsAllComponentsForAnyNumber) {
   const VifFieldList components = Groups().GetComponent(kAny);
   EXPECT_THAT(Values(components), Each(testing::StartsWith("C")));
   EXPECT_EQ(components->size(), 34U);
 }
 
-TEST(GetRouter, GivesTheRouterOfProductZeroWithItsEndpoints) {
+TEST(GetRouter, ReturnsTheRouterOfProductZeroWithItsEndpoints) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetRouter(0)), ElementsAre("P0 R0", "P0 R0 E1", "P0 R0 E2"));
   EXPECT_THAT(Values(vif.GetRouter(1)), ElementsAre("P0 R1", "P0 R1 E1", "P0 R1 E2"));
   EXPECT_THAT(Values(vif.GetRouter(2)), IsEmpty());
 }
 
-TEST(GetRouter, GivesAllRoutersOfProductZeroForAnyNumber) {
+TEST(GetRouter, ReturnsAllRoutersOfProductZeroForAnyNumber) {
   EXPECT_THAT(Values(Groups().GetRouter(kAny)),
               ElementsAre("P0 R0", "P0 R0 E1", "P0 R0 E2", "P0 R1", "P0 R1 E1", "P0 R1 E2"));
 }
@@ -760,7 +760,7 @@ TEST(GetRouter, SearchesProductZeroOnly) {
   EXPECT_THAT(Values(vif.GetRouter(kAny)), IsEmpty());
 }
 
-TEST(GetPcieEndpointIds, GivesTheEndpointOfARouterOfProductZero) {
+TEST(GetPcieEndpointIds, ReturnsTheEndpointOfARouterOfProductZero) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetPcieEndpointIds(0, 1)), ElementsAre("P0 R0 E1"));
   EXPECT_THAT(Values(vif.GetPcieEndpointIds(1, 2)), ElementsAre("P0 R1 E2"));
@@ -782,7 +782,7 @@ TEST(GetPcieEndpointIds, SearchesProductZeroOnly) {
   EXPECT_THAT(Values(vif.GetPcieEndpointIds(kAny, kAny)), IsEmpty());
 }
 
-TEST(GetSrcPdo, GivesTheFieldsOfThePdo) {
+TEST(GetSrcPdo, ReturnsTheFieldsOfThePdo) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetSrcPdo(1, 2)), ElementsAre("C1 SrcPdo2"));
   EXPECT_THAT(Values(vif.GetSrcPdo(2, 1)), ElementsAre("C2 SrcPdo1"));
@@ -797,7 +797,7 @@ TEST(GetSrcPdo, AcceptsAnyNumber) {
   EXPECT_THAT(Values(vif.GetSrcPdo(kAny, kAny)), ElementsAre("C1 SrcPdo1", "C1 SrcPdo2", "C2 SrcPdo1", "C2 SrcPdo2"));
 }
 
-TEST(GetSnkPdo, GivesTheFieldsOfThePdo) {
+TEST(GetSnkPdo, ReturnsTheFieldsOfThePdo) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetSnkPdo(1, 2)), ElementsAre("C1 SnkPdo2"));
   EXPECT_THAT(Values(vif.GetSnkPdo(2, 1)), ElementsAre("C2 SnkPdo1"));
@@ -812,7 +812,7 @@ TEST(GetSnkPdo, AcceptsAnyNumber) {
   EXPECT_THAT(Values(vif.GetSnkPdo(kAny, kAny)), ElementsAre("C1 SnkPdo1", "C1 SnkPdo2", "C2 SnkPdo1", "C2 SnkPdo2"));
 }
 
-TEST(GetSopSvid, GivesTheFieldsOfTheSvidAndItsModes) {
+TEST(GetSopSvid, ReturnsTheFieldsOfTheSvidAndItsModes) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetSopSvid(1, 2)), ElementsAre("C1 SopSvid2", "C1 SopSvid2 Mode1", "C1 SopSvid2 Mode2"));
   EXPECT_THAT(Values(vif.GetSopSvid(1, 3)), IsEmpty());
@@ -828,7 +828,7 @@ TEST(GetSopSvid, AcceptsAnyNumber) {
   EXPECT_EQ(vif.GetSopSvid(kAny, kAny)->size(), 12U);
 }
 
-TEST(GetSopSvidMode, GivesTheFieldsOfTheMode) {
+TEST(GetSopSvidMode, ReturnsTheFieldsOfTheMode) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetSopSvidMode(1, 2, 1)), ElementsAre("C1 SopSvid2 Mode1"));
   EXPECT_THAT(Values(vif.GetSopSvidMode(2, 1, 2)), ElementsAre("C2 SopSvid1 Mode2"));
@@ -845,7 +845,7 @@ TEST(GetSopSvidMode, AcceptsAnyNumber) {
   EXPECT_EQ(vif.GetSopSvidMode(kAny, kAny, kAny)->size(), 8U);
 }
 
-TEST(GetCableSvid, GivesTheFieldsOfTheSvidAndItsModes) {
+TEST(GetCableSvid, ReturnsTheFieldsOfTheSvidAndItsModes) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetCableSvid(2, 1)),
               ElementsAre("C2 CableSvid1", "C2 CableSvid1 Mode1", "C2 CableSvid1 Mode2"));
@@ -864,7 +864,7 @@ TEST(GetCableSvid, AcceptsAnyNumber) {
   EXPECT_EQ(vif.GetCableSvid(kAny, kAny)->size(), 12U);
 }
 
-TEST(GetCableSvidMode, GivesTheFieldsOfTheMode) {
+TEST(GetCableSvidMode, ReturnsTheFieldsOfTheMode) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetCableSvidMode(1, 2, 1)), ElementsAre("C1 CableSvid2 Mode1"));
   EXPECT_THAT(Values(vif.GetCableSvidMode(2, 1, 2)), ElementsAre("C2 CableSvid1 Mode2"));
