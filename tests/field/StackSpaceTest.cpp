@@ -96,7 +96,7 @@ TEST(StackLeft, IsZeroInTheReserve) {
 
 std::uintptr_t leftOnOwnStack = 0;
 
-TEST(StackLeft, IsAssumedOnAForeignStack) {
+TEST(StackLeft, IsAssumedOnAStackOtherThanTheThreads) {
   std::vector<char> stack(kMegabyte);
   ucontext_t caller{};
   ucontext_t coroutine{};
