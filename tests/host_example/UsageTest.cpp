@@ -47,7 +47,7 @@ TEST_F(Usage, SecondDirectoryIsRefused) { ExpectRefused({"/", "/"}, "there can b
 
 TEST_F(Usage, MissingDirectoryIsRefused) { ExpectRefused({"/missing"}, "there is no directory /missing"); }
 
-TEST_F(Usage, DirectoryTogetherWithAVifIsRefused) {
+TEST_F(Usage, DirectoryBesideAVifIsRefused) {
   ExpectRefused({"/", "--vif", "a.txt"}, "with --vif nobody is asked: give no directory");
 }
 
