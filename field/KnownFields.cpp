@@ -284,8 +284,7 @@ constexpr KnownField kKnownFields[] = {
     {"Active_Cable_Shutdown_Temp_Support", {eVifLocComponent}},
 };
 
-/// Digits are taken greedily when a spelling is matched, which is right only as long as no digit of the name
-/// itself follows an index.
+/// Digits are matched greedily, which is right only as long as no digit of the name itself follows an index.
 consteval bool NoDigitFollowsAnIndex() {
   for (const KnownField& field : kKnownFields) {
     for (size_t i = 0; i + 1 < field.spelling.size(); ++i) {
