@@ -72,11 +72,11 @@ std::uint64_t NumberAt(EVifLocation location, const std::wsmatch& match) {
   }
 }
 
-/// Changes a name to that of the first definition that fits it, and finds its place.
+/// Replaces a name with that of the first definition that matches it, and returns its place.
 Place Resolve(std::string& name) {
   Place place;
   place.fill(CVIFField::UNSPECIFIED_INDEX);
-  const std::wstring wideName(name.begin(), name.end());  // ASCII, as the patterns of the lines see to
+  const std::wstring wideName(name.begin(), name.end());  // ASCII, as the line patterns ensure
   for (const VifFieldDef& definition : VifFieldDefs::GetVifFieldDefs()) {
     std::wsmatch match;
     if (!std::regex_match(wideName, match, definition.pattern)) continue;
