@@ -31,11 +31,11 @@ std::size_t FindComment(const std::string& text) {
   std::size_t cut = text.find(';');
   const std::size_t firstQuote = text.find('"');
   if (cut == std::string::npos || firstQuote == std::string::npos) return cut;
-  const std::size_t behindLastQuote = text.rfind('"') + 1;
-  if (cut < firstQuote || cut > behindLastQuote) return cut;
+  const std::size_t afterLastQuote = text.rfind('"') + 1;
+  if (cut < firstQuote || cut > afterLastQuote) return cut;
   do {
     cut = text.find_first_not_of(';', cut + 1);
-  } while (cut != std::string::npos && cut > firstQuote && cut < behindLastQuote);
+  } while (cut != std::string::npos && cut > firstQuote && cut < afterLastQuote);
   return cut;
 }
 
