@@ -48,8 +48,8 @@ std::vector<VifFieldDef> Recompiled() {
 
 void RequireSameName(const vif::ResolvedName& resolved, const vif::ResolvedName& expected) {
   Require(resolved.isKnown == expected.isKnown, "plain code knows the names that the patterns know");
-  fuzz::RequireSame(resolved.name, expected.name, "plain code resolves a name to the same field as the patterns");
-  fuzz::RequireSame(resolved.slots, expected.slots, "plain code resolves a name to the same place as the patterns");
+  fuzz::RequireSame(resolved.name, expected.name, "plain code finds the same canonical name as the patterns");
+  fuzz::RequireSame(resolved.slots, expected.slots, "plain code finds the same place as the patterns");
 }
 
 }  // namespace
