@@ -13,7 +13,7 @@ namespace bench {
 
 namespace {
 
-/// What becomes of a new process's descriptors.
+/// What to do with a new process's descriptors.
 class CFileActions {
  public:
   CFileActions() { posix_spawn_file_actions_init(&m_actions); }
@@ -38,7 +38,7 @@ void Run(const std::vector<std::string>& command, CFileActions& actions) {
   }
   int state = 0;
   waitpid(child, &state, 0);
-  if (!WIFEXITED(state) || WEXITSTATUS(state) != 0) throw std::runtime_error(command[0] + " has failed");
+  if (!WIFEXITED(state) || WEXITSTATUS(state) != 0) throw std::runtime_error(command[0] + " failed");
 }
 
 }  // namespace
@@ -57,7 +57,7 @@ std::string OutputOf(const std::vector<std::string>& command) {
   if (pipe2(ends, O_CLOEXEC) != 0) throw std::runtime_error("no pipe");
   CFileActions actions;
   posix_spawn_file_actions_adddup2(actions.Get(), ends[1], STDOUT_FILENO);
-  std::array<char, 4096> buffer;  // less than a pipe holds, so that the program need not wait for a reader
+  std::array<char, 4096> buffer;  // less than a pipe holds, so that the program never waits for a reader
   ssize_t length = 0;
   try {
     Run(command, actions);

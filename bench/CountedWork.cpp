@@ -1,4 +1,4 @@
-// Fixed work, to count the instructions that it takes (scripts/check-instructions.sh).
+// Fixed work whose instructions are counted (scripts/check-instructions.sh).
 //
 //   counted_work CASE    writes files to the current directory
 #include "Samples.h"
@@ -18,7 +18,7 @@ namespace {
 
 using Work = std::function<std::size_t()>;
 
-// Under names of their own, because even the length of a name counts.
+// Fixed names, because even the length of a name affects the count.
 constexpr const char* kText = "counted.txt";
 constexpr const char* kXml = "counted.xml";
 
@@ -63,11 +63,11 @@ constexpr Case kCases[] = {{"load-text", LoadText},
 
 }  // namespace
 
-/// Instructions are counted while this runs. It keeps the answer so that it does not end before the work does.
+/// Instructions are counted while this runs. It stores the answer, so that it does not end in a tail call.
 extern "C" __attribute__((noinline)) void CountedWork(const Work& work, std::size_t& answer) { answer = work(); }
 
-/// In place of libc's, for libxml2: the order of its hash tables depends on when it was started, and with it how many
-/// instructions finding something takes.
+/// Replaces libc's for libxml2, whose hash tables are seeded with the start time, which would affect how many
+/// instructions a look-up takes.
 extern "C" __attribute__((visibility("default"))) time_t time(time_t* result) noexcept {
   constexpr time_t always = 1'000'000'000;
   if (result != nullptr) *result = always;

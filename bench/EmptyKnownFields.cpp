@@ -1,4 +1,4 @@
-// In place of field/KnownFields.cpp: the library without its field definitions, to see what they cost.
+// Replaces field/KnownFields.cpp: the library without its field definitions, to measure what they cost.
 #include "KnownFields.h"
 
 namespace vif {

@@ -21,11 +21,11 @@ namespace {
 struct Form {
   std::string name;
   std::string extension;
-  std::string (*content)(std::size_t size);  // of that many lines or elements, about
+  std::string (*content)(std::size_t size);  // with about that many lines or elements
 };
 
 std::string XmlVifOfElements(std::size_t elements) {
-  constexpr std::size_t elementsOfTwoComponents = 290;  // of the laptop, about
+  constexpr std::size_t elementsOfTwoComponents = 290;  // of the laptop, roughly
   const std::size_t pairs = (elements + elementsOfTwoComponents / 2) / elementsOfTwoComponents;
   return XmlVif(2 * std::max<std::size_t>(pairs, 1));
 }
@@ -43,15 +43,15 @@ struct Loaded {
   double peakBytes = 0;
 };
 
-/// Loads a file in a process of its own.
+/// Loads a file in a separate process.
 Loaded Load(const CTempFile& file) {
   std::istringstream output(OutputOf({BENCH_LOAD_PROBE, file.Path().string()}));
   Loaded loaded;
-  if (!(output >> loaded.fields >> loaded.peakBytes)) throw std::runtime_error("the load probe says nothing");
+  if (!(output >> loaded.fields >> loaded.peakBytes)) throw std::runtime_error("the load probe printed nothing");
   return loaded;
 }
 
-/// Less what a process needs that loads next to nothing.
+/// Without what a process needs that loads next to nothing.
 Work PeakPerField(const Form& form, std::size_t size) {
   return [=](benchmark::State& state) {
     const CTempFile smallest(form.content(0), form.extension);

@@ -1,4 +1,4 @@
-// Loading the library into a fresh process, against the same library without its field definitions.
+// Loading the library into a fresh process, compared with the same library without its field definitions.
 #include "ChildProcess.h"
 #include "Subjects.h"
 
@@ -25,7 +25,7 @@ Loaded Load(const Library& library) {
   Loaded loaded;
   std::size_t definitions = 0;
   if (!(output >> loaded.nanoseconds >> loaded.bytes >> definitions) || definitions != library.definitions) {
-    throw std::runtime_error(library.path + " does not have the definitions that it should have");
+    throw std::runtime_error(library.path + " has the wrong number of definitions");
   }
   return loaded;
 }

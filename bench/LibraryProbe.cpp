@@ -1,5 +1,5 @@
-// Loads a shared library, alone in a process, and prints the nanoseconds that takes, the bytes by which the resident
-// memory grows, and the number of field definitions that the library has then.
+// Loads a shared library in a process of its own, and prints the nanoseconds that takes, the bytes by which the
+// resident memory grows, and the number of the library's field definitions.
 //
 //   library_probe LIBRARY
 #include "VIFFieldDefs.h"
@@ -25,7 +25,7 @@ long ResidentBytes() {
 
 int main(int argc, char** argv) {
   if (argc != 2) return EXIT_FAILURE;
-  ResidentBytes();  // what reading it needs is there from now on
+  ResidentBytes();  // so that the memory for reading it is already resident
   const long bytesBefore = ResidentBytes();
   const auto begin = std::chrono::steady_clock::now();
   void* const library = dlopen(argv[1], RTLD_NOW);

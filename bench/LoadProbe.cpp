@@ -1,5 +1,4 @@
-// Loads a VIF, alone in a process, and prints the number of its fields and the bytes of memory that the process had at
-// most.
+// Loads a VIF in a process of its own, and prints the number of its fields and the peak memory of the process in bytes.
 //
 //   load_probe FILE
 #include "VendorInfoFile.h"
@@ -12,7 +11,7 @@
 
 namespace {
 
-/// Not getrusage's ru_maxrss: that starts at what the process had before it became this program.
+/// Not getrusage's ru_maxrss, which includes what the process had before it became this program.
 long PeakBytes() {
   std::ifstream status("/proc/self/status");
   for (std::string word; status >> word;) {

@@ -7,7 +7,7 @@
 
 namespace bench {
 
-/// Loads the file over and over.
+/// Loads the file repeatedly.
 void LoadOver(benchmark::State& state, const std::filesystem::path& path);
 
 }  // namespace bench

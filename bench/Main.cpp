@@ -1,5 +1,5 @@
-// Measures the library beside something of known cost and prints the ratios. Ends with status 0 whatever they are, and
-// with 1 when something could not be measured.
+// Measures the library next to something of known cost and prints the ratios. The exit status is 0 whatever they are,
+// and 1 if something could not be measured.
 #include "Subjects.h"
 
 #include <malloc.h>
@@ -8,8 +8,9 @@
 
 namespace {
 
-/// Has the process keep the memory that it frees. Otherwise only large files would pay at every load for the pages that
-/// the system hands out and takes back, and how large they must be would depend on what was measured before.
+/// Makes the process keep the memory that it frees. Otherwise large files, and only those, would pay at every load for
+/// the pages that the system hands out and takes back, and what counts as large would depend on what was measured
+/// before.
 void KeepFreedMemory() {
   constexpr int never = -1;
   mallopt(M_TRIM_THRESHOLD, never);

@@ -31,11 +31,11 @@ std::size_t FindComment(const std::string& text) {
   std::size_t cut = text.find(';');
   const std::size_t firstQuote = text.find('"');
   if (cut == std::string::npos || firstQuote == std::string::npos) return cut;
-  const std::size_t behindLastQuote = text.rfind('"') + 1;
-  if (cut < firstQuote || cut > behindLastQuote) return cut;
+  const std::size_t afterLastQuote = text.rfind('"') + 1;
+  if (cut < firstQuote || cut > afterLastQuote) return cut;
   do {
     cut = text.find_first_not_of(';', cut + 1);
-  } while (cut != std::string::npos && cut > firstQuote && cut < behindLastQuote);
+  } while (cut != std::string::npos && cut > firstQuote && cut < afterLastQuote);
   return cut;
 }
 
@@ -72,11 +72,11 @@ std::uint64_t NumberAt(EVifLocation location, const std::wsmatch& match) {
   }
 }
 
-/// Changes a name to that of the first definition that fits it, and finds its place.
+/// Replaces a name with that of the first definition that matches it, and returns its place.
 Place Resolve(std::string& name) {
   Place place;
   place.fill(CVIFField::UNSPECIFIED_INDEX);
-  const std::wstring wideName(name.begin(), name.end());  // ASCII, as the patterns of the lines see to
+  const std::wstring wideName(name.begin(), name.end());  // ASCII, as the line patterns ensure
   for (const VifFieldDef& definition : VifFieldDefs::GetVifFieldDefs()) {
     std::wsmatch match;
     if (!std::regex_match(wideName, match, definition.pattern)) continue;

@@ -1,4 +1,4 @@
-// The reader of text VIFs as one writes it first: with the regular expressions by which the format is defined.
+// A reader of text VIFs as one would write it first: with the regular expressions that define the format.
 #pragma once
 
 #include "VIFField.h"
@@ -8,8 +8,8 @@
 
 namespace bench {
 
-/// The fields of a text VIF, the same as the library's. The pattern of a line is compiled for each line; those of the
-/// names are the built-in definitions', tried in their order.
+/// The fields of a text VIF, the same as the library's. The pattern of a line is compiled for every line; the patterns
+/// of names are those of the built-in definitions, tried in order.
 std::vector<CVIFField> ReadObviously(const std::filesystem::path& path);
 
 }  // namespace bench

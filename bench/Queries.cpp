@@ -1,7 +1,7 @@
-// Queries, against bare loops over arrays of what they look at.
+// Queries, compared with bare loops over arrays of the same data.
 //
-// Some go over fields as the format defines them, the others over fields that nobody would tune a search for: of many
-// more components than a file has, and with names that differ only in their last characters.
+// Some run over fields as the format defines them, others over fields that nobody would tune a search for: with many
+// more components than a file has, or with names that differ only in their last characters.
 #include "Samples.h"
 #include "Subjects.h"
 #include "VendorInfoFile.h"
@@ -23,9 +23,9 @@ namespace bench {
 
 namespace {
 
-/// Asks for the same over and over.
+/// Runs the same query repeatedly.
 void AskOver(benchmark::State& state, std::size_t expected, const std::function<std::size_t()>& ask) {
-  if (ask() != expected || expected == 0) throw std::runtime_error("the query does not find what it should");
+  if (ask() != expected || expected == 0) throw std::runtime_error("the query finds the wrong number of fields");
   while (state.KeepRunning()) benchmark::DoNotOptimize(ask());
 }
 
@@ -35,7 +35,7 @@ using Fields = std::vector<CVIFField>;
 
 Fields ManySampleFields() { return SampleFields(kManyFields); }
 
-/// Of 1,000 components with 7 source PDOs each, all of which have equally many fields.
+/// Fields of 1,000 components with 7 source PDOs each, all with equally many fields.
 Fields SpreadFields() {
   constexpr std::size_t components = 1000;
   constexpr std::size_t pdos = 7;
@@ -48,10 +48,10 @@ Fields SpreadFields() {
   return fields;
 }
 
-/// The name of one of the fields below, in other letter case.
+/// The name of one of the fields below, in different letter case.
 constexpr const char* kNameOfAlike = "src_pdo_field_77777";
 
-/// With names that all begin alike.
+/// Fields whose names all begin alike.
 Fields AlikeFields() {
   const VifIndex any = CVIFField::UNSPECIFIED_INDEX;
   Fields fields;
@@ -137,7 +137,7 @@ Work CountSlots(Fields (*makeFields)()) {
     const std::vector<Slots> all = SlotsOfAll(fields);
     Slots query = kQuery;
     benchmark::DoNotOptimize(all.data());
-    benchmark::DoNotOptimize(query);  // the compiler must not know it, because the library does not
+    benchmark::DoNotOptimize(query);  // the compiler must not know it, as it cannot in the library
     AskOver(state, PassingFields(fields), [&] { return CountPassing(all, query); });
   };
 }

@@ -28,7 +28,7 @@ class CWorkBenchmark : public Benchmark {
 };
 
 Benchmark* Register(const std::string& name, const Work& work) {
-  // The registry takes it over, which the linter cannot see.
+  // The registry takes ownership, which the linter cannot see.
   // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
   return benchmark::internal::RegisterBenchmarkInternal(new CWorkBenchmark(name, work));
 }
@@ -41,7 +41,7 @@ std::string NumberText(double number) {
   return text;
 }
 
-/// Nanoseconds or bytes in a unit that suits.
+/// Nanoseconds or bytes in a suitable unit.
 std::string ValueText(double value, bool isBytes) {
   constexpr const char* timeUnits[] = {" ns", " µs", " ms", " s"};
   constexpr const char* byteUnits[] = {" B", " kB", " MB", " GB"};
@@ -68,7 +68,7 @@ std::string MetText(const Goal& goal, double ratio) {
   return isMet ? "yes" : "no";
 }
 
-/// Nanoseconds by the clock that the benchmark was made to use.
+/// Nanoseconds by the clock that the benchmark uses.
 double TimeOf(const benchmark::BenchmarkReporter::Run& run) {
   const double seconds = run.run_name.time_type.empty() ? run.cpu_accumulated_time : run.real_accumulated_time;
   return seconds * 1e9 / static_cast<double>(run.iterations);
@@ -114,7 +114,7 @@ void CRatioTable::ReportRuns(const std::vector<Run>& runs) {
                                    : TimeOf(run) / (fields != run.counters.end() ? fields->second.value : 1));
     }
   }
-  // Without this, nothing is seen until the end. What comes a second time are the library's own medians.
+  // Without this, nothing would be visible until the end. Runs of other types are Google Benchmark's own medians.
   if (!runs.empty() && runs.front().run_type == Run::RT_Iteration) {
     GetErrorStream() << "    " << runs.front().run_name.function_name << '\n' << std::flush;
   }

@@ -1,4 +1,4 @@
-// The table of ratios: its rows are benchmarks of Google Benchmark, which runs them, and it prints what came of them.
+// The table of ratios: its rows are run by Google Benchmark, and it prints their results.
 #pragma once
 
 #include <benchmark/benchmark.h>
@@ -30,20 +30,20 @@ constexpr Goal AtLeastTimesAsFast(double ratio) { return {Goal::Kind::TimesAsFas
 
 /// The texts of a row.
 struct Row {
-  std::string name;  ///< what filters look at
+  std::string name;  ///< what filters match
   std::string what;
   std::string against;
   Goal goal;
 };
 
-/// A benchmark that sets this counter measures the time of one of so many fields.
+/// A benchmark that sets this counter measures the time per field, for so many fields.
 constexpr const char* kFields = "fields";
 
-/// A benchmark that sets this counter measures so many bytes, and no time.
+/// A benchmark that sets this counter measures so many bytes instead of time.
 constexpr const char* kBytes = "bytes";
 
-/// Takes part in a run as its reporter. A benchmark measures CPU time unless it is made to use another, and of its
-/// repetitions the median counts. A benchmark whose work throws has failed.
+/// Takes part in a run as its reporter. A benchmark measures CPU time unless it is set to use another clock, and the
+/// median of its repetitions counts. A benchmark fails if its work throws.
 class CRatioTable : public benchmark::BenchmarkReporter {
  public:
   struct Pair {
@@ -51,23 +51,24 @@ class CRatioTable : public benchmark::BenchmarkReporter {
     Benchmark* other;
   };
 
-  /// A row that compares two benchmarks, which the caller may adjust.
+  /// Adds a row that compares two benchmarks, which the caller may adjust.
   Pair AddPair(Row row, const Work& ours, const Work& other);
 
-  /// A row that compares the largest result of the sizes with the smallest, and a row of the table of sizes. The
+  /// Adds a row that compares the largest result of the sizes with the smallest, and a row in the table of sizes. The
   /// caller may adjust the benchmarks.
   std::vector<Benchmark*> AddSpread(Row row, const std::vector<std::pair<std::string, Work>>& sizes);
 
   bool ReportContext(const Context& context) override;
   void ReportRuns(const std::vector<Run>& runs) override;
 
-  /// Prints the rows of which something was run.
+  /// Prints the rows that were measured.
   void Finalize() override;
 
   bool HasFailed() const { return m_hasFailed; }
 
  private:
-  /// A row with the names of its benchmarks. Of several on one side, ours is the largest and the other the smallest.
+  /// A row with the names of its benchmarks. If a side has several, the largest of ours and the smallest of the others
+  /// count.
   struct RowBenchmarks {
     Row row;
     std::vector<std::string> ours;

@@ -11,7 +11,7 @@
 
 namespace bench {
 
-/// A file for the time of one benchmark.
+/// A file that exists for the duration of one benchmark.
 class CTempFile {
  public:
   /// \param extension with its dot
@@ -26,23 +26,22 @@ class CTempFile {
   std::filesystem::path m_path;
 };
 
-/// \throws std::runtime_error when the file cannot be written
+/// \throws std::runtime_error if the file cannot be written
 void WriteFile(const std::filesystem::path& path, std::string_view content);
 
-/// A text VIF of that many lines: those of an example, over and over.
+/// A text VIF of that many lines: those of an example, repeated.
 std::string TextVif(std::size_t lines);
 
 /// The two-port laptop of the examples.
 std::filesystem::path TwoPortLaptop();
 
-/// An XML VIF of that many components, which must be even: those of the laptop, over and over.
+/// An XML VIF with that many components, an even number: those of the laptop, repeated.
 std::string XmlVif(std::size_t components);
 
 /// The only field of `SampleFields` with that name.
 constexpr const char* kUniqueName = "Connector_Type";
 
-/// Fields with the names and places that the format defines, in its order over and over, of several components and
-/// groups.
+/// Fields with the names and places that the format defines, repeated in its order, in several components and groups.
 std::vector<CVIFField> SampleFields(std::size_t count);
 
 }  // namespace bench

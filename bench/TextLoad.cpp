@@ -1,5 +1,5 @@
-// Loading text VIFs, against the obvious reader and against a floor: reading the file, splitting it at line ends and at
-// the first colon, and keeping three strings a line.
+// Loading text VIFs, compared with the obvious reader and with a floor: reading the file, splitting it at line ends and
+// at the first colon, and keeping three strings per line.
 #include "LoadWork.h"
 #include "ObviousReader.h"
 #include "Samples.h"
@@ -24,13 +24,13 @@ bool IsSame(const CVIFField& one, const CVIFField& other) {
          one.Indexes() == other.Indexes() && one.GetNumericValue() == other.GetNumericValue();
 }
 
-/// A comparison is worth nothing unless both readers do the same. These lines hold every line of the other samples.
+/// The comparison is worthless unless both readers do the same. This sample contains every line of the others.
 void RequireSameFields() {
   const CTempFile file(TextVif(300), ".txt");
   const VifFieldList ours = CVendorInfoFile(file.Path()).GetFields();
   const std::vector<CVIFField> other = ReadObviously(file.Path());
   if (ours->empty() || !std::equal(ours->begin(), ours->end(), other.begin(), other.end(), IsSame)) {
-    throw std::runtime_error("the obvious reader yields other fields than the library");
+    throw std::runtime_error("the obvious reader and the library yield different fields");
   }
 }
 

@@ -1,4 +1,4 @@
-// The command as a whole process, against xmllint on the same file.
+// The command as a whole process, compared with xmllint on the same file.
 #include "ChildProcess.h"
 #include "Samples.h"
 #include "Subjects.h"
@@ -12,7 +12,7 @@ namespace {
 
 using Command = std::vector<std::string>;
 
-/// Runs a command on an XML VIF over and over. The file is the last argument.
+/// Runs a command on an XML VIF repeatedly. The file is the last argument.
 Work OnComponents(const Command& command, std::size_t components) {
   return [=](benchmark::State& state) {
     const CTempFile file(XmlVif(components), ".xml");

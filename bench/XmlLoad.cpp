@@ -1,5 +1,5 @@
-// Loading XML VIFs when the schemas are compiled already, against a floor: libxml2 parsing and validating the same file
-// with a schema that is compiled already, and nothing else.
+// Loading XML VIFs with schemas already compiled, compared with a floor: libxml2 only parses and validates the same
+// file, with its schema already compiled.
 #include "LoadWork.h"
 #include "Samples.h"
 #include "Subjects.h"

@@ -1,4 +1,4 @@
-# On Windows, gives a library or program the version that its properties show.
+# Sets the version that Windows shows in the properties of a library or program.
 function(project_set_file_version target)
   if(NOT WIN32)
     return()

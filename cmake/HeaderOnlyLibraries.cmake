@@ -1,7 +1,7 @@
-# Libraries of headers alone, which are the same for every system.
+# Header-only libraries, which are the same for every system.
 
-# Finds a package. When the build is for another system, this machine's headers serve too, but not the directory that
-# they are in: with it, the compiler would see this machine's system headers. They are copied out of it.
+# Finds a package. A cross build can use this machine's headers too, but copied to a directory of their own: in their
+# original one, the compiler would also see this machine's system headers.
 #   project_find_header_only(<package> <version> TARGET <target> HEADERS <directory under the include directory>)
 function(project_find_header_only package version)
   cmake_parse_arguments(PARSE_ARGV 2 arg "" "TARGET;HEADERS" "")

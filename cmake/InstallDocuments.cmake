@@ -1,5 +1,5 @@
-# Installs the documents that the README links to, in the folders that they have in the sources. Headers, schemas and
-# example VIFs are installed elsewhere; links to them are changed to lead there.
+# Installs the documents that the README links to, in the same folders as in the sources. Headers, schemas and example
+# VIFs are installed elsewhere, so links to them are adjusted.
 
 # Installs a Markdown file, given by its path in the sources.
 function(project_install_document document)

@@ -1,4 +1,4 @@
-# What `cmake --install` puts where, and the files by which CMake and pkg-config find it there.
+# What `cmake --install` installs, including the files that CMake and pkg-config need to find it.
 include(CMakePackageConfigHelpers)
 
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/VendorInfoFile")
@@ -37,7 +37,7 @@ install(FILES
   "${PROJECT_BINARY_DIR}/VendorInfoFileConfigVersion.cmake"
   DESTINATION "${package_dir}")
 
-# The prefix is found from the file's own place, so that the installation can be moved.
+# The prefix is relative to this file, so that the installation can be moved.
 file(RELATIVE_PATH prefix_from_pc "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
 if(WIN32)
   set(pc_system_libraries " -lole32 -loleaut32")

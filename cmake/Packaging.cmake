@@ -1,4 +1,4 @@
-# The packages that CPack makes of what is installed: for Windows a zip file; for Linux a Debian package and, for other
+# The packages that CPack makes of what is installed: a zip file for Windows; a Debian package for Linux and, for other
 # distributions, a tar file.
 set(CPACK_PACKAGE_VENDOR "The VendorInfoFile developers")
 set(CPACK_PACKAGE_CONTACT "The VendorInfoFile developers <developers@vendorinfofile.invalid>")

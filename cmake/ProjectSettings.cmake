@@ -1,7 +1,7 @@
-# What all targets of this project are compiled with. None of it reaches a program that uses the library, or a project that
-# this one is a part of.
+# Settings for all targets of this project. None of them reach a program that uses the library, or a project that
+# includes this one.
 
-# A user who runs cmake without a preset expects an optimised build. A project around this one decides for itself.
+# A user who runs cmake without a preset expects an optimised build. An enclosing project decides for itself.
 if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
   set(CMAKE_BUILD_TYPE Release CACHE STRING "Kind of build" FORCE)
 endif()
@@ -11,7 +11,7 @@ set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
-# Windows looks for the libraries of a program beside it, and has no prefix for them.
+# Windows looks for a program's libraries next to it, and their names have no prefix.
 if(WIN32)
   set(CMAKE_SHARED_LIBRARY_PREFIX "")
   set(CMAKE_SHARED_MODULE_PREFIX "")
@@ -19,17 +19,17 @@ if(WIN32)
   set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
 endif()
 
-# Lists of sanitizers, such as "address,undefined". Every finding ends the program.
+# For example "address,undefined". Every finding ends the program.
 set(VENDORINFOFILE_SANITIZE "" CACHE STRING "Sanitizers to build everything with, separated by commas")
 
 add_library(VendorInfoFileSettings INTERFACE)
 target_compile_features(VendorInfoFileSettings INTERFACE cxx_std_20)
 if(WIN32)
-  # Text is Unicode, and windows.h brings no more than is asked for.
+  # Text is Unicode, and windows.h declares no more than is needed.
   target_compile_definitions(VendorInfoFileSettings INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
 endif()
 if(MSVC)
-  # C4251, C4275: that exported classes have members and bases of the standard library is as it must be.
+  # C4251, C4275: exported classes must have members and bases from the standard library.
   target_compile_options(VendorInfoFileSettings INTERFACE /W4 /permissive- /utf-8 /wd4251 /wd4275)
   target_compile_definitions(VendorInfoFileSettings INTERFACE _CRT_SECURE_NO_WARNINGS)
 else()
@@ -38,7 +38,7 @@ else()
     -Woverloaded-virtual)
 endif()
 
-# The library reads files from anywhere. When one of them hits a bug, the process is to end rather than be exploited.
+# The library reads files from anywhere. If one of them triggers a bug, the process must end rather than be exploited.
 if(NOT MSVC)
   target_compile_definitions(VendorInfoFileSettings INTERFACE _GLIBCXX_ASSERTIONS)
 endif()
@@ -46,7 +46,7 @@ if(UNIX AND NOT APPLE)
   target_compile_options(VendorInfoFileSettings INTERFACE -fstack-protector-strong)
   # A library that has a unique symbol is never unloaded.
   target_compile_options(VendorInfoFileSettings INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
-  # The user's flags decide, where they say anything. The sanitizers watch the same calls themselves.
+  # If the user's flags set this, they decide. The sanitizers check the same calls themselves.
   string(TOUPPER "CMAKE_CXX_FLAGS_${CMAKE_BUILD_TYPE}" flags_of_build_type)
   if(NOT VENDORINFOFILE_SANITIZE AND NOT "${CMAKE_CXX_FLAGS} ${${flags_of_build_type}}" MATCHES "_FORTIFY_SOURCE")
     target_compile_options(VendorInfoFileSettings INTERFACE "SHELL:-include \"${CMAKE_CURRENT_LIST_DIR}/Fortify.h\"")
@@ -63,26 +63,26 @@ if(VENDORINFOFILE_SANITIZE)
   endif()
 endif()
 
-# Every run adds to the counts of the runs before it; each program and library has a file of them. Counts that threads
-# write over one another would let branches appear that were never taken.
-option(VENDORINFOFILE_COVERAGE "Count what is run of the sources, with clang++, for scripts/coverage.sh" OFF)
+# Each program and library has a file of counts, to which every run adds. The counts are atomic: if threads overwrote
+# each other's, branches could appear that were never taken.
+option(VENDORINFOFILE_COVERAGE "Measure coverage, with clang++, for scripts/coverage.sh" OFF)
 if(VENDORINFOFILE_COVERAGE)
   if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
-    message(FATAL_ERROR "VENDORINFOFILE_COVERAGE needs clang++; ${CMAKE_CXX_COMPILER} is another compiler")
+    message(FATAL_ERROR "VENDORINFOFILE_COVERAGE needs clang++, not ${CMAKE_CXX_COMPILER}")
   endif()
   add_compile_options(
     "-fprofile-instr-generate=${PROJECT_BINARY_DIR}/coverage/%m.profraw" -fprofile-update=atomic -fcoverage-mapping)
   add_link_options(-fprofile-instr-generate)
 endif()
 
-# What the file names of shared libraries and the versions of their symbols tell apart: libraries of which one cannot take
-# the other's place. Before 1.0, every minor version may break the one before.
+# The ABI version, in the file names of shared libraries and the versions of their symbols: it tells apart libraries
+# that cannot replace each other. Before 1.0, every minor version may break the previous one.
 set(VENDORINFOFILE_ABI ${PROJECT_VERSION_MAJOR})
 if(PROJECT_VERSION_MAJOR EQUAL 0)
   set(VENDORINFOFILE_ABI ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 endif()
 
-# Gives a shared library its version, and keeps everything that its map does not name out of its interface, such as
+# Sets a shared library's version, and keeps everything that its map does not name out of its interface, such as
 # instantiations of the standard library's templates, which are visible by default.
 function(project_set_interface target map)
   set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${VENDORINFOFILE_ABI})

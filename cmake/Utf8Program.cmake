@@ -1,5 +1,5 @@
-# Makes the narrow text of a program UTF-8 on Windows, as it is elsewhere: its arguments, file names, and the system
-# code page, which the texts of XML VIFs are in. Windows heeds it from version 1903 of Windows 10 on.
+# Makes a program's narrow text UTF-8 on Windows, as it is elsewhere: its arguments, file names, and the system code
+# page, in which texts of XML VIFs are returned. Works from Windows 10, version 1903, on.
 function(project_use_utf8 target)
   set(folder "${CMAKE_CURRENT_FUNCTION_LIST_DIR}")
   if(MSVC)

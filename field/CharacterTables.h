@@ -5,11 +5,11 @@
 
 namespace vif {
 
-/// Fills the tables of the locale's `std::ctype<char>`, so that nobody writes to them afterwards. libstdc++ fills them
-/// piece by piece while it compiles expressions, and takes no lock for it, although all threads share them.
+/// Fills the tables of the locale's `std::ctype<char>`, so that nothing writes to them afterwards. libstdc++ fills them
+/// piece by piece while it compiles expressions, without a lock, although all threads share them.
 ///
-/// To be called before each use of the locale with a regular expression. That costs a fraction of compiling one, and
-/// takes a lock, so that what one thread has filled the next one sees.
+/// Call it before each use of the locale with a regular expression. It costs a fraction of compiling one, and takes a
+/// lock, so that each thread sees what another has filled.
 void FillCharacterTables(const std::locale& locale);
 
 }  // namespace vif

@@ -1,4 +1,4 @@
-// The few things that compilers and their standard libraries spell differently.
+// What compilers and their standard libraries spell differently.
 #pragma once
 
 #include <cstdint>
@@ -24,21 +24,21 @@ namespace vif {
 #if defined(__SANITIZE_ADDRESS__) || VIF_HAS_FEATURE(address_sanitizer) || VIF_HAS_FEATURE(memory_sanitizer)
 constexpr bool kHasLargeFrames = true;
 #else
-/// Whether the compiler makes stack frames several times as large as usual, which sanitizers of memory need.
+/// Whether stack frames are several times as large as usual, as memory sanitizers make them.
 constexpr bool kHasLargeFrames = false;
 #endif
 
 #if defined(__GLIBCXX__)
 
-/// Whether the standard library has a second engine, which goes through the text once, character by character, and
-/// needs no more stack for a longer text. It cannot match expressions that refer back to a group.
+/// Whether the standard library has a second engine, which passes over the text once, character by character, and needs
+/// no more stack for a longer text. It cannot match back-references.
 constexpr bool kHasStepwiseEngine = true;
 
-/// `std::regex_match` by the stepwise engine. An expression that refers back to a group is matched recursively.
+/// `std::regex_match` with the stepwise engine. An expression with a back-reference is matched recursively.
 template <typename Iterator, typename Char>
 bool StepwiseRegexMatch(Iterator first, Iterator last, std::match_results<Iterator>& match,
                         const std::basic_regex<Char>& expression) {
-  // libstdc++ chooses between its engines when it matches, not when it compiles, and lets its own tests ask for either.
+  // libstdc++ chooses its engine when it matches, not when it compiles, and lets its own tests request either.
   using std::__detail::_RegexExecutorPolicy;
   constexpr auto flags = std::regex_constants::match_default;
 #if _GLIBCXX_RELEASE >= 12

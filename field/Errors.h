@@ -6,7 +6,7 @@
 
 namespace vif {
 
-/// This thread's scratch buffer for the messages of exceptions, made on first use in the thread.
+/// This thread's scratch buffer for the messages of exceptions, created on first use in the thread.
 CSimpleBuffer& MessageBuffer();
 
 /// Throws `CZoRunTimeException` with the formatted message.

@@ -11,14 +11,14 @@ namespace vif {
 
 namespace {
 
-/// The number at the start of the captured text; unspecified when there is none or it has more than 64 bits.
+/// The number at the start of the captured text; unspecified if there is none or it has more than 64 bits.
 std::uint64_t CapturedNumber(std::string_view digits) {
   std::uint64_t number = 0;
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
   return error == std::errc() ? number : CVIFField::INDEX_NOT_SPECIFIED;
 }
 
-/// The number that goes with a location. `capture` gives the text of capture group 1 or 2.
+/// The number that goes with a location. `capture` returns the text of capture group 1 or 2.
 template <typename Capture>
 std::uint64_t LocationNumber(EVifLocation location, std::uint32_t component, const Capture& capture) {
   switch (location) {
@@ -27,7 +27,7 @@ std::uint64_t LocationNumber(EVifLocation location, std::uint32_t component, con
     case eVifLocAppVersion:
     case eVifLocProduct: return 0;
     case eVifLocComponent: return component;
-    // The first group always feeds the outer group of the file and the second the inner one.
+    // The first capture group always numbers the outer group of the file and the second the inner one.
     case eVifLocRouter:
     case eVifLocSrcPdo:
     case eVifLocSnkPdo:
@@ -63,7 +63,7 @@ FieldsByPattern BuiltInPatterns() {
   return fields;
 }
 
-/// The known field whose built-in pattern the definition has; null when the pattern is the caller's own.
+/// The known field whose built-in pattern the definition uses; null if the pattern is the caller's own.
 const KnownField* FieldWithPatternOf(const VifFieldDef& definition) {
   static const FieldsByPattern fields = BuiltInPatterns();
   const auto found = fields.find(IdentityOf(definition.pattern));
@@ -131,7 +131,7 @@ void CFieldResolver::ResolveByTable(std::string_view name, const KnownFieldMatch
   std::string captured;
   const auto capture = [&](size_t group) -> std::string_view {
     if (!hasOwnPattern) return known.indexDigits[group - 1];
-    // A group that took no part, or that does not exist, is empty and stands at the end of the name.
+    // A capture group that took no part in the match, or does not exist, is empty and stands at the end of the name.
     captured = Utf16ToUtf8({match[group].first.Position(), match[group].second.Position()});
     return captured;
   };

@@ -1,4 +1,4 @@
-// Turns a field's name as a text VIF writes it into its canonical name and its place in the file.
+// Resolves a field's name, as a text VIF writes it, to its canonical name and its place in the file.
 #pragma once
 
 #include "GuardedRegex.h"
@@ -17,24 +17,24 @@
 namespace vif {
 
 struct ResolvedName {
-  std::string name;  ///< the canonical name; the name as written when no definition knows it
+  std::string name;  ///< the canonical name; the name as written if no definition knows it
   std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH> slots;
   bool isKnown = false;  ///< whether a definition knows the name
 };
 
 /// Applies one field definition table to the names of one component. A definition whose pattern is a copy of a built-in
-/// one is found through the index of the known fields, which says what the pattern says; any other is matched.
+/// one is found through the index of known fields, which accepts the same names; any other pattern is matched.
 class CFieldResolver {
  public:
-  /// \param table the definitions to apply, borrowed and not to be changed while the object lives; null means the
+  /// \param table the definitions to apply, borrowed; they must not change while the object lives. Null means the
   ///   built-in table
-  /// \param component the number that fields of a component get
+  /// \param component the component number that fields get
   CFieldResolver(const std::vector<VifFieldDef>* table, std::uint32_t component);
 
-  /// Resolves one name into `result`, whose storage is used again.
+  /// Resolves one name into `result`, whose storage is reused.
   /// \throws CZoRunTimeException "Internal error - Unknown EVifLocation: <value>"
-  /// \throws std::regex_error when a pattern of the caller's own needs more stack or time than there is. One that
-  ///   neither refers back to a group nor looks ahead gives an answer for names of millions of bytes.
+  /// \throws std::regex_error if one of the caller's own patterns needs more stack or time than there is. Without
+  ///   back-references and look-ahead, names may have millions of bytes
   void Resolve(std::string_view name, ResolvedName& result) const;
 
   /// Whether a definition knows the name.
@@ -51,17 +51,17 @@ class CFieldResolver {
   void ResolveBuiltIn(const KnownFieldMatch& known, ResolvedName& result) const;
   void ResolveByTable(std::string_view name, const KnownFieldMatch& known, ResolvedName& result) const;
 
-  /// The position in the caller's table of the first definition with the known field's pattern; the table's size when
+  /// The position in the caller's table of the first definition with the known field's pattern; the table's size if
   /// there is none.
   std::size_t PositionOf(const KnownFieldMatch& known) const;
 
-  /// The first definition before the position `end` whose own pattern fits the whole name, with the captures in
-  /// `match`; null when there is none.
+  /// The first definition before the position `end` whose pattern, one of the caller's own, matches the whole name,
+  /// with the captures in `match`; null if there is none.
   const VifFieldDef* FindOwnPattern(std::wstring_view name, std::size_t end, GuardedMatch<wchar_t>& match) const;
 
   const std::vector<VifFieldDef>* m_ownTable;  // null for the built-in table
   std::uint32_t m_component;
-  std::vector<std::size_t> m_positions;   // for each known field, as `PositionOf` says
+  std::vector<std::size_t> m_positions;   // of each known field; see `PositionOf`
   std::vector<OwnPattern> m_ownPatterns;  // in the order of the table
 };
 

@@ -1,4 +1,4 @@
-// Runs std::regex on text of any length without running off the stack or for ever.
+// Runs std::regex on text of any length without overflowing the stack or running for ever.
 #pragma once
 
 #include "Compiler.h"
@@ -16,43 +16,42 @@
 
 namespace vif {
 
-/// How far down the stack the recursive engine goes where the stepwise one can take over. Field names need a few
-/// kilobytes.
+/// How much stack the recursive engine may use where the stepwise one can take over. Field names need a few kilobytes.
 constexpr std::uintptr_t kRecursionBudget = std::uintptr_t{256} * 1024;
 
-/// How often one match by the recursive engine may read a character or compare positions. Patterns that are not
-/// pathological do so a few times for each character of a name.
+/// How often the recursive engine may read a character or compare positions in one match. Unless a pattern is
+/// pathological, it does so a few times for each character of a name.
 constexpr std::size_t kMatchStepBudget = 1'000'000;
 
 /// The same for the stepwise engine, which takes a few steps for each character, and more than one for each pair of
-/// them only where a pattern looks ahead. This ends the longest match after a second or two.
+/// characters only where a pattern looks ahead. This ends the longest match after a second or two.
 constexpr std::size_t kStepwiseStepBudget = 100'000'000;
 
-/// What libstdc++ may take to go through one alternative: it takes 80 to 144 bytes, and 496 in the largest frames that
-/// a sanitizer makes.
+/// How many bytes of stack to allow libstdc++ for one alternative: it takes 80 to 144, or 496 in the largest frames of
+/// a sanitizer.
 constexpr std::uintptr_t kStackPerAlternative = kHasLargeFrames ? 768 : 256;
 
-/// What is left to a match.
+/// What a match may still use.
 struct MatchBudget {
   std::uintptr_t lowestFrame = 0;
   std::size_t stepsLeft = kMatchStepBudget;
 
-  /// \throws std::regex_error (`error_stack`) when the match has gone too deep
+  /// \throws std::regex_error (`error_stack`) if the match has gone too deep
   void CheckStack() const {
     if (VIF_FRAME_ADDRESS() < lowestFrame) ThrowStackTooSmall();
   }
 
-  /// \throws std::regex_error when the match has gone too deep (`error_stack`) or on for too long (`error_complexity`)
+  /// \throws std::regex_error if the match has gone too deep (`error_stack`) or on for too long (`error_complexity`)
   void Check() {
     CheckStack();
     if (stepsLeft-- == 0) ThrowTooManySteps();
   }
 };
 
-/// Walks over text for a regular expression and looks at what is left to the match whenever a character is read,
-/// positions are compared or a position is kept. libstdc++ recurses for every character, repetition, group and
-/// assertion it matches, and does one of these for each; only alternatives that directly follow each other escape the
-/// guard. Where the standard library guards its own stack, this guard is merely never the first to act.
+/// Iterates over text for a regular expression, and checks the budget whenever a character is read, positions are
+/// compared or a position is kept. libstdc++ recurses for every character, repetition, group and assertion it matches,
+/// and does one of these each time; only alternatives that directly follow each other escape the guard. Where the
+/// standard library guards its own stack, its guard simply acts before this one.
 template <typename Char>
 class CGuardedIterator {
  public:
@@ -110,12 +109,12 @@ class CGuardedIterator {
 template <typename Char>
 using GuardedMatch = std::match_results<CGuardedIterator<Char>>;
 
-/// Which engine does a match.
+/// The engine that does a match.
 enum class Engine { Recursive, Stepwise };
 
-/// `std::regex_match` of the whole text, with the captures in `match`, of which only the positions may be used.
-/// \throws std::regex_error when the match would need more stack (`error_stack`) or more steps (`error_complexity`)
-///   than the budget has
+/// `std::regex_match` of the whole text. Of the captures in `match`, only the positions may be used.
+/// \throws std::regex_error if the match would need more stack (`error_stack`) or more steps (`error_complexity`) than
+///   the budget allows
 template <typename Char>
 bool GuardedRegexMatch(std::basic_string_view<Char> text, GuardedMatch<Char>& match,
                        const std::basic_regex<Char>& expression, MatchBudget budget,
@@ -126,15 +125,15 @@ bool GuardedRegexMatch(std::basic_string_view<Char> text, GuardedMatch<Char>& ma
                                      : StepwiseRegexMatch(first, last, match, expression);
 }
 
-/// Matches texts with one expression: recursively, which is fast, or else stepwise, where the stack or the steps are
-/// not enough for that.
+/// Matches texts with one expression: recursively, which is fast, or stepwise where that would take too much stack or
+/// too many steps.
 class CGuardedMatcher {
  public:
   explicit CGuardedMatcher(const RegexShape& shape) : m_shape(shape) {}
 
-  /// \param expression the one that the shape is of
-  /// \param lowestUsableFrame as `LowestFrame` says, which need not be asked for every match of many
-  /// \throws std::regex_error as `GuardedRegexMatch` does, when no engine can answer
+  /// \param expression the one that the shape describes
+  /// \param lowestUsableFrame the result of `LowestFrame`, which callers with many matches may determine once
+  /// \throws std::regex_error as `GuardedRegexMatch` does, if no engine can answer
   template <typename Char>
   bool Match(std::basic_string_view<Char> text, GuardedMatch<Char>& match, const std::basic_regex<Char>& expression,
              std::uintptr_t lowestUsableFrame = LowestFrame()) {

@@ -19,7 +19,7 @@ std::uint32_t HashWithoutDigits(std::string_view text) {
   return hash;
 }
 
-/// Whether the name is written as the spelling says, with the digits at its marks in `digits`.
+/// Whether the name matches the spelling; `digits` receives the digits at its marks.
 bool MatchesSpelling(std::string_view name, std::string_view spelling, std::array<std::string_view, 2>& digits) {
   size_t mark = 0;
   size_t at = 0;
@@ -81,7 +81,7 @@ const CKnownFieldIndex& BuiltInFieldIndex() {
 
 namespace {
 
-// Builds the index while the library is loaded, like the table that it stands for.
+// Builds the index while the library is loaded, as the table itself is built.
 // NOLINTNEXTLINE(cert-err58-cpp)
 [[maybe_unused]] const CKnownFieldIndex& builtAtLoad = BuiltInFieldIndex();
 

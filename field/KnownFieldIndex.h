@@ -11,17 +11,17 @@
 
 namespace vif {
 
-/// A known field and the digits that stood at its index marks.
+/// A known field and the digits at its index marks.
 struct KnownFieldMatch {
-  const KnownField* field = nullptr;            // null when no field has the name
+  const KnownField* field = nullptr;            // null if no field has the name
   std::string_view canonicalName;               // lives as long as the index
-  std::array<std::string_view, 2> indexDigits;  // parts of the name asked for; empty where there is no mark
+  std::array<std::string_view, 2> indexDigits;  // parts of the name passed in; empty where there is no mark
 };
 
-/// Does with plain code what the patterns of the built-in definition table say.
+/// Does in plain code what the patterns of the built-in definition table describe.
 ///
-/// A name is hashed without its digits, whether they are an index or part of the name; the few fields with that
-/// hash are then compared with the name in full.
+/// A name is hashed without its digits, whether they are an index or part of the name. Only the few fields with the
+/// same hash are then compared with the full name.
 class CKnownFieldIndex {
  public:
   CKnownFieldIndex();

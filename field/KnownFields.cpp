@@ -230,8 +230,8 @@ constexpr KnownField kKnownFields[] = {
     {"USB4_PCIe_Switch_Vendor_ID#", {eVifLocProduct, eVifLocRouter}},
     {"USB4_PCIe_Switch_Device_ID#", {eVifLocProduct, eVifLocRouter}},
     {"USB4_Num_PCIe_Endpoints#", {eVifLocProduct, eVifLocRouter}},
-    // The number behind "Endpoint" is the router's and the one at the end is the endpoint's: the first number always
-    // names the outer group.
+    // The number after "Endpoint" is the router's and the one at the end is the endpoint's: the first number always
+    // belongs to the outer group.
     {"USB4_PCIe_Endpoint#_Vendor_ID#", {eVifLocProduct, eVifLocRouter, eVifLocRouterPcie}},
     {"USB4_PCIe_Endpoint#_Device_ID#", {eVifLocProduct, eVifLocRouter, eVifLocRouterPcie}},
     {"USB4_PCIe_Endpoint#_Class_Code#", {eVifLocProduct, eVifLocRouter, eVifLocRouterPcie}},
@@ -271,21 +271,20 @@ constexpr KnownField kKnownFields[] = {
     {"SVID#_Mode#_Enter", {eVifLocComponent, eVifLocCableSvid, eVifLocCableSvidMode}},
     {"SVID#_Mode#_Recog_Mask", {eVifLocComponent, eVifLocCableSvid, eVifLocCableSvidMode}},
     {"SVID#_Mode#_Recog_Value", {eVifLocComponent, eVifLocCableSvid, eVifLocCableSvidMode}},
-    // Known, but in no group.
+    // Known, but belongs to no group.
     {"OptionalContent", {}},
-    // Their place at the end is part of the table.
+    // The table has these at the end, and its order is fixed.
     {"Type_C_To_Plug_Receptacle", {eVifLocComponent}},
     {"Retimer_Type", {eVifLocComponent}},
     {"Active_Cable_USB2_Hub_Hops_Supported", {eVifLocComponent}},
-    // A misspelling that files contain: a field of its own, which keeps its spelling.
+    // A misspelling that files contain. It is a separate field and keeps its spelling.
     {"Active_Cable_Optically_Isololated", {eVifLocComponent}},
     {"Product_VID", {eVifLocProduct}},
     {"Active_Cable_Operating_Temp_Support", {eVifLocComponent}},
     {"Active_Cable_Shutdown_Temp_Support", {eVifLocComponent}},
 };
 
-/// Digits are taken greedily when a spelling is matched, which is right only as long as no digit of the name
-/// itself follows an index.
+/// Digits are matched greedily, which is right only as long as no digit of the name itself follows an index.
 consteval bool NoDigitFollowsAnIndex() {
   for (const KnownField& field : kKnownFields) {
     for (size_t i = 0; i + 1 < field.spelling.size(); ++i) {

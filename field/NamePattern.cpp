@@ -15,9 +15,9 @@ constexpr std::string_view kQuantifiers = "*+?{";
 
 constexpr auto kSyntax = std::regex_constants::ECMAScript | std::regex_constants::icase;
 
-/// What every name begins with that the pattern fits, as far as that is seen easily: its plain characters up to the
-/// first special one. Names that begin otherwise need not be matched, without which "Src_PDO_.*" over fields of all
-/// kinds would take four times as long.
+/// What every matching name must begin with, as far as that is easy to tell: the pattern's plain characters up to the
+/// first special one. Names that begin otherwise need not be matched at all, which makes "Src_PDO_.*" over fields of
+/// all kinds four times as fast.
 std::string_view Beginning(std::string_view pattern) {
   if (IsPlainPattern(pattern)) return pattern;
   if (pattern.find('|') != std::string_view::npos) return {};  // the other alternative begins in its own way
@@ -26,7 +26,7 @@ std::string_view Beginning(std::string_view pattern) {
   return pattern.substr(0, isLastOneQuantified ? end - 1 : end);
 }
 
-/// The number of digits after each backslash, at most, that may make a reference to a group; 0 when there is none.
+/// The largest number of digits after a backslash that may be a back-reference; 0 if there is none.
 std::size_t LongestReference(std::string_view pattern) {
   std::size_t longest = 0;
   for (std::size_t i = pattern.find('\\'); i < pattern.size(); i = pattern.find('\\', i + 2)) {
@@ -37,19 +37,19 @@ std::size_t LongestReference(std::string_view pattern) {
   return longest;
 }
 
-/// A number of more digits is beyond all groups. libstdc++ lets it overflow, and may take it for that of a group that
-/// there is.
+/// A longer number is beyond all groups. libstdc++ lets it overflow, so that it may come out as the number of an
+/// existing group.
 constexpr std::size_t kMostReferenceDigits = 9;
 
-/// How to compile the pattern. Nobody asks for the captures, which take time, and in the stepwise engine memory that
-/// grows with the square of the number of groups; but a reference needs them.
+/// How to compile the pattern. Captures take time, and in the stepwise engine memory that grows with the square of the
+/// number of groups. Nobody reads them, but back-references need them.
 std::regex::flag_type SyntaxOf(std::string_view pattern) {
   const std::size_t reference = LongestReference(pattern);
   if (reference > kMostReferenceDigits) throw std::regex_error(std::regex_constants::error_backref);
   return reference > 0 ? kSyntax : kSyntax | std::regex_constants::nosubs;
 }
 
-/// \throws std::regex_error when compiling the pattern would take more stack than there is, or too long
+/// \throws std::regex_error if compiling the pattern would take more stack than there is, too long or too much memory
 void RequireModestCost(std::string_view pattern) {
   const PatternCost cost = CostOf(pattern);
   if (cost.depth > StackLeft() / kStackPerDepth) ThrowStackTooSmall();
@@ -65,7 +65,7 @@ CNamePattern::CNamePattern(const char* pattern)
   RequireModestCost(pattern);
   FillCharacterTables(m_locale);
   m_expression.emplace();
-  m_expression->imbue(m_locale);  // the global locale may be another one by now
+  m_expression->imbue(m_locale);  // the global locale may have changed by now
   m_expression->assign(pattern, SyntaxOf(pattern));
   m_matcher = CGuardedMatcher(ShapeOf(*m_expression));
 }

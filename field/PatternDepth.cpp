@@ -7,16 +7,16 @@ namespace vif {
 
 namespace {
 
-constexpr std::size_t kEnough = std::size_t{1} << 30;  // where counting stops, so that nothing overflows
+constexpr std::size_t kEnough = std::size_t{1} << 30;  // counting stops here, so that nothing overflows
 
 std::size_t Sum(std::size_t a, std::size_t b) { return std::min(kEnough, a + b); }
 
-/// A group that is open, the whole pattern being the outermost.
+/// An open group; the whole pattern is the outermost.
 struct OpenGroup {
-  std::size_t deepest = 0;         // of the alternatives that are complete
+  std::size_t deepest = 0;         // of the complete alternatives
   std::size_t depth = 0;           // of the alternative being read
   std::size_t joints = 0;          // of all alternatives so far, without the last term
-  std::size_t lastTermJoints = 0;  // apart, because braces may repeat them
+  std::size_t lastTermJoints = 0;  // kept apart, because braces may repeat them
 
   void AddTerm(const PatternCost& term) {
     depth = Sum(depth, term.depth);
@@ -41,7 +41,7 @@ std::size_t EndOfBrackets(std::string_view pattern, std::size_t begin) {
   return std::min(i + 1, pattern.size());
 }
 
-/// How often the text between two braces has libstdc++ copy what stands before them, at most.
+/// The most copies of the preceding term that libstdc++ makes for the text between two braces.
 std::size_t Copies(std::string_view text) {
   std::size_t largest = 0;
   std::size_t number = 0;

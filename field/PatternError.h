@@ -1,12 +1,12 @@
-// The errors that end a regular expression which asks too much.
+// The errors for regular expressions that need too much.
 #pragma once
 
 #include <regex>
 
 namespace vif {
 
-/// A regular expression's error with a text that says what was wanting. The standard library's own for `error_stack`
-/// blames memory, and code that has only `code()` to go by cannot set another.
+/// A regular expression's error with a text that says what it ran out of. The standard library's text for `error_stack`
+/// blames memory, and `std::regex_error` takes only a code.
 class CPatternError : public std::regex_error {
  public:
   /// \param text a literal

@@ -1,4 +1,4 @@
-// Plain characters that names begin with, without regard to letter case.
+// Plain characters that names begin with, ignoring letter case.
 #pragma once
 
 #include <array>
@@ -11,17 +11,17 @@ namespace vif {
 /// The characters that mean more than themselves in a regular expression.
 constexpr std::string_view kSpecialCharacters = "^$\\.*+?()[]{}|";
 
-/// Whether a pattern stands for nothing but its own characters.
+/// Whether a pattern matches nothing but its own characters.
 constexpr bool IsPlainPattern(std::string_view pattern) {
   return pattern.find_first_of(kSpecialCharacters) == std::string_view::npos;
 }
 
-/// Compares names with one pattern, character by character, as `std::ctype<char>::tolower` has their letter case. That
-/// is a virtual call, so it is asked once for a character, which halves the time of names that often share their
-/// beginning with the pattern. It is asked only for those that come, because the 256 calls of a full
-/// table would be a good part of a query over the few hundred fields that a file usually has.
+/// Compares names with one pattern, character by character, ignoring letter case as `std::ctype<char>::tolower` defines
+/// it. That is a virtual call, so its results are kept, which halves the time where names often share their beginning
+/// with the pattern. It is called only for characters that occur: the 256 calls for a full table would be a good part
+/// of a query over the few hundred fields of a typical file.
 ///
-/// Not for use by several threads at once.
+/// Not safe for use by several threads at once.
 class CPlainPattern {
  public:
   /// \param pattern without NUL; both are borrowed, so they must outlive the object
@@ -32,7 +32,7 @@ class CPlainPattern {
   }
 
   /// What follows the pattern in a name that begins with it; null for any other name.
-  const char* Behind(const char* name) {
+  const char* After(const char* name) {
     for (const char c : m_pattern) {
       if (!AreSame(*name++, c)) return nullptr;
     }
@@ -41,11 +41,11 @@ class CPlainPattern {
 
  private:
   static constexpr std::int16_t kNotAsked = -1;
-  static constexpr std::int16_t kNul = 256;  // no other character's lower case, so NUL is the same as NUL only
+  static constexpr std::int16_t kNul = 256;  // no other character's lower case, so that NUL equals NUL only
 
   static unsigned char Position(char c) { return static_cast<unsigned char>(c); }
 
-  /// All characters of the pattern have been asked for.
+  /// The constructor has looked up all characters of the pattern.
   bool AreSame(char inName, char inPattern) {
     const std::int16_t expected = m_lower[Position(inPattern)];
     const std::int16_t lower = m_lower[Position(inName)];

@@ -15,7 +15,7 @@ const NarrowAutomaton* AutomatonOf(const std::regex& expression);
 const WideAutomaton* AutomatonOf(const std::wregex& expression);
 
 /// Reads the automaton that a `std::basic_regex` shares with its copies. An explicit instantiation may name a private
-/// member, and there is no other way to ask a compiled expression for anything.
+/// member, and a compiled expression offers no other way in.
 template <typename Expression, typename Automaton, auto Member>
 struct AutomatonReader {
   friend const Automaton* AutomatonOf(const Expression& expression) { return (expression.*Member).get(); }

@@ -6,21 +6,21 @@
 
 namespace vif {
 
-/// What has to be known of an expression to match it safely.
+/// What must be known of an expression to match it safely.
 struct RegexShape {
-  /// How many times the expression offers a choice between two alternatives.
+  /// The number of choices between two alternatives in the expression.
   std::size_t alternatives = 0;
 
-  /// Whether the recursive engine is the only one that can match it, because it refers back to a group or because the
-  /// standard library has no other.
+  /// Whether only the recursive engine can match it, because it has a back-reference or the standard library has no
+  /// other engine.
   bool needsRecursion = true;
 };
 
 RegexShape ShapeOf(const std::regex& expression);
 RegexShape ShapeOf(const std::wregex& expression);
 
-/// What all copies of one expression share, and no other expression does while one of them lives. Null for the empty
-/// expression, and wherever the standard library does not tell.
+/// Identifies an expression: all its copies share this, and no other expression has it while one of them lives. Null
+/// for the empty expression, and where the standard library does not reveal it.
 const void* IdentityOf(const std::wregex& expression);
 
 }  // namespace vif

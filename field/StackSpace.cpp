@@ -18,12 +18,12 @@ struct StackBounds {
   std::uintptr_t end = 0;
 };
 
-/// Bounds within which no frame is, for a stack whose own cannot be determined.
+/// Bounds that contain no frame, for a stack whose own cannot be determined.
 [[maybe_unused]] constexpr StackBounds kUnknown = {0, 1};
 
 #if defined(_WIN32)
 
-// Not kept from call to call: a fiber has bounds of its own.
+// Not cached: a fiber has bounds of its own.
 StackBounds ThreadStack() noexcept {
   ULONG_PTR lowest = 0;
   ULONG_PTR end = 0;
@@ -45,7 +45,7 @@ StackBounds DetermineThreadStack() noexcept {
   return {address, address + size};
 }
 
-// Kept from call to call: for the main thread the C library reads /proc/self/maps.
+// Cached, because for the main thread the C library reads /proc/self/maps.
 StackBounds ThreadStack() noexcept {
   thread_local StackBounds bounds;
   if (bounds.end == 0) bounds = DetermineThreadStack();

@@ -8,22 +8,22 @@
 
 namespace vif {
 
-/// What is never used of a stack: it has to be enough for a few ordinary calls and for throwing an exception.
+/// The part of a stack that is never used: enough for a few ordinary calls and for throwing an exception.
 constexpr std::uintptr_t kStackReserve = std::uintptr_t{64} * 1024;
 
-/// What is taken to be left where it cannot be determined: on a stack that is not the thread's own, such as a
-/// coroutine's, and on systems for which nobody has written how.
+/// How much is assumed to be left where that cannot be determined: on a stack that is not the thread's own, such as a
+/// coroutine's, and on systems that `ThreadStack` does not support.
 constexpr std::uintptr_t kAssumedStack = std::uintptr_t{256} * 1024;
 
-/// The most that is used of any stack. A thread keeps the memory of its stack once it has been touched.
+/// The most that is used of any stack. Once a thread has touched memory of its stack, it keeps that.
 constexpr std::uintptr_t kMostStack = std::uintptr_t{64} * 1024 * 1024;
 
-/// The lowest address that a frame of the calling thread may have, the reserve already taken off. It may lie above the
-/// calling function's own frame; then nothing is left. The bounds of a thread's stack are determined at its first
-/// call. Throws nothing.
+/// The lowest address that a frame of the calling thread may have, not counting the reserve. It may be above the
+/// calling function's own frame; then nothing is left. The bounds of a thread's stack are determined at its first call.
+/// Throws nothing.
 std::uintptr_t LowestFrame() noexcept;
 
-/// How many bytes of stack there are between the calling function's frame and `LowestFrame`; 0 when there are none.
+/// The bytes of stack between the calling function's frame and `LowestFrame`; 0 if there are none.
 std::uintptr_t StackLeft() noexcept;
 
 }  // namespace vif

@@ -22,7 +22,7 @@ std::uint64_t Number(const VifIndex& index) { return std::get<1>(index); }
 
 }  // namespace
 
-// The library has the constants, and exports them, only because they are declared here again.
+// Only because the constants are declared again here does the library contain and export them.
 constexpr std::size_t CVIFField::MAX_INDEX_DEPTH;         // NOLINT(readability-redundant-declaration)
 constexpr VifIndexNumber CVIFField::INDEX_NOT_SPECIFIED;  // NOLINT(readability-redundant-declaration)
 constexpr VifIndex CVIFField::UNSPECIFIED_INDEX;          // NOLINT(readability-redundant-declaration)
@@ -35,7 +35,7 @@ CVIFField::CVIFField()
       m_numericValue(VIF_VALUE_UNSET_64),
       m_isNumeric(true) {}
 
-// Without a description of its own a field deliberately repeats its value there.
+// A field without a description deliberately uses its value as one.
 CVIFField::CVIFField(bool isNumeric, const std::string& name, const std::string& value,
                      const std::array<VifIndex, MAX_INDEX_DEPTH>& indexes)
     : CVIFField(isNumeric, name, value, value, indexes) {}
@@ -68,7 +68,7 @@ CVIFField::CVIFField(bool isNumeric, const std::string& name, const std::string&
 
 CVIFField::CVIFField(const CVIFField& other) = default;
 CVIFField& CVIFField::operator=(const CVIFField& other) {
-  // Copied first, so that memory that runs out leaves this field whole.
+  // Copied first, so that running out of memory leaves this field intact.
   if (this != &other) *this = CVIFField(other);
   return *this;
 }
@@ -100,7 +100,7 @@ std::size_t CVIFField::IndexCount() const noexcept {
 }
 
 VifIndexNumber CVIFField::Index(EVifLocation location) const noexcept {
-  // An unused slot's number means nothing, so location 0 has none, although HasIndex may find such a slot.
+  // An unused slot's number means nothing, so location 0 has no number, although HasIndex may find such a slot.
   if (location == eVifLocUnset) return INDEX_NOT_SPECIFIED;
   for (const VifIndex& slot : m_indexes) {
     if (Location(slot) == location) return Number(slot);
@@ -121,7 +121,7 @@ std::uint64_t CVIFField::GetULongNumericValue() const {
   return m_numericValue;
 }
 
-// Unlike GetULongNumericValue this does not look at the flag; a field that is not numeric has the unset value.
+// Unlike GetULongNumericValue, this ignores the flag: a field that is not numeric has the unset value.
 std::uint32_t CVIFField::GetNumericValue() const noexcept {
   return m_numericValue == VIF_VALUE_UNSET_64 ? VIF_VALUE_UNSET : static_cast<std::uint32_t>(m_numericValue);
 }

@@ -11,7 +11,7 @@ namespace {
 class CNamePool {
  public:
   CNamePool() {
-    // Reserved in full, because the definitions keep pointers into it.
+    // Reserved in full, because the definitions keep pointers into the text.
     size_t size = 0;
     for (const vif::KnownField& field : vif::KnownFields()) size += field.spelling.size() + 1;
     m_text.reserve(size);
@@ -66,7 +66,7 @@ const std::vector<VifFieldDef>& VifFieldDefs::GetVifFieldDefs() {
 
 namespace {
 
-// Builds the table while the library is loaded, before any thread can ask for it. Where there is no memory for that,
+// Builds the table while the library is loaded, before any thread can ask for it. If there is no memory for that,
 // loading fails, as it should.
 // NOLINTNEXTLINE(cert-err58-cpp)
 [[maybe_unused]] const std::vector<VifFieldDef>& builtAtLoad = VifFieldDefs::GetVifFieldDefs();

@@ -7,11 +7,11 @@ namespace {
 
 constexpr VifLocTypeInfo kUnset = {
     eVifLocUnset, "<unset>",
-    // Deliberately not an XPath: code that prints the path of an unused slot shows plainly that there is none.
+    // Deliberately not an XPath: code that prints the path of an unused slot then shows plainly that there is none.
     "<Nothing there: any associated value should be ignored>"};
 
-// The blank at the end of each path belongs to it, and the mixed spelling of the element names is the format's own. A
-// group that stands in a list has the list's name in the path, just before its own.
+// The blank at the end of each path belongs to it, and the mixed spelling of the element names is the format's own. For
+// a group in a list, the path has the list's name just before the group's.
 constexpr VifLocTypeInfo Describe(EVifLocation location) {
   switch (location) {
     case eVifLocUnset: break;

@@ -14,7 +14,7 @@ namespace fuzz {
 
 namespace {
 
-/// The field's number; nothing when it has none to ask for.
+/// The field's number; nothing if the field is not numeric.
 std::optional<std::uint64_t> Number(const CVIFField& field) {
   try {
     return field.GetULongNumericValue();
@@ -34,15 +34,15 @@ void CheckSlots(const CVIFField& field) {
     Require(location >= eVifLocVif && location <= eVifLocCableSvidMode, "a slot in use names a location");
     const auto first = std::find_if(slots.begin(), slots.end(),
                                     [&](const VifIndex& other) { return std::get<EVifLocation>(other) == location; });
-    Require(field.Index(location) == std::get<std::uint64_t>(*first), "Index gives the first number of a location");
+    Require(field.Index(location) == std::get<std::uint64_t>(*first), "Index returns the first number of a location");
     Require(field.Match(nullptr, *first, CVIFField::UNSPECIFIED_INDEX, CVIFField::UNSPECIFIED_INDEX),
-            "a field passes a query for its own place");
+            "a field matches a query for its own place");
   }
 }
 
 void CheckNumber(const CVIFField& field) {
   const std::optional<std::uint64_t> number = Number(field);
-  Require(number.has_value() == field.IsNumeric(), "a field that is not numeric refuses to give a number");
+  Require(number.has_value() == field.IsNumeric(), "only a numeric field returns a number");
   const auto narrow = number ? static_cast<std::uint32_t>(*number) : CVIFField::VIF_VALUE_UNSET;
   Require(field.GetNumericValue() == narrow, "the narrow number is the low half of the number");
 }
@@ -53,7 +53,7 @@ std::string Quoted(const char* text) { return '"' + std::string(text) + '"'; }
 
 void Require(bool isKept, std::string_view promise) {
   if (isKept) return;
-  std::cerr << "Not kept: " << promise << '\n';
+  std::cerr << "Broken promise: " << promise << '\n';
   std::abort();
 }
 

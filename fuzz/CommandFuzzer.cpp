@@ -1,7 +1,7 @@
-// Runs the command with any arguments over a file of any content.
+// Runs the command with arbitrary arguments on a file with arbitrary content.
 //
-// Each line up to the first empty one is an argument, and what follows is the file, which is there as "a.txt" and as
-// "a.xml".
+// Each line up to the first empty one is an argument. The rest is the file, which is available as "a.txt", "a.xml" and
+// "a.pdf".
 #include "Checks.h"
 #include "Input.h"
 #include "MemoryFile.h"
@@ -56,7 +56,7 @@ const CFiles& Files() {
   return files;
 }
 
-/// No argument leads out of the directory.
+/// Replaces slashes, so that no argument leads out of the directory.
 std::vector<std::string> TakeArguments(std::string_view& lines) {
   std::vector<std::string> arguments = {"vif"};
   while (arguments.size() < kMostArguments) {
@@ -86,7 +86,7 @@ Outcome Run(std::vector<std::string> arguments) {
   return {status, taken.Output(), taken.Errors()};
 }
 
-/// Whether there is nothing that could steer a terminal.
+/// Whether nothing in the text could control a terminal.
 bool IsHarmless(std::string_view text) {
   for (std::size_t i = 0; i < text.size(); ++i) {
     const auto byte = static_cast<unsigned char>(text[i]);
@@ -103,14 +103,14 @@ void CheckErrors(const Outcome& outcome) {
   const std::string& errors = outcome.errors;
   Require(fuzz::IsUtf8(errors) && IsHarmless(errors), "the error is text for a terminal");
   Require(errors.empty() || (IsOneLine(errors) && errors.starts_with("vif: ")), "the error is one line");
-  if (outcome.status == 0) fuzz::RequireSame(errors, std::string(), "there is no error where all is done");
-  if (outcome.status == 2) Require(!errors.empty(), "there is an error where not all is done");
+  if (outcome.status == 0) fuzz::RequireSame(errors, std::string(), "success prints no error");
+  if (outcome.status == 2) Require(!errors.empty(), "failure prints an error");
 }
 
-/// The forms that programs read, JSON and CSV, may hold control characters.
+/// The formats for programs, JSON and CSV, may contain control characters.
 void CheckOutput(const std::vector<std::string>& arguments, const Outcome& outcome) {
   const std::string& output = outcome.output;
-  if (outcome.status == 2) fuzz::RequireSame(output, std::string(), "there is no output where there is an error");
+  if (outcome.status == 2) fuzz::RequireSame(output, std::string(), "failure prints no output");
   Require(fuzz::IsUtf8(output), "the output is UTF-8");
   const bool isListOrCheck = arguments.size() > 1 && (arguments[1] == "list" || arguments[1] == "check");
   if (isListOrCheck && output.starts_with('{')) {
@@ -122,13 +122,13 @@ void CheckOutput(const std::vector<std::string>& arguments, const Outcome& outco
 
 }  // namespace
 
-/// Makes the files, and makes sure that standard output is no terminal, for which the command writes in colours.
+/// Creates the files, and makes sure that standard output is not a terminal, for which the command would use colours.
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
   const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
-  Require(nowhere >= 0 && dup2(nowhere, STDOUT_FILENO) >= 0, "standard output can lead nowhere");
+  Require(nowhere >= 0 && dup2(nowhere, STDOUT_FILENO) >= 0, "standard output can be discarded");
   Files().SetContent("Num_Src_PDOs: 3\n");
   const Outcome outcome = Run({"vif", "get", "a.txt", "num_src_pdos"});
-  fuzz::RequireSame(outcome.output, std::string("3\n"), "the command finds the file and its output is taken");
+  fuzz::RequireSame(outcome.output, std::string("3\n"), "the command finds the file and its output is captured");
   return 0;
 }
 

@@ -1,4 +1,4 @@
-// Changes XML by whole elements, because files changed by bytes alone are seldom well-formed.
+// Mutates XML by whole elements, because files mutated only by bytes are seldom well-formed.
 #pragma once
 
 #include <random>
@@ -7,8 +7,8 @@
 
 namespace fuzz {
 
-/// Puts a copy of one element before, behind or in the place of another, or takes one away. Any text will do: tags that
-/// do not fit together are no element, and a text without elements stays as it is.
+/// Inserts a copy of one element before or after another or in its place, or removes one. Accepts any text: tags that
+/// do not match are not an element, and a text without elements does not change.
 std::string MutateElements(std::string_view text, std::minstd_rand& random);
 
 }  // namespace fuzz

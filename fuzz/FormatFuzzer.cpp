@@ -1,6 +1,6 @@
-// Formats any arguments by any format, narrow and wide, and holds what comes out against snprintf.
+// Formats arbitrary arguments with arbitrary formats, narrow and wide, and compares the results with snprintf.
 //
-// The first line is the format, and each further one an argument: a letter for its type, and its value.
+// The first line is the format, and every other line an argument: a letter for its type, then its value.
 #include "BaseUtilities/SimpleBuffer.h"
 #include "BaseUtilities/StringConvert.h"
 #include "Checks.h"
@@ -23,7 +23,7 @@ using Arguments = std::vector<CFormatArgument>;
 
 constexpr std::size_t kMostArguments = 4;
 
-/// The arguments of an input, and the texts that they borrow.
+/// The arguments in an input, and the texts that they borrow.
 class CArgumentList {
  public:
   explicit CArgumentList(std::string_view lines) {
@@ -73,12 +73,12 @@ void CheckNarrow(CSimpleBuffer& buffer, const std::string& format, const Argumen
   const std::string printed = Print(buffer, fuzz::CExactText<char>(format).Get(), arguments);
   Require(buffer.get() == printed, "the buffer holds what it has returned");
   const std::optional<std::string> expected = fuzz::PrintedBySystem(format, arguments);
-  if (expected) fuzz::RequireSame(printed, *expected, "what is printed is what the system prints");
+  if (expected) fuzz::RequireSame(printed, *expected, "the output is what the system prints");
   const std::string twice = buffer.Printf("%s<%s>", buffer.get(), buffer.get());
   Require(twice == printed + '<' + printed + '>', "a buffer may be formatted into itself");
 }
 
-/// A wide format gives what the narrow one gives.
+/// A wide format yields what the narrow one yields.
 void CheckWide(CSimpleBuffer& buffer, const std::string& format, const Arguments& arguments) {
   const std::wstring wideFormat = Utf8ToUtf16(format);
   const std::string sameFormat = Utf16ToUtf8(wideFormat);

@@ -1,4 +1,4 @@
-// Takes an input apart. Inputs are lines of text, so that they can be read and written by hand.
+// Parses an input. Inputs are lines of text, so that they can be read and written by hand.
 #pragma once
 
 #include "VIFField.h"
@@ -15,7 +15,7 @@ namespace fuzz {
 
 using Slots = std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>;
 
-/// The number that a text begins with; 0 when it begins with none.
+/// The number at the start of a text; 0 if there is none.
 template <typename Number>
 Number NumberIn(std::string_view text) {
   Number number = 0;
@@ -23,14 +23,14 @@ Number NumberIn(std::string_view text) {
   return number;
 }
 
-/// What stands before the separator, which is taken away with it; all of the text where there is none.
+/// Removes and returns what precedes the separator, or all of the text if there is none. Also removes the separator.
 inline std::string_view TakeUpTo(char separator, std::string_view& text) {
   const std::string_view part = text.substr(0, text.find(separator));
   text.remove_prefix(part.size() < text.size() ? part.size() + 1 : part.size());
   return part;
 }
 
-/// Slots as "6:1 7:*": locations with their numbers, any number being `*`. What is missing is not in use.
+/// Slots such as "6:1 7:*": locations with their numbers, where `*` is any number. Missing slots are unused.
 inline Slots SlotsIn(std::string_view text) {
   Slots slots;
   for (VifIndex& slot : slots) {
@@ -42,7 +42,7 @@ inline Slots SlotsIn(std::string_view text) {
   return slots;
 }
 
-/// A text that ends where its memory ends, so that reading on behind its NUL is seen.
+/// A text that ends where its memory ends, so that reading past its NUL is detected.
 template <typename Char>
 class CExactText {
  public:

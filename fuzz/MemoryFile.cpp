@@ -11,7 +11,7 @@ namespace fuzz {
 
 CMemoryFile::CMemoryFile()
     : m_descriptor(memfd_create("fuzzed", MFD_CLOEXEC)), m_path("/proc/self/fd/" + std::to_string(m_descriptor)) {
-  Require(m_descriptor >= 0, "a file in memory can be made");
+  Require(m_descriptor >= 0, "a file in memory can be created");
 }
 
 CMemoryFile::~CMemoryFile() { close(m_descriptor); }

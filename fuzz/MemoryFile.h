@@ -1,4 +1,4 @@
-// A regular file that is only in memory.
+// A regular file that exists only in memory.
 #pragma once
 
 #include <filesystem>
@@ -6,7 +6,7 @@
 
 namespace fuzz {
 
-/// Can be opened by its path as long as the object lives.
+/// Can be opened by its path while the object lives.
 class CMemoryFile {
  public:
   CMemoryFile();

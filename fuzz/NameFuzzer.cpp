@@ -1,5 +1,5 @@
-// Resolves any name by the built-in table and by a copy of it, which plain code does, and by the same definitions
-// compiled once more, whose regular expressions are matched one after the other.
+// Resolves arbitrary names with the built-in table and a copy of it, both of which plain code does, and with the same
+// definitions compiled again, whose regular expressions are matched one by one.
 #include "Checks.h"
 #include "FieldResolver.h"
 #include "KnownFields.h"
@@ -22,7 +22,7 @@ using fuzz::Require;
 
 constexpr std::uint32_t kComponent = 3;
 
-/// A name of the format, with digits where its indexes stand.
+/// A name of the format, with digits for its indexes.
 std::string AnyKnownName(std::minstd_rand& random) {
   const auto fields = vif::KnownFields();
   const auto below = [&](std::size_t bound) {
@@ -39,7 +39,7 @@ std::string AnyKnownName(std::minstd_rand& random) {
   return name;
 }
 
-/// The built-in definitions, compiled once more.
+/// The built-in definitions, compiled again.
 std::vector<VifFieldDef> Recompiled() {
   std::vector<VifFieldDef> table = VifFieldDefs::GetVifFieldDefs();
   for (std::size_t i = 0; i < table.size(); ++i) table[i].pattern = kReferenceFields[i].pattern;
@@ -48,13 +48,13 @@ std::vector<VifFieldDef> Recompiled() {
 
 void RequireSameName(const vif::ResolvedName& resolved, const vif::ResolvedName& expected) {
   Require(resolved.isKnown == expected.isKnown, "plain code knows the names that the patterns know");
-  fuzz::RequireSame(resolved.name, expected.name, "plain code gives a field the name that the patterns give it");
-  fuzz::RequireSame(resolved.slots, expected.slots, "plain code gives a field the place that the patterns give it");
+  fuzz::RequireSame(resolved.name, expected.name, "plain code finds the same canonical name as the patterns");
+  fuzz::RequireSame(resolved.slots, expected.slots, "plain code finds the same place as the patterns");
 }
 
 }  // namespace
 
-/// Begins with a name of the format now and then, and changes it, or what there is, in the ways of libFuzzer.
+/// Sometimes starts from a name of the format; mutates that, or the input, as libFuzzer does.
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t maxSize,
                                                unsigned int seed) {
   std::minstd_rand random(seed);
@@ -74,7 +74,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   vif::ResolvedName resolved;
   byCode.Resolve(name, resolved);
   Require(byCode.Knows(name) == resolved.isKnown, "a name that is known is resolved");
-  Require(resolved.isKnown || resolved.name == name, "an unknown name stays as it is");
+  Require(resolved.isKnown || resolved.name == name, "an unknown name does not change");
 
   vif::ResolvedName byCopy;
   vif::CFieldResolver(&copy, kComponent).Resolve(name, byCopy);
@@ -85,7 +85,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   try {
     byPatterns.Resolve(name, expected);
   } catch (const std::regex_error&) {
-    return 0;  // the name is too much for the matcher
+    return 0;  // too much for the matcher
   }
   RequireSameName(resolved, expected);
   return 0;

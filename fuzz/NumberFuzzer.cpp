@@ -1,4 +1,4 @@
-// Reads any value as a number, and reads it a second time by a simple function of its own.
+// Reads arbitrary values as numbers, and compares the results with those of a second, simple function.
 #include "BaseUtilities/Exceptions.h"
 #include "Checks.h"
 #include "VIFField.h"
@@ -22,7 +22,7 @@ std::string LowerCase(std::string_view text) {
   return lower;
 }
 
-/// The number that the documentation of `CVIFField::GetULongNumericValue` gives a text.
+/// The number of a text according to the documentation of `CVIFField::GetULongNumericValue`.
 std::uint64_t ExpectedNumber(std::string_view text) {
   const std::string lower = LowerCase(text);
   if (lower == "no" || lower == "false") return 0;
@@ -62,7 +62,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   fuzz::CheckField(field);
   const std::uint64_t expected = ExpectedNumber(value);
   fuzz::RequireSame(field.GetULongNumericValue(), expected, "a value is the number that its text stands for");
-  Require(CVIFField(field).GetULongNumericValue() == expected, "a copy has the number");
+  Require(CVIFField(field).GetULongNumericValue() == expected, "a copy has the same number");
   CheckTextField(MakeField(false, value));
   return 0;
 }

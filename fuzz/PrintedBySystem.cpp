@@ -35,7 +35,7 @@ Placeholder ReadPlaceholder(const std::smatch& match) {
   return {flags.find('-') != std::string::npos, flags.find('0') != std::string::npos, width, *match[3].first};
 }
 
-/// One placeholder by snprintf. The type is that of the argument, with its length.
+/// Prints one placeholder with snprintf. `type` is the argument's conversion with its length.
 template <typename Argument>
 std::string Print(const Placeholder& placeholder, bool isZeroFilled, const char* type, Argument argument) {
   std::string format = "%";
@@ -53,7 +53,7 @@ std::string PrintUnsigned(const Placeholder& placeholder, std::uint64_t number) 
   return Print(placeholder, placeholder.isZeroFilled, type.c_str(), static_cast<std::uintmax_t>(number));
 }
 
-/// A number is printed in two's complement of its own size where a signed one is asked for without its sign.
+/// Under an unsigned conversion, a signed number is printed in two's complement of its own size.
 std::string PrintSigned(const Placeholder& placeholder, const CFormatArgument& argument) {
   const auto number = static_cast<std::intmax_t>(argument.Number());
   if (!placeholder.IsOneOf("uxXo")) return Print(placeholder, placeholder.isZeroFilled, "jd", number);

@@ -1,4 +1,4 @@
-// What the system's own snprintf makes of a format.
+// What the system's own snprintf prints for a format.
 #pragma once
 
 #include "BaseUtilities/SimpleBuffer.h"
@@ -9,9 +9,9 @@
 
 namespace fuzz {
 
-/// What snprintf prints when each placeholder is given to it with its argument. What snprintf does not define or does
-/// otherwise is left to no comparison: nothing is returned when a text or a character that is not ASCII is to be filled
-/// up.
+/// What snprintf prints if each placeholder is passed to it with its argument. Returns nothing where snprintf does
+/// something different or undefined, so that there is nothing to compare: when a text or a character that is not ASCII
+/// is padded.
 std::optional<std::string> PrintedBySystem(const std::string& format, const std::vector<CFormatArgument>& arguments);
 
 }  // namespace fuzz

@@ -1,7 +1,7 @@
-// Asks a few fields with a pattern and slots, field by field and all at once, and holds the answers against what the
-// pattern says as a plain regular expression.
+// Queries a few fields by a pattern and slots, field by field and all at once, and compares the answers with those of
+// the pattern as a plain regular expression.
 //
-// The first line is the pattern, the second the query's slots, and each further one a field: SLOTS|NAME.
+// The first line is the pattern, the second the query's slots, and every other line a field: SLOTS|NAME.
 #include "BaseUtilities/Exceptions.h"
 #include "BaseUtilities/StringConvert.h"
 #include "Checks.h"
@@ -29,8 +29,8 @@ constexpr Slots kNowhere = {CVIFField::UNSPECIFIED_INDEX, CVIFField::UNSPECIFIED
 constexpr std::size_t kMostFields = 4;
 constexpr std::size_t kLongestName = 32;
 
-/// What takes more steps to match is passed over: some expressions take time that doubles with every character of a
-/// name, and nothing else would be tried beside them.
+/// Inputs that take more steps to match are skipped: with some expressions the time doubles with every character of a
+/// name, and the fuzzer would get to nothing else.
 constexpr std::size_t kMostSteps = 20'000;
 
 struct Query {
@@ -38,7 +38,7 @@ struct Query {
   Slots slots;
 };
 
-/// What the function returns; nothing when the pattern is no regular expression or is too much for the matcher.
+/// What the function returns; nothing if the pattern is not a regular expression or is too much for the matcher.
 template <typename Function>
 auto AnswerOf(const Function& ask) -> std::optional<decltype(ask())> {
   try {
@@ -61,7 +61,7 @@ bool PassesSlots(const CVIFField& field, const Slots& asked) {
   return std::all_of(asked.begin(), asked.end(), [&](const VifIndex& slot) { return PassesSlot(field, slot); });
 }
 
-/// A pattern as the plain regular expression that it is.
+/// A pattern as a plain regular expression.
 class CPlainExpression {
  public:
   explicit CPlainExpression(const std::string& pattern) : m_pattern(pattern) {}
@@ -78,7 +78,7 @@ class CPlainExpression {
   std::optional<std::regex> m_expression;
 };
 
-/// Whether the pattern is a regular expression, but one that takes too many steps on a name.
+/// Whether the pattern is a regular expression, but takes too many steps on some name.
 bool IsTooMuch(const Fields& fields, CPlainExpression& expression, const Query& query) {
   const bool isExpression = AnswerOf([&] { return CVIFField().Match(query.pattern.c_str(), kNowhere); }).has_value();
   return isExpression && std::any_of(fields.begin(), fields.end(), [&](const CVIFField& field) {
@@ -86,7 +86,7 @@ bool IsTooMuch(const Fields& fields, CPlainExpression& expression, const Query& 
          });
 }
 
-/// The fields that pass one by one; nothing when one of them cannot be asked.
+/// The fields that match, one by one; nothing if the query fails for one of them.
 std::optional<Fields> PassingFields(const Fields& fields, CPlainExpression& expression, const Query& query) {
   Fields passing;
   for (const CVIFField& field : fields) {
@@ -99,7 +99,7 @@ std::optional<Fields> PassingFields(const Fields& fields, CPlainExpression& expr
   return passing;
 }
 
-/// The field that the query finds; nothing when there is not exactly one.
+/// The field that the query finds; nothing if there is not exactly one.
 std::optional<CVIFField> FoundField(const std::function<CVIFField()>& find) {
   try {
     return find();
@@ -108,22 +108,22 @@ std::optional<CVIFField> FoundField(const std::function<CVIFField()>& find) {
   }
 }
 
-/// The queries of one kind of text. The pattern lives as long as the call.
+/// Checks the queries for one kind of text. The pattern is borrowed.
 template <typename Char>
 void CheckQueries(const CVendorInfoFile& vif, const Char* pattern, const Slots& slots, const Fields& passing) {
-  fuzz::RequireSame(vif.Count(pattern, slots), passing.size(), "Count counts what Match lets pass");
-  Require(fuzz::AreSame(*vif.GetFields(pattern, slots), passing), "GetFields gives what Match lets pass");
+  fuzz::RequireSame(vif.Count(pattern, slots), passing.size(), "Count counts what Match matches");
+  Require(fuzz::AreSame(*vif.GetFields(pattern, slots), passing), "GetFields returns what Match matches");
   const auto unique = FoundField([&] { return vif.GetUniqueField(pattern, slots); });
-  Require(unique.has_value() == (passing.size() == 1), "GetUniqueField takes one field only");
-  Require(!unique || fuzz::AreSame(*unique, passing.front()), "GetUniqueField gives the one field");
+  Require(unique.has_value() == (passing.size() == 1), "GetUniqueField requires exactly one field");
+  Require(!unique || fuzz::AreSame(*unique, passing.front()), "GetUniqueField returns the one field");
   const auto single = FoundField([&] {
     const auto [field, isFound] = vif.GetSingleField(pattern, slots[0], slots[1], slots[2]);
     Require(isFound == (passing.size() == 1), "GetSingleField says whether there is one");
     return field;
   });
-  Require(single.has_value() == (passing.size() < 2), "GetSingleField takes none or one field");
+  Require(single.has_value() == (passing.size() < 2), "GetSingleField allows at most one field");
   Require(!single || fuzz::AreSame(*single, passing.empty() ? CVIFField() : passing.front()),
-          "GetSingleField gives the one field, or the empty one");
+          "GetSingleField returns the one field, or the empty one");
 }
 
 Fields FieldsIn(std::string_view text) {
@@ -155,7 +155,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Require(count.has_value() == passing.has_value(), "a query fails where Match fails on one of its fields");
   if (!passing) return 0;
   const bool isWide =
-      query.pattern.size() % 2 == 1 && fuzz::IsUtf8(query.pattern);  // as either will do, and takes time
+      query.pattern.size() % 2 == 1 && fuzz::IsUtf8(query.pattern);  // one of the two is enough, and saves time
   if (isWide) {
     CheckQueries(vif, Utf8ToUtf16(query.pattern).c_str(), query.slots, *passing);
   } else {

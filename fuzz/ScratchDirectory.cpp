@@ -5,19 +5,19 @@
 #include <string>
 #include <system_error>
 
-#include <stdlib.h>  // NOLINT(modernize-deprecated-headers): mkdtemp is not the standard library's
+#include <stdlib.h>  // NOLINT(modernize-deprecated-headers): mkdtemp is not in the standard library
 
 namespace fuzz {
 
 CScratchDirectory::CScratchDirectory() {
   std::string name = std::filesystem::temp_directory_path() / "vif-fuzz-XXXXXX";
-  Require(mkdtemp(name.data()) != nullptr, "a temporary directory can be made");
+  Require(mkdtemp(name.data()) != nullptr, "a temporary directory can be created");
   m_path = name;
   std::filesystem::create_directory(Inner());
 }
 
 CScratchDirectory::~CScratchDirectory() {
-  std::error_code error;  // a directory that stays does no harm
+  std::error_code error;  // a leftover directory does no harm
   std::filesystem::remove_all(m_path, error);
 }
 
@@ -28,7 +28,7 @@ CWorkingDirectory::CWorkingDirectory(const std::filesystem::path& path) : m_befo
 CWorkingDirectory::~CWorkingDirectory() {
   std::error_code error;
   std::filesystem::current_path(m_before, error);
-  Require(!error, "the working directory is there again");
+  Require(!error, "the working directory can be restored");
 }
 
 }  // namespace fuzz

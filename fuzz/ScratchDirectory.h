@@ -5,7 +5,7 @@
 
 namespace fuzz {
 
-/// A new directory of its own in the one for temporary files. It goes with the object.
+/// A new directory inside the one for temporary files, removed with the object.
 class CScratchDirectory {
  public:
   CScratchDirectory();
@@ -13,14 +13,14 @@ class CScratchDirectory {
   CScratchDirectory& operator=(const CScratchDirectory&) = delete;
   ~CScratchDirectory();
 
-  /// Where names without a slash, ".." included, lead to nothing outside the directory.
+  /// A directory from which names without a slash, even "..", do not lead out of the scratch directory.
   std::filesystem::path Inner() const { return m_path / "inner"; }
 
  private:
   std::filesystem::path m_path;
 };
 
-/// Makes a directory the working directory as long as the object lives.
+/// Makes a directory the working directory while the object lives.
 class CWorkingDirectory {
  public:
   explicit CWorkingDirectory(const std::filesystem::path& path);

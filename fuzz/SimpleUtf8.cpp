@@ -11,10 +11,10 @@ namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
 
-/// The characters from the first to the last that take a number of bytes, apart from the surrogates.
+/// A range of characters, without the surrogates, that take the same number of bytes.
 struct Form {
   std::size_t length;
-  std::uint32_t leadBits;  // of the first byte, that say how many bytes there are
+  std::uint32_t leadBits;  // of the first byte, which say how many bytes there are
   std::uint32_t leadMask;
   std::uint32_t first;
   std::uint32_t last;
@@ -28,7 +28,7 @@ constexpr std::array<Form, 5> kForms = {{{1, 0x00, 0x80, 0, 0x7F},
 
 std::uint32_t Byte(char c) { return static_cast<unsigned char>(c); }
 
-/// The number in the bytes of that form when those that are missing are filled up.
+/// The number in the bytes of that form, with missing bytes replaced by `fill`.
 std::uint32_t Payload(const Form& form, std::string_view bytes, std::uint32_t fill) {
   std::uint32_t payload = Byte(bytes[0]) & ~form.leadMask;
   for (std::size_t i = 1; i < form.length; ++i)
@@ -36,14 +36,14 @@ std::uint32_t Payload(const Form& form, std::string_view bytes, std::uint32_t fi
   return payload;
 }
 
-/// Whether a character of that form begins with the bytes.
+/// Whether a character of that form can begin with the bytes.
 bool CanBeginWith(const Form& form, std::string_view bytes) {
   if (bytes.size() > form.length || (Byte(bytes[0]) & form.leadMask) != form.leadBits) return false;
   const bool goesOn = std::all_of(bytes.begin() + 1, bytes.end(), [](char c) { return (Byte(c) & 0xC0U) == 0x80U; });
   return goesOn && Payload(form, bytes, 0x3F) >= form.first && Payload(form, bytes, 0) <= form.last;
 }
 
-/// Takes one character off the text.
+/// Removes and returns the first character of the text.
 char32_t TakeCharacter(std::string_view& text) {
   std::size_t length = 1;
   char32_t character = kReplacement;

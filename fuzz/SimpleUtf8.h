@@ -1,4 +1,4 @@
-// A second decoder of UTF-8, which is simple instead of fast.
+// A second UTF-8 decoder, simple instead of fast.
 #pragma once
 
 #include <string>
@@ -6,11 +6,11 @@
 
 namespace fuzz {
 
-/// The characters of a text. Each longest part that a character of UTF-8 could begin with, but does not go on from, is
-/// U+FFFD, and so is each byte that none begins with.
+/// The characters of a text. The longest possible beginning of a UTF-8 character that then does not continue becomes
+/// one U+FFFD, and so does each byte with which no character begins.
 std::u32string DecodeUtf8Simply(std::string_view text);
 
-/// The UTF-8 form of characters; what is none becomes U+FFFD.
+/// The UTF-8 form of characters; anything that is not a character becomes U+FFFD.
 std::string EncodeUtf8Simply(std::u32string_view characters);
 
 }  // namespace fuzz

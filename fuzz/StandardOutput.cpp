@@ -7,10 +7,10 @@
 
 namespace fuzz {
 
-// What the sanitizers and libFuzzer say goes elsewhere: they keep to the streams that were there at the beginning.
+// Output of the sanitizers and libFuzzer goes elsewhere: they keep using the original streams.
 CTakenStream::CTakenStream(std::FILE*& stream) : m_stream(stream), m_original(stream) {
   m_stream = open_memstream(&m_text, &m_size);
-  Require(m_stream != nullptr, "a stream in memory can be made");
+  Require(m_stream != nullptr, "a stream in memory can be created");
 }
 
 CTakenStream::~CTakenStream() {

@@ -1,4 +1,4 @@
-// What is written to the standard streams.
+// Captures what is written to the standard streams.
 #pragma once
 
 #include <cstddef>
@@ -10,7 +10,7 @@
 
 namespace fuzz {
 
-/// Takes what is written to a stream of the C library, as long as the object lives.
+/// Captures what is written to a stream of the C library while the object lives.
 class CTakenStream {
  public:
   /// \param stream stdout or stderr
@@ -29,7 +29,7 @@ class CTakenStream {
   std::size_t m_size = 0;
 };
 
-/// Takes what a program writes, as long as the object lives.
+/// Captures what a program writes while the object lives.
 class CTakenOutput {
  public:
   CTakenOutput();

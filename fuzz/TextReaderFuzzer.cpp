@@ -1,4 +1,4 @@
-// Reads any bytes as a text VIF. That must never fail, and what it yields must be sound.
+// Reads arbitrary bytes as a text VIF. This must never fail, and the fields must be sound.
 #include "Checks.h"
 #include "TextReader.h"
 
@@ -41,18 +41,19 @@ std::vector<CVIFField> Load(const std::string& text) {
   return fields;
 }
 
-/// What the observers are told, held against what loading yields.
+/// Checks and collects what the observers are told, for comparison with loading.
 class CObserved {
  public:
   void Line(const VifLineReport& report) {
     Advance(report.line);
-    Require(report.problem == eVifLineNotUnderstood || report.problem == eVifLineUnknownName, "a string can be read");
+    Require(report.problem == eVifLineNotUnderstood || report.problem == eVifLineUnknownName,
+            "reading from memory does not fail");
     Require(!report.content.empty(), "a reported line has content");
     Require(report.text.substr(0, report.content.size()) == report.content, "the content begins the text");
   }
 
   void Field(std::size_t line, const CVIFField& field) {
-    Require(line > m_lineOfField, "a line yields one field at most");
+    Require(line > m_lineOfField, "a line yields at most one field");
     m_lineOfField = line;
     Advance(line);
     m_fields.push_back(field);
@@ -94,6 +95,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const CObserved observed = Follow(text);
   Require(fuzz::AreSame(fields, observed.Fields()), "following a file yields the fields that loading it yields");
   const auto lineFeeds = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
-  Require(observed.LastLine() <= lineFeeds + 1, "no line is reported behind the last");
+  Require(observed.LastLine() <= lineFeeds + 1, "no line is reported after the last");
   return 0;
 }

@@ -1,4 +1,4 @@
-// Reads any bytes as an XML VIF: they become fields, or one of the documented exceptions says why not.
+// Reads arbitrary bytes as an XML VIF: they become fields, or one of the documented exceptions says why not.
 #include "BaseUtilities/Exceptions.h"
 #include "Checks.h"
 #include "ElementMutator.h"
@@ -41,7 +41,7 @@ void CheckProblems(const std::vector<DOMDocProblem>& problems) {
   }
 }
 
-/// Runs the function; returns what the exception that it throws says, or nothing when it throws none.
+/// Runs the function and returns the message of the exception that it throws, or nothing if it throws none.
 std::string FailureOf(const std::function<void()>& function) {
   try {
     function();
@@ -51,8 +51,8 @@ std::string FailureOf(const std::function<void()>& function) {
     return error.what();
   } catch (const CZoException& error) {
     const std::string_view text = error.what();
-    Require(!text.starts_with("Couldn't load the schema"), "the schemas are there and sound");
-    Require(!text.empty(), "an exception says something");
+    Require(!text.starts_with("Couldn't load the schema"), "the schemas can be loaded");
+    Require(!text.empty(), "an exception has a message");
     return error.what();
   }
 }
@@ -60,7 +60,7 @@ std::string FailureOf(const std::function<void()>& function) {
 void CheckPlace(const CVIFField& field, std::uint32_t componentCount) {
   const auto& [outermost, number] = field.Indexes()[0];
   switch (outermost) {
-    case eVifLocComponent: Require(number >= 1 && number <= componentCount, "components are counted from 1"); break;
+    case eVifLocComponent: Require(number >= 1 && number <= componentCount, "components are numbered from 1"); break;
     case eVifLocVif: Require(number == 0, "there is one file"); break;
     default:
       Require(outermost == eVifLocProduct || outermost == eVifLocUnset,
@@ -73,7 +73,7 @@ struct Outcome {
   std::string failure;  // empty when there was none
 };
 
-/// Loads the file behind a field that is there already, which must stay.
+/// Appends the file to a list that already has a field, which must stay.
 Outcome Load() {
   const CVIFField first(true, "Num_Src_PDOs", "7", {eVifLocComponent, 9}, CVIFField::UNSPECIFIED_INDEX,
                         CVIFField::UNSPECIFIED_INDEX);
@@ -91,7 +91,7 @@ Outcome Load() {
   return outcome;
 }
 
-/// The lines of a text in which every byte is a character that the parser sees as it stands; none for any other text.
+/// The lines of a text, provided the parser sees every byte as the same character; none for any other text.
 std::vector<std::string> PlainLines(const std::string& text) {
   const bool isPlain =
       std::all_of(text.begin(), text.end(), [](char c) { return c == '\n' || (c >= ' ' && c <= '~'); });
@@ -105,22 +105,22 @@ std::vector<std::string> PlainLines(const std::string& text) {
 
 void CheckReport(const VifElementReport& report, const std::vector<std::string>& lines) {
   Require(report.path.starts_with("VIF/"), "an element's path begins at the root");
-  Require(report.line > 0, "every element stands in a line");
+  Require(report.line > 0, "every element has a line");
   if (lines.empty() || report.column == 0) return;
   Require(report.line <= lines.size() && report.column <= lines[report.line - 1].size() &&
               lines[report.line - 1][report.column - 1] == '<',
-          "an element stands where its start tag begins");
+          "an element's position is that of its start tag");
 }
 
 /// Reads the file as `CheckXmlVif` does.
 Outcome Check(const std::string& text) {
   const std::vector<std::string> lines = PlainLines(text);
   Outcome outcome;
-  bool isPassedOver = false;
+  bool isSkipped = false;
   const VifElementObserver observer = [&](const VifElementReport& report) {
     CheckReport(report, lines);
-    Require(report.field == nullptr || !isPassedOver, "elements passed over are reported last");
-    isPassedOver = report.field == nullptr;
+    Require(report.field == nullptr || !isSkipped, "skipped elements are reported last");
+    isSkipped = report.field == nullptr;
     if (report.field != nullptr) outcome.fields.push_back(*report.field);
   };
   outcome.failure = FailureOf([&] { CheckXmlVif(File().Path(), observer); });
@@ -142,18 +142,18 @@ constexpr std::string_view kValidFile = R"(<?xml version="1.0" encoding="utf-8"?
 
 }  // namespace
 
-/// Makes sure that the schemas are found and do their work, without which next to nothing would be reached.
+/// Makes sure that the schemas are found and work; without them the fuzzer would reach next to nothing.
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
   std::string text(kValidFile);
   File().Write(text);
   Require(Load().failure.empty() && Check(text).fields.size() == 2, "a valid file is read");
   text.replace(text.find("100"), 3, "1oo");
   File().Write(text);
-  Require(!Load().failure.empty(), "a file with a value that the schema refuses is not read");
+  Require(!Load().failure.empty(), "a file with a value that the schema rejects is not read");
   return 0;
 }
 
-/// Changes the data by whole elements mostly, and else in the ways of libFuzzer.
+/// Mostly mutates whole elements; otherwise mutates as libFuzzer does.
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t maxSize,
                                                unsigned int seed) {
   std::minstd_rand random(seed);

@@ -1,4 +1,4 @@
-// Text in the code pages of Windows.
+// Text in Windows code pages.
 #pragma once
 
 #include <windows.h>
@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-/// Wide text in a code page, with what that has no character for replaced.
+/// Wide text in a code page. Characters that it lacks are replaced.
 inline std::string WideToCodePage(std::wstring_view text, UINT codePage) {
   const int wideLength = static_cast<int>(text.size());
   const int length = WideCharToMultiByte(codePage, 0, text.data(), wideLength, nullptr, 0, nullptr, nullptr);

@@ -1,4 +1,4 @@
-// What the library exports: on Windows through declspec, elsewhere through visibility.
+// Marks what the library exports: with declspec on Windows, with visibility elsewhere.
 #pragma once
 
 #if defined(_WIN32) && defined(VENDORINFOFILE_STATIC)

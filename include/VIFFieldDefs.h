@@ -15,13 +15,14 @@ struct VifFieldDef {
   /// definition. Null means the empty name.
   const wchar_t* name = nullptr;
 
-  /// Matches the whole name as a text VIF writes it. Its first capture group gives the number of a Router, SrcPdo,
+  /// Matches the whole name as a text VIF writes it. Its first capture group is the number of a Router, SrcPdo,
   /// SnkPdo, SopSvid or CableSvid, the second that of a RouterPcie, SopSvidMode or CableSvidMode. A group that does not
   /// exist, captures nothing or captures a number of more than 64 bits leaves `CVIFField::INDEX_NOT_SPECIFIED`.
   std::wregex pattern;
 
-  /// The groups the field stands in, outermost first; `eVifLocUnset` is skipped. Any value that is not a location makes
-  /// loading fail with "Internal error - Unknown EVifLocation: <value>" at the first name that the pattern matches.
+  /// The groups the field belongs to, outermost first; `eVifLocUnset` is skipped. Any value that is not a location
+  /// makes loading fail with "Internal error - Unknown EVifLocation: <value>" at the first name that the pattern
+  /// matches.
   std::array<EVifLocation, CVIFField::MAX_INDEX_DEPTH> locations{};
 };
 

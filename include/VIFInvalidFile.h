@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-/// "<path> is not a valid Vendor Info File.", with the reasons beside it.
+/// Carries the message "<path> is not a valid Vendor Info File." and the reasons.
 class VIF_API CVIFInvalidFile : public CZoRunTimeException {
  public:
   /// \param message the whole message

@@ -1,15 +1,15 @@
-// The groups of a Vendor Info File in which a field can stand.
+// The groups of a Vendor Info File that a field can belong to.
 #pragma once
 
 #include "VIFExport.h"
 
 #include <cstdint>
 
-/// The thirteen locations. The numbers are part of the interface and never change; any other value is not a
-/// location. A Router lies inside the Product and a RouterPcie inside a Router; SrcPdo, SnkPdo, SopSvid and
-/// CableSvid lie inside a Component; the modes lie inside their SVID.
+/// The thirteen locations. The numbers are part of the interface and never change; any other value is not a location. A
+/// Router is inside the Product and a RouterPcie inside a Router; SrcPdo, SnkPdo, SopSvid and CableSvid are inside a
+/// Component; the modes are inside their SVID.
 enum EVifLocation : std::int32_t {
-  eVifLocUnset = 0,           ///< no location: the slot is not in use
+  eVifLocUnset = 0,           ///< no location: the slot is unused
   eVifLocVif = 1,             ///< the VIF as a whole (the file's header fields)
   eVifLocAppVersion = 2,      ///< the application header, `VIF_App`
   eVifLocProduct = 3,         ///< the product
@@ -24,7 +24,7 @@ enum EVifLocation : std::int32_t {
   eVifLocCableSvidMode = 12,  ///< one mode of a cable SVID
 };
 
-/// What there is to say about one location. The texts live as long as the library is loaded.
+/// Describes one location. The texts are valid until the library is unloaded.
 struct VifLocTypeInfo {
   EVifLocation location;  ///< the location described
   const char* name;       ///< its short name, such as "SrcPdo"
@@ -33,15 +33,15 @@ struct VifLocTypeInfo {
 
 /// Describes a location, such as 7: "SrcPdo", "/VIF/Component/SrcPdoList/SrcPDO ".
 ///
-/// For any value that is not a location it answers with a description of `eVifLocUnset` ("<unset>"), whose
-/// `xpath` is a warning for people to read instead of a path.
-/// \return a reference that is valid until the library is unloaded; the same one for the same value.
+/// Any value that is not a location is described as `eVifLocUnset` ("<unset>"), whose `xpath` is not a path but a
+/// warning for people to read.
+/// \return a reference that is valid until the library is unloaded; always the same one for the same value.
 /// Throws nothing. May be called from any number of threads at once.
 VIF_API const VifLocTypeInfo& GetVifLocInfo(EVifLocation location);
 
-/// The location that stands just before this one in a field's slots: that of the group around it, such as
-/// `eVifLocComponent` for `eVifLocSrcPdo`. `eVifLocUnset` for a location that stands first, and for any value that is
-/// not a location. Throws nothing; may be called from any number of threads at once.
+/// The location that precedes this one in a field's slots, that is, of the enclosing group: `eVifLocComponent` for
+/// `eVifLocSrcPdo`, for example. `eVifLocUnset` for a location that comes first, and for any value that is not a
+/// location. Throws nothing; may be called from any number of threads at once.
 constexpr EVifLocation GetVifLocParent(EVifLocation location) noexcept {
   switch (location) {
     case eVifLocUnset:
@@ -61,8 +61,8 @@ constexpr EVifLocation GetVifLocParent(EVifLocation location) noexcept {
   return eVifLocUnset;
 }
 
-/// The number of the first group of a kind: products and USB4 routers count from 0, every other group from 1. The VIF
-/// and its application header, of which a file has one each, always have the number 0. For any other value, 0 too.
+/// The number of the first group of a kind: products and USB4 routers are numbered from 0, all other groups from 1. The
+/// VIF and its application header, of which a file has one each, are always number 0. Also 0 for any other value.
 /// Throws nothing; may be called from any number of threads at once.
 constexpr std::uint64_t GetVifLocFirstIndex(EVifLocation location) noexcept {
   switch (location) {

@@ -12,13 +12,13 @@
 
 /// What becomes of an element.
 enum EVifElementFate : std::int32_t {
-  eVifElementField = 0,     ///< it yields a field
-  eVifElementNotRead = 1,   ///< it stands under the root, but is unknown there or not the first of its name; it is
-                            ///< skipped with everything in it
-  eVifElementGivesWay = 2,  ///< it is the application's vendor, name or version, and a description replaces it
-  eVifElementEmpty = 3,     ///< it is a component or an item of a list, and has no element of the VIF in it
-  eVifElementForeign = 4,   ///< it stands among elements of the VIF, but its namespace is neither the VIF's nor that of
-                            ///< optional content; it is skipped with everything in it
+  eVifElementField = 0,         ///< it yields a field
+  eVifElementNotRead = 1,       ///< it is a child of the root, but unknown there or not the first of its name; it is
+                                ///< skipped with everything in it
+  eVifElementGivesWay = 2,      ///< it is the application's vendor, name or version, and a description replaces it
+  eVifElementEmpty = 3,         ///< it is a component or an item of a list, but contains no element of the VIF
+  eVifElementForeign = 4,       ///< it is among elements of the VIF, but its namespace is neither the VIF's nor that of
+                                ///< optional content; it is skipped with everything in it
   eVifElementNotUnderstood = 5  ///< it is a group that cannot be read; loading fails there
 };
 
@@ -39,8 +39,8 @@ using VifElementObserver = std::function<void(const VifElementReport&)>;
 /// every element that loading skips, in the order of the file. When loading fails on a group, that group is reported
 /// last.
 ///
-/// The field made of the application's vendor, name and version is reported for `VIF_App`. Optional content and an
-/// empty product, which many files have, are not reported.
+/// The field that combines the application's vendor, name and version is reported for `VIF_App`. Optional content and
+/// an empty product, which many files have, are not reported.
 ///
 /// May be called from any number of threads at once, each with an observer of its own.
 /// \param observer receives each element; may be empty

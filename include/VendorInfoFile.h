@@ -17,8 +17,8 @@
 class CVIFImpl;
 
 /// The result of a query for several fields: the sole owner of a list of copies, in the order of the file. It may
-/// outlive the object that was queried. The list may be empty but is never absent. Keep it in a variable: in `for (...
-/// : *vif.GetFields())` the list is destroyed before the loop begins.
+/// outlive the object that was queried. The list may be empty, but the pointer is never null. Keep it in a variable: in
+/// `for (... : *vif.GetFields())` the list is destroyed before the loop begins.
 using VifFieldList = std::unique_ptr<std::vector<CVIFField>, std::function<void(std::vector<CVIFField>*)>>;
 
 /// The fields of one or more Vendor Info Files, in the order in which they were read.
@@ -30,19 +30,19 @@ using VifFieldList = std::unique_ptr<std::vector<CVIFField>, std::function<void(
 /// The file's extension, in any letter case, decides how it is read: ".txt" as a text VIF, which is one component,
 /// ".xml" as an XML VIF. Components are numbered from 1 across all files loaded into the object.
 ///
-/// Several threads may call `const` members of one object at once. Appending to it, assigning it or destroying it
-/// requires that no other thread uses it. A moved-from object is empty and may be used again, with the built-in
+/// Several threads may call `const` members of one object at once. While a thread appends to it, assigns to it, moves
+/// from it or destroys it, no other may use it. A moved-from object is empty and may be used again, with the built-in
 /// definitions.
 class VIF_API CVendorInfoFile {
  public:
-  /// No fields, no file name, the built-in field definitions.
+  /// An empty object: no fields, no file name, the built-in field definitions.
   CVendorInfoFile();
 
-  /// Loads a file. An empty path, or a literal null, loads nothing and never fails. When reading a text file fails
-  /// midway, the fields up to there are loaded and no error is raised; `CheckTextVif` reports it.
+  /// Loads a file. An empty path, or a literal null, loads nothing and never fails. If reading a text file fails
+  /// midway, the fields up to there are loaded and nothing is thrown; `CheckTextVif` reports the failure.
   /// \param fieldDefs the definitions for resolving names of text VIFs, here and in later appends. Null means the built-in
   ///   table. The table is borrowed: it must outlive the object and its copies and must not change during a load. Names
-  ///   of any length load, unless one of the caller's own patterns refers back to a group or looks ahead.
+  ///   may be of any length, unless one of the caller's own patterns has a back-reference or a look-ahead.
   ///
   /// Everything that loading throws is a `std::exception`.
   /// \throws CZoRunTimeException (BaseUtilities/Exceptions.h) "VIF Does not exist. (name: <path>)",
@@ -54,20 +54,20 @@ class VIF_API CVendorInfoFile {
   ///   or the text of a regular expression's error, which only the caller's own patterns can cause:
   ///   "The regular expression needs more stack than this thread has left." or
   ///   "The regular expression takes too many steps."
-  /// \throws CVIFInvalidFile (VIFInvalidFile.h), which is a CZoRunTimeException and has the reasons,
-  ///   "<path> is not a valid Vendor Info File." when an XML file is not
+  /// \throws CVIFInvalidFile (VIFInvalidFile.h), which is a CZoRunTimeException and carries the reasons,
+  ///   "<path> is not a valid Vendor Info File." if an XML file is not
   /// \throws CZoDOMDocException (BaseUtilities/Exceptions.h) for an XML file: "Couldn't load the schema <file>: <reason>"
-  ///   when a schema is missing or broken; "Unexpected list element name: <name>" and
-  ///   "ERROR:  Couldn't get node name.\r\n" when other schemas let through what the library cannot read;
-  ///   "Vendor Info File Create Exception (file name: "<path>") - <reason>" when a call on the document fails,
-  ///   as all do on Windows where COM is not initialised
-  /// \throws std::filesystem::filesystem_error when the file cannot be examined: its name is too long, or a directory of
-  ///   its path may not be searched
+  ///   if a schema is missing or broken; "Unexpected list element name: <name>" and
+  ///   "ERROR:  Couldn't get node name.\r\n" if other schemas admit what the library cannot read;
+  ///   "Vendor Info File Create Exception (file name: "<path>") - <reason>" if a call on the document fails,
+  ///   as every call does on Windows while COM is not initialised
+  /// \throws std::filesystem::filesystem_error if the file cannot be examined, because its name is too long or a
+  ///   directory in its path is not searchable
   /// \throws std::bad_alloc
   CVendorInfoFile(const std::filesystem::path& fileName, std::vector<VifFieldDef>* fieldDefs = nullptr);
   CVendorInfoFile(std::nullptr_t, std::vector<VifFieldDef>* fieldDefs = nullptr);
 
-  /// Copies of the given fields. No file name, and a component count of 0.
+  /// Holds copies of the given fields, with no file name and a component count of 0.
   CVendorInfoFile(const std::vector<CVIFField>& fields);
 
   /// An independent copy: fields, file name, definitions and component count.
@@ -76,7 +76,7 @@ class VIF_API CVendorInfoFile {
   /// Takes the other's content and leaves it empty.
   CVendorInfoFile(CVendorInfoFile&& other) noexcept;
 
-  /// Copies the other's content. When memory runs out, this object stays as it was.
+  /// Copies the other's content. If memory runs out, this object is unchanged.
   CVendorInfoFile& operator=(const CVendorInfoFile& other);
 
   /// Swaps the two contents.
@@ -84,21 +84,21 @@ class VIF_API CVendorInfoFile {
 
   ~CVendorInfoFile();
 
-  /// Loads another file, with the definitions given at construction, and appends its fields to those already held. The
-  /// object takes the file's name if it has none yet. After a failure, what was read before it stays.
+  /// Loads another file, with the definitions given at construction, and appends its fields to those already held. If
+  /// the object has no file name yet, it takes this one. After a failure, what was read before it stays.
   /// \param fileName UTF-8; outside Windows any bytes that name a file. Null or empty does nothing.
-  /// \throws what the constructor from a path throws, with one difference: a failed call on an XML document comes as
+  /// \throws what the constructor from a path throws, with one difference: for a failed call on an XML document,
   ///   `_com_error` (<comdef.h> on Windows, msxml/ComError.h elsewhere), which is not a `std::exception`
   void Append(const char* fileName);
 
   /// Appends copies of the given fields, which may be this object's own `Fields()`. The file name and the component
-  /// count stay.
-  /// \throws std::bad_alloc when memory runs out. The object is then empty: the fields it held, its file name and its
-  ///   definitions are gone, too
+  /// count do not change.
+  /// \throws std::bad_alloc if memory runs out. The object is then empty: it has also lost the fields it held, its file
+  ///   name and its definitions
   void Append(const std::vector<CVIFField>& fields);
 
-  /// The name of the first file loaded, empty when there was none; never null. Bytes that are not UTF-8 appear as
-  /// U+FFFD. Valid until the object is changed or destroyed.
+  /// The name of the first file loaded; empty if there was none, never null. Bytes that are not UTF-8 appear as U+FFFD.
+  /// Valid until the object is changed or destroyed.
   const wchar_t* FileName() const noexcept;
 
   /// The number of fields held.
@@ -106,14 +106,14 @@ class VIF_API CVendorInfoFile {
 
   // Queries.
   //
-  // A query is a name pattern and three slots, and `CVIFField::Match` says which fields pass it. The pattern is
-  // UTF-8, or wide text, which is converted to UTF-8; null or empty, the literal nullptr included (but not NULL), means
-  // any name. A slot (eVifLocSrcPdo, 2) asks for source PDO 2, (eVifLocSrcPdo, INDEX_NOT_SPECIFIED) for any source PDO,
-  // and UNSPECIFIED_INDEX for nothing. Slots given one by one or as an array mean the same.
+  // A query is a name pattern and three slots; `CVIFField::Match` says which fields match it. The pattern is UTF-8, or
+  // wide text, which is converted to UTF-8. Null or empty matches any name; a literal null must be nullptr, not NULL.
+  // The slot (eVifLocSrcPdo, 2) matches source PDO 2, (eVifLocSrcPdo, INDEX_NOT_SPECIFIED) any source PDO, and
+  // UNSPECIFIED_INDEX everything. Separate slots and an array of them mean the same.
   //
   // A query never changes the object, and its results are copies. The pattern is compiled at most once, when the first
   // field's locations match; a query whose locations match no field ignores it. Besides what is said below, every query
-  // throws `std::regex_error` when the pattern is compiled and is not a regular expression or is too complex (see
+  // throws `std::regex_error` if it compiles the pattern and that is not a regular expression or is too complex (see
   // `CVIFField::Match`), and `std::bad_alloc`.
 
   /// The number of matching fields.
@@ -143,7 +143,7 @@ class VIF_API CVendorInfoFile {
 
   /// The one matching field.
   /// \throws CZoRunTimeException "Couldn't find field in \"<file>\" that matched with \"<pattern>\"." or
-  ///   "<n> fields in \"<file>\" matched with \"<pattern>\"."; an object without a file name is "this VIF"
+  ///   "<n> fields in \"<file>\" matched with \"<pattern>\"."; an object without a file name is called "this VIF"
   CVIFField GetUniqueField(const char* pattern, const VifIndex& index1, const VifIndex& index2,
                            const VifIndex& index3) const;
   CVIFField GetUniqueField(const wchar_t* pattern, const VifIndex& index1, const VifIndex& index2,
@@ -154,8 +154,8 @@ class VIF_API CVendorInfoFile {
                            const VifIndex& index3) const;
   CVIFField GetUniqueField(std::nullptr_t, const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
 
-  /// The one matching field and true, or the empty field and false when none matches.
-  /// \throws CZoRunTimeException "<n> fields in \"<file>\" matched with \"<pattern>\"." when more than one matches
+  /// The one matching field and true, or the empty field and false if none matches.
+  /// \throws CZoRunTimeException "<n> fields in \"<file>\" matched with \"<pattern>\"." if more than one matches
   std::tuple<CVIFField, bool> GetSingleField(const char* pattern, const VifIndex& index1, const VifIndex& index2,
                                              const VifIndex& index3) const;
   std::tuple<CVIFField, bool> GetSingleField(const wchar_t* pattern, const VifIndex& index1, const VifIndex& index2,
@@ -169,26 +169,26 @@ class VIF_API CVendorInfoFile {
   std::tuple<CVIFField, bool> GetSingleField(std::nullptr_t,
                                              const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
 
-  /// Copies of the matching fields of the first component that has any, the slots being those besides the component.
+  /// Copies of the matching fields of the first component that has any. The component takes the first slot; `index2`
+  /// and `index3` are the others.
   ///
   /// Only the component numbers 0 to `ComponentCount() - 1` are searched. Since components are numbered from 1, the one
-  /// with the highest number is not: with one component loaded nothing is found. Ask for it by its number.
+  /// with the highest number is not: with one component loaded, nothing is found. Query that one by its number.
   VifFieldList GetFirstFields(const char* pattern, const VifIndex& index2, const VifIndex& index3) const;
   VifFieldList GetFirstFields(const wchar_t* pattern, const VifIndex& index2, const VifIndex& index3) const;
   VifFieldList GetFirstFields(std::nullptr_t, const VifIndex& index2, const VifIndex& index3) const;
 
   /// The one field that `GetFirstFields` finds.
-  /// \throws CZoRunTimeException "<n> fields in \"<pattern>\" matched with \"<pattern>\"." when it finds several
-  /// \throws std::out_of_range "invalid vector subscript" when it finds none
+  /// \throws CZoRunTimeException "<n> fields in \"<pattern>\" matched with \"<pattern>\"." if it finds several
+  /// \throws std::out_of_range "invalid vector subscript" if it finds none
   CVIFField GetFirstUniqueField(const char* pattern, const VifIndex& index2, const VifIndex& index3) const;
   CVIFField GetFirstUniqueField(const wchar_t* pattern, const VifIndex& index2, const VifIndex& index3) const;
   CVIFField GetFirstUniqueField(std::nullptr_t, const VifIndex& index2, const VifIndex& index3) const;
 
-  /// The number of components read so far from all files loaded, which is also the highest component number
-  /// given out.
+  /// The number of components read so far from all files loaded, which is also the highest component number assigned.
   std::uint32_t ComponentCount() const noexcept;
 
-  // The fields of one group of the file, and of the groups inside it. `INDEX_NOT_SPECIFIED` as a number asks for any.
+  // The fields of one group of the file, and of the groups inside it. `INDEX_NOT_SPECIFIED` as a number matches any.
   // Components, PDOs, SVIDs, modes and endpoints are numbered from 1, USB4 routers from 0; in a text VIF the numbers
   // are those written in the names.
 
@@ -222,5 +222,5 @@ class VIF_API CVendorInfoFile {
  private:
   CVIFImpl& Content();
 
-  CVIFImpl* m_impl;  // owned; null, which stands for empty content, after a move or a failed append
+  CVIFImpl* m_impl;  // owned; null after a move or a failed append, which counts as empty
 };

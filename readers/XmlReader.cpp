@@ -31,7 +31,7 @@ using Slots = std::array<VifIndex, kDepth>;
 
 constexpr Slots kNoSlots = {CVIFField::UNSPECIFIED_INDEX, CVIFField::UNSPECIFIED_INDEX, CVIFField::UNSPECIFIED_INDEX};
 
-/// The slots of a field that stands outside any numbered group.
+/// The slots of a field outside any numbered group.
 constexpr Slots HeaderSlots(EVifLocation location) {
   return {VifIndex{location, 0}, CVIFField::UNSPECIFIED_INDEX, CVIFField::UNSPECIFIED_INDEX};
 }
@@ -134,7 +134,7 @@ class CExtraction {
   }
 
   /// Reads the items of one list, which is no deeper than there are slots: all leaves of an item first, then the lists
-  /// in it, wherever they stand. `slots` are those of the groups around the items, filled up to the depth. `counter`
+  /// in it, wherever they are. `slots` are those of the groups around the items, filled up to the depth. `counter`
   /// counts the items over several lists and files; null numbers them within the list.
   void Walk(IXMLDOMNodeList& items, std::size_t depth, Slots slots, EVifLocation location, std::uint32_t* counter,
             std::vector<CVIFField>& fields) {

@@ -13,7 +13,7 @@ namespace vif {
 
 /// Receives what becomes of each element.
 struct XmlObserver {
-  /// Called with each field and the element it was made from, which for the header's "VIF_Producer" is `VIF_App`.
+  /// Called with each field and the element it comes from, which for the header's "VIF_Producer" is `VIF_App`.
   std::function<void(IXMLDOMNode& element, const CVIFField& field)> onField;
 
   /// Called with a group that cannot be read, just before the extraction throws.

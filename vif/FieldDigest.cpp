@@ -18,7 +18,8 @@ constexpr FieldDigest kEverySlot = 0x0000'0001'0001'0001;
 constexpr FieldDigest kNameBits = kPartMask << (kBitsPerPart * CVIFField::MAX_INDEX_DEPTH);
 static_assert(CVIFField::MAX_INDEX_DEPTH == 3, "a digest has room for three slots and the name");
 
-/// The bits of a character that count for a digest: all but the one in which ASCII capitals differ from small letters.
+/// The bits of a character that count for a digest: all but the one that distinguishes ASCII capitals from small
+/// letters.
 constexpr unsigned char kCaselessBits = 0xDF;
 constexpr std::uint64_t kCaselessWord = std::uint64_t{kCaselessBits} * 0x0101'0101'0101'0101;
 
@@ -32,14 +33,14 @@ std::uint64_t Mixed(std::uint64_t hash, std::uint64_t word) {
   return hash ^ (hash >> 32U);
 }
 
-/// The eight characters from there on.
+/// The next eight characters.
 std::uint64_t Word(const char* text) {
   std::uint64_t word = 0;
   std::memcpy(&word, text, sizeof(word));
   return word;
 }
 
-/// All of a text that is shorter than a word.
+/// The whole of a text that is shorter than a word.
 std::uint64_t ShortWord(std::string_view text) {
   std::uint64_t word = 0;
   for (const char c : text) word = (word << 8U) | static_cast<unsigned char>(c);
@@ -61,8 +62,8 @@ FieldDigest NamePart(std::string_view name) {
 
 unsigned char Caseless(char c) { return static_cast<unsigned char>(c) & kCaselessBits; }
 
-/// Whether every character that the global locale takes for the same as one of the pattern is also the same to a
-/// digest.
+/// Whether every character that the global locale considers equal to one of the pattern, ignoring letter case, is also
+/// equal to it in a digest.
 bool IsCaseKnown(std::string_view pattern) {
   const std::locale locale;
   const auto& ctype = std::use_facet<std::ctype<char>>(locale);
@@ -96,7 +97,7 @@ void CFieldDigests::Cover(const std::vector<CVIFField>& fields) noexcept {
     if (fields.size() > m_digests.capacity()) m_digests.reserve(std::max(fields.size(), 2 * m_digests.capacity()));
     for (std::size_t i = m_digests.size(); i < fields.size(); ++i) m_digests.push_back(DigestOf(fields[i]));
   } catch (const std::bad_alloc&) {
-    // Queries look at the fields themselves where there are no digests.
+    // Where there are no digests, queries read the fields themselves.
   }
 }
 

@@ -1,4 +1,4 @@
-// What a query looks at before it looks at a field.
+// A summary of each field that lets a query skip most fields without reading them.
 #pragma once
 
 #include "VIFField.h"
@@ -11,16 +11,16 @@
 
 namespace vif {
 
-/// Rules most fields out of a query: 16 bits for each slot, from the lowest bits up, and 16 for the name, whose letter
-/// case does not count. Going through many digests takes a fraction of the time that going through the fields takes,
-/// which are twenty times as large and keep their names elsewhere.
+/// A summary of one field, enough to rule most fields out of a query: 16 bits for each slot, from the lowest bits up,
+/// and 16 for the name, ignoring letter case. Scanning digests takes a fraction of the time of scanning fields, which
+/// are twenty times as large and keep their names elsewhere.
 using FieldDigest = std::uint64_t;
 
-/// The digests of the first fields of a list whose fields stay as they are while it grows. There may be fewer digests
-/// than fields.
+/// The digests of a list's fields, from the first on. The list may grow, but its fields must not change. There may be
+/// fewer digests than fields.
 class CFieldDigests {
  public:
-  /// Adds the digests of the fields that have been appended to the list, or none when memory runs out.
+  /// Adds the digests of the fields that have been appended to the list, or none if memory runs out.
   void Cover(const std::vector<CVIFField>& fields) noexcept;
 
   const std::vector<FieldDigest>& All() const { return m_digests; }
@@ -31,27 +31,27 @@ class CFieldDigests {
   std::vector<FieldDigest> m_digests;
 };
 
-/// Tells from a field's digest that the field does not pass a query.
+/// Tells from a field's digest that the field cannot match a query.
 class CDigestFilter {
  public:
-  /// Asks for a slot with that location, and with that number unless it is `INDEX_NOT_SPECIFIED`. Not to be called more
-  /// often than a field has slots.
+  /// Requires a slot with that location, and with that number unless it is `INDEX_NOT_SPECIFIED`. Call it at most once
+  /// for each slot that a field has.
   void AskForSlot(const VifIndex& slot);
 
-  /// Asks for a name that fits a plain pattern, without regard to letter case as the global locale has it. Does nothing
-  /// when a digest could differ between names that are the same in that locale.
+  /// Requires a name that matches a plain pattern, ignoring letter case as the global locale defines it. Does nothing
+  /// if names that are equal in that locale could have different digests.
   void AskForName(std::string_view plainPattern);
 
   bool AsksForAnything() const { return m_slotCount > 0 || m_name.relevantBits != 0; }
 
-  /// Whether the field may pass; false only if it does not.
+  /// Whether the field may match; false only if it cannot.
   bool MayPass(FieldDigest digest) const {
     return m_name.HasAllIn(digest) && m_slots[0].HasOneSlotIn(digest) && m_slots[1].HasOneSlotIn(digest) &&
            m_slots[2].HasOneSlotIn(digest);
   }
 
  private:
-  /// Without relevant bits, all digests have them.
+  /// Without relevant bits, it matches every digest.
   struct Asked {
     FieldDigest bits = 0;
     FieldDigest relevantBits = 0;
@@ -60,8 +60,8 @@ class CDigestFilter {
 
     /// Whether one of the three slots has all relevant bits.
     bool HasOneSlotIn(FieldDigest digest) const {
-      // Subtracting 1 from each slot's difference sets its highest bit, where that is not set already, just when it is
-      // 0; what is borrowed beyond a slot comes from one that is 0.
+      // Subtracting 1 from each slot's difference sets its highest bit, unless that was set already, just when the
+      // difference is 0. Only a slot that is 0 borrows from the next.
       constexpr FieldDigest lowestBits = 0x0000'0001'0001'0001;
       constexpr FieldDigest highestBits = 0x0000'8000'8000'8000;
       const FieldDigest difference = (digest ^ bits) & relevantBits;

@@ -32,7 +32,7 @@ FoundFields FindFields(const SearchedFields& searched, CFieldQuery query) {
 
 std::vector<CVIFField> FirstComponentFields(const std::vector<CVIFField>& fields, std::uint32_t componentCount,
                                             CFieldQuery query) {
-  // Sorted by component before a name is looked at: a name in a later component must not be able to fail the query.
+  // Sorted by component before any name is matched: a name in a later component must not make the query fail.
   std::map<VifIndexNumber, std::vector<const CVIFField*>> byComponent;
   for (const CVIFField& field : fields) {
     const VifIndexNumber component = field.Index(eVifLocComponent);

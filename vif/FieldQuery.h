@@ -16,7 +16,7 @@ namespace vif {
 using QuerySlots = std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>;
 
 /// Selects fields as `CVIFField::Match` does, but compiles the pattern at most once, when the first field's locations
-/// pass, and looks at the locations without a call for each field. Nothing is allocated unless the pattern is a regular
+/// match, and compares locations without a call for each field. Allocates nothing unless the pattern is a regular
 /// expression.
 class CFieldQuery {
  public:
@@ -27,7 +27,7 @@ class CFieldQuery {
   bool PassesLocations(const CVIFField& field) const;
   bool PassesName(const CVIFField& field);
 
-  /// The filter for going through that many digests.
+  /// The filter for scanning that many digests.
   CDigestFilter Filter(std::size_t digestCount) const;
 
  private:
@@ -90,7 +90,7 @@ void ForEachPassing(const SearchedFields& searched, CFieldQuery& query, const Vi
   }
 }
 
-/// What a query that wants one field has found.
+/// What a query for a single field has found.
 struct FoundFields {
   std::size_t count = 0;
   const CVIFField* first = nullptr;  // borrowed from the list; null when the count is 0

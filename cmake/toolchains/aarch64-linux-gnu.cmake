@@ -1,9 +1,9 @@
-# Builds for 64-bit ARM on Debian (packages g++-aarch64-linux-gnu and libxml2-dev:arm64), and runs what is built under QEMU
+# Builds for 64-bit ARM on Debian (packages g++-aarch64-linux-gnu and libxml2-dev:arm64), and runs the result under QEMU
 # (qemu-user-static).
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR aarch64)
 
-set(CMAKE_C_COMPILER aarch64-linux-gnu-gcc)  # for GoogleTest, which asks for it
+set(CMAKE_C_COMPILER aarch64-linux-gnu-gcc)  # GoogleTest needs it
 set(CMAKE_CXX_COMPILER aarch64-linux-gnu-g++)
 
 # Debian keeps the libraries of every architecture side by side.

@@ -5,12 +5,12 @@
 
 namespace host {
 
-/// To be called once before anything is shown: what is written comes out byte for byte, and a console takes it for
+/// Call this once, before any output. From then on, output is written byte for byte, and a console interprets it as
 /// UTF-8.
 void PrepareConsole();
 
-/// Reads a line that the operator types, UTF-8, without its end.
-/// \return whether there is one; if not, the input has ended
+/// Reads a line that the operator types, as UTF-8 and without its line end.
+/// \return whether there was one; if not, the input has ended
 bool ReadLine(std::string& line);
 
 }  // namespace host

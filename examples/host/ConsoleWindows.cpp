@@ -14,7 +14,7 @@ namespace host {
 
 namespace {
 
-/// Reads what is typed as Unicode: older consoles have no letters beyond ASCII for those who read bytes.
+/// Reads what is typed as Unicode: read as bytes, older consoles deliver only ASCII letters.
 bool ReadTypedLine(HANDLE console, std::string& line) {
   std::wstring typed;
   std::array<wchar_t, 512> piece;

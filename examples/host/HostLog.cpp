@@ -45,7 +45,7 @@ CHostLog::CHostLog(const std::string& file) : m_file(PathFromUtf8(file), std::io
 TEST_STATUS CHostLog::DoWrite(TEST_STATUS status, eZoLogVerbosity, const CFormatInfo*, const char* text) {
   const std::string line = TimeText() + ' ' + StatusText(status) + ' ' + Printable(text) + '\n';
   std::cout << line << std::flush;
-  m_file << line << std::flush;  // at once: what was logged before a crash tells where it happened
+  m_file << line << std::flush;  // at once: after a crash, the last lines tell where it happened
   return status;
 }
 

@@ -1,15 +1,16 @@
-// A reference host: what a program does that runs test suites over the VIF of a product. Read it from here on.
+// A reference host: shows what a program that runs test suites on a product's VIF must do. Start reading here.
 //
-// There are three parties, as there are in life:
+// Three parties are involved, as in a real setup:
 //
-// - the host, this program. It is linked with the host's libraries only (VendorInfoFileHost stands in for them) and
-//   brings the log and the user-input module, by which others write lines and ask the operator;
+// - the host, this program. It is linked with the host's libraries only (VendorInfoFileHost stands in for them). It
+//   provides the log and the user-input module, through which the others write lines and ask the operator;
 // - the library VendorInfoFile, which the host loads when it is about to run a suite that needs a VIF. It loads the VIF
 //   that the operator chooses and publishes it;
-// - the test suite, suite/, a library of its own that is linked with VendorInfoFile and reads the published VIF through
-//   its classes. The host knows nothing of fields.
+// - the test suite, in suite/, a separate library that is linked with VendorInfoFile and reads the published VIF
+//   through its classes. The host knows nothing about fields.
 //
-// They meet in CAppState. It must exist once in the process: so all three use the one shared library that has it.
+// They meet in CAppState, which must exist only once in the process. So all three use the one shared library that
+// contains it.
 #include "Console.h"
 #include "HostLog.h"
 #include "Options.h"
@@ -39,11 +40,12 @@ std::unique_ptr<CTUUserInput> MakeUserInput(const Options& options) {
   return std::make_unique<CTerminalInput>(PathFromUtf8(options.directory.empty() ? "." : options.directory));
 }
 
-/// The whole of a run, in the order in which things must be there; they go in the opposite order. The library comes
-/// before the suite, so that the suite, which needs it, gets the one that was asked for (on Windows only when its file
-/// is called as the installed one); and both outlive the session, because the VIF is the library's object.
+/// A complete run. Objects are created in the order in which they are needed, and destroyed in the opposite order. The
+/// library is loaded before the suite, which depends on it, so that the suite gets the one that was asked for (on
+/// Windows only if that has the file name of the installed one). Both outlive the session, because the VIF is the
+/// library's object.
 ExitStatus Run(const Options& options, CHostLog& log) {
-  const CComApartment apartment;  // COM is the host's business
+  const CComApartment apartment;  // initialising COM is up to the host
   const std::unique_ptr<CTUUserInput> input = MakeUserInput(options);
   const CSharedLibrary library(options.library);
   const VifHooks hooks = FindHooks(library);
@@ -59,7 +61,7 @@ ExitStatus Run(const Options& options, CHostLog& log) {
   }
 }
 
-/// Runs and has the log tell what prevents it.
+/// Runs, and logs whatever prevents that.
 ExitStatus RunAndLog(const Options& options) {
   CHostLog log(options.log);
   ExitStatus status = kCouldNotRun;
@@ -72,7 +74,7 @@ ExitStatus RunAndLog(const Options& options) {
   }
   if (log.IsComplete()) return status;
   std::cerr << "reference_host: the log could not be written\n";
-  return kCouldNotRun;  // a result without its record is none
+  return kCouldNotRun;  // a result without a record does not count
 }
 
 }  // namespace

@@ -13,10 +13,10 @@ const char* const kUsage =
     "\n"
     "Runs compliance checks on a Vendor Info File.\n"
     "\n"
-    "  DIR             have the operator choose among the VIFs in DIR (the current directory)\n"
-    "  --vif FILE      take this VIF and ask nobody\n"
-    "  --log FILE      add the log to this file (suite.log)\n"
-    "  --library FILE  load this library (" VIF_LIBRARY
+    "  DIR             let the operator choose a VIF in DIR (default: the current directory)\n"
+    "  --vif FILE      use this VIF, without asking\n"
+    "  --log FILE      append the log to this file (default: suite.log)\n"
+    "  --library FILE  load this library (default: " VIF_LIBRARY
     ")\n"
     "  --help          show this\n"
     "\n"
@@ -24,7 +24,7 @@ const char* const kUsage =
 
 namespace {
 
-/// The option's value in these options; null when there is no such option.
+/// The place for the option's value; null if there is no such option.
 std::string* FindOption(Options& options, std::string_view name) {
   if (name == "--vif") return &options.vif;
   if (name == "--log") return &options.log;
@@ -34,7 +34,7 @@ std::string* FindOption(Options& options, std::string_view name) {
 
 void Check(const Options& options) {
   if (options.directory.empty()) return;
-  if (!options.vif.empty()) throw CUsageError("with --vif nobody is asked: give no directory");
+  if (!options.vif.empty()) throw CUsageError("--vif and DIR cannot be combined");
   std::error_code ignored;
   if (!std::filesystem::is_directory(PathFromUtf8(options.directory), ignored)) {
     throw CUsageError("there is no directory " + options.directory);
@@ -55,7 +55,7 @@ Options ParseOptions(std::span<char* const> arguments) {
       if (++i == arguments.size() || *arguments[i] == '\0') throw CUsageError(argument + " needs a FILE");
       *value = arguments[i];
     } else if (argument.empty() || argument.front() == '-') {
-      throw CUsageError("'" + argument + "' is no option");
+      throw CUsageError("unknown option '" + argument + "'");
     } else if (!options.directory.empty()) {
       throw CUsageError("there can be only one DIR");
     } else {

@@ -8,14 +8,14 @@
 namespace host {
 
 struct Options {
-  std::string directory;              ///< whose VIFs are listed; empty when none is given
-  std::string vif;                    ///< the VIF; empty when the operator is to be asked
+  std::string directory;              ///< whose VIFs are listed; empty if none is given
+  std::string vif;                    ///< the VIF; empty to ask the operator
   std::string library = VIF_LIBRARY;  ///< the library with the hooks: its installed name
-  std::string log = "suite.log";      ///< in the current directory, as where the host lies may not be writable
-  bool help = false;                  ///< nothing is to be done but to show `kUsage`
+  std::string log = "suite.log";      ///< in the current directory, as the host's own may not be writable
+  bool help = false;                  ///< only show `kUsage`
 };
 
-/// What is wrong with a command line.
+/// Says what is wrong with a command line.
 class CUsageError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
@@ -23,7 +23,7 @@ class CUsageError : public std::runtime_error {
 
 extern const char* const kUsage;
 
-/// \param arguments those behind the program's name
+/// \param arguments those after the program's name
 /// \throws CUsageError
 Options ParseOptions(std::span<char* const> arguments);
 

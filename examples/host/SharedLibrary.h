@@ -1,4 +1,4 @@
-// A library that is loaded while the program runs.
+// A library that is loaded at run time.
 #pragma once
 
 #include <stdexcept>
@@ -6,26 +6,26 @@
 
 namespace host {
 
-/// Why a library or a function in it cannot be had.
+/// Says why a library or a function in it cannot be used.
 class CLibraryError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-/// A library, loaded as long as the object lives. Nothing that the library made may outlive it: neither objects, whose
-/// code goes with it, nor pointers to its functions.
+/// A library that is loaded while the object lives. Nothing from the library may outlive it: neither its objects, whose
+/// code is unloaded with it, nor pointers to its functions.
 class CSharedLibrary {
  public:
-  /// \param file a path, or a bare name, which the system's loader looks for where it looks for libraries
-  /// \throws CLibraryError when it cannot be loaded
+  /// \param file a path, or a bare name, for which the system's loader searches its usual places
+  /// \throws CLibraryError if it cannot be loaded
   explicit CSharedLibrary(const std::string& file);
   CSharedLibrary(const CSharedLibrary&) = delete;
   CSharedLibrary& operator=(const CSharedLibrary&) = delete;
   ~CSharedLibrary();
 
   /// A function that the library exports.
-  /// \param name its name; only `extern "C"` functions have the plain one
-  /// \throws CLibraryError when there is none
+  /// \param name its name, which is the plain one only for `extern "C"` functions
+  /// \throws CLibraryError if there is none
   template <typename Function>
   Function Find(const char* name) const {
     return reinterpret_cast<Function>(FindFunction(name));

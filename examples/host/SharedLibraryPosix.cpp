@@ -4,7 +4,7 @@
 
 namespace host {
 
-// RTLD_NOW: what the library lacks is found out here and not in the middle of a run.
+// RTLD_NOW: missing symbols show up here and not in the middle of a run.
 CSharedLibrary::CSharedLibrary(const std::string& file)
     : m_file(file), m_handle(dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL)) {
   if (m_handle == nullptr) throw CLibraryError("Cannot load " + file + ": " + dlerror());

@@ -9,7 +9,7 @@ namespace host {
 
 namespace {
 
-// A bare name is looked for beside the program first.
+// Windows looks for a bare name next to the program first.
 void* Load(const std::string& file) { return LoadLibraryW(PathFromUtf8(file).make_preferred().c_str()); }
 
 }  // namespace

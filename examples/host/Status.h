@@ -1,4 +1,4 @@
-// What the statuses of log lines and results mean in this host.
+// What statuses of log lines and results mean in this host.
 #pragma once
 
 #include <TestUtilities/TULog.h>
@@ -10,7 +10,7 @@ constexpr TEST_STATUS kDone = 1;
 constexpr TEST_STATUS kInformation = 0x4000000;
 constexpr TEST_STATUS kRefused = 0x40000000;
 
-// The results of checks. The library knows nothing of these: a host and its suites agree on numbers of their own.
+// The results of checks. The library does not know these: a host and its suites agree on numbers of their own.
 constexpr TEST_STATUS kPassed = kDone;
 constexpr TEST_STATUS kFailed = 2;
 constexpr TEST_STATUS kNotApplicable = 4;

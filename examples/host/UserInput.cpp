@@ -21,8 +21,8 @@ namespace {
 
 using Files = std::vector<std::filesystem::path>;
 
-/// The library asks the suite's log for the choice, not the user-input module. The name must be one that the system's
-/// file functions understand, just as the operator's file is called: not the text that was made printable.
+/// The library takes the choice from the suite's log, not from the user-input module. The system's file functions must
+/// understand the name, so it is the file's real name and not the printable text.
 bool Record(const std::filesystem::path& file) {
   CTestSuiteLog* suiteLog = CAppState::TestSuiteLog();
   if (suiteLog == nullptr) return false;
@@ -52,7 +52,7 @@ std::optional<std::filesystem::path> FileOfPath(const std::string& answer) {
   if (!std::filesystem::is_regular_file(file, ignored)) {
     std::cout << "There is no file " << Printable(answer) << ".\n";
   } else if (!HasVifExtension(file)) {
-    std::cout << Printable(answer) << " is no VIF: its name ends neither in .txt nor in .xml.\n";
+    std::cout << Printable(answer) << " is not a VIF: its name must end in .txt or .xml.\n";
   } else {
     return file;
   }
@@ -82,7 +82,7 @@ bool CTerminalInput::ChooseFile(const wchar_t* prompt, const wchar_t* caption, u
   for (;;) {
     std::cout << "Number, or path of a file (nothing to cancel): " << std::flush;
     std::string line;
-    if (!ReadLine(line)) std::cout << '\n';  // the end of input leaves the cursor behind the question
+    if (!ReadLine(line)) std::cout << '\n';  // at the end of input the cursor is still after the question
     const std::string answer = Trimmed(line);
     if (answer.empty() || answer == "q" || answer == "Q") return false;
     const auto file = IsNumber(answer) ? FileOfNumber(answer, files) : FileOfPath(answer);

@@ -1,4 +1,4 @@
-// The two ways in which this host has a VIF chosen.
+// The two ways of choosing a VIF in this host.
 #pragma once
 
 #include <TestUtilities/TUUserInput.h>
@@ -11,13 +11,13 @@ namespace host {
 
 /// Asks on the terminal: a numbered list of files, or any path that the operator types.
 ///
-/// Of the operations of a user-input module the library calls only `ChooseFile`, and only this one must be overridden.
+/// Of a user-input module, the library calls only `ChooseFile`, and only that must be overridden.
 class CTerminalInput : public CTUUserInput {
  public:
-  /// \param directory where the files to be listed are
+  /// \param directory the directory whose files are listed
   explicit CTerminalInput(std::filesystem::path directory);
 
-  /// Asks until there is an answer that will do. An empty line, "q" and the end of input mean that no file is chosen.
+  /// Asks until there is a usable answer. An empty line, "q" and the end of input mean that no file is chosen.
   bool ChooseFile(const wchar_t* prompt, const wchar_t* caption, unsigned long flags, unsigned long reserved) override;
 
  private:
@@ -26,8 +26,7 @@ class CTerminalInput : public CTUUserInput {
   std::filesystem::path m_directory;
 };
 
-/// Nobody is asked: the file was given on the command line. Whether it is there, and is a VIF, is for the library to
-/// say.
+/// Does not ask: the file was given on the command line. The library says whether it exists and is a VIF.
 class CGivenFile : public CTUUserInput {
  public:
   explicit CGivenFile(std::filesystem::path file);

@@ -20,7 +20,7 @@ std::vector<std::filesystem::path> ListVifs(const std::filesystem::path& directo
   std::error_code error;
   for (std::filesystem::directory_iterator entry(directory, error); entry != std::filesystem::directory_iterator();
        entry.increment(error)) {
-    std::error_code ignored;  // an entry that cannot be looked at is no file to choose
+    std::error_code ignored;  // an entry that cannot be examined is not offered
     if (HasVifExtension(entry->path()) && entry->is_regular_file(ignored)) files.push_back(entry->path());
   }
   std::sort(files.begin(), files.end());

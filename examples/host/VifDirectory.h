@@ -1,4 +1,4 @@
-// The files that an operator may choose.
+// The files that an operator can choose.
 #pragma once
 
 #include <filesystem>
@@ -6,10 +6,11 @@
 
 namespace host {
 
-/// Whether a file's extension says that it is a VIF: ".txt" or ".xml" in any letter case. The library goes by it, too.
+/// Whether a file's extension says that it is a VIF: ".txt" or ".xml" in any letter case. The library decides by it,
+/// too.
 bool HasVifExtension(const std::filesystem::path& file);
 
-/// The VIFs of a directory, by name; none when it cannot be read.
+/// The VIFs in a directory, sorted by name; none if it cannot be read.
 std::vector<std::filesystem::path> ListVifs(const std::filesystem::path& directory);
 
 }  // namespace host

@@ -24,7 +24,7 @@ CVifSession::CVifSession(const VifHooks& hooks, CTULog& log, CTUUserInput& input
 CVifSession::~CVifSession() {
   try {
     m_hooks.cleanup(&m_context);
-  } catch (const std::exception& error) {  // out of memory; the VIF is gone all the same
+  } catch (const std::exception& error) {  // out of memory; the VIF has been deleted all the same
     std::cerr << "reference_host: " << error.what() << '\n';
   }
   CAppState::SetTestSuiteLog(nullptr);
@@ -34,9 +34,9 @@ CVifSession::~CVifSession() {
 bool CVifSession::Start() {
   const CVendorInfoFile* before = CAppState::TestSuiteVIF();
   if (m_hooks.initialize(&m_context) != kDone) return false;
-  // "Done" means that the hook has done its work, not that the file could be loaded. Whether it could is told by a VIF
-  // being there that was not there before: one that is published already stays when the load fails. When it succeeds,
-  // that one is replaced and not deleted, so that the new one has another address.
+  // "Done" means that the hook did its work, not that the file could be loaded. It was loaded if a different VIF is
+  // published now: if loading fails, a VIF that was already published stays; if it succeeds, that one is replaced but
+  // not deleted, so the new one has another address.
   const CVendorInfoFile* now = CAppState::TestSuiteVIF();
   return now != nullptr && now != before;
 }

@@ -1,4 +1,4 @@
-// Lists every field of one or more Vendor Info Files: where it stands, its name, its value and what that means.
+// Lists every field of one or more Vendor Info Files: its place, its name, its value and what that means.
 #include <VendorInfoFile.h>
 #include <msxml/ComApartment.h>
 
@@ -41,15 +41,15 @@ int main(int argc, char* argv[]) {
     CVendorInfoFile vif;
     for (int i = 1; i < argc; ++i) vif.Append(argv[i]);  // each text VIF becomes one more component
 
-    // GetFields() hands over a list of copies. Keep it in a variable: in `for (... : *vif.GetFields())` the list
-    // would be gone before the loop begins.
+    // GetFields() returns a list of copies. Keep it in a variable: in `for (... : *vif.GetFields())` the list would
+    // be destroyed before the loop begins.
     const VifFieldList fields = vif.GetFields();
     for (const CVIFField& field : *fields) PrintField(field);
     std::cout << "Fields: " << vif.Count() << ", components: " << vif.ComponentCount() << '\n';
-  } catch (const std::exception& error) {  // the file is missing, is no VIF, cannot be read, ...
+  } catch (const std::exception& error) {  // the file is missing, is not a VIF, cannot be read, ...
     std::cerr << "list_fields: " << error.what() << '\n';
     return EXIT_FAILURE;
-  } catch (const _com_error& error) {  // is no std::exception
+  } catch (const _com_error& error) {  // not a std::exception
     std::cerr << "list_fields: COM error 0x" << std::hex << static_cast<unsigned>(error.Error()) << '\n';
     return EXIT_FAILURE;
   }

@@ -1,4 +1,4 @@
-// Loads a text VIF that holds a vendor's own field names next to those of the VIF format.
+// Loads a text VIF that contains a vendor's own field names next to those of the VIF format.
 #include <VendorInfoFile.h>
 #include <msxml/ComApartment.h>
 
@@ -10,7 +10,7 @@
 
 namespace {
 
-// The built-in definitions and one more, for names such as QPW_Cable_Drop2: a field of source PDO 2.
+// The built-in definitions plus one for names such as QPW_Cable_Drop2, which is a field of source PDO 2.
 std::vector<VifFieldDef> MakeFieldDefs() {
   std::vector<VifFieldDef> fieldDefs = VifFieldDefs::GetVifFieldDefs();  // a copy; the original is never changed
   fieldDefs.push_back({
@@ -21,7 +21,7 @@ std::vector<VifFieldDef> MakeFieldDefs() {
   return fieldDefs;
 }
 
-// The file's fields, with these definitions or, when there are none, the built-in ones.
+// Loads the file with these definitions or, if null, the built-in ones.
 CVendorInfoFile Load(const char* fileName, std::vector<VifFieldDef>* fieldDefs) {
   CVendorInfoFile vif(nullptr, fieldDefs);
   vif.Append(fileName);
@@ -48,7 +48,7 @@ int main(int argc, char* argv[]) {
   }
   try {
     const CComApartment apartment;  // on Windows, XML files are read through COM
-    // A name that no definition knows is kept as it is written, and its field stands in no group.
+    // A name that no definition knows is kept as written, and its field belongs to no group.
     std::cout << "With the built-in definitions:\n";
     PrintOwnFields(Load(argv[1], nullptr));
 
@@ -60,7 +60,7 @@ int main(int argc, char* argv[]) {
   } catch (const std::exception& error) {
     std::cerr << "own_field_names: " << error.what() << '\n';
     return EXIT_FAILURE;
-  } catch (const _com_error& error) {  // is no std::exception
+  } catch (const _com_error& error) {  // not a std::exception
     std::cerr << "own_field_names: COM error 0x" << std::hex << static_cast<unsigned>(error.Error()) << '\n';
     return EXIT_FAILURE;
   }

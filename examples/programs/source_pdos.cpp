@@ -12,7 +12,7 @@
 
 namespace {
 
-// The value of one field of a source PDO in volts, amperes or watts. The unit says what its number counts.
+// The value of one field of a source PDO in volts, amperes or watts. `unit` is what its number counts.
 double Value(const std::vector<CVIFField>& fields, const CVIFField& pdo, const std::string& name, double unit) {
   const VifIndex component = {eVifLocComponent, pdo.Index(eVifLocComponent)};
   const VifIndex sourcePdo = {eVifLocSrcPdo, pdo.Index(eVifLocSrcPdo)};
@@ -21,7 +21,8 @@ double Value(const std::vector<CVIFField>& fields, const CVIFField& pdo, const s
     if (field.GetULongNumericValue() == CVIFField::VIF_VALUE_UNSET_64) break;  // too large to be a number
     return static_cast<double>(field.GetULongNumericValue()) * unit;
   }
-  throw std::runtime_error(name + " is missing or no number in source PDO " + std::to_string(pdo.Index(eVifLocSrcPdo)));
+  throw std::runtime_error(name + " is missing or not a number in source PDO " +
+                           std::to_string(pdo.Index(eVifLocSrcPdo)));
 }
 
 void PrintPdo(const std::vector<CVIFField>& fields, const CVIFField& pdo) {
@@ -59,7 +60,7 @@ int main(int argc, char* argv[]) try {
 } catch (const std::exception& error) {
   std::fprintf(stderr, "source_pdos: %s\n", error.what());
   return EXIT_FAILURE;
-} catch (const _com_error& error) {  // is no std::exception
+} catch (const _com_error& error) {  // not a std::exception
   std::fprintf(stderr, "source_pdos: COM error 0x%08X\n", static_cast<unsigned>(error.Error()));
   return EXIT_FAILURE;
 }

@@ -1,13 +1,13 @@
-// What is simple about ASCII text.
+// A fast path for ASCII text.
 #pragma once
 
 #include <cstddef>
 #include <string_view>
 
-/// Copies text into characters of another width, as it is when it is ASCII. Nearly all text of a VIF is, and so it is
-/// copied many characters at a time, which is much faster than decoding one after the other.
+/// Copies ASCII text into characters of another width. Nearly all text of a VIF is ASCII, and copying it many
+/// characters at a time is much faster than decoding them one by one.
 /// \param copy room for as many characters as the text has
-/// \return whether the text was ASCII; when not, the copy is of no use
+/// \return whether the text was ASCII; if not, the copy is useless
 template <typename From, typename To>
 bool CopyAscii(std::basic_string_view<From> text, To* copy) {
   constexpr auto ascii = static_cast<From>(0x7F);

@@ -6,8 +6,8 @@
 #include <exception>
 #include <stdexcept>
 
-/// What every exception of the host has in common. It is no `std::exception` of its own accord, so that the
-/// classes below can be caught both as this and, without ambiguity, as `std::exception`.
+/// What every exception of the host has in common. It is not derived from `std::exception`, so that the classes below
+/// can be caught both as this and, without ambiguity, as `std::exception`.
 class ZO_API CZoException {
  public:
   CZoException(const CZoException&) = default;
@@ -16,18 +16,18 @@ class ZO_API CZoException {
   CZoException& operator=(CZoException&&) = default;
   virtual ~CZoException();
 
-  /// The message, UTF-8 unless it quotes a file name that is not; never null; lives as long as the exception.
+  /// The message, UTF-8 unless it quotes a file name that is not; never null; valid while the exception lives.
   virtual const char* what() const noexcept = 0;
 
  protected:
   CZoException() = default;
 };
 
-/// A failure found while running: a file that cannot be loaded, a field that is not numeric, a query that
-/// found too much. Catchable as `CZoException`, `std::runtime_error` and `std::exception`.
+/// A failure at run time: a file that cannot be loaded, a field that is not numeric, a query that finds too many
+/// fields. Catchable as `CZoException`, `std::runtime_error` and `std::exception`.
 class ZO_API CZoRunTimeException : public CZoException, public std::runtime_error {
  public:
-  /// The message; null or empty gives "Run time exception thrown".
+  /// \param message null or empty means "Run time exception thrown".
   explicit CZoRunTimeException(const char* message = nullptr);
   CZoRunTimeException(const CZoRunTimeException&) = default;
   CZoRunTimeException(CZoRunTimeException&&) = default;
@@ -41,7 +41,7 @@ class ZO_API CZoRunTimeException : public CZoException, public std::runtime_erro
 /// A failure in an XML document. Catchable as `CZoException` and as `std::exception`.
 class ZO_API CZoDOMDocException : public CZoException, public std::exception {
  public:
-  /// The message; null or empty gives "DOM document exception thrown".
+  /// \param message null or empty means "DOM document exception thrown".
   explicit CZoDOMDocException(const char* message = nullptr);
   CZoDOMDocException(const CZoDOMDocException&) = default;
   CZoDOMDocException(CZoDOMDocException&&) = default;

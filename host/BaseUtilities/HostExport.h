@@ -1,4 +1,4 @@
-// What the host's libraries export: on Windows through declspec, elsewhere through visibility.
+// Marks what the host's libraries export: with declspec on Windows, with visibility elsewhere.
 #pragma once
 
 #if defined(_WIN32) && defined(VENDORINFOFILE_HOST_STATIC)

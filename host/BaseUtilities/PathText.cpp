@@ -39,7 +39,7 @@ constexpr wchar_t kByteBase = 0xDC00;
 
 bool IsByte(wchar_t character) { return character >= kByteBase + 0x80 && character <= kByteBase + 0xFF; }
 
-/// What comes back from the conversions is always UTF-8.
+/// The conversions always return UTF-8.
 bool IsUtf8(std::string_view text) { return Utf16ToUtf8(Utf8ToUtf16(text)) == text; }
 
 /// The number of bytes of the character that a text begins with; 0 when its first byte is not part of one.

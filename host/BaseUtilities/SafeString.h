@@ -8,9 +8,8 @@
 
 /// An owned, NUL-terminated narrow string.
 ///
-/// What it holds is what `get()` shows: text behind an embedded NUL is not kept. A moved-from string is
-/// empty and may be used again. As safe between threads as any plain value: concurrent reads are fine, a
-/// write needs the object alone.
+/// It holds just what `get()` shows: text after an embedded NUL is dropped. A moved-from string is empty and may be
+/// used again. Several threads may read a string at once; while one changes it, no other may use it.
 class CSafeString {
  public:
   /// The empty string.
@@ -22,7 +21,7 @@ class CSafeString {
   /// A copy of the text up to its first NUL. Throws only `std::bad_alloc`.
   CSafeString(const std::string& text) : m_text(text, 0, text.find('\0')) {}
 
-  /// The text up to its first NUL, taken over. Throws nothing.
+  /// Moves the text, up to its first NUL. Throws nothing.
   CSafeString(std::string&& text) noexcept : m_text(std::move(text)) {
     if (const std::size_t end = m_text.find('\0'); end != std::string::npos) m_text.erase(end);
   }

@@ -16,12 +16,12 @@ struct Placeholder {
   bool zeroFilled = false;
   size_t width = 0;
   char conversion = 0;
-  size_t length = 0;  // characters it takes up in the format
+  size_t length = 0;  // of the placeholder in the format
 };
 
 bool IsOneOf(char c, std::string_view set) { return set.find(c) != std::string_view::npos; }
 
-/// Reads the placeholder that the text, which starts with '%', begins with; nothing when it begins with none.
+/// Reads the placeholder at the start of the text, which begins with '%'; nothing if that is not a placeholder.
 std::optional<Placeholder> ReadPlaceholder(std::string_view text) {
   Placeholder found;
   size_t i = 1;
@@ -131,7 +131,7 @@ std::string FormatText(std::string_view format, std::span<const CFormatArgument>
 }  // namespace
 
 const char* CSimpleBuffer::FormatNarrow(const char* format, std::span<const CFormatArgument> arguments) {
-  // The text is built aside, so an argument may be this buffer's own content.
+  // The text is built separately, so an argument may be this buffer's own content.
   m_text = FormatText(format != nullptr ? format : "", arguments);
   return m_text.c_str();
 }

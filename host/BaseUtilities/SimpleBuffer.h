@@ -12,7 +12,7 @@
 #include <string_view>
 #include <type_traits>
 
-/// One argument of a format, with its type. Texts are borrowed: they must live until the format call returns.
+/// One argument of a format, with its type. Texts are borrowed: they must stay valid until the format call returns.
 class CFormatArgument {
  public:
   enum class Kind { Signed, Unsigned, Character, Narrow, Wide, NullText };
@@ -40,10 +40,10 @@ class CFormatArgument {
   std::string_view Narrow() const { return m_narrow; }
   std::wstring_view Wide() const { return m_wide; }
 
-  /// A signed number sign-extended to 64 bits, an unsigned one or a character as it is.
+  /// The number or character code. Signed numbers are sign-extended to 64 bits.
   uint64_t Number() const { return m_number; }
 
-  /// Bytes of the number's own type.
+  /// The size of the number's own type, in bytes.
   size_t Size() const { return m_size; }
 
  private:
@@ -57,23 +57,22 @@ class CFormatArgument {
   std::wstring_view m_wide;
 };
 
-/// A text that grows as needed and is formatted in the manner of printf, but through typed arguments:
-/// nothing is reinterpreted and nothing is read past its end.
+/// A text that grows as needed, formatted in the manner of printf but with typed arguments: nothing is reinterpreted,
+/// and nothing is read past its end.
 ///
-/// Placeholders are `%[-][0][width][length]conversion` with the conversions `d i u x X o c s S` and `%%`; the
-/// length (`h l ll z t j L`) is accepted and means nothing. The argument's own type decides what is printed:
-/// - a text prints as it is, whatever the placeholder, wide text as UTF-8; a null text as "(null)";
+/// Placeholders are `%[-][0][width][length]conversion` with the conversions `d i u x X o c s S`, and `%%`; the length
+/// (`h l ll z t j L`) is accepted but ignored. The argument's own type decides what is printed:
+/// - a text prints as it is, whatever the placeholder, wide text as UTF-8, and a null text as "(null)";
 /// - a number prints in decimal, or as `x X o` ask; a negative number under `u x X o` prints in two's complement
 ///   of its own size, so that the 32-bit -2147467261 is 80004003 under `%08X`;
 /// - a character prints as itself under `c s S` and as its code under the number conversions.
-/// A placeholder for which there is no argument, or that is none of the above, is printed as it stands.
-/// Widths count Unicode characters and are held to at most 1,000; `0` fills numbers only. `%s` inside an argument is
-/// text like any other.
+/// A placeholder without an argument, or of any other form, is printed literally. Widths count Unicode characters and
+/// are limited to 1,000; `0` pads numbers only. A `%s` inside an argument is plain text.
 ///
-/// A buffer is for one thread at a time. Only `std::bad_alloc` is thrown.
+/// Only one thread at a time may use a buffer. Throws only `std::bad_alloc`.
 class ZO_API CSimpleBuffer {
  public:
-  /// Replaces the content by the formatted text and returns it; null counts as the empty format.
+  /// Replaces the content with the formatted text and returns it. A null format counts as empty.
   template <typename... Arguments>
   const char* Printf(const char* format, const Arguments&... arguments) {
     if constexpr (sizeof...(arguments) == 0) {
@@ -95,10 +94,10 @@ class ZO_API CSimpleBuffer {
     }
   }
 
-  /// The last text formatted, UTF-8, NUL-terminated, never null; valid until the next change of the buffer.
+  /// The last text formatted: UTF-8, NUL-terminated, never null, valid until the buffer is changed or destroyed.
   const char* get() const noexcept { return m_text.c_str(); }
 
-  /// The last text formatted with a wide format, never null; valid until the next change of the buffer.
+  /// The last text formatted with a wide format: never null, valid until the buffer is changed or destroyed.
   const wchar_t* getWide() const noexcept { return m_wideText.c_str(); }
 
  private:

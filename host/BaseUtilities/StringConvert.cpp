@@ -16,8 +16,8 @@ struct Decoded {
   size_t length;  // bytes or units consumed, at least one
 };
 
-/// What a lead byte promises: the sequence's length, its first payload bits, and the range of its second byte
-/// (the narrow ranges keep out overlong forms, surrogates and values past U+10FFFF).
+/// What a lead byte implies: the sequence's length, its first payload bits, and the range of its second byte (the
+/// narrow ranges exclude overlong forms, surrogates and values past U+10FFFF).
 struct LeadByte {
   size_t length;
   char32_t bits;

@@ -1,12 +1,12 @@
-// Buffers that each thread has for itself.
+// Per-thread buffers.
 #pragma once
 
 #include "BaseUtilities/SimpleBuffer.h"
 
 #ifdef _WIN32
 
-/// A buffer for each thread that asks, which goes with the thread. Made of the system's own storage for threads,
-/// because MinGW-w64 destroys what is `thread_local` when its memory has already been given back, and may be another
+/// One buffer for each thread that asks, destroyed with the thread. Uses the system's thread-local storage, because
+/// MinGW-w64 destroys `thread_local` objects after their memory has been freed, when it may already be another
 /// thread's.
 class ZO_API CThreadBuffers {
  public:
@@ -14,10 +14,10 @@ class ZO_API CThreadBuffers {
   CThreadBuffers();
   CThreadBuffers(const CThreadBuffers&) = delete;
   CThreadBuffers& operator=(const CThreadBuffers&) = delete;
-  /// The buffers of all threads go.
+  /// Destroys the buffers of all threads.
   ~CThreadBuffers();
 
-  /// The calling thread's buffer, made at its first use.
+  /// The calling thread's buffer, created on first use.
   /// \throws std::bad_alloc
   CSimpleBuffer& Get() const;
 
@@ -27,7 +27,8 @@ class ZO_API CThreadBuffers {
 
 #endif
 
-/// The calling thread's buffer for one purpose, which the type stands for: made at its first use, gone with the thread.
+/// The calling thread's buffer for one purpose, which the type identifies. Created on first use, destroyed with the
+/// thread.
 /// \throws std::bad_alloc
 template <typename Purpose>
 CSimpleBuffer& ThreadBuffer() {

@@ -3,6 +3,6 @@
 
 #include <filesystem>
 
-/// The absolute path by which this library was loaded; empty when the system does not tell.
+/// The absolute path by which this library was loaded; empty if the system does not tell.
 /// \throws std::exception
 std::filesystem::path LibraryFile();

@@ -3,10 +3,10 @@
 
 #include "BaseUtilities/HostExport.h"
 
-/// Asks the operator. A host derives from it. The library calls `ChooseFile` only; the other operations are the host's,
-/// and their bodies here do what an operator who is not there would: nothing.
+/// Asks the operator. A host derives from it. The library calls only `ChooseFile`; the other operations are for the
+/// host, and here they answer as if there were no operator.
 ///
-/// It is asked on the thread that calls a hook.
+/// The library calls it on the thread that calls a hook.
 ///
 /// The order of the operations is part of the interface: `ChooseFile` is the sixth.
 class ZO_API CTUUserInput {
@@ -19,22 +19,22 @@ class ZO_API CTUUserInput {
   /// Shows a message until the operator has seen it.
   virtual void ShowMessage(const wchar_t* prompt, const wchar_t* caption);
 
-  /// Asks a question to be answered by yes or no.
-  /// \return the answer; no when there is nobody to ask
+  /// Asks a yes-or-no question.
+  /// \return the answer; no if there is nobody to ask
   virtual bool AskYesNo(const wchar_t* prompt, const wchar_t* caption);
 
   /// Asks for a number from `lowest` to `highest`.
-  /// \param number receives it; untouched when the operator gives none
-  /// \return whether there is one
+  /// \param number receives it; unchanged if the operator gives none
+  /// \return whether the operator gave one
   virtual bool AskNumber(const wchar_t* prompt, const wchar_t* caption, long lowest, long highest, long* number);
 
-  /// Asks to choose one of some texts.
-  /// \return its index, from 0; -1 when none was chosen
+  /// Asks the operator to choose one of several texts.
+  /// \return its index, from 0; -1 if none was chosen
   virtual int ChooseItem(const wchar_t* prompt, const wchar_t* caption, const wchar_t* const* items, int count);
 
-  /// Asks the operator to choose a file, and records the choice where `CTestSuiteLog::VifFileName` gives it back.
-  /// \param prompt what is to be chosen, never null
-  /// \param caption the title of the question, never null
+  /// Asks the operator to choose a file, and records the choice so that `CTestSuiteLog::VifFileName` returns it.
+  /// \param prompt what to choose; never null
+  /// \param caption the title of the question; never null
   /// \param flags 0
   /// \param reserved 0
   /// \return whether a file was chosen

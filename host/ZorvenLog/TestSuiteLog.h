@@ -4,7 +4,7 @@
 #include "BaseUtilities/HostExport.h"
 #include "BaseUtilities/SafeString.h"
 
-/// What is recorded of a suite. For one thread at a time.
+/// What is recorded about a suite. Only one thread at a time may use it.
 class ZO_API CTestSuiteLog {
  public:
   CTestSuiteLog();
@@ -12,7 +12,7 @@ class ZO_API CTestSuiteLog {
   CTestSuiteLog& operator=(const CTestSuiteLog&) = delete;
   ~CTestSuiteLog();
 
-  /// The VIF file that the operator chose, as narrow text that the system's file functions understand; empty when none
+  /// The VIF file that the operator chose, as narrow text that the system's file functions understand; empty if none
   /// was chosen.
   CSafeString VifFileName() const;
 

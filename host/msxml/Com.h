@@ -1,8 +1,8 @@
-// What the XML interfaces need of COM, under names that clash with no program's own.
+// The parts of COM that the XML interfaces need, under names that cannot clash with a program's own.
 //
-// Programs that were ported from Windows often have a `LONG`, a `GUID` or a `FAILED` of their own, sometimes as a
-// macro. Where there is no COM, no public header mentions such a name. Where there is, these are other names for COM's
-// own types. Elsewhere `wchar_t` is 32 bits wide and holds UTF-32.
+// Programs ported from Windows often have a `LONG`, a `GUID` or a `FAILED` of their own, sometimes as a macro. Where
+// there is no COM, no public header mentions such a name, and `wchar_t` is 32 bits wide and holds UTF-32. Where there
+// is, these are aliases of COM's own types.
 #pragma once
 
 #ifdef _WIN32
@@ -39,10 +39,10 @@ constexpr VARTYPE kTextVariant = VT_BSTR;
 
 namespace zocom {
 
-/// What a call returns: negative when it failed. The numbers are COM's.
+/// The result of a call: negative if it failed. The numbers are COM's.
 using Result = std::int32_t;
 
-/// A null pointer was given or found where there must not be one.
+/// A pointer was null where it must not be.
 constexpr Result kNullPointer = static_cast<Result>(0x80004003);
 
 constexpr Result kOutOfMemory = static_cast<Result>(0x8007000E);
@@ -59,9 +59,9 @@ struct Guid {
 
 constexpr Guid kUnknownId = {0x00000000, 0x0000, 0x0000, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
 
-/// What all interfaces have in common: a reference count. The object is deleted when it reaches 0.
+/// What all interfaces have in common: a reference count. When it reaches 0, the object is deleted.
 struct Unknown {
-  /// \param object receives the interface, counted once more; null when the object does not have it
+  /// \param object receives the interface, with a reference for the caller; null if the object does not have it
   virtual Result QueryInterface(const Guid& iid, void** object) = 0;
 
   /// \return the new count
@@ -74,16 +74,16 @@ struct Unknown {
   ~Unknown() = default;
 };
 
-/// A text that is preceded by its length and followed by a NUL. Null is the empty text. `CBstr` owns one.
+/// A text preceded by its length and followed by a NUL. Null is the empty text. `CBstr` owns one.
 using Text = wchar_t*;
 
 /// Copies a text up to its NUL. The caller frees the copy.
-/// \return null when the text is null or memory runs out
+/// \return null if the text is null or memory runs out
 ZO_API Text SysAllocString(const wchar_t* text);
 
-/// Copies so many characters. The caller frees the copy.
+/// Copies `length` characters. The caller frees the copy.
 /// \param text may be null: the caller then fills in the content
-/// \return null when memory runs out
+/// \return null if memory runs out
 ZO_API Text SysAllocStringLen(const wchar_t* text, std::uint32_t length);
 
 /// Frees a text; does nothing with null.
@@ -100,10 +100,10 @@ constexpr std::uint16_t kTextVariant = 8;
 /// A value that knows its type: empty, null or a text. `CVariant` owns one.
 struct Variant {
   std::uint16_t vt;
-  Text bstrVal;  ///< only set in a text
+  Text bstrVal;  ///< set only if the value is a text
 };
 
-/// Makes uninitialised memory an empty value.
+/// Initialises memory as an empty value.
 ZO_API void VariantInit(Variant* variant);
 
 /// Frees what the value holds and makes it empty.

@@ -3,13 +3,13 @@
 
 #include "msxml/ComPointer.h"
 
-/// While it lives, COM may be used on this thread and, on Windows, on every thread of the process that has not chosen
-/// otherwise: the thread is in the multithreaded apartment. Where it is in another apartment already, it stays there.
-/// On systems without COM there is nothing to do.
+/// While an object lives, COM may be used on its thread and on every thread of the process that has not chosen
+/// otherwise, because the object puts its thread into the multithreaded apartment. A thread that is already in another
+/// apartment stays there. On systems without COM, this does nothing.
 class CComApartment {
  public:
 #ifdef _WIN32
-  /// \throws _com_error when COM cannot be used
+  /// \throws _com_error if COM cannot be used
   CComApartment() : m_result(CoInitializeEx(nullptr, COINIT_MULTITHREADED)) {
     if (FAILED(m_result) && m_result != RPC_E_CHANGED_MODE) _com_issue_error(m_result);
   }
@@ -17,7 +17,7 @@ class CComApartment {
     if (SUCCEEDED(m_result)) CoUninitialize();
   }
 #else
-  CComApartment() noexcept {}  // NOLINT(modernize-use-equals-default): an object of it is no unused variable
+  CComApartment() noexcept {}  // NOLINT(modernize-use-equals-default): so that an object is not an unused variable
   ~CComApartment() {}          // NOLINT(modernize-use-equals-default)
 #endif
   CComApartment(const CComApartment&) = delete;

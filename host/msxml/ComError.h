@@ -3,8 +3,8 @@
 
 #include "msxml/Com.h"
 
-/// Carries the result of the call and the interface that it was made on. It has COM's name, so that the same code
-/// catches it on every system. As there, it is not a `std::exception`.
+/// Carries the call's result and the interface that it was made on. It has COM's name, so that the same code catches it
+/// on every system. As in COM, it is not a `std::exception`.
 class ZO_API _com_error {  // NOLINT(bugprone-reserved-identifier)
  public:
   explicit _com_error(zocom::Result result, const zocom::Guid& iid = zocom::kUnknownId) noexcept;
@@ -15,10 +15,10 @@ class ZO_API _com_error {  // NOLINT(bugprone-reserved-identifier)
   /// The failed call's result.
   zocom::Result Error() const noexcept { return m_result; }
 
-  /// The interface whose call failed; `zocom::kUnknownId` when that is not known.
+  /// The interface whose call failed; `zocom::kUnknownId` if that is not known.
   const zocom::Guid& InterfaceId() const noexcept { return m_iid; }
 
-  /// A text for people; null when there is none for this result. Lives until the program ends.
+  /// A text for people; null if there is none for this result. Valid until the program ends.
   const wchar_t* ErrorMessage() const noexcept;
 
  private:
@@ -29,7 +29,7 @@ class ZO_API _com_error {  // NOLINT(bugprone-reserved-identifier)
 /// Throws `_com_error`.
 [[noreturn]] ZO_API void _com_issue_error(zocom::Result result);  // NOLINT(bugprone-reserved-identifier)
 
-/// Throws `_com_error` that names the interface.
+/// Throws a `_com_error` that names the interface.
 /// \param object the object that failed; may be null
 [[noreturn]] ZO_API void _com_issue_errorex(zocom::Result result,  // NOLINT(bugprone-reserved-identifier)
                                             zocom::Unknown* object, const zocom::Guid& iid);

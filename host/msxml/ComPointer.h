@@ -1,4 +1,4 @@
-// Owners of what COM counts and allocates: interface pointers, texts and values. The same on every system.
+// Owners of what COM counts and allocates: interface pointers, texts and values. They are the same on every system.
 #pragma once
 
 #include "msxml/Com.h"
@@ -12,16 +12,16 @@
 #include <string_view>
 #include <utility>
 
-/// Throws when a call has failed.
+/// Throws if a call has failed.
 /// \param result what the call returned
 /// \param object the object that it was made on
 /// \param iid the interface that the error names
-/// \throws _com_error when the result is a failure
+/// \throws _com_error if the result is a failure
 inline void RequireSuccess(zocom::Result result, zocom::Unknown& object, const zocom::Guid& iid) {
   if (result < 0) _com_issue_errorex(result, &object, iid);
 }
 
-/// A counted interface pointer; empty, or one reference of its own.
+/// A counted interface pointer; empty, or with one reference of its own.
 template <typename Interface>
 class CComPointer {
  public:
@@ -49,19 +49,19 @@ class CComPointer {
     if (m_pointer != nullptr) m_pointer->Release();
   }
 
-  /// The pointer without a reference of its own; null when empty.
+  /// The pointer, without adding a reference; null if empty.
   Interface* GetInterfacePtr() const noexcept { return m_pointer; }
 
-  /// \throws _com_error E_POINTER when empty
+  /// \throws _com_error E_POINTER if empty
   Interface* operator->() const { return &**this; }
 
-  /// \throws _com_error E_POINTER when empty
+  /// \throws _com_error E_POINTER if empty
   Interface& operator*() const {
     if (m_pointer == nullptr) _com_issue_error(zocom::kNullPointer);
     return *m_pointer;
   }
 
-  /// Empties this and gives a call the place for its answer, a counted pointer.
+  /// Empties this and returns the place where a call stores its answer, a counted pointer.
   Interface** Receive() noexcept {
     *this = CComPointer();
     return &m_pointer;
@@ -99,7 +99,7 @@ class CBstr {
 
   std::wstring_view View() const noexcept { return {m_text != nullptr ? m_text : L"", zocom::SysStringLen(m_text)}; }
 
-  /// Empties this and gives a call the place for its answer, which this then owns.
+  /// Empties this and returns the place where a call stores its answer, which this then owns.
   zocom::Text* Receive() noexcept {
     zocom::SysFreeString(std::exchange(m_text, nullptr));
     return &m_text;
@@ -126,13 +126,13 @@ class CVariant {
 
   const zocom::Variant& get() const noexcept { return m_variant; }
 
-  /// The text; empty when the value is not a text.
+  /// The text; empty if the value is not a text.
   std::wstring_view Text() const noexcept {
     if (m_variant.vt != zocom::kTextVariant || m_variant.bstrVal == nullptr) return {};
     return {m_variant.bstrVal, zocom::SysStringLen(m_variant.bstrVal)};
   }
 
-  /// Empties this and gives a call the place for its answer, which this then owns.
+  /// Empties this and returns the place where a call stores its answer, which this then owns.
   zocom::Variant* Receive() noexcept {
     zocom::VariantClear(&m_variant);
     return &m_variant;

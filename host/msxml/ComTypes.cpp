@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Stands before the characters. Its size keeps them aligned.
+/// Precedes the characters. Its size keeps them aligned.
 struct BstrHeader {
   UINT length;
 };

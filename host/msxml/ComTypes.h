@@ -1,5 +1,5 @@
-// COM's own names for what msxml/Com.h declares, where there is no COM. For this project's sources, which are written
-// once for MSXML and for its stand-in. Not installed: these names may be anything in a program.
+// COM's own names for what msxml/Com.h declares, where there is no COM. They are for this project's sources, which
+// serve both MSXML and its stand-in. Not installed, because programs may use these names for anything.
 #pragma once
 
 #include "msxml/Com.h"

@@ -1,5 +1,5 @@
-// The interfaces through which XML documents are read: MSXML's on Windows, elsewhere those of its members that the
-// library uses, supplied by this project.
+// The interfaces through which XML documents are read: MSXML's on Windows; elsewhere this project's own, with the
+// members that the library uses.
 #pragma once
 
 #include "msxml/ComPointer.h"
@@ -29,16 +29,16 @@ constexpr zocom::Guid IID_IXMLDOMElement = {
 constexpr zocom::Guid IID_IXMLDOMDocument2 = {
     0x2933BF95, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
 
-// A call returns 0, or 1 (COM's S_FALSE) with a null answer when there is none, or a negative result when it fails:
+// A call returns 0; or 1 (COM's S_FALSE) and a null answer if there is none; or a negative result if it fails:
 // 0x80070057 (E_INVALIDARG) for a wrong argument or a null place for the answer, 0x8007000E (E_OUTOFMEMORY), or
 // 0x80004005 (E_FAIL). The caller owns the answer and releases or frees it. Nothing throws.
 //
 // Any thread may count references; otherwise only one thread at a time may use the nodes of a document. A node keeps
-// the content that it belongs to, even after the document is gone or has been loaded again.
+// the content that it belongs to alive, even after the document is destroyed or loaded again.
 
 /// An element, an attribute or the document.
 struct IXMLDOMNode : zocom::Unknown {
-  /// The name with its prefix; of a document, "#document".
+  /// The name with its prefix; for a document, "#document".
   virtual zocom::Result get_nodeName(zocom::Text* name) = 0;
 
   /// The value of an attribute. An element has none: null (`zocom::kNullVariant`), and the result 1.
@@ -47,18 +47,18 @@ struct IXMLDOMNode : zocom::Unknown {
   /// The attributes; none (1) for anything but an element.
   virtual zocom::Result get_attributes(IXMLDOMNamedNodeMap** attributes) = 0;
 
-  /// The text of all descendants. Comments are left out, white space at both ends is removed and white space between
-  /// elements becomes one blank, except where `xml:space="preserve"` is in force.
+  /// The text of all descendants, without comments. White space at both ends is removed and white space between
+  /// elements becomes one blank, except where `xml:space="preserve"` applies.
   virtual zocom::Result get_text(zocom::Text* text) = 0;
 
-  /// The nodes that an XPath finds from here, in document order, with the prefixes of "SelectionNamespaces".
-  /// Of what it finds, only elements, attributes and the document are in the list.
+  /// The nodes that an XPath finds from here, in document order, with the prefixes of "SelectionNamespaces". The list
+  /// holds only elements, attributes and the document.
   virtual zocom::Result selectNodes(zocom::Text xpath, IXMLDOMNodeList** nodes) = 0;
 
   /// The first of these nodes.
   virtual zocom::Result selectSingleNode(zocom::Text xpath, IXMLDOMNode** node) = 0;
 
-  /// The namespace; 1 when there is none.
+  /// The namespace; 1 if there is none.
   virtual zocom::Result get_namespaceURI(zocom::Text* uri) = 0;
 
   /// The name without its prefix.
@@ -91,16 +91,16 @@ struct IXMLDOMNamedNodeMap : zocom::Unknown {
   ~IXMLDOMNamedNodeMap() = default;
 };
 
-/// A document. As a node it stands above its root element.
+/// A document. As a node it is the parent of its root element.
 struct IXMLDOMDocument2 : IXMLDOMNode {
-  /// The root; none (1) when nothing has been loaded.
+  /// The root; none (1) if nothing has been loaded.
   virtual zocom::Result get_documentElement(IXMLDOMElement** root) = 0;
 
-  /// Sets "SelectionNamespaces": declarations of the form xmlns:prefix='URI', with blanks between them, that XPath
-  /// expressions use. Another property or another form of the value is a wrong argument and changes nothing.
+  /// Sets "SelectionNamespaces": the declarations that XPath expressions use, in the form xmlns:prefix='URI', separated
+  /// by blanks. Any other property or form of value is a wrong argument and changes nothing.
   virtual zocom::Result setProperty(zocom::Text name, zocom::Variant value) = 0;
 
-  /// The value of "SelectionNamespaces" as it was set.
+  /// The value of "SelectionNamespaces", as it was set.
   virtual zocom::Result getProperty(zocom::Text name, zocom::Variant* value) = 0;
 
  protected:

@@ -83,7 +83,7 @@ TEST_F(Checks, PdoNeedsASupplyType) {
 TEST_F(Checks, SupplyTypeAboveThreeIsInvalid) {
   Text("Num_Src_PDOs: 1\nSrc_PDO_Supply_Type1: 4\n");
   EXPECT_THAT(Failures(),
-              ElementsAre("Source PDOs: Component 1, source PDO 1: Src_PDO_Supply_Type is 4 and not from 0 to 3"));
+              ElementsAre("Source PDOs: Component 1, source PDO 1: Src_PDO_Supply_Type is 4, but must be from 0 to 3"));
 }
 
 TEST_F(Checks, LargestNumbersOfAFixedPdoPass) {
@@ -95,8 +95,8 @@ TEST_F(Checks, NumbersBeyondTheBitsOfAFixedPdoFail) {
   Text("Num_Src_PDOs: 1\nSrc_PDO_Supply_Type1: 0\nSrc_PDO_Voltage1: 1024\nSrc_PDO_Max_Current1: 1024\n");
   EXPECT_THAT(
       Failures(),
-      ElementsAre("Source PDOs: Component 1, source PDO 1: Src_PDO_Voltage is 1024 and not from 1 to 1023",
-                  "Source PDOs: Component 1, source PDO 1: Src_PDO_Max_Current is 1024 and not from 0 to 1023"));
+      ElementsAre("Source PDOs: Component 1, source PDO 1: Src_PDO_Voltage is 1024, but must be from 1 to 1023",
+                  "Source PDOs: Component 1, source PDO 1: Src_PDO_Max_Current is 1024, but must be from 0 to 1023"));
 }
 
 TEST_F(Checks, LargestNumbersOfAProgrammablePdoPass) {
@@ -110,15 +110,16 @@ TEST_F(Checks, NumbersBeyondTheBitsOfAProgrammablePdoFail) {
   Text(
       "Num_Src_PDOs: 1\nSrc_PDO_Supply_Type1: 3\nSrc_PDO_APDO_Type1: 0\n"
       "Src_PDO_Min_Voltage1: 33\nSrc_PDO_Max_Voltage1: 256\nSrc_PDO_Max_Current1: 128\n");
-  EXPECT_THAT(Failures(),
-              ElementsAre("Source PDOs: Component 1, source PDO 1: Src_PDO_Max_Voltage is 256 and not from 1 to 255",
-                          "Source PDOs: Component 1, source PDO 1: Src_PDO_Max_Current is 128 and not from 0 to 127"));
+  EXPECT_THAT(
+      Failures(),
+      ElementsAre("Source PDOs: Component 1, source PDO 1: Src_PDO_Max_Voltage is 256, but must be from 1 to 255",
+                  "Source PDOs: Component 1, source PDO 1: Src_PDO_Max_Current is 128, but must be from 0 to 127"));
 }
 
 TEST_F(Checks, VoltageOfZeroFails) {
   Text("Num_Snk_PDOs: 1\nSnk_PDO_Supply_Type1: 0\nSnk_PDO_Voltage1: 0\nSnk_PDO_Op_Current1: 0\n");
   EXPECT_THAT(Failures(),
-              ElementsAre("Sink PDOs: Component 1, sink PDO 1: Snk_PDO_Voltage is 0 and not from 1 to 1023"));
+              ElementsAre("Sink PDOs: Component 1, sink PDO 1: Snk_PDO_Voltage is 0, but must be from 1 to 1023"));
 }
 
 TEST_F(Checks, LowestVoltageAboveTheHighestFails) {
@@ -133,7 +134,7 @@ TEST_F(Checks, NumberOfMoreThan64BitsIsInvalid) {
   Text(
       "Num_Src_PDOs: 1\nSrc_PDO_Supply_Type1: 0\nSrc_PDO_Voltage1: 99999999999999999999\n"
       "Src_PDO_Max_Current1: 1\n");
-  EXPECT_THAT(Failures(), ElementsAre("Source PDOs: Component 1, source PDO 1: Src_PDO_Voltage is no number"));
+  EXPECT_THAT(Failures(), ElementsAre("Source PDOs: Component 1, source PDO 1: Src_PDO_Voltage is not a number"));
 }
 
 TEST_F(Checks, FieldDeclaredTwiceFails) {

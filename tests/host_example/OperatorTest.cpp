@@ -93,7 +93,7 @@ TEST_P(Operator, IsAskedAgainAfterAPathThatIsNotAVif) {
   EXPECT_EQ(result.status, kNothingFailed);
   EXPECT_THAT(result.output,
               AllOf(HasSubstr("There is no file missing.txt."), HasSubstr("There is no file " + m_host.Dir() + "."),
-                    HasSubstr(other + " is no VIF: its name ends neither in .txt nor in .xml.")));
+                    HasSubstr(other + " is not a VIF: its name must end in .txt or .xml.")));
   EXPECT_EQ(m_host.Log().front(), Selected(vif));
 }
 

@@ -37,7 +37,7 @@ TEST_F(Usage, HelpIsAnAnswer) {
   EXPECT_FALSE(std::filesystem::exists(m_host.LogFile()));
 }
 
-TEST_F(Usage, UnknownOptionIsRefused) { ExpectRefused({"--verbose"}, "'--verbose' is no option"); }
+TEST_F(Usage, UnknownOptionIsRefused) { ExpectRefused({"--verbose"}, "unknown option '--verbose'"); }
 
 TEST_F(Usage, OptionWithoutItsFileIsRefused) { ExpectRefused({"--vif"}, "--vif needs a FILE"); }
 
@@ -48,9 +48,9 @@ TEST_F(Usage, SecondDirectoryIsRefused) { ExpectRefused({"/", "/"}, "there can b
 TEST_F(Usage, MissingDirectoryIsRefused) { ExpectRefused({"/missing"}, "there is no directory /missing"); }
 
 TEST_F(Usage, DirectoryBesideAVifIsRefused) {
-  ExpectRefused({"/", "--vif", "a.txt"}, "with --vif nobody is asked: give no directory");
+  ExpectRefused({"/", "--vif", "a.txt"}, "--vif and DIR cannot be combined");
 }
 
-TEST_F(Usage, RefusalEscapesControlCharacters) { ExpectRefused({"-\x1b[2J"}, "'-\\u001b[2J' is no option"); }
+TEST_F(Usage, RefusalEscapesControlCharacters) { ExpectRefused({"-\x1b[2J"}, "unknown option '-\\u001b[2J'"); }
 
 }  // namespace

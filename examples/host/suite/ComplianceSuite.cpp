@@ -13,7 +13,7 @@ namespace {
 
 using namespace suite;
 
-/// How many checks have ended how.
+/// How many checks ended in which way.
 struct Tally {
   std::size_t passed = 0;
   std::size_t failed = 0;
@@ -39,7 +39,7 @@ void Report(const Check& check, const Verdict& verdict, CTULog& log, Tally& tall
   }
 }
 
-/// An exception must not leave a function that the host calls through a pointer, and ends one check only.
+/// An exception ends only its own check, and must not leave a function that the host calls through a pointer.
 void Run(const Check& check, const CVendorInfoFile& vif, CTULog& log, Tally& tally) {
   try {
     Report(check, check.run(vif), log, tally);

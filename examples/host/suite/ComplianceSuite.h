@@ -1,4 +1,4 @@
-// A test suite over the published VIF, from the host's side.
+// A test suite for the published VIF, as the host sees it.
 #pragma once
 
 #include <TestSuiteVIF.h>
@@ -9,9 +9,9 @@
 #define SUITE_API __attribute__((visibility("default")))
 #endif
 
-/// Runs the checks over `CAppState::TestSuiteVIF()` and writes what they find to the context's log. To be called
-/// between the two hooks.
-/// \return whether all is well: `kPassed`; `kFailed` when a check has failed; `kRefused` when one could not be run, or
-///   there is no context, no log or no VIF
+/// Runs the checks on `CAppState::TestSuiteVIF()` and writes what they find to the context's log. Call it between the
+/// two hooks.
+/// \return `kPassed` if all is well; `kFailed` if a check failed; `kRefused` if one could not be run, or there is no
+///   context, log or VIF
 /// \throws std::bad_alloc and nothing else
 extern "C" SUITE_API TEST_STATUS ComplianceSuite_Run(const TestSuiteContext* context);

@@ -1,4 +1,4 @@
-// Whether there are as many groups as the VIF says.
+// Checks whether there are as many groups as the VIF declares.
 #include "Checks.h"
 #include "VifGroups.h"
 
@@ -6,14 +6,14 @@ namespace suite {
 
 namespace {
 
-/// What says how many groups there must be, and what is counted.
+/// The field that says how many groups there must be, and the groups that are counted.
 struct Count {
   const char* field;
   EVifLocation location;
   const char* text;  ///< "source PDOs"
 };
 
-/// \param fields those of the group that has the count and the groups
+/// \param fields those of the group that contains the count and the groups
 /// \param where that group's name
 void Compare(const Count& count, const Fields& fields, const std::string& where, Verdict& verdict) {
   ++verdict.examined;
@@ -26,7 +26,7 @@ void Compare(const Count& count, const Fields& fields, const std::string& where,
                              std::to_string(groups));
 }
 
-/// A component that has neither the count nor a group is no source, or no sink, and is passed over.
+/// A component that has neither the count nor a group is not a source, or not a sink, and is skipped.
 Verdict CheckPdoCounts(const CVendorInfoFile& vif, const Count& count) {
   Verdict verdict;
   for (const auto& [component, fields] : Components(vif)) {

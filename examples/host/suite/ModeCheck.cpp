@@ -1,4 +1,4 @@
-// Whether modes are described where there must be some.
+// Checks whether modes are declared where there must be some.
 #include "Checks.h"
 #include "VifGroups.h"
 
@@ -6,7 +6,7 @@ namespace suite {
 
 namespace {
 
-/// What the component lacks; empty when nothing.
+/// What the component lacks; empty if nothing.
 std::string ModesLacking(const Fields& component) {
   const Groups svids = SplitByGroup(component, eVifLocSopSvid);
   if (svids.empty()) return "modal operation is supported, but no SOP SVID is described";

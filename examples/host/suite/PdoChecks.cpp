@@ -1,4 +1,4 @@
-// What a PDO must say.
+// Checks what each PDO declares.
 #include "Checks.h"
 #include "VifGroups.h"
 
@@ -6,21 +6,21 @@ namespace suite {
 
 namespace {
 
-/// A field that must be there, and its lowest and highest number.
+/// A required field, with its lowest and highest number.
 struct Requirement {
   const char* field;
   std::uint64_t lowest;
   std::uint64_t highest;
 };
 
-/// What a kind of PDO must say.
+/// What a kind of PDO must declare.
 struct Supply {
   std::vector<Requirement> requirements;
   const char* lowestVoltage = nullptr;  ///< the field that must not exceed `highestVoltage`; null for a fixed supply
   const char* highestVoltage = nullptr;
 };
 
-/// How the source PDOs, or the sink PDOs, are named, and what each kind of them must say.
+/// The names of fields of source PDOs, or of sink PDOs, and what each kind of these must declare.
 struct PdoRules {
   EVifLocation location;
   const char* text;  ///< "source PDO"
@@ -32,8 +32,8 @@ struct PdoRules {
   Supply programmable;
 };
 
-// The highest number is what the bits of the PDO can hold in which the number is sent. No supply has a voltage of 0; a
-// current or power of 0 is sent by those who offer or need none.
+// The highest number is the largest that fits in the bits of the PDO in which it is sent. No supply has a voltage of 0;
+// a current or power of 0 is sent by those who offer or need none.
 constexpr std::uint64_t k7Bits = 127;
 constexpr std::uint64_t k8Bits = 255;
 constexpr std::uint64_t k10Bits = 1023;
@@ -76,7 +76,7 @@ PdoRules SinkRules() {
           .programmable = Range(lowest, highest, k8Bits, {current, 0, k7Bits})};
 }
 
-/// Looks at one PDO.
+/// Checks one PDO.
 class CPdoCheck {
  public:
   /// \param fields those of the PDO
@@ -99,7 +99,7 @@ class CPdoCheck {
     if (!found.number) {
       Fail(found.problem);
     } else if (*found.number < requirement.lowest || *found.number > requirement.highest) {
-      Fail(std::string(requirement.field) + " is " + std::to_string(*found.number) + " and not from " +
+      Fail(std::string(requirement.field) + " is " + std::to_string(*found.number) + ", but must be from " +
            std::to_string(requirement.lowest) + " to " + std::to_string(requirement.highest));
     } else {
       return found.number;
@@ -107,8 +107,8 @@ class CPdoCheck {
     return std::nullopt;
   }
 
-  /// What this PDO must say; null when it does not say what it is, or is of an augmented kind for which there are no
-  /// rules here.
+  /// What this PDO must declare; null if it does not declare its kind, or is of an augmented kind for which there are
+  /// no rules here.
   const Supply* FindSupply() {
     const auto type = NumberInRange({m_rules.supplyType, kFixed, kAugmented});
     if (!type) return nullptr;

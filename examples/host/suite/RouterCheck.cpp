@@ -1,4 +1,4 @@
-// Whether the USB4 routers that ports name are there.
+// Checks whether the USB4 routers that ports name exist.
 #include "Checks.h"
 #include "VifGroups.h"
 

@@ -21,7 +21,7 @@ Groups SplitByGroup(const Fields& fields, EVifLocation location) {
 }
 
 Groups Components(const CVendorInfoFile& vif) {
-  const VifFieldList fields = vif.GetFields();  // in a variable: it owns what is split
+  const VifFieldList fields = vif.GetFields();  // in a variable, because it owns what is split
   return SplitByGroup(*fields, eVifLocComponent);
 }
 
@@ -43,9 +43,9 @@ NumberFound FindNumber(const Fields& fields, const char* name) {
     found = &field;
   }
   if (found == nullptr) return None(name, "is missing", true);
-  // A number of more than 64 bits, or none at all, is "unset".
+  // A number of more than 64 bits, or text that is not a number, is "unset".
   if (!found->IsNumeric() || found->GetULongNumericValue() == CVIFField::VIF_VALUE_UNSET_64) {
-    return None(name, "is no number");
+    return None(name, "is not a number");
   }
   return {found->GetULongNumericValue(), false, {}};
 }
