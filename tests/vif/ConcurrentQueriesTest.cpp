@@ -135,7 +135,7 @@ TEST(ConcurrentQueries, FailWithMessagesOfTheirOwnWhenSeveralMatch) {
 TEST(ConcurrentQueries, FailWithMessagesOfTheirOwnOnFieldsThatAreNotNumeric) {
   const auto outcomes = InAllThreads([&](std::size_t thread) {
     const CVIFField field(false, "Name_" + std::to_string(thread), "ABC", kUnused, kUnused, kUnused);
-    return Repeated([&] { return std::size_t{field.GetULongNumericValue()}; });
+    return Repeated([&] { return static_cast<std::size_t>(field.GetULongNumericValue()); });
   });
   for (std::size_t thread = 0; thread < kThreads; ++thread) {
     EXPECT_THAT(outcomes[thread],
