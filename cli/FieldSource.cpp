@@ -1,7 +1,9 @@
 #include "FieldSource.h"
 
 #include "Command.h"
+#include "FileForm.h"
 
+#include <BaseUtilities/PathText.h>
 #include <BaseUtilities/SimpleBuffer.h>
 #include <BaseUtilities/StringConvert.h>
 #include <VIFInvalidFile.h>
@@ -14,7 +16,7 @@ namespace cli {
 
 namespace {
 
-/// The first reason why a file is not valid, and how many more there are.
+/// The first reason why a file is not valid, and the number of further ones.
 std::string ReasonText(const std::vector<DOMDocProblem>& problems) {
   const DOMDocProblem& first = problems.front();
   std::string text;
@@ -26,16 +28,34 @@ std::string ReasonText(const std::vector<DOMDocProblem>& problems) {
   return text;
 }
 
-/// Whether the library's message says which file it is about. The one about extensions does not, although it may quote
-/// what is all of a name.
+/// Whether the library's message names the file. The message about extensions does not, although a short file name may
+/// occur in it.
 bool IsNamed(const std::string& fileName, const std::string& reason) {
   return !reason.starts_with("Invalid file type") && reason.find(fileName) != std::string::npos;
 }
 
-/// A text file that cannot be read to its end is loaded as far as it can be, and nobody is told; here somebody is.
+/// The library loads a text file up to a read error and does not report the error.
 void RequireReadable(const std::string& fileName) {
-  const std::optional<std::size_t> line = FirstUnreadableLine(PathOf(fileName));
-  if (line) throw Failure(std::string("the file could not be read on from line ").append(std::to_string(*line)));
+  const std::optional<std::size_t> line = FirstUnreadableLine(PathFromUtf8(fileName));
+  if (line) throw Failure(std::string("reading the file failed in line ").append(std::to_string(*line)));
+}
+
+void RequireItsOwnExtension(const std::string& fileName) {
+  if (const std::optional<std::string> advice = AdviceOnExtension(PathFromUtf8(fileName))) throw Failure(*advice);
+}
+
+void LoadFile(const std::string& fileName, CVendorInfoFile& vif) {
+  const std::size_t countBefore = vif.Count();
+  try {
+    vif.Append(fileName.c_str());
+  } catch (const CVIFInvalidFile&) {
+    RequireItsOwnExtension(fileName);
+    throw;
+  }
+  if (!HasExtension(PathFromUtf8(fileName), ".txt")) return;
+  RequireReadable(fileName);
+  // XML that is named as text loads without an error and yields no field.
+  if (vif.Count() == countBefore) RequireItsOwnExtension(fileName);
 }
 
 }  // namespace
@@ -43,10 +63,7 @@ void RequireReadable(const std::string& fileName) {
 CVendorInfoFile LoadFiles(const std::vector<std::string>& fileNames) {
   CVendorInfoFile vif;
   for (const std::string& fileName : fileNames) {
-    ReadFile(fileName, [&] {
-      vif.Append(fileName.c_str());
-      if (HasExtension(PathOf(fileName), ".txt")) RequireReadable(fileName);
-    });
+    ReadFile(fileName, [&] { LoadFile(fileName, vif); });
   }
   return vif;
 }
@@ -85,7 +102,5 @@ bool HasExtension(const std::filesystem::path& path, std::string_view extension)
   ToLower(text);
   return text == extension;
 }
-
-std::filesystem::path PathOf(const std::string& fileName) { return std::u8string(fileName.begin(), fileName.end()); }
 
 }  // namespace cli

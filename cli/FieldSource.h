@@ -1,4 +1,4 @@
-// Loads the files that a command is given.
+// Loads the files named on the command line.
 #pragma once
 
 #include <VendorInfoFile.h>
@@ -14,22 +14,20 @@
 namespace cli {
 
 /// One object with the fields of all files, in the order given.
-/// \throws Failure that names the file which could not be loaded, and why
+/// \throws Failure with the name of the file that cannot be loaded and the reason
 CVendorInfoFile LoadFiles(const std::vector<std::string>& fileNames);
 
-/// Runs what reads one file.
-/// \throws Failure that names the file, and why it could not be read
+/// Calls `read`, which reads that file.
+/// \throws Failure with the name of the file and the reason why it cannot be read
 void ReadFile(const std::string& fileName, const std::function<void()>& read);
 
-/// The path that a UTF-8 name stands for; outside Windows its bytes are taken as they are.
-std::filesystem::path PathOf(const std::string& fileName);
-
-/// The line from which on a file cannot be read, whatever it holds; nothing when all of it can be. Nothing but a
-/// regular file is opened, whatever has the name by now, and nothing is waited for. \throws CZoRunTimeException when it
-/// cannot be opened
+/// The number of the line where reading the file fails, whatever the file holds; nothing when all of it can be read.
+/// Opens nothing but a regular file and waits for nothing, even if a pipe has taken the file's name.
+/// \throws CZoRunTimeException when it cannot be opened
 std::optional<std::size_t> FirstUnreadableLine(const std::filesystem::path& path);
 
-/// Whether a path has that extension, which is given in small letters, in any letter case.
+/// Whether a path has that extension in any letter case.
+/// \param extension in lower case, with its dot
 bool HasExtension(const std::filesystem::path& path, std::string_view extension);
 
 }  // namespace cli

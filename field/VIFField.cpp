@@ -22,14 +22,12 @@ std::uint64_t Number(const VifIndex& index) { return std::get<1>(index); }
 
 }  // namespace
 
-#ifdef _WIN32
-// A class that is exported has its constants exported only where they are defined once more.
-constexpr std::size_t CVIFField::MAX_INDEX_DEPTH;
-constexpr VifIndexNumber CVIFField::INDEX_NOT_SPECIFIED;
-constexpr VifIndex CVIFField::UNSPECIFIED_INDEX;
-constexpr std::uint64_t CVIFField::VIF_VALUE_UNSET_64;
-constexpr std::uint32_t CVIFField::VIF_VALUE_UNSET;
-#endif
+// The library has the constants, and exports them, only because they are declared here again.
+constexpr std::size_t CVIFField::MAX_INDEX_DEPTH;         // NOLINT(readability-redundant-declaration)
+constexpr VifIndexNumber CVIFField::INDEX_NOT_SPECIFIED;  // NOLINT(readability-redundant-declaration)
+constexpr VifIndex CVIFField::UNSPECIFIED_INDEX;          // NOLINT(readability-redundant-declaration)
+constexpr std::uint64_t CVIFField::VIF_VALUE_UNSET_64;    // NOLINT(readability-redundant-declaration)
+constexpr std::uint32_t CVIFField::VIF_VALUE_UNSET;       // NOLINT(readability-redundant-declaration)
 
 // The empty field is deliberately numeric: its number is "unset", and asking for it does not fail.
 CVIFField::CVIFField()

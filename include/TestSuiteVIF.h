@@ -34,8 +34,9 @@ extern "C" {
 VIF_API TEST_STATUS TestSuiteVIF_Initialize(const TestSuiteContext* context);
 
 /// Call this when the suite has ended and none of its tests reads the VIF any more. It withdraws the published VIF,
-/// logs "Deleting Test Suite VIF: <file>" (0x4000000) and deletes it. With none published, it logs nothing. \param
-/// context if it is null or has no log, nothing is logged; the work is done all the same \return 1 \throws
-/// std::bad_alloc and nothing else; even then the VIF has been withdrawn and deleted
+/// logs "Deleting Test Suite VIF: <file>" (0x4000000) and deletes it. With none published, it logs nothing.
+/// \param context if it is null or has no log, nothing is logged; the work is done all the same
+/// \return 1
+/// \throws std::bad_alloc and nothing else; even then the VIF has been withdrawn and deleted
 VIF_API TEST_STATUS TestSuiteVIF_Cleanup(const TestSuiteContext* context);
 }

@@ -1,6 +1,7 @@
 // The calls that the reader makes on XML documents, with exceptions for failures.
 #pragma once
 
+#include "msxml/ComTypes.h"
 #include "msxml/MsXml.h"
 
 #include <optional>

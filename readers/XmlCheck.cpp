@@ -3,6 +3,7 @@
 #include "HeaderElements.h"
 #include "VIFXmlCheck.h"
 #include "XmlReader.h"
+#include "msxml/ComTypes.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,4 +1,5 @@
 #include "XmlReader.h"
+#include "msxml/ComTypes.h"
 
 #include "BaseUtilities/PathText.h"
 #include "BaseUtilities/StringConvert.h"

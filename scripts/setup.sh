@@ -68,7 +68,7 @@ case $task in
     ;;
   windows) wanted=("${windows_packages[@]}") ;;
   arm64) wanted=(cmake ninja-build g++-aarch64-linux-gnu googletest libxml2-dev:arm64 qemu-user-static "${header_packages[@]}") ;;
-  package) wanted=("${build_packages[@]}" "${windows_packages[@]}" dpkg-dev file unzip zip) ;;
+  package) wanted=("${build_packages[@]}" "${windows_packages[@]}" dpkg-dev file python3 unzip zip) ;;
   bench) wanted=("${build_packages[@]}" libbenchmark-dev libxml2-utils valgrind) ;;
 esac
 

@@ -13,11 +13,20 @@ CFieldQuery::CFieldQuery(const char* pattern, const QuerySlots& slots)
   }
 }
 
-FoundFields FindFields(const std::vector<CVIFField>& fields, CFieldQuery query) {
+CDigestFilter CFieldQuery::Filter(std::size_t digestCount) const {
+  // Asking the locale about every character takes longer than comparing this many names.
+  constexpr std::size_t fewFields = 500;
+  CDigestFilter filter;
+  for (std::size_t i = 0; i < m_askedCount; ++i) filter.AskForSlot({m_asked[i].location, m_asked[i].number});
+  if (m_pattern != nullptr && digestCount > fewFields && IsPlainPattern(m_pattern)) filter.AskForName(m_pattern);
+  return filter;
+}
+
+FoundFields FindFields(const SearchedFields& searched, CFieldQuery query) {
   FoundFields found;
-  for (const CVIFField& field : fields) {
-    if (query.Passes(field) && found.count++ == 0) found.first = &field;
-  }
+  ForEachPassing(searched, query, [&](const CVIFField& field) {
+    if (found.count++ == 0) found.first = &field;
+  });
   return found;
 }
 

@@ -14,11 +14,19 @@ namespace {
 using vif::CFieldQuery;
 using vif::FoundFields;
 using vif::QuerySlots;
+using vif::SearchedFields;
 
 constexpr const char* kAnyName = nullptr;
 
 /// A wide pattern as UTF-8; null becomes the empty pattern.
 std::string Narrow(const wchar_t* pattern) { return Utf16ToUtf8(pattern != nullptr ? pattern : L""); }
+
+/// \param content null for none
+SearchedFields Searched(const CVIFImpl* content) {
+  static const CVIFImpl none;
+  if (content == nullptr) content = &none;
+  return {content->Fields(), content->Digests()};
+}
 
 VifFieldList MakeList(std::vector<CVIFField> fields) {
   VifFieldList list(nullptr, [](std::vector<CVIFField>* owned) { delete owned; });
@@ -40,7 +48,7 @@ std::string WhereText(const CVendorInfoFile& file) {
 std::size_t CVendorInfoFile::Count() const noexcept { return Fields().size(); }
 
 std::size_t CVendorInfoFile::Count(const char* pattern, const QuerySlots& query) const {
-  return vif::FindFields(Fields(), CFieldQuery(pattern, query)).count;
+  return vif::FindFields(Searched(m_impl), CFieldQuery(pattern, query)).count;
 }
 
 VifFieldList CVendorInfoFile::GetFields() const { return MakeList(Fields()); }
@@ -48,14 +56,12 @@ VifFieldList CVendorInfoFile::GetFields() const { return MakeList(Fields()); }
 VifFieldList CVendorInfoFile::GetFields(const char* pattern, const QuerySlots& query) const {
   CFieldQuery filter(pattern, query);
   std::vector<CVIFField> passing;
-  for (const CVIFField& field : Fields()) {
-    if (filter.Passes(field)) passing.push_back(field);
-  }
+  vif::ForEachPassing(Searched(m_impl), filter, [&](const CVIFField& field) { passing.push_back(field); });
   return MakeList(std::move(passing));
 }
 
 CVIFField CVendorInfoFile::GetUniqueField(const char* pattern, const QuerySlots& query) const {
-  const FoundFields found = vif::FindFields(Fields(), CFieldQuery(pattern, query));
+  const FoundFields found = vif::FindFields(Searched(m_impl), CFieldQuery(pattern, query));
   if (found.count == 0) {
     vif::ThrowRunTimeError("Couldn't find field in \"%s\" that matched with \"%s\".", WhereText(*this), pattern);
   }
@@ -64,7 +70,7 @@ CVIFField CVendorInfoFile::GetUniqueField(const char* pattern, const QuerySlots&
 }
 
 std::tuple<CVIFField, bool> CVendorInfoFile::GetSingleField(const char* pattern, const QuerySlots& query) const {
-  const FoundFields found = vif::FindFields(Fields(), CFieldQuery(pattern, query));
+  const FoundFields found = vif::FindFields(Searched(m_impl), CFieldQuery(pattern, query));
   if (found.count > 1) ThrowTooMany(found.count, WhereText(*this), pattern);
   if (found.count == 0) return {CVIFField(), false};
   return {*found.first, true};

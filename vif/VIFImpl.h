@@ -1,6 +1,7 @@
 // The content of a CVendorInfoFile.
 #pragma once
 
+#include "FieldDigest.h"
 #include "VIFField.h"
 #include "VIFFieldDefs.h"
 
@@ -24,6 +25,7 @@ class CVIFImpl {
   void Append(const std::vector<CVIFField>& fields);
 
   const std::vector<CVIFField>& Fields() const { return m_fields; }
+  const vif::CFieldDigests& Digests() const { return m_digests; }
   const std::wstring& FileName() const { return m_fileName; }
   std::uint32_t ComponentCount() const { return m_componentCount; }
 
@@ -32,6 +34,7 @@ class CVIFImpl {
   void ReadXmlFile(const std::filesystem::path& fileName);
 
   std::vector<CVIFField> m_fields;
+  vif::CFieldDigests m_digests;                     // of all fields but those read before a failure
   std::vector<VifFieldDef>* m_fieldDefs = nullptr;  // not owned; null means the built-in table
   std::wstring m_fileName;                          // of the first file
   std::uint32_t m_componentCount = 0;

@@ -2,8 +2,12 @@
 
 #include "Command.h"
 #include "FieldSource.h"
+#include "FileForm.h"
+
+#include <BaseUtilities/PathText.h>
 
 #include <algorithm>
+#include <optional>
 #include <system_error>
 #include <tuple>
 
@@ -11,27 +15,21 @@ namespace cli {
 
 namespace {
 
-Findings CheckText(const std::filesystem::path& path) {
-  auto [fields, findings] = ReadTextFile(path);
+void CheckTextFields(const FoundFields& fields, Findings& findings) {
   FindBadNumbering(fields, findings);
   FindTextsForGroups(fields, findings);
   FindDuplicates(fields, findings);
   FindBadNumbers(fields, findings);
   FindWrongCounts(fields, findings);
-  FindNothing(fields, findings);
-  return findings;
 }
 
-Findings CheckXml(const std::filesystem::path& path) {
-  auto [fields, findings] = ReadXmlFile(path);
+void CheckXmlFields(const FoundFields& fields, Findings& findings) {
   FindUnknownNames(fields, findings);
   FindMisplaced(fields, findings);
   FindDuplicates(fields, findings);
   FindBadNumbers(fields, findings);
   FindMissingValues(fields, findings);
   FindWrongCounts(fields, findings);
-  FindNothing(fields, findings);
-  return findings;
 }
 
 Findings CheckPath(const std::filesystem::path& path) {
@@ -42,16 +40,23 @@ Findings CheckPath(const std::filesystem::path& path) {
   const bool isText = HasExtension(path, ".txt");
   if (!isText && !HasExtension(path, ".xml")) throw Failure("a VIF is a text (*.txt) or XML (*.xml) file");
   if (!std::filesystem::is_regular_file(status)) throw Failure("only a regular file can be read");
-  return isText ? CheckText(path) : CheckXml(path);
+  auto [fields, findings] = isText ? ReadTextFile(path) : ReadXmlFile(path);
+  if (fields.empty()) {
+    const std::optional<std::string> advice = AdviceOnExtension(path);
+    if (advice) return {{&code::kWrongExtension, 0, 0, {}, *advice}};
+  }
+  (isText ? CheckTextFields : CheckXmlFields)(fields, findings);
+  FindNothing(fields, findings);
+  return findings;
 }
 
 }  // namespace
 
 CheckedFile CheckFile(const std::string& fileName) {
   CheckedFile checked = {fileName, {}};
-  ReadFile(fileName, [&] { checked.findings = CheckPath(PathOf(fileName)); });
+  ReadFile(fileName, [&] { checked.findings = CheckPath(PathFromUtf8(fileName)); });
   std::stable_sort(checked.findings.begin(), checked.findings.end(), [](const Finding& a, const Finding& b) {
-    // What is at no place is about the whole file, and comes last.
+    // Findings without a line are about the whole file and come last.
     return std::make_tuple(a.line == 0, a.line, a.column) < std::make_tuple(b.line == 0, b.line, b.column);
   });
   return checked;

@@ -1,4 +1,4 @@
-// Finds all there is to say about one file.
+// Checks one file.
 #pragma once
 
 #include "Finding.h"
@@ -9,11 +9,11 @@
 
 namespace cli {
 
-/// Reads a file and holds all rules for its form against it.
-/// \throws Failure when it cannot be read; that it is no valid VIF is a finding, not a failure
+/// Reads a file and applies all rules for its form.
+/// \throws Failure when it cannot be read; that it is not a valid VIF is a finding
 CheckedFile CheckFile(const std::string& fileName);
 
-/// What reading a file gives: its fields, and what is found on the way.
+/// The fields of a file, and the findings of reading it.
 struct FileContent {
   FoundFields fields;
   Findings findings;
@@ -24,7 +24,7 @@ struct FileContent {
 FileContent ReadTextFile(const std::filesystem::path& path);
 
 /// Reads an XML file. The reasons why it is not valid are findings.
-/// \throws Failure when it is not the file's fault that it cannot be read, and what `CheckXmlVif` throws then
+/// \throws Failure, or what `CheckXmlVif` throws, when it cannot be read for a reason that is not in the file
 FileContent ReadXmlFile(const std::filesystem::path& path);
 
 }  // namespace cli

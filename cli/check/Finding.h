@@ -1,4 +1,4 @@
-// What `vif check` has to say about a file.
+// A finding of `vif check`.
 #pragma once
 
 #include "Codes.h"
@@ -13,21 +13,21 @@
 
 namespace cli {
 
-/// One field of a checked file and where it is declared. For the rules, the two forms of a file are a list of these.
+/// One field of a checked file and where it is declared. To the rules, a file of either form is a list of these.
 struct FoundField {
   CVIFField field;
   std::size_t line = 0;    ///< from 1; 0 when not known
-  std::size_t column = 0;  ///< from 1; 0 when not known, which it never is for a text file
-  std::string element;     ///< what a finding about it names: the field in a text file, the path in an XML file
+  std::size_t column = 0;  ///< from 1; 0 when not known, as in all text files
+  std::string element;     ///< the field's name in a text file, the element's path in an XML file
 };
 
-/// One thing found. What the file holds appears in the message printable and shortened, in the element as it is.
+/// One finding. Text from the file is printable and shortened in the message, but unchanged in the element.
 struct Finding {
-  const FindingCode* code;  ///< one of Codes.h; it has the severity
-  std::size_t line;         ///< from 1; 0 when it is at no place that is known
-  std::size_t column;       ///< the same
-  std::string element;      ///< the field or element concerned; empty when there is none
-  std::string message;      ///< what is wrong, as a sentence without a full stop
+  const FindingCode* code;  ///< one of those in Codes.h
+  std::size_t line;         ///< from 1; 0 when not known
+  std::size_t column;       ///< from 1; 0 when not known
+  std::string element;      ///< the field or element; empty when there is none
+  std::string message;      ///< says what is wrong, without a full stop
 };
 
 /// A finding about one field.
@@ -35,7 +35,7 @@ inline Finding About(const FoundField& found, const FindingCode& code, std::stri
   return {&code, found.line, found.column, found.element, std::move(message)};
 }
 
-/// One file and all that was found in it, in the order of the file.
+/// One file and its findings, in the order of the file.
 struct CheckedFile {
   std::string name;
   std::vector<Finding> findings;

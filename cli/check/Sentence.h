@@ -1,4 +1,4 @@
-// Pieces of the sentences in findings.
+// Parts of the messages of findings.
 #pragma once
 
 #include <VIFField.h>
@@ -9,13 +9,13 @@
 
 namespace cli {
 
-/// A piece of a file in single quotes, printable, and shortened when it is long.
+/// Text from a file in single quotes, printable, and shortened if it is long.
 std::string Quoted(std::string_view text);
 
 /// A field by its name and, if it has one, its place: 'Src_PDO_Voltage' (Component 1 · SrcPdo 2).
 std::string NameAndPlace(const CVIFField& field);
 
-/// Such as "1 error" and "2 errors".
+/// "1 error" or "2 errors".
 std::string Amount(std::size_t count, const std::string& noun);
 
 }  // namespace cli

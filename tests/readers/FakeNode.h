@@ -2,6 +2,7 @@
 #pragma once
 
 #include "UnfakedCalls.h"
+#include "msxml/ComTypes.h"
 
 #include <list>
 #include <string>

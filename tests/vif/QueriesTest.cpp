@@ -981,6 +981,12 @@ TEST(LongName, EndsInTheAnswerOrTheErrorOfTheExpression) {
   EXPECT_THAT(OutcomesOfAllForms(".*x", kAnywhere, GetUniqueField(vif)), Each(isRegexErrorOr("x=2")));
 }
 
+TEST(LongName, DoesNotFailAQueryThatFindsOthers) {
+  const CVendorInfoFile vif({Field(std::string(3000, 'a'), "1"), Field("aab", "2"), Field("x", "3")});
+  EXPECT_THAT(OutcomesOfAllForms("(a)\\1.*", kAnywhere, Count(vif)), Each("2"));
+  EXPECT_THAT(OutcomesOfAllForms("(a)\\1b", kAnywhere, GetUniqueField(vif)), Each("aab=2"));
+}
+
 TEST(LongName, IsFoundByItself) {
   const std::string name(200'000, 'a');
   const CVendorInfoFile vif(std::vector<CVIFField>{Field(name, "1"), Field(name + "a", "2")});
