@@ -1,5 +1,5 @@
 #include "TextFile.h"
-#include "msxml/InputFile.h"
+#include "xmlfile/InputFile.h"
 
 #include <cstddef>
 #include <streambuf>
@@ -23,7 +23,7 @@ class CFileBuffer : public std::streambuf {
  protected:
   int_type underflow() override {
     if (gptr() == egptr()) {
-      const int count = msxml::CInputFile::Read(&m_file, m_chunk, kChunkSize);
+      const int count = xmlfile::CInputFile::Read(&m_file, m_chunk, kChunkSize);
       if (count < 0) throw std::ios_base::failure(m_file.Error());  // the stream turns it into `badbit`
       setg(m_chunk, m_chunk, m_chunk + count);
     }
@@ -31,7 +31,7 @@ class CFileBuffer : public std::streambuf {
   }
 
  private:
-  msxml::CInputFile m_file;
+  xmlfile::CInputFile m_file;
   char m_chunk[kChunkSize] = {};
 };
 

@@ -1,9 +1,10 @@
 #include "msxml6/DocumentLoader.h"
 
 #include "BaseUtilities/StringConvert.h"
-#include "msxml/Limits.h"
-#include "msxml6/FileText.h"
+#include "msxml6/MarkupCheck.h"
 #include "msxml6/MsXmlIds.h"
+#include "xmlfile/Bounds.h"
+#include "xmlfile/Limits.h"
 
 #include <algorithm>
 #include <cstring>
@@ -59,7 +60,7 @@ DOMDocProblem Malformedness(const std::optional<DOMDocProblem>& said, const std:
 }
 
 bool LoadBytes(IXMLDOMDocument2& document, const std::string& bytes, const std::optional<DOMDocProblem>& mismatch,
-               msxml::CProblems& problems) {
+               xmlfile::CProblems& problems) {
   VARIANT_BOOL isLoaded = VARIANT_FALSE;
   RequireSuccess(document.load(CByteArray(bytes).get(), &isLoaded), document, IID_IXMLDOMDocument2);
   if (isLoaded != VARIANT_FALSE) return true;
@@ -109,24 +110,29 @@ DOMDocument2Ptr MakeDocument() {
   SetProperty(*document, L"ProhibitDTD", Boolean(true));
   SetProperty(*document, L"UseInlineSchema", Boolean(false));
   SetProperty(*document, L"NormalizeAttributeValues", Boolean(true));
-  SetProperty(*document, L"MaxElementDepth", Number(msxml::kGreatestDepth + 1));  // our own bound is the lower one
+  SetProperty(*document, L"MaxElementDepth", Number(xmlfile::kGreatestDepth + 1));  // our own bound is the lower one
   return document;
 }
 
-std::optional<std::vector<Tag>> LoadFile(IXMLDOMDocument2& document, const std::filesystem::path& path,
-                                         msxml::CProblems& problems) {
+std::optional<xmlfile::FileText> LoadFile(IXMLDOMDocument2& document, const std::filesystem::path& path,
+                                          xmlfile::CProblems& problems) {
   Clear(document);  // before anything can fail
-  const std::optional<FileText> file = ReadFileText(path, problems);
+  std::optional<xmlfile::FileText> file = xmlfile::ReadFileText(path, problems);
   if (!file) return std::nullopt;
-  TagScan scan = ScanTags(*file, problems);
-  if (!problems.IsEmpty() || !LoadBytes(document, file->bytes, scan.mismatch, problems)) return std::nullopt;
+  const xmlfile::Bounds bounds = xmlfile::CheckBounds(*file);
+  const MarkupFindings markup = CheckMarkup(*file, bounds.end);
+  if (const auto& problem = markup.problem ? markup.problem : bounds.problem; problem) {
+    problems.Add(problem->line, problem->column, problem->element, problem->reason);
+    return std::nullopt;
+  }
+  if (!LoadBytes(document, file->bytes, markup.mismatch, problems)) return std::nullopt;
   if (HasDocumentType(document)) {
-    problems.Add(0, 0, {}, msxml::kDocumentTypeReason);
-  } else if (scan.tags.size() < 2) {
+    problems.Add(0, 0, {}, xmlfile::kDocumentTypeReason);
+  } else if (bounds.tagCount == 0) {
     // Only in another encoding than it was taken for can a document have no tags, and so no bounds.
     problems.Add(0, 0, {}, "The encoding of the file is not supported here.");
   } else {
-    return std::move(scan.tags);
+    return file;
   }
   Clear(document);
   return std::nullopt;

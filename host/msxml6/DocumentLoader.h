@@ -2,12 +2,11 @@
 #pragma once
 
 #include "msxml/MsXml.h"
-#include "msxml/Problems.h"
-#include "msxml6/TagScan.h"
+#include "xmlfile/FileText.h"
+#include "xmlfile/Problems.h"
 
 #include <filesystem>
 #include <optional>
-#include <vector>
 
 namespace msxml6 {
 
@@ -18,10 +17,10 @@ DOMDocument2Ptr MakeDocument();
 /// Loads a file into a document: well-formed XML with namespaces and within the bounds. Otherwise the document is empty
 /// afterwards.
 /// \param problems receives the reason when the file is not as described or cannot be read
-/// \return the start tags of the file; nothing when there is a problem
+/// \return what the document was loaded from; nothing when there is a problem
 /// \throws _com_error
-std::optional<std::vector<Tag>> LoadFile(IXMLDOMDocument2& document, const std::filesystem::path& path,
-                                         msxml::CProblems& problems);
+std::optional<xmlfile::FileText> LoadFile(IXMLDOMDocument2& document, const std::filesystem::path& path,
+                                          xmlfile::CProblems& problems);
 
 /// What MSXML says is wrong; its reason may be empty. Nothing when all is well.
 std::optional<DOMDocProblem> ProblemOf(IXMLDOMParseError& error);

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "msxml/MsXml.h"
-#include "msxml6/TagScan.h"
+#include "xmlfile/Places.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -11,6 +11,8 @@
 #include <vector>
 
 namespace msxml6 {
+
+using xmlfile::Tag;
 
 class CElementMark;
 
@@ -21,8 +23,6 @@ class CElementPlaces {
   /// \param document must outlive this, with its content
   /// \param tags of the file that the content is from
   CElementPlaces(IXMLDOMDocument2& document, std::vector<Tag> tags);
-
-  const std::vector<Tag>& Tags() const { return m_tags; }
 
   /// The start tag of an element; of an attribute, that of its element. Null for anything else.
   /// \throws _com_error

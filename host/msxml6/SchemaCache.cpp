@@ -76,7 +76,7 @@ const SchemaSource* FindImported(IXMLDOMElement& reference, const SchemaSource& 
   CBstr kind;
   RequireSuccess(reference.get_baseName(kind.Receive()), reference, IID_IXMLDOMNode);
   if (kind.View() != L"import") return nullptr;
-  const std::wstring uri = Attribute(reference, L"namespace");
+  const std::string uri = Utf16ToUtf8(Attribute(reference, L"namespace"));
   const auto found = std::find_if(sources.begin(), sources.end(), [&](const SchemaSource& source) {
     return &source != &from && source.targetNamespace == uri;
   });
@@ -109,9 +109,9 @@ void FindImports(LoadedSchema& schema, const std::vector<SchemaSource>& sources)
 
 LoadedSchema LoadSchema(const SchemaSource& source, const std::vector<SchemaSource>& sources) {
   LoadedSchema schema{&source, Utf16ToUtf8(PathToLosslessWide(source.file)), MakeDocument(), {}};
-  msxml::CProblems problems;
+  xmlfile::CProblems problems;
   if (!LoadFile(*schema.document, source.file, problems)) ThrowSchemaError(schema.file, problems.Take().front());
-  RequireNamespace(schema.file, Utf16ToUtf8(TargetNamespace(*schema.document)), Utf16ToUtf8(source.targetNamespace));
+  RequireNamespace(schema.file, Utf16ToUtf8(TargetNamespace(*schema.document)), source.targetNamespace);
   FindImports(schema, sources);
   return schema;
 }
@@ -126,7 +126,7 @@ std::string LastErrorText() {
 
 bool TryToAdd(const LoadedSchema& schema, IXMLDOMSchemaCollection& schemas) {
   SetErrorInfo(0, nullptr);  // what failed before is of no interest
-  const CBstr uri(schema.source->targetNamespace);
+  const CBstr uri(Utf8ToUtf16(schema.source->targetNamespace));
   return SUCCEEDED(schemas.add(uri.get(), ObjectVariant(*schema.document)));
 }
 
@@ -171,7 +171,7 @@ SchemaCollectionPtr LoadSchemas(const std::vector<SchemaSource>& sources) {
 
 }  // namespace
 
-void Validate(IXMLDOMDocument2& document, const std::vector<SchemaSource>& sources, msxml::CProblems& problems) {
+void Validate(IXMLDOMDocument2& document, const std::vector<SchemaSource>& sources, xmlfile::CProblems& problems) {
   const SchemaCollectionPtr schemas = LoadSchemas(sources);
   RequireSuccess(document.putref_schemas(ObjectVariant(*schemas)), document, IID_IXMLDOMDocument2);
   CComPointer<IXMLDOMParseError> error;

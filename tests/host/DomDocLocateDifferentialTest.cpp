@@ -20,7 +20,6 @@ using testsupport::RandomBelow;
 struct WrittenTag {
   std::size_t line;
   std::size_t column;
-  bool isOnOneLine;
 };
 
 /// Writes a document and counts lines and characters as it goes.
@@ -29,8 +28,7 @@ class CDocumentWriter {
   explicit CDocumentWriter(std::mt19937_64& generator) : m_generator(generator) {}
 
   void WriteElement(int depth) {
-    const std::size_t number = m_tags.size();
-    m_tags.push_back({m_line, m_column, true});
+    m_tags.push_back({m_line, m_column});
     const std::string name = Any(kNames);
     Write("<" + name);
     const std::size_t attributeCount = RandomBelow(m_generator, 3);
@@ -38,7 +36,6 @@ class CDocumentWriter {
       Write(std::string(Any(kBlanks)) + "a" + std::to_string(i) + "='" + Any(kValues) + "'");
     }
     if (RandomBelow(m_generator, 3) == 0) Write(Any(kBlanks));
-    m_tags[number].isOnOneLine = m_line == m_tags[number].line;
     const std::size_t childCount = depth > 0 ? RandomBelow(m_generator, 8) : 0;
     if (childCount == 0 && RandomBelow(m_generator, 2) == 0) return Write("/>");
     Write(">");
@@ -93,9 +90,8 @@ class CDocumentWriter {
   std::vector<WrittenTag> m_tags;
 };
 
-/// The column may be unknown for a tag of many lines that begins some way into its line.
 bool IsPlaceOf(const WrittenTag& tag, std::size_t line, std::size_t column) {
-  return line == tag.line && (column == tag.column || (column == 0 && !tag.isOnOneLine && tag.column > 80));
+  return line == tag.line && column == tag.column;
 }
 
 TEST(DomDocLocateDifferentialTest, ElementsAreFoundWhereTheyWereWritten) {

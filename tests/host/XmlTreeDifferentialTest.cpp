@@ -1,10 +1,12 @@
 // The trees of files, held against those that libxml2 builds of them itself.
 #include "EncodedXml.h"
 #include "RandomXml.h"
-#include "msxml/XmlParser.h"
-#include "msxml/XmlText.h"
+#include "libxml2/Errors.h"
+#include "libxml2/XmlParser.h"
+#include "libxml2/XmlText.h"
 #include "support/Random.h"
 #include "support/TempDir.h"
+#include "xmlfile/Places.h"
 
 #include <gtest/gtest.h>
 #include <libxml/parser.h>
@@ -15,16 +17,14 @@
 #include <filesystem>
 #include <iterator>
 #include <memory>
-#include <numeric>
 #include <random>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace {
 
-using msxml::QualifiedName;
-using msxml::View;
+using libxml2::QualifiedName;
+using libxml2::View;
 using testsupport::CRandomXml;
 using testsupport::EForm;
 using testsupport::kForms;
@@ -90,7 +90,7 @@ std::string TreeText(const xmlDoc& document) {
   return text;
 }
 
-void IgnoreError(void*, xmlErrorPtr) {}
+void IgnoreError(void*, libxml2::ErrorPointer) {}
 
 /// The tree that libxml2 builds; "not well-formed" when it builds none.
 std::string ReferenceTree(const std::filesystem::path& path) {
@@ -103,8 +103,8 @@ std::string ReferenceTree(const std::filesystem::path& path) {
 
 /// The tree of the same file here; the first reason when there is none.
 std::string Tree(const std::filesystem::path& path) {
-  msxml::CProblems problems;
-  const auto tree = msxml::ParseXmlFile(path, problems);
+  xmlfile::CProblems problems;
+  const auto tree = libxml2::ParseXmlFile(path, problems);
   return tree != nullptr ? TreeText(*tree->Document()) : problems.Take().at(0).reason;
 }
 
@@ -133,9 +133,9 @@ std::string RandomFile(Generator& generator) {
 class XmlTreeDifferentialTest : public testing::Test {
  protected:
   /// The tree of a generated file; null when it is refused.
-  std::shared_ptr<const msxml::CXmlTree> RandomTree() {
-    msxml::CProblems problems;
-    return msxml::ParseXmlFile(m_dir.Write("x.xml", RandomFile(m_generator)), problems);
+  std::shared_ptr<const libxml2::CXmlTree> RandomTree() {
+    xmlfile::CProblems problems;
+    return libxml2::ParseXmlFile(m_dir.Write("x.xml", RandomFile(m_generator)), problems);
   }
 
   testing::ScopedTrace m_trace{__FILE__, __LINE__, testsupport::SeedMessage()};
@@ -239,31 +239,34 @@ std::size_t CountLooseNodes(const xmlNode* parent, const xmlDoc* document) {
 
 TEST_F(XmlTreeDifferentialTest, NodesAreLinkedInAllDirections) {
   for (int i = 0; i < 50; ++i) {
-    const std::shared_ptr<const msxml::CXmlTree> tree = RandomTree();
+    const std::shared_ptr<const libxml2::CXmlTree> tree = RandomTree();
     ASSERT_NE(tree, nullptr);
     const xmlDoc* document = tree->Document();
     ASSERT_EQ(CountLooseNodes(reinterpret_cast<const xmlNode*>(document), document), 0U);
   }
 }
 
-/// The numbers of the elements below a node, in document order.
-void AppendNumbers(const xmlNode* first, std::vector<std::size_t>& numbers) {
-  for (const xmlNode* node = first; node != nullptr; node = node->next) {
+/// How many elements have elements in them, the document included.
+std::size_t CountParents(const xmlNode* parent) {
+  bool hasElements = false;
+  std::size_t count = 0;
+  for (const xmlNode* node = parent->children; node != nullptr; node = node->next) {
     if (node->type != XML_ELEMENT_NODE) continue;
-    numbers.push_back(msxml::CXmlTree::NumberOf(*node));
-    AppendNumbers(node->children, numbers);
+    hasElements = true;
+    count += CountParents(node);
   }
+  return hasElements ? count + 1 : count;
 }
 
-TEST_F(XmlTreeDifferentialTest, ElementsAreNumberedInTheirOrder) {
+TEST_F(XmlTreeDifferentialTest, TagsAreNestedAsTheElementsAre) {
   for (int i = 0; i < 50; ++i) {
-    const std::shared_ptr<const msxml::CXmlTree> tree = RandomTree();
+    const std::shared_ptr<const libxml2::CXmlTree> tree = RandomTree();
     ASSERT_NE(tree, nullptr);
-    std::vector<std::size_t> numbers;
-    AppendNumbers(tree->Document()->children, numbers);
-    std::vector<std::size_t> expected(tree->ElementCount());
-    std::iota(expected.begin(), expected.end(), std::size_t{1});
-    ASSERT_EQ(numbers, expected);
+    std::size_t count = 0;
+    for (const xmlfile::Tag& tag : xmlfile::FindTags(tree->File())) {
+      if (tag.firstChild != xmlfile::Tag::kNone) ++count;
+    }
+    ASSERT_EQ(count, CountParents(reinterpret_cast<const xmlNode*>(tree->Document())));
   }
 }
 

@@ -122,17 +122,20 @@ TEST_F(DocumentMemoryTest, GetRootElement) {
                             });
 }
 
-TEST_F(DocumentMemoryTest, LocateTakesNoMemory) {
-  const DocumentPointer document = Loaded();
-  const DOMElementPtr root = document->GetRootElement();
-  std::size_t line = 0;
-  std::size_t column = 0;
-  ForEveryFailingAllocation([&] { return document->Locate(*root, line, column); },
-                            [&](const std::optional<bool>& isLocated) {
-                              ASSERT_TRUE(isLocated);
-                              EXPECT_TRUE(*isLocated);
-                              EXPECT_EQ(line, 2U);
-                            });
+TEST_F(DocumentMemoryTest, Locate) {
+  using Root = std::pair<DocumentPointer, DOMElementPtr>;
+  const auto begin = [&] {
+    DocumentPointer document = Loaded();
+    DOMElementPtr root = document->GetRootElement();
+    return Root(std::move(document), std::move(root));
+  };
+  const auto locate = [](Root& root) {
+    std::size_t line = 0;
+    std::size_t column = 0;
+    EXPECT_TRUE(root.first->Locate(*root.second, line, column));
+    EXPECT_EQ(line, 2U);
+  };
+  ForEveryFailingAllocation(begin, locate, [&](Root& root, bool) { locate(root); });
 }
 
 TEST_F(DocumentMemoryTest, PathOf) {

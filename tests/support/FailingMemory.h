@@ -13,8 +13,8 @@ std::size_t AllocationCount();
 /// How many pieces of memory of all kinds are held now: allocations less releases.
 std::size_t HeldMemory();
 
-/// Which allocations fail. `LibXml` are those of libxml2 for itself, which Windows does without.
-enum class Memory { OperatorNew, Bstr, LibXml, Any };
+/// Which allocations fail.
+enum class Memory { OperatorNew, Bstr, Any };
 
 /// How many of them fail: the k-th alone, or it and all behind it.
 enum class Failing { Once, FromThenOn };

@@ -1,0 +1,115 @@
+#include "TestUtilities/DOMDoc.h"
+
+#include "BaseUtilities/PathText.h"
+#include "BaseUtilities/StringConvert.h"
+#include "TestUtilities/DOMDocReasons.h"
+#include "msxml/ComTypes.h"
+
+#include <utility>
+
+#ifdef _WIN32
+#include "msxml6/FileDocument.h"
+using msxml6::CFileDocument;
+#else
+#include "libxml2/FileDocument.h"
+using libxml2::CFileDocument;
+#endif
+
+struct CDOMDoc::Content {
+  std::vector<xmlfile::SchemaSource> schemas;
+  std::string rootNamespace;  // with rootName: what the root must be; any when rootName is empty
+  std::string rootName;
+  std::filesystem::path file;
+  std::vector<DOMDocProblem> problems;
+  CFileDocument document;
+
+  /// Loads a file into a document; the reasons are in `problems` when that fails.
+  bool Load(const std::filesystem::path& path, CFileDocument& into);
+
+  /// Whether a document that has been loaded is valid; the reasons are in `problems` when it is not.
+  bool Validate(CFileDocument& loaded);
+};
+
+namespace {
+
+/// Adds a problem when the root is not the element asked for.
+/// \param namespaceUri null when any will do
+/// \param name empty when any will do, whatever its namespace
+void CheckRoot(CFileDocument& document, const std::string* namespaceUri, const std::string& name,
+               xmlfile::CProblems& problems) {
+  if (name.empty()) return;
+  const xmlfile::Root root = document.Root();
+  if (root.name == name && (namespaceUri == nullptr || root.uri == *namespaceUri)) return;
+  const xmlfile::Place place = document.RootPlace();
+  problems.Add(place.line, place.column, root.name, WrongRootReason(root.name, root.uri, name, namespaceUri));
+}
+
+}  // namespace
+
+bool CDOMDoc::Content::Load(const std::filesystem::path& path, CFileDocument& into) {
+  xmlfile::CProblems found;
+  into.Load(path, found);
+  problems = found.Take();
+  return into.IsLoaded();
+}
+
+bool CDOMDoc::Content::Validate(CFileDocument& loaded) {
+  xmlfile::CProblems found;
+  CheckRoot(loaded, &rootNamespace, rootName, found);
+  // An element that is not the root asked for is no use to the schemas, and what they said would only confuse.
+  if (found.IsEmpty() && !schemas.empty()) loaded.Validate(schemas, found);
+  problems = found.Take();
+  return problems.empty();
+}
+
+CDOMDoc::CDOMDoc(const std::vector<std::pair<std::wstring, std::wstring>>& schemas)
+    : m_content(std::make_unique<Content>()) {
+  for (const auto& [file, targetNamespace] : schemas) {
+    m_content->schemas.push_back({PathFromLosslessWide(file), Utf16ToUtf8(targetNamespace)});
+  }
+}
+
+CDOMDoc::~CDOMDoc() = default;
+
+bool CDOMDoc::CanLoadDoc(const std::wstring& fileName, const std::wstring& rootName, bool validate) {
+  CFileDocument document;
+  if (!m_content->Load(PathFromLosslessWide(fileName), document)) return false;
+  xmlfile::CProblems found;
+  CheckRoot(document, nullptr, Utf16ToUtf8(rootName), found);
+  m_content->problems = found.Take();
+  return m_content->problems.empty() && (!validate || m_content->Validate(document));
+}
+
+bool CDOMDoc::ParseDoc() { return m_content->Load(m_content->file, m_content->document); }
+
+bool CDOMDoc::ValidateDoc(const std::filesystem::path& file) {
+  m_content->file = file;
+  if (!ParseDoc()) return false;
+  return m_content->document.IsLoaded() && m_content->Validate(m_content->document);
+}
+
+DOMElementPtr CDOMDoc::GetRootElement() const {
+  DOMElementPtr root;
+  RequireSuccess(Document().get_documentElement(root.Receive()), Document(), IID_IXMLDOMDocument2);
+  return root;
+}
+
+const std::vector<DOMDocProblem>& CDOMDoc::Problems() const noexcept { return m_content->problems; }
+
+bool CDOMDoc::Locate(IXMLDOMNode& node, std::size_t& line, std::size_t& column) const {
+  line = column = 0;
+  const xmlfile::Place place = m_content->document.Locate(node);
+  if (place.line == 0) return false;
+  line = place.line;
+  column = place.column;
+  return true;
+}
+
+std::string CDOMDoc::PathOf(IXMLDOMNode& node) const { return m_content->document.PathOf(node); }
+
+IXMLDOMDocument2& CDOMDoc::Document() const noexcept { return m_content->document.Document(); }
+
+void CDOMDoc::RequireRoot(const std::wstring& namespaceUri, const std::wstring& localName) {
+  m_content->rootNamespace = Utf16ToUtf8(namespaceUri);
+  m_content->rootName = Utf16ToUtf8(localName);
+}

@@ -1,0 +1,298 @@
+#include "libxml2/DomNodes.h"
+
+#include "BaseUtilities/Ascii.h"
+#include "BaseUtilities/StringConvert.h"
+#include "libxml2/Counted.h"
+#include "libxml2/NodeText.h"
+#include "libxml2/XmlText.h"
+
+#include <algorithm>
+#include <limits>
+#include <new>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace libxml2 {
+
+namespace {
+
+/// Only the nodes of this file answer to it.
+constexpr IID kNodeBehind = {0x8C4A2F10, 0x51D3, 0x4E0B, {0x9A, 0x77, 0x3D, 0x5E, 0x20, 0xB1, 0xC6, 0x48}};
+
+/// Gives an optional text: S_FALSE and null when there is none.
+HRESULT GiveText(const xmlChar* text, BSTR* place) {
+  *place = text != nullptr ? MakeBstr(View(text)) : nullptr;
+  return text != nullptr ? S_OK : S_FALSE;
+}
+
+/// A document without a type declaration has no attribute whose value is in pieces.
+std::string_view AttributeValue(const xmlNode& attribute) { return View(attribute.children->content); }
+
+class CDomNode;
+
+/// The attributes of a node. They are a part of it and count as it, so that asking for them takes no memory.
+class CDomAttributes final : public IXMLDOMNamedNodeMap {
+ public:
+  explicit CDomAttributes(CDomNode& node) : m_node(node) {}
+
+  HRESULT QueryInterface(REFIID iid, void** object) override {
+    if (object == nullptr) return E_POINTER;
+    return iid == IID_IUnknown || iid == IID_IXMLDOMNamedNodeMap ? Answer(this, object) : RefuseInterface(object);
+  }
+
+  ULONG AddRef() override;
+  ULONG Release() override;
+  HRESULT getNamedItem(BSTR name, IXMLDOMNode** attribute) override;
+
+ private:
+  static bool IsNamed(const xmlAttr& attribute, std::string_view wanted) {
+    if (attribute.ns == nullptr) return View(attribute.name) == wanted;
+    return QualifiedName(attribute.ns, attribute.name) == wanted;
+  }
+
+  CDomNode& m_node;
+};
+
+class CDomNodeList final : public CCounted<IXMLDOMNodeList> {
+ public:
+  CDomNodeList(StatePointer state, std::vector<xmlNode*> nodes)
+      : m_state(std::move(state)), m_nodes(std::move(nodes)) {}
+
+  HRESULT QueryInterface(REFIID iid, void** object) override {
+    if (object == nullptr) return E_POINTER;
+    return iid == IID_IUnknown || iid == IID_IXMLDOMNodeList ? Answer(this, object) : RefuseInterface(object);
+  }
+
+  HRESULT get_item(LONG index, IXMLDOMNode** node) override {
+    if (node == nullptr) return E_INVALIDARG;
+    *node = nullptr;
+    if (index < 0 || static_cast<std::size_t>(index) >= m_nodes.size()) return S_FALSE;
+    return Guarded([&] {
+      *node = MakeNode(m_state, m_nodes[static_cast<std::size_t>(index)]).Detach();
+      return S_OK;
+    });
+  }
+
+  HRESULT get_length(LONG* length) override {
+    if (length == nullptr) return E_INVALIDARG;
+    *length = static_cast<LONG>(m_nodes.size());
+    return S_OK;
+  }
+
+ private:
+  StatePointer m_state;
+  std::vector<xmlNode*> m_nodes;
+};
+
+/// The list of nothing, which most elements give when they are asked for those in them. There is one for all.
+class CEmptyNodeList final : public IXMLDOMNodeList {
+ public:
+  HRESULT QueryInterface(REFIID iid, void** object) override {
+    if (object == nullptr) return E_POINTER;
+    return iid == IID_IUnknown || iid == IID_IXMLDOMNodeList ? Answer(this, object) : RefuseInterface(object);
+  }
+
+  // It never goes, so nothing is counted.
+  ULONG AddRef() override { return 1; }
+  ULONG Release() override { return 1; }
+
+  HRESULT get_item(LONG, IXMLDOMNode** node) override {
+    if (node == nullptr) return E_INVALIDARG;
+    *node = nullptr;
+    return S_FALSE;
+  }
+
+  HRESULT get_length(LONG* length) override {
+    if (length == nullptr) return E_INVALIDARG;
+    *length = 0;
+    return S_OK;
+  }
+};
+
+/// An element or an attribute, or, where an XPath goes up to it, the document.
+class CDomNode final : public CCounted<IXMLDOMElement> {
+ public:
+  CDomNode(StatePointer state, xmlNode* node) : m_state(std::move(state)), m_node(node), m_attributes(*this) {}
+
+  const StatePointer& State() const { return m_state; }
+  const xmlNode* Node() const { return m_node; }
+
+  HRESULT QueryInterface(REFIID iid, void** object) override {
+    if (object == nullptr) return E_POINTER;
+    if (iid == kNodeBehind) {
+      // No interface, so it isn't counted.
+      *object = this;
+      return S_OK;
+    }
+    const bool isMine = iid == IID_IUnknown || iid == IID_IXMLDOMNode ||
+                        (iid == IID_IXMLDOMElement && m_node->type == XML_ELEMENT_NODE);
+    return isMine ? Answer(this, object) : RefuseInterface(object);
+  }
+
+  HRESULT get_nodeName(BSTR* name) override {
+    if (name == nullptr) return E_INVALIDARG;
+    return Guarded([&] {
+      *name = IsDocument() ? MakeBstr("#document") : MakeBstr(QualifiedName(m_node->ns, m_node->name));
+      return S_OK;
+    });
+  }
+
+  HRESULT get_nodeValue(VARIANT* value) override {
+    if (value == nullptr) return E_INVALIDARG;
+    VariantInit(value);
+    if (m_node->type != XML_ATTRIBUTE_NODE) {
+      value->vt = VT_NULL;
+      return S_FALSE;
+    }
+    return Guarded([&] {
+      value->bstrVal = MakeBstr(AttributeValue(*m_node));
+      value->vt = VT_BSTR;
+      return S_OK;
+    });
+  }
+
+  HRESULT get_attributes(IXMLDOMNamedNodeMap** attributes) override {
+    if (attributes == nullptr) return E_INVALIDARG;
+    *attributes = nullptr;
+    if (m_node->type != XML_ELEMENT_NODE) return S_FALSE;
+    AddRef();
+    *attributes = &m_attributes;
+    return S_OK;
+  }
+
+  HRESULT get_text(BSTR* text) override {
+    if (text == nullptr) return E_INVALIDARG;
+    return Guarded([&] {
+      const std::optional<std::string_view> plain =
+          m_node->type == XML_ATTRIBUTE_NODE ? AttributeValue(*m_node) : PlainText(*m_node);
+      *text = plain ? MakeBstr(*plain) : MakeBstr(NodeText(*m_node));
+      return S_OK;
+    });
+  }
+
+  HRESULT selectNodes(BSTR xpath, IXMLDOMNodeList** nodes) override {
+    return SelectList(m_state, m_node, xpath, nodes);
+  }
+
+  HRESULT selectSingleNode(BSTR xpath, IXMLDOMNode** node) override {
+    return SelectFirst(m_state, m_node, xpath, node);
+  }
+
+  HRESULT get_namespaceURI(BSTR* uri) override {
+    if (uri == nullptr) return E_INVALIDARG;
+    return Guarded([&] { return GiveText(HasNamespace() ? m_node->ns->href : nullptr, uri); });
+  }
+
+  HRESULT get_baseName(BSTR* name) override {
+    if (name == nullptr) return E_INVALIDARG;
+    return Guarded([&] { return GiveText(IsDocument() ? nullptr : m_node->name, name); });
+  }
+
+ private:
+  bool IsDocument() const { return m_node->type == XML_DOCUMENT_NODE; }
+  bool HasNamespace() const { return !IsDocument() && m_node->ns != nullptr; }
+
+  StatePointer m_state;
+  xmlNode* m_node;
+  CDomAttributes m_attributes;
+};
+
+ULONG CDomAttributes::AddRef() { return m_node.AddRef(); }
+
+ULONG CDomAttributes::Release() { return m_node.Release(); }
+
+HRESULT CDomAttributes::getNamedItem(BSTR name, IXMLDOMNode** attribute) {
+  if (attribute == nullptr) return E_INVALIDARG;
+  *attribute = nullptr;
+  if (name == nullptr) return E_INVALIDARG;
+  return Guarded([&] {
+    const std::string wanted = Utf16ToUtf8({name, SysStringLen(name)});
+    for (xmlAttr* candidate = m_node.Node()->properties; candidate != nullptr; candidate = candidate->next) {
+      if (!IsNamed(*candidate, wanted)) continue;
+      *attribute = MakeNode(m_node.State(), reinterpret_cast<xmlNode*>(candidate)).Detach();
+      return S_OK;
+    }
+    return S_FALSE;
+  });
+}
+
+/// The path that the expression is; null when it is something else.
+const CChildPath* FindPath(const DocumentState& state, std::wstring_view xpath) {
+  if (state.lastXPath != xpath || xpath.empty()) {
+    state.lastXPath.clear();
+    state.lastPath = CChildPath::Parse(Utf16ToUtf8(xpath), state.prefixes);
+    state.lastXPath = xpath;
+  }
+  return state.lastPath ? &*state.lastPath : nullptr;
+}
+
+/// Selects from a node; a list that COM cannot count is out of memory.
+std::vector<xmlNode*> Select(const DocumentState& state, xmlNode* from, std::wstring_view xpath, HRESULT& result) {
+  std::vector<xmlNode*> nodes;
+  if (const CChildPath* path = FindPath(state, xpath); path != nullptr) {
+    path->Select(*from, nodes);
+  } else {
+    switch (SelectByXPath(from, Utf16ToUtf8(xpath), state.prefixes, nodes)) {
+      case Outcome::Found: break;
+      case Outcome::BadExpression: result = E_FAIL; break;
+      case Outcome::OutOfMemory: result = E_OUTOFMEMORY; break;
+    }
+  }
+  if (nodes.size() > static_cast<std::size_t>(std::numeric_limits<LONG>::max())) result = E_OUTOFMEMORY;
+  return nodes;
+}
+
+}  // namespace
+
+BSTR MakeBstr(std::string_view utf8) {
+  if (utf8.size() > std::numeric_limits<UINT>::max()) _com_issue_error(E_OUTOFMEMORY);
+  BSTR text = SysAllocStringLen(nullptr, static_cast<UINT>(utf8.size()));
+  if (text == nullptr) _com_issue_error(E_OUTOFMEMORY);
+  if (CopyAscii(utf8, text)) return text;
+  SysFreeString(text);
+  return CBstr(Utf8ToUtf16(utf8)).Detach();
+}
+
+DOMNodePtr MakeNode(const StatePointer& state, xmlNode* node) { return DOMNodePtr(new CDomNode(state, node), false); }
+
+DOMElementPtr MakeElement(const StatePointer& state, xmlNode* element) {
+  return DOMElementPtr(new CDomNode(state, element), false);
+}
+
+const xmlNode* NodeBehind(IXMLDOMNode& node, const CXmlTree& tree) {
+  void* object = nullptr;
+  if (FAILED(node.QueryInterface(kNodeBehind, &object))) return nullptr;
+  const auto& domNode = *static_cast<const CDomNode*>(object);
+  return domNode.State()->tree.get() == &tree ? domNode.Node() : nullptr;
+}
+
+HRESULT SelectList(const StatePointer& state, xmlNode* from, BSTR xpath, IXMLDOMNodeList** nodes) {
+  if (nodes == nullptr) return E_INVALIDARG;
+  *nodes = nullptr;
+  if (xpath == nullptr) return E_INVALIDARG;
+  static CEmptyNodeList emptyList;
+  return Guarded([&] {
+    HRESULT result = S_OK;
+    std::vector<xmlNode*> found = Select(*state, from, {xpath, SysStringLen(xpath)}, result);
+    if (FAILED(result)) return result;
+    *nodes = found.empty() ? static_cast<IXMLDOMNodeList*>(&emptyList) : new CDomNodeList(state, std::move(found));
+    return result;
+  });
+}
+
+HRESULT SelectFirst(const StatePointer& state, xmlNode* from, BSTR xpath, IXMLDOMNode** node) {
+  if (node == nullptr) return E_INVALIDARG;
+  *node = nullptr;
+  if (xpath == nullptr) return E_INVALIDARG;
+  return Guarded([&] {
+    HRESULT result = S_OK;
+    const std::vector<xmlNode*> found = Select(*state, from, {xpath, SysStringLen(xpath)}, result);
+    if (FAILED(result)) return result;
+    if (found.empty()) return S_FALSE;
+    *node = MakeNode(state, found.front()).Detach();
+    return S_OK;
+  });
+}
+
+}  // namespace libxml2

@@ -1,0 +1,182 @@
+#include "xmlfile/FileText.h"
+
+#include "BaseUtilities/StringConvert.h"
+#include "xmlfile/CountBytes.h"
+#include "xmlfile/InputFile.h"
+#include "xmlfile/Limits.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+
+namespace xmlfile {
+
+namespace {
+
+/// What a file begins with tells the order of the bytes of UTF-16.
+enum class Form { Bytes, LittleEndian, BigEndian };
+
+Form FormOf(std::string_view bytes) {
+  const std::string_view begin = bytes.substr(0, 2);
+  if (begin == "\xFF\xFE" || begin == std::string_view("<\0", 2)) return Form::LittleEndian;
+  if (begin == "\xFE\xFF" || begin == std::string_view("\0<", 2)) return Form::BigEndian;
+  return Form::Bytes;
+}
+
+/// Whether there is a NUL character from an offset on.
+bool HasNul(std::string_view bytes, std::size_t from) {
+  if (FormOf(bytes) == Form::Bytes) return bytes.find('\0', from) != std::string_view::npos;
+  for (std::size_t i = from - from % 2; i + 1 < bytes.size(); i += 2) {
+    if (bytes[i] == '\0' && bytes[i + 1] == '\0') return true;
+  }
+  return false;
+}
+
+/// Reads a file to its end, or to the first NUL or somewhat further: no file with one is of any use, and one that never
+/// ends may be nothing else.
+/// \return what is wrong, as the end of a sentence; empty when nothing is
+std::string ReadBytes(const std::filesystem::path& path, std::string& bytes) {
+  constexpr std::size_t least = std::size_t{1} << 16;
+  constexpr std::size_t most = std::size_t{1} << 20;
+  CInputFile file(path);
+  if (!file.IsOpen()) return file.Error();
+  // One byte more, so that the first piece shows that there is no second.
+  const std::size_t size = file.ExpectedSize();
+  const auto chunk = static_cast<int>(size != 0 ? std::min(size, most) + 1 : least);
+  for (;;) {
+    const std::size_t before = bytes.size();
+    if (before > kLargestFile) return "is too large";
+    bytes.resize(before + static_cast<std::size_t>(chunk));
+    const int count = CInputFile::Read(&file, bytes.data() + before, chunk);
+    bytes.resize(before + static_cast<std::size_t>(std::max(count, 0)));
+    if (file.HasFailed()) return file.Error();
+    if (count < chunk || HasNul(bytes, before)) return {};
+  }
+}
+
+void AppendUtf8(std::uint32_t code, std::string& text) {
+  const auto append = [&](std::uint32_t byte) { text += static_cast<char>(byte); };
+  if (code < 0x80) return append(code);
+  if (code >= 0x10000) append(0xF0 | code >> 18);
+  if (code >= 0x10000) append(0x80 | (code >> 12 & 0x3F));
+  if (code >= 0x800 && code < 0x10000) append(0xE0 | code >> 12);
+  append(code >= 0x800 ? 0x80 | (code >> 6 & 0x3F) : 0xC0 | code >> 6);
+  append(0x80 | (code & 0x3F));
+}
+
+/// Half of a pair alone becomes a replacement character.
+std::string Utf8OfUtf16(std::string_view bytes, bool isBigEndian) {
+  const auto unitAt = [&](std::size_t i) -> std::uint32_t {
+    if (i + 1 >= bytes.size()) return 0;
+    const auto first = static_cast<unsigned char>(bytes[i]);
+    const auto second = static_cast<unsigned char>(bytes[i + 1]);
+    return isBigEndian ? first * 256U + second : second * 256U + first;
+  };
+  std::string text;
+  text.reserve(bytes.size() / 2);
+  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+    const std::uint32_t unit = unitAt(i);
+    const std::uint32_t next = unitAt(i + 2);
+    if (unit >= 0xD800 && unit < 0xDC00 && next >= 0xDC00 && next < 0xE000) {
+      AppendUtf8(0x10000 + (unit - 0xD800) * 0x400 + (next - 0xDC00), text);
+      i += 2;
+    } else {
+      AppendUtf8(unit >= 0xD800 && unit < 0xE000 ? 0xFFFD : unit, text);
+    }
+  }
+  return text;
+}
+
+constexpr std::string_view kBlanks = " \t\r\n";
+
+/// A byte order mark in UTF-8.
+constexpr std::string_view kMark = "\xEF\xBB\xBF";
+
+/// Where the XML declaration names the encoding.
+struct Declaration {
+  std::string name;       // in capitals; empty when there is none
+  std::size_t begin = 0;  // of "encoding"
+  std::size_t end = 0;    // behind the closing quote
+};
+
+/// \param text without a byte order mark
+Declaration FindEncoding(std::string_view text) {
+  const std::string_view declaration = text.substr(0, std::min(text.find("?>"), text.size()));
+  constexpr std::string_view opening = "<?xml";
+  if (!declaration.starts_with(opening)) return {};
+  // Other instructions begin so, too.
+  if (kBlanks.find(text.substr(opening.size(), 1)) == std::string_view::npos) return {};
+  constexpr std::string_view key = "encoding";
+  const std::size_t begin = declaration.find(key);
+  if (begin == std::string_view::npos) return {};
+  const std::size_t equals = declaration.find_first_not_of(kBlanks, begin + key.size());
+  if (equals == std::string_view::npos || declaration[equals] != '=') return {};
+  const std::size_t quote = declaration.find_first_not_of(kBlanks, equals + 1);
+  if (quote == std::string_view::npos) return {};
+  const std::size_t end = declaration.find(declaration[quote], quote + 1);
+  if (end == std::string_view::npos) return {};
+  Declaration found{std::string(declaration.substr(quote + 1, end - quote - 1)), begin, end + 1};
+  ToUpper(found.name);
+  return found;
+}
+
+/// \param name in capitals
+bool IsUtf8(std::string_view name) { return name == "UTF-8" || name == "UTF8"; }
+
+/// The encoding that a file is in, where that is not supported; empty where it is.
+std::string UnsupportedEncoding(std::string_view bytes, Form form, const std::string& declared) {
+  // The beginning of a declaration in EBCDIC, which a parser may understand.
+  if (bytes.starts_with("\x4C\x6F\xA7\x94")) return "EBCDIC";
+  const bool isUtf16 = form != Form::Bytes;
+  const bool hasMark = isUtf16 && (bytes[0] == '\xFF' || bytes[0] == '\xFE');
+  if (hasMark && IsUtf8(declared)) return {};
+  if (!declared.empty())
+    return IsSupportedEncoding(declared) && IsUtf16(declared) == isUtf16 ? std::string() : declared;
+  // Without a mark, UTF-16 has to be declared.
+  return isUtf16 && !hasMark ? "UTF-16" : "";
+}
+
+}  // namespace
+
+std::size_t FileText::ByteOffset(std::size_t offset) const {
+  if (decoded.empty()) return mark + offset;
+  const std::string_view before = Text().substr(0, offset);
+  const auto isFirst = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
+  const auto isPair = [](char c) { return static_cast<unsigned char>(c) >= 0xF0; };
+  return mark + 2 * (CountBytes(before, isFirst) + CountBytes(before, isPair));
+}
+
+std::optional<FileText> ReadFileText(const std::filesystem::path& path, CProblems& problems) {
+  FileText file;
+  if (const std::string error = ReadBytes(path, file.bytes); !error.empty()) {
+    problems.Add(0, 0, {}, "The file " + error + ".");
+    return std::nullopt;
+  }
+  const Form form = FormOf(file.bytes);
+  if (form != Form::Bytes) {
+    file.decoded = Utf8OfUtf16(file.bytes, form == Form::BigEndian);
+    if (file.decoded.starts_with(kMark)) file.decoded.erase(0, kMark.size());
+    file.mark = file.bytes[0] == '<' || file.bytes[1] == '<' ? 0 : 2;
+  } else if (file.bytes.starts_with(kMark)) {
+    file.mark = kMark.size();
+  }
+  const Declaration declaration = FindEncoding(file.Text());
+  if (const std::string name = UnsupportedEncoding(file.bytes, form, declaration.name); !name.empty()) {
+    problems.Add(1, 0, {}, UnsupportedEncodingReason(name));
+    return std::nullopt;
+  }
+  const bool isOdd = form != Form::Bytes && file.bytes.size() % 2 != 0;
+  if (isOdd && !HasNul(file.bytes, 0)) {
+    problems.Add(0, 0, {}, "The file ends within a character.");
+    return std::nullopt;
+  }
+  file.isUtf8 = form != Form::Bytes || declaration.name.empty() || declaration.name.starts_with("UTF");
+  if (form == Form::Bytes ? declaration.name == "UTF8" : IsUtf8(declaration.name)) {
+    for (std::size_t i = declaration.begin; i < declaration.end; ++i) {
+      file.bytes[file.ByteOffset(i) + (form == Form::BigEndian ? 1 : 0)] = ' ';
+    }
+  }
+  return file;
+}
+
+}  // namespace xmlfile

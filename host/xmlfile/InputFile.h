@@ -1,0 +1,64 @@
+// A file that is read.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <string>
+
+namespace xmlfile {
+
+/// A regular file, open for reading. Directories, pipes and devices, which may never end, are not opened.
+class CInputFile {
+ public:
+  explicit CInputFile(const std::filesystem::path& path);
+  CInputFile(const CInputFile&) = delete;
+  CInputFile& operator=(const CInputFile&) = delete;
+  ~CInputFile();
+
+  bool IsOpen() const { return m_handle != kNoHandle; }
+  bool HasFailed() const { return m_failure != Failure::None; }
+
+  /// Why it could not be opened or read to its end, as the end of a sentence; empty when neither happened.
+  std::string Error() const;
+
+  /// How many bytes there should be to read, by what the system says; 0 when it does not say.
+  std::size_t ExpectedSize() const;
+
+  /// Reads on. It fills the buffer unless the file ends or cannot be read on, in however small pieces the system
+  /// delivers it. What was read before a failure is delivered before the failure; after that and after the end it reads
+  /// nothing more. \param context the CInputFile, which must be open \return the number of bytes read, 0 at the end, -1
+  /// on failure
+  static int Read(void* context, char* buffer, int length) noexcept;
+
+#ifndef _WIN32
+  /// The number of the file's last change: another one means that it may have other content.
+  struct Stamp {
+    std::int64_t seconds = 0;
+    std::int64_t nanoseconds = 0;
+    std::int64_t size = 0;
+    std::uint64_t inode = 0;
+
+    friend bool operator==(const Stamp&, const Stamp&) = default;
+  };
+  const Stamp& GetStamp() const { return m_stamp; }
+#endif
+
+ private:
+  enum class Failure { None, NotOpened, NotRegular, NotRead };
+
+  static constexpr std::intptr_t kNoHandle = -1;
+
+  void Fail(Failure failure);
+  void Close();
+
+  std::intptr_t m_handle;
+  bool m_isAtEnd = false;
+  Failure m_failure = Failure::None;
+  std::uint32_t m_errorNumber = 0;
+#ifndef _WIN32
+  Stamp m_stamp;
+#endif
+};
+
+}  // namespace xmlfile
