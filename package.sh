@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Makes the packages of the library and the command: a zip file for 64-bit Windows, and for Linux a Debian package and a
-# tar file. They land in build/packages.
+# Builds the packages of the library and the command in build/packages: a zip file for 64-bit Windows, and a Debian
+# package and a tar file for Linux.
 set -euo pipefail
 cd "$(dirname "$0")"
 

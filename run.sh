@@ -2,11 +2,11 @@
 # Installs what is missing, builds the library and the command, and shows a Vendor Info File.
 #
 #   ./run.sh                  shows an example
-#   ./run.sh ARGUMENT...      calls the command with these arguments, such as ./run.sh list my.txt
+#   ./run.sh ARGUMENT...      runs the command with these arguments, such as ./run.sh list my.txt
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 
-# What is said on the way goes to standard error, so that the command's output can be piped.
+# Progress goes to standard error, so that the command's output can be piped.
 "$root/scripts/setup.sh" build >&2
 "$root/scripts/build.sh" release --target vif >&2
 

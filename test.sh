@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds everything and runs the tests. Arguments go to ctest, such as -R TextReader.
+# Installs what is missing, builds everything and runs the tests. Arguments such as -R TextReader go to ctest.
 set -euo pipefail
 cd "$(dirname "$0")"
 

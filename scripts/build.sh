@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Configures and builds one preset of CMakePresets.json. Of what is built before, only what has changed is built again.
+# Configures and builds one preset of CMakePresets.json, incrementally.
 #
 #   scripts/build.sh PRESET [-DNAME=VALUE]... [--target TARGET]
 set -euo pipefail

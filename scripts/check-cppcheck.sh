@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Fails when cppcheck has something to say about the library, its stand-ins or the command; what it is wrong about stands
-# in cppcheck-suppressions.txt.
+# Fails when cppcheck reports something about the library, the host's stand-ins or the command;
+# cppcheck-suppressions.txt lists its false positives.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Fails when clang-format would change a file, or when a \param, \return or \throws is in the middle of a line, where no
-# reader expects it.
+# Fails when clang-format would change a file, or when a \param, \return or \throws stands in the middle of a line,
+# where readers overlook it.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run --Werror

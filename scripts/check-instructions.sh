@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# Counts the instructions that fixed work takes (bench/CountedWork.cpp) and fails when a count is more than 5 % away from
-# the one in bench/instructions.txt. Counts, unlike times, are the same on a machine that is busy.
+# Counts the instructions that fixed work takes (bench/CountedWork.cpp) and fails when a count differs by more than 5 %
+# from the one in bench/instructions.txt. Counts, unlike times, do not depend on how busy the machine is.
 #
 #   scripts/check-instructions.sh             compares
-#   scripts/check-instructions.sh --update    writes the counts into the file; for changes that are meant to cost or save
+#   scripts/check-instructions.sh --update    writes the counts to the file; for changes that are meant to cost or save
 #
-# The counts in the file are those of Debian 12's g++, libstdc++, libc and libxml2 on an x86-64 processor with AVX2: they
-# include what these libraries do, and libc has other code for other processors. Elsewhere, write them anew from the
-# state before a change, compare after it, and do not commit the file.
+# The counts in the file are those of Debian 12's g++, libstdc++, libc and libxml2 on an x86-64 processor with AVX2:
+# they include the work of these libraries, and libc has different code for other processors. Elsewhere, write the
+# file before a change, compare after it, and do not commit it.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 if [ $# -gt 1 ] || [ "${1:---update}" != --update ]; then
@@ -16,7 +16,7 @@ if [ $# -gt 1 ] || [ "${1:---update}" != --update ]; then
 fi
 
 if [ "${1:-}" != --update ] && ! grep -qw avx2 /proc/cpuinfo; then
-  echo "==> The instruction counts are those of a processor with AVX2, which this one is not: nothing to compare"
+  echo "==> The instruction counts need a processor with AVX2, which this one lacks: nothing to compare"
   exit 0
 fi
 
@@ -32,7 +32,7 @@ mkdir -p "$work"
 
 echo "==> Counting instructions"
 for case in load-text load-xml query-location query-name query-expression; do
-  # With an environment that is always the same, as it lies in the process's memory.
+  # The environment lies in the process's memory, so it must always be the same.
   if ! (cd "$work" && env -i PATH="$PATH" LC_ALL=C valgrind --tool=callgrind --toggle-collect=CountedWork \
       --callgrind-out-file="$case.callgrind" "$program" "$case") >"$work/$case.log" 2>&1; then
     cat "$work/$case.log" >&2
@@ -43,7 +43,7 @@ for case in load-text load-xml query-location query-name query-expression; do
 done
 if ! awk '!($2 > 0) { exit 1 }' "$counted"; then
   cat "$counted" >&2
-  echo "valgrind has not found the function to count" >&2
+  echo "valgrind did not find the function to count" >&2
   exit 1
 fi
 
@@ -57,7 +57,7 @@ awk '
   FILENAME == ARGV[1] { kept[$1] = $2; next }
   { isCounted[$1] = 1 }
   !($1 in kept) {
-    printf "FAILED: %s takes %d instructions, and bench/instructions.txt does not have it\n", $1, $2
+    printf "FAILED: %s takes %d instructions, but is not in bench/instructions.txt\n", $1, $2
     hasFailed = 1
     next
   }
@@ -70,9 +70,9 @@ awk '
   END {
     for (name in kept) {
       if (name in isCounted) continue
-      printf "FAILED: bench/instructions.txt has %s, which is no case\n", name
+      printf "FAILED: bench/instructions.txt has %s, which is not a case\n", name
       hasFailed = 1
     }
-    if (hasFailed) print "Where that is meant, write the new counts with scripts/check-instructions.sh --update"
+    if (hasFailed) print "If that is intended, write the new counts with scripts/check-instructions.sh --update"
     exit hasFailed
   }' "$kept" "$counted"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Unpacks each package that package.sh made into an empty directory, checks that everything is there and that links of the
-# documents lead somewhere, and runs the command from there, the one for Windows under Wine.
+# Unpacks each package that package.sh built into an empty directory, checks that all files are there and that the
+# documents' links lead somewhere, and runs the command from there, the Windows one under Wine.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 root=$PWD
@@ -9,7 +9,7 @@ work=$root/build/packages/unpacked
 rm -rf "$work"
 fail() { echo "FAILED: $*" >&2; exit 1; }
 
-# Expects what both systems' packages have, and a command that reads every example.
+# Expects the files that all packages have, and a command that reads every example.
 #   check DIRECTORY PROGRAM...
 check() {
   local directory=$1
@@ -23,18 +23,18 @@ check() {
     [ -f "$file" ] || fail "$file is missing"
   done
   python3 -B "$root/tests/package/broken_links.py" $(find share/doc/VendorInfoFile -name '*.md') ||
-    fail 'the above links of documents lead nowhere'
+    fail 'the links above lead nowhere'
   local examples=(share/vendorinfofile/examples/*.txt share/vendorinfofile/examples/*.xml)
   [ ${#examples[@]} -eq 6 ] || fail "there are ${#examples[@]} examples"
   for file in "${examples[@]}"; do
     "$@" list "$file" >listed || fail "$* cannot list $file"
-    grep -q 'Component 1' listed || fail "$* lists no component of $file"
+    grep -q 'Component 1' listed || fail "$* lists no component in $file"
   done
   [ "$("$@" list --format csv share/vendorinfofile/examples/usb4-dock.xml | wc -l)" -eq 379 ] || fail 'not 378 fields'
   cd "$root"
 }
 
-# Makes the directory that a package is unpacked into.
+# Creates the directory for a package and enters it.
 unpack_into() { mkdir -p "$work/$1" && echo "==> $1" && cd "$work/$1"; }
 
 shopt -s failglob
@@ -56,6 +56,6 @@ check "$PWD" bin/vif
 unpack_into deb
 dpkg-deb -x "$packages"/vendorinfofile_*.deb .
 check "$PWD/usr" bin/vif
-dpkg-deb -f "$packages"/vendorinfofile_*.deb Depends | grep -q libxml2 || fail 'the package does not say what it needs'
+dpkg-deb -f "$packages"/vendorinfofile_*.deb Depends | grep -q libxml2 || fail 'the package does not depend on libxml2'
 
-echo "All packages are sound."
+echo "All packages are complete and work."

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Fails when clang-tidy has something to say about a source that a build directory compiles.
+# Fails when clang-tidy reports something about a source that a build directory compiles: all of them, or those named.
 #
 #   scripts/check-tidy.sh BUILD_DIRECTORY [FILE...]
 set -euo pipefail
@@ -15,10 +15,10 @@ else
   done)
 fi
 [ ${#sources[@]} -gt 0 ] || { echo "$build compiles none of the sources" >&2; exit 1; }
-# Newer versions pass over what is in the system's headers, which is most of what a source includes.
+# Newer versions skip the system's headers, which are most of what a source includes.
 tidy=$(command -v clang-tidy-22 || command -v clang-tidy)
-echo "$tidy reads ${#sources[@]} files"
-# Newer ones also see where the standard library's own headers use what is deprecated.
-# It counts on standard error the warnings that it does not show.
+echo "$tidy checks ${#sources[@]} files"
+# Newer versions also report deprecated names that the standard library's own headers use.
+# On standard error, clang-tidy counts the warnings that it does not show; grep drops these lines.
 printf '%s\0' "${sources[@]}" |
   xargs -0 -P "$(nproc)" -n 1 "$tidy" --quiet --extra-arg=-Wno-deprecated-declarations -p "$build" 2> >(grep -v 'warnings\? generated\|^Suppressed\|^Use -header' >&2)

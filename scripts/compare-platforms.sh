@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Lists VIFs with the command of this system and with that of Windows under Wine, both built before, and expects the same
-# of both, to the byte: the examples, and generated files of both forms.
+# Lists VIFs with this system's command and with the Windows command under Wine, both already built, and expects the
+# same output to the byte. The files are the examples and generated files of both forms.
 #
-#   scripts/compare-platforms.sh [COUNT]     so many text files and so many XML files; VIF_TEST_SEED says which
+#   scripts/compare-platforms.sh [COUNT]     COUNT text files and as many XML files; VIF_TEST_SEED seeds the generator
 set -euo pipefail
 cd "$(dirname "$0")/.."
 root=$PWD
@@ -21,16 +21,16 @@ mkdir -p "$work"
 cp examples/vif/*.txt examples/vif/*.xml "$work/files"
 cd "$work/files"
 
-# What the command makes of files: what it prints and its exit status.
+# The command's output for some files, and its exit status.
 list_here() { "$here/cli/vif" list --format json "$@" 2>&1 && echo "status 0" || echo "status $?"; }
 list_there() { "${windows[@]}" list --format json "$@" 2>&1 && echo "status 0" || echo "status $?"; }
 
-# Without what each system's XML parser has to say.
+# Drops the reason, which each system's XML parser words its own way.
 without_reason() { sed 's/\( is not a valid Vendor Info File\.\) .*/\1/'; }
 
 differ() { ! diff <(list_here "$@" | without_reason) <(list_there "$@" | without_reason) >"$work/$1.diff"; }
 
-# Compares what both make of some files; on a difference, of each alone. What differs is in a file.diff.
+# Compares both commands on some files and, if they differ, on each alone. Differences go to FILE.diff.
 compare() {
   if ! differ "$@"; then
     rm "$work/$1.diff"
@@ -44,7 +44,7 @@ compare() {
   [ -z "$found" ] || rm "$work/together-$1.diff"
 }
 
-# Those that are refused here are compared one by one, for the first of many would hide the others.
+# Refused files are compared one by one, because the first of many would hide the others.
 refused=()
 loaded=()
 for file in *; do
@@ -52,7 +52,7 @@ for file in *; do
 done
 export -f list_here list_there without_reason differ compare
 export here work
-# Functions see no arrays of their caller's in a new shell.
+# A new shell inherits functions, but not arrays.
 printf '%s\n' "${windows[@]}" >"$work/windows"
 run() { xargs -d '\n' -n "$1" -P "$(nproc)" bash -c 'mapfile -t windows <"$work/windows"; compare "$@"' compare; }
 printf '%s\n' "${loaded[@]}" | run "$per_run"
@@ -60,5 +60,5 @@ printf '%s\n' "${loaded[@]}" | run "$per_run"
 
 shopt -s nullglob
 differences=("$work"/*.diff)
-echo "${#loaded[@]} files that both load and ${#refused[@]} that both refuse were compared; ${#differences[@]} differ"
+echo "Compared ${#loaded[@]} files that load here and ${#refused[@]} that are refused; ${#differences[@]} differ"
 [ ${#differences[@]} -eq 0 ] || { head -n 20 "${differences[@]}"; exit 1; }

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Shows how many lines and branches of sources are run, from what `llvm-cov export -skip-functions` writes, and fails
-below the thresholds, which are percentages of the whole. A branch is one outcome of a condition, true or false. What one
-copy of a template or of an inline function does is run in all of them.
+"""Shows the coverage of lines and branches that `llvm-cov export -skip-functions` reports. Fails below the thresholds,
+which are percentages of the whole. A branch is one outcome of a condition, true or false. Code that runs in one copy of
+a template or inline function counts as run in all copies.
 
     coverage.py FILE SOURCE_DIRECTORY LEAST_LINES LEAST_BRANCHES [--missing]
 """
@@ -13,7 +13,7 @@ import sys
 
 
 def line_counts(segments):
-    """How often each line is run that holds code: as often as the part that reaches into it or any that begins in it."""
+    """How often each line with code is run: the highest count of the segments that reach or begin there."""
     counts = {}
     reaching = None
     for line, group in itertools.groupby(segments, lambda segment: segment[0]):
@@ -31,13 +31,13 @@ def line_counts(segments):
 
 
 def is_run_at(place, segments):
-    """Whether what stands at a line and column is run."""
+    """Whether the code at a line and column is run."""
     before = [segment for segment in segments if (segment[0], segment[1]) <= place]
     return bool(before) and before[-1][2] > 0
 
 
 def branch_counts(branches, segments):
-    """How often each outcome comes, by line, column and outcome. What the compiler evaluates has no outcomes."""
+    """How often each outcome occurs, by line, column and outcome. A condition that the compiler evaluates has none."""
     counts = {}
     for line, column, _, _, when_true, when_false, *_ in branches:
         former = counts.get((line, column), (0, 0))
@@ -51,7 +51,7 @@ def branch_counts(branches, segments):
 
 
 def ranges(numbers):
-    """Joins numbers that follow one another: (1, 3) for 1, 2 and 3."""
+    """Joins consecutive numbers: (1, 3) for 1, 2 and 3."""
     for _, group in itertools.groupby(enumerate(numbers), lambda pair: pair[1] - pair[0]):
         run = [number for _, number in group]
         yield run[0], run[-1]
@@ -74,7 +74,7 @@ class Coverage:
 
 
 class Sum:
-    """How many of a kind are run."""
+    """How many lines or branches there are, and how many are run."""
 
     def __init__(self, counts):
         self.all = sum(len(count) for count in counts)
@@ -108,7 +108,7 @@ def main(path, directory, least_lines, least_branches, *options):
             file.print_missing()
     if lines.percent() >= float(least_lines) and branches.percent() >= float(least_branches):
         return 0
-    print(f"FAILED: at least {least_lines} % of the lines and {least_branches} % of the branches are to be run")
+    print(f"FAILED: at least {least_lines} % of the lines and {least_branches} % of the branches must be covered")
     return 1
 
 

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Runs the tests of the preset asan, which scripts/build.sh has built, and shows what they run of the libraries' sources:
-# for each file, each folder and the whole, how many lines and how many branches, a branch being an outcome of a condition.
-# Fails when a test does, or when less than 98 % of all lines or 95 % of all branches are run. Sources for Windows only
-# are not compiled here and do not count. Where a condition ends in an exception, the compiler takes it for false.
+# Runs the tests of the preset asan, which scripts/build.sh has built, and shows how much of the libraries' sources
+# they cover: lines and branches of each file, each folder and the whole. A branch is one outcome of a condition.
+# Fails when a test fails, or below 98 % of all lines or 95 % of all branches. Sources for Windows only are not
+# compiled here and do not count. Where a condition ends in an exception, the compiler counts it as false.
 #
 #   scripts/coverage.sh [--no-tests] [--missing]
 #
-# --no-tests shows what the last run has run; --missing also lists the lines and branches that are not run.
+# --no-tests shows the coverage of the last run; --missing also lists the lines and branches that are not covered.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -37,9 +37,9 @@ mapfile -t objects < <(
 others=()
 for object in "${objects[@]:1}"; do others+=(-object "$object"); done
 
-echo "==> What the tests run"
+echo "==> Coverage by the tests"
 llvm-profdata merge -sparse "$counts"/*.profraw -o "$counts/all.profdata"
-# Inline functions that one program uses and another only declares are "mismatched" in the other.
+# An inline function that one program uses and another only declares is "mismatched" in the other.
 llvm-cov export -skip-functions -instr-profile "$counts/all.profdata" "${objects[0]}" "${others[@]}" \
   "${folders[@]/#/$PWD/}" 2> >(grep -v 'functions have mismatched data' >&2) >"$counts/all.json"
 scripts/coverage.py "$counts/all.json" "$PWD" $least_lines $least_branches "${list[@]}"

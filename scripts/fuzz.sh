@@ -1,18 +1,17 @@
 #!/usr/bin/env bash
-# Feeds generated inputs to all fuzzers, built by clang++ with sanitizers, and fails when one of them finds something.
+# Runs all fuzzers, built by clang++ with sanitizers, and fails when one of them finds something.
 #
-#   scripts/fuzz.sh SECONDS    so long in all, shared evenly, beginning the same way each time
-#   scripts/fuzz.sh --long     each up to 10 million inputs or its share of 30 minutes
+#   scripts/fuzz.sh SECONDS    for SECONDS in all, shared evenly, with a fixed seed
+#   scripts/fuzz.sh --long     each fuzzer for 10 million inputs or its share of 30 minutes, whichever ends first
 #
-# Inputs that reach something new are kept in build/fuzz/corpus for the next time, those that are findings are left in
-# build/fuzz/findings, and with them what each fuzzer says. To see what one of them does:
-# build/fuzz/fuzz/xml_reader_fuzzer FILE
+# build/fuzz/corpus keeps inputs that reach new code for the next run; build/fuzz/findings keeps the inputs of
+# findings and each fuzzer's log. To see what an input does: build/fuzz/fuzz/xml_reader_fuzzer FILE
 set -euo pipefail
 cd "$(dirname "$0")/.."
 if [ "${1:-}" = --long ]; then
   seconds=1800
   runs=10000000
-  seed=0  # another one each time
+  seed=0  # a different one each time
 elif [[ ${1:-} =~ ^[1-9][0-9]*$ ]]; then
   seconds=$1
   runs=-1
@@ -23,13 +22,14 @@ else
 fi
 
 fuzzers=(text_reader xml_reader query name number format text_conversion command)
-# The longest inputs: longer ones mostly take longer. Those of the readers leave room for the examples with one component.
+# Limits on the length of inputs, because long ones mostly just take longer. The readers' leave room for the examples
+# with one component.
 declare -A longest=([text_reader]=8192 [xml_reader]=12288 [query]=256 [name]=128 [number]=64 [format]=256
   [text_conversion]=256 [command]=2048)
 cores=$(nproc)
 rounds=$(((${#fuzzers[@]} + cores - 1) / cores))
 share=$((seconds > rounds ? seconds / rounds : 1))
-build=$PWD/build/fuzz  # in full, as the command's fuzzer works in a directory of its own
+build=$PWD/build/fuzz  # absolute, because the command's fuzzer works in a directory of its own
 
 scripts/build.sh fuzz
 mkdir -p "$build/findings"
@@ -37,7 +37,7 @@ TMPDIR=$(mktemp -d)
 export TMPDIR
 trap 'rm -rf "$TMPDIR"' EXIT
 
-# Reading a large corpus takes as long as it takes, unless it is interrupted.
+# Nothing but an interrupt limits the time that reading a large corpus takes.
 run_fuzzer() {
   local fuzzer=$1 name=${1%_reader}
   local seeds=("$build/corpus/$name" "fuzz/corpus/$name")
@@ -50,15 +50,15 @@ run_fuzzer() {
 
 print_row() { printf '%-16s %12s %8s %8s %9s\n' "$@"; }
 
-# The last number that stands behind a word in a log.
-number_behind() { grep -oE "$1 [0-9]+" "$2" | tail -n 1 | grep -oE '[0-9]+$' || echo '?'; }
+# The last number after a word in a log.
+number_after() { grep -oE "$1 [0-9]+" "$2" | tail -n 1 | grep -oE '[0-9]+$' || echo '?'; }
 
 fuzz() {
   local fuzzer=$1 log=$build/findings/$1.log begin=$SECONDS findings=0 status=0
   run_fuzzer "$fuzzer" >"$log" 2>&1 || status=$?
-  [ $status -eq 0 ] || [ $status -eq 124 ] || findings=1  # a fuzzer ends with its first; 124 is for want of time
-  print_row "$fuzzer" "$(number_behind number_of_executed_units: "$log")" "$((SECONDS - begin)) s" \
-    "$(number_behind cov: "$log")" "$findings"
+  [ $status -eq 0 ] || [ $status -eq 124 ] || findings=1  # a fuzzer ends with its first finding; 124 means that the time was up
+  print_row "$fuzzer" "$(number_after number_of_executed_units: "$log")" "$((SECONDS - begin)) s" \
+    "$(number_after cov: "$log")" "$findings"
   [ $findings -eq 0 ] && return
   tail -n 60 "$log" >&2
   echo "The input of $fuzzer's finding is in $build/findings; see $log" >&2

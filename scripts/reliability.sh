@@ -1,20 +1,19 @@
 #!/usr/bin/env bash
-# Everything that docs/reliability.md has figures of, in its long form; of most, .ci/run does a short one.
+# Runs everything that docs/reliability.md has figures for, in its long form; .ci/run runs a short form of most.
 #
 #   scripts/reliability.sh [memory | files | threads | fuzzing | coverage | mutation | analysis]...
 #
-# All of them when none is named, which takes some two hours on two cores. Ends with a non-zero status when one has found
-# something.
+# Without arguments it runs all parts, which takes some two hours on two cores. Fails when a part finds something.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-# Runs a test program and says in how many places its tests had memory run out.
+# Runs a test program and says at how many allocations its tests had memory run out.
 count_failure_points() {
   local program=$1 report
   report=$(mktemp)
   "$program" --gtest_brief=1 --gtest_output="xml:$report"
   grep -o 'name="failurePoints" value="[0-9]*"' "$report" | tr -dc '0-9\n' |
-    awk -v program="$(basename "$program")" '{ sum += $1 } END { print program ": " sum " failures of an allocation" }'
+    awk -v program="$(basename "$program")" '{ sum += $1 } END { print program ": " sum " failed allocations" }'
   rm "$report"
 }
 
@@ -34,7 +33,7 @@ files() {
   ctest --preset release --parallel "$(nproc)" -R '^(file_tests|command_file_tests)|Posix|Hostile'
 }
 
-# Each test in a process of its own, as what is made once is made once in a process.
+# Each test in a process of its own, because some things are created only once in a process.
 threads() {
   scripts/build.sh tsan --target field_tests --target host_tests --target vif_tests
   ctest --preset tsan --parallel "$(nproc)" -R 'Thread|Concurrent' --repeat until-fail:20
@@ -70,9 +69,9 @@ done
 for part in "${parts[@]}"; do
   echo "==> ${part^}"
   set +e
-  (set -e; "$part")  # what fails in it ends it, but not the parts behind it
+  (set -e; "$part")  # a failure ends this part, but not the parts after it
   result=$?
   set -e
-  [ $result -eq 0 ] || { echo "==> ${part^} has found something" >&2; status=1; }
+  [ $result -eq 0 ] || { echo "==> ${part^} found something" >&2; status=1; }
 done
 exit $status

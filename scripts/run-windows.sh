@@ -7,8 +7,8 @@ source "$(dirname "${BASH_SOURCE[0]}")/wine.sh"
 make_wine_prefix
 if [ -t 1 ]; then exec wine "$@"; fi
 
-# Through files: what Wine starts beside a program, such as its desktop, keeps the program's output open, and whoever reads
-# it from a pipe would wait for its end in vain.
+# The output goes through files: processes that Wine starts beside a program, such as its desktop, keep the program's
+# output open, so that a reader of a pipe would wait for its end forever.
 said=$(mktemp -d)
 trap 'rm -rf "$said"' EXIT
 status=0

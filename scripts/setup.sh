@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Installs the packages that a task needs and this system lacks, by apt, as root or with sudo. Where there is no apt, it
-# says what is needed and installs nothing.
+# Installs the packages that a task needs and this system lacks, with apt, as root or with sudo. Without apt it only
+# says what is needed.
 #
 #   scripts/setup.sh build | test | check | windows | arm64 | package | bench
 #
-# "test" includes "build", "check" includes both, "windows" and "arm64" are for building and testing for other systems,
-# "package" is for making the packages of Linux and Windows, "bench" for measuring. CXX and CXXFLAGS choose the compiler
-# and the standard library, as they do for CMake: CXX=clang++ CXXFLAGS=-stdlib=libc++.
+# "test" includes "build", and "check" includes both. "windows" and "arm64" are for building and testing for other
+# systems, "package" for building the packages for Linux and Windows, "bench" for measuring. CXX and CXXFLAGS choose
+# the compiler and the standard library, as they do for CMake: CXX=clang++ CXXFLAGS=-stdlib=libc++.
 set -euo pipefail
 
 task=${1:-}
@@ -17,10 +17,10 @@ esac
 
 if ! command -v apt-get >/dev/null; then
   cat >&2 <<'END'
-==> This system has no apt: its own packages must provide what is missing.
+==> This system has no apt. Install what is missing from its own packages.
     To build: g++ 12 or clang++ 14, CMake 3.25, Ninja, libxml2 2.9.10 with its headers, CLI11, nlohmann-json 3.11
     To test: GoogleTest with GoogleMock, pkg-config, Python 3
-    For anything else: what scripts/setup.sh lists by Debian's names
+    For other tasks: the packages that scripts/setup.sh lists, under their Debian names
 END
   exit 0
 fi
@@ -33,7 +33,7 @@ else
   as_root=(cannot_install)
 fi
 cannot_install() {
-  echo "These packages are missing: ${missing[*]:-unknown, as there are no lists of packages}" >&2
+  echo "These packages are missing: ${missing[*]:-unknown, because there are no package lists}" >&2
   echo "Install them as root, or install sudo." >&2
   exit 1
 }
@@ -48,7 +48,7 @@ case ${CXX:-g++} in
 esac
 if [[ ${CXXFLAGS:-} == *-stdlib=libc++* ]]; then
   compiler_packages+=(libc++-dev libc++abi-dev)
-  googletest_packages=(googletest)  # the sources, as the libraries are built for libstdc++
+  googletest_packages=(googletest)  # the sources, because the libraries are built for libstdc++
 fi
 
 header_packages=(libcli11-dev nlohmann-json3-dev)
@@ -59,11 +59,11 @@ case $task in
   build) wanted=("${build_packages[@]}") ;;
   test) wanted=("${test_packages[@]}") ;;
   check)
-    # A fresh system has no lists that could be asked for versions.
+    # A fresh system has no package lists to look versions up in.
     [ -n "$(apt-cache madison clang)" ] || update_lists
     clang=$(apt-cache depends clang | grep -om 1 'clang-[0-9]*')
     wanted=("${test_packages[@]}" clang clang-format clang-tidy cppcheck "lib${clang/-/-rt-}-dev" llvm)
-    # Where there is a newer one that is twice as fast, that; both find nothing in what is committed.
+    # A newer clang-tidy, where there is one, is twice as fast; both report nothing for what is committed.
     [ -z "$(apt-cache madison clang-tidy-22)" ] || wanted+=(clang-tidy-22)
     ;;
   windows) wanted=("${windows_packages[@]}") ;;
@@ -82,6 +82,6 @@ done
 
 echo "==> Installing ${missing[*]}"
 [ "$task" != arm64 ] || "${as_root[@]}" dpkg --add-architecture arm64
-# The lists may be missing or old.
+# The package lists may be missing or old.
 update_lists
 "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null

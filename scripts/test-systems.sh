@@ -1,12 +1,11 @@
 #!/usr/bin/env bash
-# Makes a bare system of each kind in a chroot, runs ./run.sh and ./test.sh there on what is committed here, and prints
-# what came of it as a table. Fails when one of them does.
+# Creates a bare system of each kind in a chroot, runs ./run.sh and ./test.sh there on what is committed here, and
+# prints a table of the outcomes. Fails when a system fails.
 #
-#   scripts/test-systems.sh [NAME...]     all systems unless some are named; needs root and debootstrap
+#   scripts/test-systems.sh [NAME...]     all systems by default; needs root and debootstrap
 #
-# The systems, with what is built in them, and the logs stay in VENDORINFOFILE_SYSTEMS, which is build/systems unless
-# set; remove it to begin anew. Packages come from the archive that this machine's apt uses for Debian, or from
-# VENDORINFOFILE_MIRROR.
+# The systems with their builds, and the logs, stay in VENDORINFOFILE_SYSTEMS, by default build/systems; remove it to
+# start afresh. Packages come from the archive that this machine's apt uses for Debian, or from VENDORINFOFILE_MIRROR.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -31,7 +30,7 @@ test_libcxx() {
   test_all
 }
 
-# Under an emulator not everything can be run in reasonable time.
+# Under an emulator, running everything would take too long.
 test_arm64() {
   scripts/setup.sh arm64
   scripts/build.sh arm64 -DVENDORINFOFILE_BUILD_TESTS=ON --target vif --target field_tests \
@@ -48,7 +47,7 @@ fail() { echo "$*" >&2; exit 2; }
 [ "$(id -u)" -eq 0 ] || fail "chroot needs root"
 command -v debootstrap >/dev/null || fail "debootstrap is missing; Debian has a package of that name"
 
-# The archive that has what this machine's own release is made of.
+# The archive of this machine's own release.
 find_mirror() {
   local codename
   codename=$(. /etc/os-release && echo "${VERSION_CODENAME:-}")
@@ -58,7 +57,7 @@ find_mirror() {
 mirror=${VENDORINFOFILE_MIRROR:-$(find_mirror)}
 [ -n "$mirror" ] || fail "This machine's apt has no Debian archive; name one in VENDORINFOFILE_MIRROR"
 
-# Runs a command in a system. The mounts are in a name space that ends with the command, however it ends.
+# Runs a command in a system. The mounts are in a namespace that ends with the command, however that ends.
 inside() {
   local root=$1
   shift
@@ -72,12 +71,12 @@ make_system() {
   rm -rf "$root"
   debootstrap --variant=minbase --include=ca-certificates,git --arch="$architecture" "$suite" "$root" "$mirror"
   apt-config dump | grep -E '^Acquire::https?::Proxy' >"$root/etc/apt/apt.conf.d/proxy" || true
-  # What is tested there may be older than its lists are meant to get.
+  # Sid's package lists expire, and the archive may have older ones.
   [ "$suite" != sid ] || echo 'Acquire::Check-Valid-Until "false";' >"$root/etc/apt/apt.conf.d/old-lists"
   touch "$root/made"
 }
 
-# Keeps what is built there, so that only what has changed is built again.
+# Updates the system's copy of the repository and keeps its build, so that builds are incremental.
 copy_repository() {
   local there=$1/$copy
   [ -e "$there" ] || git clone --quiet --no-hardlinks "$source" "$there"
@@ -86,12 +85,12 @@ copy_repository() {
   rm -f "$there/build/report.xml"
 }
 
-# A count of the report, such as "failures"; - when there is none.
+# A count from the report, such as "failures"; - if there is none.
 count() { grep -o " $1=\"[0-9]*\"" "$2" 2>/dev/null | head -n 1 | grep -o '[0-9]*' || echo -; }
 
 print_row() { printf '%-16s %-14s %-9s %7s %7s %8s %8s  %s\n' "$@"; }
 
-# Tests one system and prints its row; what is said on the way is in its log.
+# Tests one system and prints its row; its output goes to its log.
 test_system() {
   local name=$1 suite=$2 architecture=$3 test=$4
   local root=$home/$name log=$home/$name.log begin=$SECONDS outcome=ok

@@ -1,27 +1,27 @@
-# Sourced by the scripts that run Windows programs under Wine: what they run in.
+# The environment of Windows programs under Wine, sourced by the scripts that run them.
 #
-# Wine keeps its files in WINEPREFIX; when that is not set, in a directory of this project's own, made on first use.
+# Wine keeps its files in WINEPREFIX. By default that is a directory of this project, created on first use.
 
 export WINEPREFIX=${WINEPREFIX:-$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)/build/wine}
 export WINEDEBUG=${WINEDEBUG:--all}
-# No offers to install what no test needs.
+# Keeps Wine from offering to install components that no test needs.
 export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml=}
 
-# Makes the prefix unless it is there.
+# Creates the prefix unless it exists.
 make_wine_prefix() {
   [ ! -e "$WINEPREFIX/made" ] || return 0
   mkdir -p "$WINEPREFIX"
   (
     flock 9
     [ ! -e "$WINEPREFIX/made" ] || exit 0
-    wine wineboot --init </dev/null >/dev/null 2>&1 9>&- || { echo "Wine cannot make $WINEPREFIX" >&2; exit 1; }
+    wine wineboot --init </dev/null >/dev/null 2>&1 9>&- || { echo "Wine cannot create $WINEPREFIX" >&2; exit 1; }
     wineserver -w
     touch "$WINEPREFIX/made"
   ) 9>"$WINEPREFIX.lock"
 }
 
-# Keeps Wine's server until the script ends. Otherwise each program that comes when the last one has gone starts it anew,
-# which takes longer and sometimes fails. A server that somebody else keeps serves, too.
+# Keeps Wine's server running until the script ends. Otherwise a program that starts after the last one has ended
+# restarts the server, which takes time and sometimes fails. A server that another script keeps running will do, too.
 keep_wine_server() {
   make_wine_prefix
   if wineserver -p </dev/null >/dev/null 2>&1; then

@@ -1,4 +1,4 @@
-"""What a Ninja build directory knows about its objects, libraries and test programs."""
+"""The objects, libraries and test programs of a Ninja build directory."""
 
 import json
 import shlex
@@ -6,15 +6,15 @@ import subprocess
 from dataclasses import dataclass
 from pathlib import Path
 
-# Optimising less saves the compiler's time; debug information is for nobody.
+# Optimising less saves compile time; nobody needs the debug information.
 _LESS = {"-O2": "-O1", "-O3": "-O1", "-g": "", "-g1": "", "-Werror": "-w"}
 
 
 @dataclass(frozen=True)
 class Linked:
-    """A library or program: what it is linked from and how."""
+    """A library or program: its inputs and its link command."""
 
-    path: str  # in the build directory, as all paths here
+    path: str  # relative to the build directory, like all paths here
     inputs: tuple[str, ...]
     needs: frozenset[str]  # everything that must be built before it, such as programs that it runs
     command: tuple[str, ...]
@@ -26,18 +26,18 @@ class Linked:
 
     @property
     def soname(self) -> str:
-        """The name under which programs look for a library; the file's name for a program."""
+        """The name under which programs load a library; for a program, its file name."""
         names = [part.split(",")[-1] for part in self.command if part.startswith("-Wl,-soname,")]
         return names[0] if names else self.name
 
     def command_for(self, output: Path, replaced: dict[str, Path]) -> list[str]:
-        """The command that links it as something else, with other files in the place of some objects."""
+        """The command that links it as `output`, with some objects replaced."""
         parts = [str(replaced.get(part, part)) for part in self.command]
         return [str(output) if part == self.path else part for part in parts]
 
 
 class Build:
-    """A build directory and the root of the sources it is made from. Nothing in either is changed."""
+    """A build directory and the root of its sources. Changes nothing in either."""
 
     def __init__(self, directory: Path, root: Path) -> None:
         self.directory = directory
@@ -46,7 +46,7 @@ class Build:
         self._objects_by_file = self._read_dependencies()
         targets = self._read_targets()
         self.libraries = [self._linked(path) for path, kind in targets.items() if "SHARED_LIBRARY" in kind]
-        # A program that has a file that lists its tests is a test program. Those that are not built are left out.
+        # A program with a file that lists its tests is a test program. Those that are not built are left out.
         self.programs = [
             self._linked(path)
             for path, kind in targets.items()
@@ -54,11 +54,11 @@ class Build:
         ]
 
     def objects_of(self, name: str) -> list[str]:
-        """The objects that are compiled from a source or include a header."""
+        """The objects that a source is compiled to or that include a header."""
         return self._objects_by_file.get(str(self._root / name), [])
 
     def compile_command(self, target: str, output: Path, tree: Path) -> list[str]:
-        """The command that compiles an object as something else, from another tree of sources."""
+        """The command that compiles an object as `output`, from another source tree."""
         parts = [_LESS.get(part, part) for part in self._compile_commands[target]]
         parts = [_moved(part, self._root, tree) for part in parts if part]
         return [str(output) if part == target else part for part in parts]
@@ -68,7 +68,7 @@ class Build:
         return subprocess.run(command, check=True, capture_output=True, text=True).stdout
 
     def _read_compile_commands(self) -> dict[str, list[str]]:
-        """The command of every object, without the way to it through a compiler cache."""
+        """The compile command of every object, which this file has without a compiler cache."""
         entries = json.loads((self.directory / "compile_commands.json").read_text(encoding="utf-8"))
         commands = [shlex.split(entry["command"]) for entry in entries]
         return {parts[parts.index("-o") + 1]: parts for parts in commands}
@@ -84,20 +84,20 @@ class Build:
         return objects
 
     def _read_targets(self) -> dict[str, str]:
-        """What is linked, with the rule for it."""
+        """Everything that is linked, with its rule."""
         lines = [line.rsplit(": ", 1) for line in self._ninja("targets", "all").splitlines()]
         return {path: rule for path, rule in lines if "_LINKER__" in rule}
 
     def _linked(self, path: str) -> Linked:
         needs = frozenset(self._ninja("inputs", path).splitlines())
-        # What follows is done with the program once it is linked, such as asking it for its tests.
+        # The commands that follow run the linked program, for instance to list its tests.
         command = self._ninja("commands", "-s", path).split(" && ")[1]
         parts = tuple(shlex.split(command))
         return Linked(path, tuple(part for part in parts if part in needs), needs, parts)
 
 
 def _moved(part: str, root: Path, tree: Path) -> str:
-    """A part of a command with another directory where it names one to look for sources in, or the source."""
+    """A part of a command, moved to another tree if it is an include directory or the source."""
     for option in ("", "-I"):
         if part.startswith(f"{option}{root}/"):
             return f"{option}{tree}{part.removeprefix(f'{option}{root}')}"

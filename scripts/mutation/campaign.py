@@ -1,4 +1,4 @@
-"""Tries mutants, several at once, and counts what becomes of them."""
+"""Tries mutants, several at once, and records the fate of each."""
 
 import itertools
 import shutil
@@ -15,7 +15,7 @@ from trial import DoesNotBuild, Failure, Trial
 
 
 class Fate(Enum):
-    """What becomes of a mutant."""
+    """The fate of a mutant."""
 
     CAUGHT = "caught"
     TIMED_OUT = "timed out, caught"
@@ -26,23 +26,23 @@ class Fate(Enum):
 
 @dataclass(frozen=True)
 class Result:
-    """A mutant and what has become of it."""
+    """A mutant and its fate."""
 
     mutant: Mutant
     fate: Fate
     failure: Failure | None = None
-    is_explained: bool = False  # as one that survives
+    is_explained: bool = False  # as a survivor
 
     @property
     def text(self) -> str:
         """The fate in words."""
         by = f" by {self.failure.program} {self.failure.test}".rstrip() if self.failure else ""
-        wrongly = ", although it is explained to survive" if self.is_explained and self.failure else ""
+        wrongly = ", although it is explained as a survivor" if self.is_explained and self.failure else ""
         return f"{self.fate.value}{by}{wrongly}"
 
 
 class Campaign:
-    """The trials of many mutants with one build."""
+    """Tries many mutants with one build."""
 
     def __init__(
         self,
@@ -89,8 +89,8 @@ class Campaign:
             shutil.rmtree(directory, ignore_errors=True)
 
     def _programs_for(self, mutant: Mutant, trial: Trial) -> Iterator[tuple[Linked, float]]:
-        """The test programs that the mutant is in, with the seconds they may take: those of its own layer first, then
-        those that take least."""
+        """The test programs that contain the mutant, with their time limits in seconds: those of its own layer first,
+        then the fastest."""
         folder = f"tests/{mutant.file.split('/')[0]}/"
         for program, seconds in sorted(self._programs, key=lambda timed: (folder not in timed[0].path, timed[1])):
             if trial.concerns(program):

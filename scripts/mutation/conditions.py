@@ -19,11 +19,11 @@ def condition_edits(text: str, tokens: list[Token]) -> Iterator[Edit]:
 
 
 def _edits_of(text: str, tokens: list[Token], opening: int) -> Iterator[Edit]:
-    """The edits of the condition behind an opening bracket."""
+    """The edits of the condition after an opening bracket."""
     closing = _closing(tokens, opening)
     outer = _outer_tokens(tokens[opening + 1 : closing])
     for token in (token for token in outer if token.text == ";"):
-        opening = tokens.index(token)  # what stands before it is a statement
+        opening = tokens.index(token)  # before it stands a statement
     outer = [token for token in outer if token.start > tokens[opening].start]
     if any(token.text == "=" for token in outer):
         return  # a declaration
@@ -37,8 +37,8 @@ def _edits_of(text: str, tokens: list[Token], opening: int) -> Iterator[Edit]:
 
 
 def _is_exit(statement: list[Token]) -> bool:
-    """Whether a statement, of which there are the first tokens, leaves what is around it: by a keyword or by a function
-    such as vif::ThrowRunTimeError."""
+    """Whether a statement, given by its first tokens, leaves the surrounding code: by a keyword or by a function such
+    as vif::ThrowRunTimeError."""
     throwing = statement[2] if statement[1].text == "::" else statement[0]
     return statement[0].text in _EXITS or throwing.text.startswith("Throw")
 
@@ -49,11 +49,11 @@ def _closing(tokens: list[Token], opening: int) -> int:
         depth += (tokens[index].text in _OPENING) - (tokens[index].text in _CLOSING)
         if depth == 0:
             return index
-    raise ValueError("a bracket is not closed")
+    raise ValueError("an unclosed bracket")
 
 
 def _outer_tokens(tokens: list[Token]) -> list[Token]:
-    """The tokens that are in no brackets."""
+    """The tokens outside all brackets."""
     outer: list[Token] = []
     depth = 0
     for token in tokens:
@@ -65,7 +65,7 @@ def _outer_tokens(tokens: list[Token]) -> list[Token]:
 
 
 def _has_opposite_by_token(outer: list[Token]) -> bool:
-    """Whether another mutant, of one token, makes the opposite of the condition."""
+    """Whether a mutant of one token already negates the condition."""
     texts = [token.text for token in outer]
     if "&&" in texts or "||" in texts:
         return False

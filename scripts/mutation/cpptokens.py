@@ -1,7 +1,7 @@
 """Cuts C++ source text into the tokens that a mutant may change.
 
-The sources are formatted by clang-format, so that the blanks around an operator say what it is: a comparison has one on
-either side, the bracket of a template argument does not.
+clang-format formats the sources, so the blanks around an operator say what it is: a comparison has one on either side,
+the bracket of a template argument does not.
 """
 
 import re
@@ -40,12 +40,12 @@ class Token:
 
     @property
     def is_binary(self) -> bool:
-        """Whether an operator stands between two operands, which is how it is formatted then."""
+        """Whether an operator stands between two operands: then blanks surround it."""
         return self.blank_before and self.blank_after
 
 
 def tokenize(text: str) -> list[Token]:
-    """The tokens of a source without its comments, preprocessor directives and what is for Windows only."""
+    """The tokens of a source without its comments, preprocessor directives and Windows-only code."""
     text = _blank_out(text)
     tokens: list[Token] = []
     position = 0
@@ -71,9 +71,9 @@ def _token(text: str, kind: str, start: int, end: int) -> Token:
 
 
 def _blank_out(text: str) -> str:
-    """The text with blanks, as many, for directives and for the lines that only Windows compiles."""
+    """The text with directives and Windows-only lines replaced by as many blanks."""
     result = text
-    groups: list[bool] = []  # of the open #ifs: whether the lines are for Windows only
+    groups: list[bool] = []  # for each open #if: whether its lines are for Windows only
     hidden_from = 0
     for directive in _DIRECTIVE.finditer(text):
         if any(groups):
@@ -85,7 +85,7 @@ def _blank_out(text: str) -> str:
 
 
 def _follow(directive: str, groups: list[bool]) -> None:
-    """Opens, turns or closes a group of lines."""
+    """Opens, switches or closes a group of lines."""
     conditional = _CONDITIONAL.match(directive)
     if conditional is None:
         return

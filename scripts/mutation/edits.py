@@ -1,11 +1,11 @@
-"""One change of a text."""
+"""One change to a text."""
 
 from dataclasses import dataclass
 
 
 @dataclass(frozen=True, order=True)
 class Edit:
-    """Puts `after` where `before` stands at `start`."""
+    """Replaces `before`, which stands at `start`, by `after`."""
 
     start: int
     before: str
@@ -13,7 +13,7 @@ class Edit:
 
     @property
     def end(self) -> int:
-        """Where what is replaced ends."""
+        """Where the replaced text ends."""
         return self.start + len(self.before)
 
     def apply(self, text: str) -> str:

@@ -1,4 +1,4 @@
-"""Changes the product in one place at a time and counts which changes the tests notice."""
+"""Mutation testing: changes the product in one place at a time and counts the changes that the tests catch."""
 
 import argparse
 import random
@@ -23,12 +23,12 @@ _KNOWN_SURVIVORS = Path(__file__).with_name("survivors.txt")
 def main() -> int:
     """Returns the exit status."""
     options = _options()
-    # The end by a signal is to remove what there is, too.
+    # Turn the signal into an exit, so that the temporary directory is removed.
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     with tempfile.TemporaryDirectory(prefix="vif-mutants-") as name:
         directory = Path(name)
-        directory.chmod(0o755)  # some tests give up the rights of the superuser
-        # A copy, so that work on the sources can go on.
+        directory.chmod(0o755)  # some tests drop root's privileges
+        # A copy, so that the sources may be edited meanwhile.
         shutil.copytree(_ROOT, directory / "sources", ignore=shutil.ignore_patterns(".git", "build"), symlinks=True)
         return 0 if _run(directory, options) else 1
 
@@ -51,11 +51,11 @@ def _options() -> argparse.Namespace:
     parser = argparse.ArgumentParser(prog="scripts/mutate.sh", description=__doc__)
     parser.add_argument("--build", type=Path, default=_ROOT / "build/release", help="build directory with the tests")
     parser.add_argument("--count", type=int, default=36, help="how many mutants to draw (36)")
-    parser.add_argument("--seed", type=int, default=1, help="which (1)")
-    parser.add_argument("--only", action="append", default=[], metavar="FILE[:LINE]", help="all of there instead")
-    parser.add_argument("--jobs", type=int, default=2, help="how many at once (2)")
-    parser.add_argument("--least", type=float, default=95, help="percentage of those not explained to be caught (95)")
-    parser.add_argument("--list", action="store_true", help="only say which mutants those are")
+    parser.add_argument("--seed", type=int, default=1, help="seed of the drawing (1)")
+    parser.add_argument("--only", action="append", default=[], metavar="FILE[:LINE]", help="try all mutants there")
+    parser.add_argument("--jobs", type=int, default=2, help="how many to try at once (2)")
+    parser.add_argument("--least", type=float, default=95, help="least percentage of unexplained mutants to catch (95)")
+    parser.add_argument("--list", action="store_true", help="only list the mutants")
     return parser.parse_args()
 
 
@@ -74,7 +74,7 @@ def _title(number: int, mutant: Mutant) -> str:
 def _explains_mutants_only(known: SurvivorList, mutants: list[Mutant]) -> bool:
     outdated = known.without_mutant(mutants)
     for survivor in outdated:
-        print(f"{_KNOWN_SURVIVORS.name} explains what is no mutant: {survivor.file}: {survivor.before}")
+        print(f"{_KNOWN_SURVIVORS.name} explains a mutant that no longer exists: {survivor.file}: {survivor.before}")
     return not outdated
 
 
@@ -89,7 +89,7 @@ def _try_all(
     except SelfCheckError as error:
         sys.exit(f"mutate.sh: {error}")
     taken = time.monotonic() - begin
-    print(f"{len(programs)} test programs pass and notice what is planted, {taken:.0f} s", flush=True)
+    print(f"{len(programs)} test programs pass, and fail with a planted error, {taken:.0f} s", flush=True)
     numbers = {id(mutant): number for number, mutant in drawn.items()}
     results = []
     campaign = Campaign(build, sources, directory, programs, known)
@@ -101,7 +101,7 @@ def _try_all(
 
 
 def _summarize(results: list[Result], least: float) -> bool:
-    """Prints the figures; false when they are bad."""
+    """Prints the figures. Returns false when too few mutants are caught, or an explained one is."""
     counts = Counter(result.fate for result in results)
     compiled = len(results) - counts[Fate.DOES_NOT_BUILD]
     caught = counts[Fate.CAUGHT] + counts[Fate.TIMED_OUT]
@@ -109,8 +109,8 @@ def _summarize(results: list[Result], least: float) -> bool:
         if result.fate is Fate.SURVIVED:
             print(f"{result.mutant.file}:{result.mutant.line} survived")
             print(f"- {result.mutant.before}\n+ {result.mutant.after}")
-    print(f"{compiled} compile, {caught} are caught ({counts[Fate.TIMED_OUT]} of them by the time they take), ", end="")
-    print(f"{counts[Fate.EXPLAINED]} survive and are explained, {counts[Fate.SURVIVED]} survive")
+    print(f"{compiled} compile, {caught} are caught ({counts[Fate.TIMED_OUT]} of them by the time limit), ", end="")
+    print(f"{counts[Fate.EXPLAINED]} survive and are explained, {counts[Fate.SURVIVED]} survive without an explanation")
     percent = 100 * caught / compiled if compiled else 100
     percent_of_others = 100 * caught / (compiled - counts[Fate.EXPLAINED]) if compiled > counts[Fate.EXPLAINED] else 100
     print(f"{percent:.1f} % of those that compile are caught, {percent_of_others:.1f} % of those not explained")

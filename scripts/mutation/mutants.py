@@ -1,4 +1,4 @@
-"""Finds all places of the product where one small change makes a mutant."""
+"""Finds all places in the product where one small change makes a mutant."""
 
 import re
 from collections.abc import Iterator
@@ -10,7 +10,7 @@ from cpptokens import Token, tokenize
 from edits import Edit
 
 LAYERS = ("field", "readers", "vif", "testsuite")
-# A table of names and places, which tests/field/KnownFieldsReference.h repeats, and its check at compile time.
+# A table of names and places, which tests/field/KnownFieldsReference.h repeats, with its compile-time check.
 DATA_FILES = ("field/KnownFields.cpp",)
 
 _SWAPS = {
@@ -42,7 +42,7 @@ _INTEGER = re.compile(r"(0[xX][\da-fA-F']+|\d[\d']*)([uUlLzZ]*)")
 
 @dataclass(frozen=True)
 class Mutant:
-    """One change of one file; `before` and `after` are the lines it touches, as one line each."""
+    """One change to one file; `before` and `after` are the lines that it touches, each joined into one line."""
 
     file: str
     line: int
@@ -73,16 +73,16 @@ def _mutants_of(root: Path, name: str) -> Iterator[Mutant]:
 
 
 def _without_fixed_parts(tokens: list[Token]) -> Iterator[Token]:
-    """Leaves out what a program cannot show or what does not compile when changed: template arguments, attributes,
+    """Leaves out what has no effect at run time or does not compile when changed: template arguments, attributes,
     static assertions and the names of operators."""
     index = 0
     while index < len(tokens):
         if tokens[index].text == "<" and not tokens[index].blank_after:
-            index = _behind_closing(tokens, index, "<", ">")
+            index = _after_closing(tokens, index, "<", ">")
         elif tokens[index].text == "[" and _is(tokens, index + 1, "["):
-            index = _behind_closing(tokens, index, "[", "]")
+            index = _after_closing(tokens, index, "[", "]")
         elif tokens[index].text == "static_assert":
-            index = _behind_closing(tokens, index + 1, "(", ")")
+            index = _after_closing(tokens, index + 1, "(", ")")
         elif tokens[index].text == "operator":
             index += 2
         else:
@@ -94,7 +94,7 @@ def _is(tokens: list[Token], index: int, text: str) -> bool:
     return index < len(tokens) and tokens[index].text == text
 
 
-def _behind_closing(tokens: list[Token], index: int, opening: str, closing: str) -> int:
+def _after_closing(tokens: list[Token], index: int, opening: str, closing: str) -> int:
     depth = 0
     while index < len(tokens):
         depth += (tokens[index].text == opening) - (tokens[index].text == closing)
@@ -112,7 +112,7 @@ def _token_edits(tokens: list[Token], index: int) -> Iterator[Edit]:
 
 
 def _replacements(token: Token) -> list[str]:
-    """What may stand in the place of one token."""
+    """What may replace one token."""
     if token.kind == "sign" and token.is_binary:
         return _SWAPS.get(token.text, [])
     if token.text in _STEPS:
@@ -129,7 +129,7 @@ def _replacements(token: Token) -> list[str]:
 
 
 def _joins_text(tokens: list[Token], index: int) -> bool:
-    """Whether a + joins a string literal to something, which no other operator does."""
+    """Whether a + concatenates a string literal, for which no other operator compiles."""
     return tokens[index].text == "+" and any(token.kind == "string" for token in tokens[index - 1 : index + 2])
 
 
@@ -143,7 +143,7 @@ def _other_number(text: str) -> list[str]:
 
 
 def _other_character(text: str) -> str:
-    """The next character for a letter or a digit, which may be the end of a range; a tilde for any other."""
+    """The next character for a letter or a digit, which may end a range; a tilde for any other."""
     prefix, content = text[: text.index("'")], text[text.index("'") + 1 : -1]
     other = chr(ord(content) + 1) if len(content) == 1 and content.isalnum() else "~"
     return f"{prefix}'{other}'"

@@ -1,4 +1,4 @@
-"""Runs programs that may do anything: go on for ever, take all memory, write without end or leave others behind."""
+"""Runs programs that may do anything: run forever, take all memory, write endlessly or leave processes behind."""
 
 import contextlib
 import os
@@ -20,20 +20,20 @@ class Outcome:
 
     status: int
     has_timed_out: bool
-    output: str  # the end of what it wrote, to both its streams
+    output: str  # the end of its output, both streams together
 
     @property
     def is_success(self) -> bool:
-        """Whether the program ended by itself and well."""
+        """Whether the program ended by itself with status 0."""
         return self.status == 0 and not self.has_timed_out
 
 
 def run_limited(
     command: list[str], directory: Path, seconds: float, environment: dict[str, str] | None = None
 ) -> Outcome:
-    """Runs a program, without input, and kills it with all that it has started when it has not ended in time. `seconds`
-    is the time of the processor, which other programs cannot use up; the time of the clock may be three times that."""
-    # The first is the limit that ends a program by SIGXCPU, the second the one that kills it if it does not mind.
+    """Runs a program without input, and kills it and all processes it has started when it has not ended in time.
+    `seconds` is processor time, which other programs cannot use up; the wall-clock time may be three times that."""
+    # The soft limit ends a program with SIGXCPU; the hard one kills it if it ignores that.
     limits = [f"--cpu={int(seconds) + 1}:{int(seconds) + 5}", f"--as={_MEMORY}", "--core=0"]
     process = subprocess.Popen(
         ["prlimit", *limits, "--", *command],
@@ -52,7 +52,7 @@ def run_limited(
 
 
 class _OutputEnd:
-    """Reads what a program writes and keeps the end of it."""
+    """Reads a program's output and keeps the end of it."""
 
     def __init__(self, stream: IO[bytes]) -> None:
         self._stream = stream
@@ -61,7 +61,7 @@ class _OutputEnd:
         self._thread.start()
 
     def text(self) -> str:
-        """What there is once the program has ended. Another that it has started may still have its output open."""
+        """The output once the program has ended. A process that it has started may still have its output open."""
         self._thread.join(_LEFT_BEHIND_SECONDS)
         return self._end.decode("utf-8", "replace")
 
@@ -72,7 +72,7 @@ class _OutputEnd:
 
 
 def _ends_within(process: subprocess.Popen[bytes], seconds: float) -> bool:
-    """Waits for the process; whatever comes, nothing of its group is left afterwards."""
+    """Waits for the process; whatever happens, none of its group is left afterwards."""
     try:
         process.wait(seconds)
         return True

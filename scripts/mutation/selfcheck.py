@@ -1,4 +1,4 @@
-"""Whether the way in which mutants are built and tested shows what it is to show."""
+"""Checks that the tests pass without a mutant and fail with an obvious one, when built and run as mutants are."""
 
 import time
 from concurrent.futures import ThreadPoolExecutor
@@ -9,20 +9,20 @@ from mutants import LAYERS
 from trial import Trial
 
 _SECONDS = 300
-# Ends every program that loads it.
+# Aborts every program that loads it.
 _PLANTED = "\n#include <cstdlib>\n[[maybe_unused]] static const bool isPlanted = (std::abort(), true);\n"
 
 
 class SelfCheckError(Exception):
-    """Figures would mean nothing."""
+    """The figures would mean nothing."""
 
 
 def measure_programs(build: Build, sources: Path, directory: Path, jobs: int) -> list[tuple[Linked, float]]:
-    """Runs the test programs against the product as it is, with a source of every layer compiled as mutants are.
+    """Runs the test programs against the unchanged product, with a source of every layer compiled as mutants are.
 
-    Returns the programs that the product has a part in, with the seconds that each took.
+    Returns the programs that use the product, with the seconds that each took.
 
-    Raises SelfCheckError when one of them fails, or passes although a source is planted that ends it.
+    Raises SelfCheckError when one of them fails, or passes although a planted source aborts it.
     """
     files = [sorted((sources / layer).glob("*.cpp"))[0] for layer in LAYERS]
     texts = {str(file.relative_to(sources)): file.read_text(encoding="utf-8") for file in files}
@@ -37,7 +37,7 @@ def _times(trial: Trial, programs: list[Linked], jobs: int) -> dict[Linked, floa
         begin = time.monotonic()
         outcome = trial.run(program, _SECONDS)
         if not outcome.is_success:
-            raise SelfCheckError(f"{program.name} fails with the product as it is:\n{outcome.output}")
+            raise SelfCheckError(f"{program.name} fails with the unchanged product:\n{outcome.output}")
         return time.monotonic() - begin
 
     trial.link_libraries()
@@ -52,4 +52,4 @@ def _require_failures(trial: Trial, programs: list[Linked], jobs: int) -> None:
         outcomes = list(pool.map(lambda program: trial.run(program, _SECONDS), programs))
     for program, outcome in zip(programs, outcomes, strict=True):
         if outcome.is_success:
-            raise SelfCheckError(f"{program.name} passes with a product that ends every program")
+            raise SelfCheckError(f"{program.name} passes with a product that aborts every program")

@@ -1,4 +1,4 @@
-"""The mutants that are known to survive, each with the reason."""
+"""The mutants that are known to survive, each with an explanation."""
 
 from dataclasses import dataclass
 from pathlib import Path
@@ -8,7 +8,7 @@ from mutants import Mutant
 
 @dataclass(frozen=True)
 class Survivor:
-    """A mutant by its lines, which say more than numbers and stay when others move them."""
+    """A mutant identified by its lines, which say more than line numbers and do not change when the lines move."""
 
     file: str
     before: str
@@ -16,8 +16,8 @@ class Survivor:
 
 
 class SurvivorList:
-    """What a text file lists: blocks of lines with a file, "- " and the line as it is, "+ " and the line as the mutant
-    has it, and the reason, with empty lines between the blocks. A block that begins with "#" is a comment."""
+    """The survivors in a text file. Each block has a file, "- " with the original line, "+ " with the mutant's line,
+    and the reason. Empty lines separate the blocks, and a block that begins with "#" is a comment."""
 
     def __init__(self, path: Path) -> None:
         blocks = [block.strip().splitlines() for block in path.read_text(encoding="utf-8").split("\n\n")]
@@ -25,11 +25,11 @@ class SurvivorList:
         self._reasons = dict(entries)
 
     def explains(self, mutant: Mutant) -> bool:
-        """Whether the list has the mutant."""
+        """Whether the list contains the mutant."""
         return _key(mutant) in self._reasons
 
     def without_mutant(self, mutants: list[Mutant]) -> list[Survivor]:
-        """The entries for which there is none of the mutants: the code has changed."""
+        """The entries that match none of the mutants: the code has changed."""
         keys = {_key(mutant) for mutant in mutants}
         return [survivor for survivor in self._reasons if survivor not in keys]
 
@@ -40,5 +40,5 @@ def _key(mutant: Mutant) -> Survivor:
 
 def _read_block(lines: list[str]) -> tuple[Survivor, str]:
     if len(lines) < 4 or not lines[1].startswith("- ") or not lines[2].startswith("+ "):
-        raise ValueError(f"not the description of a survivor with its reason: {lines}")
+        raise ValueError(f"not a survivor with its reason: {lines}")
     return Survivor(lines[0], lines[1][2:], lines[2][2:]), " ".join(lines[3:])

@@ -1,4 +1,4 @@
-"""Builds the product with some files changed, beside the build directory, and runs the tests against it."""
+"""Builds the product with some files changed, outside the build directory, and runs the tests against it."""
 
 import os
 import re
@@ -16,12 +16,12 @@ _BEGUN_TEST = re.compile(r"\[ RUN      \] ([\w/]+\.[\w/]+)")
 
 
 class DoesNotBuild(Exception):
-    """The changed sources do not compile, or what comes out does not link."""
+    """The changed sources do not compile, or their objects do not link."""
 
 
 @dataclass(frozen=True)
 class Failure:
-    """The test program that did not pass, and the test, where that is known."""
+    """The test program that failed, and the test, if known."""
 
     program: str
     test: str
@@ -29,8 +29,8 @@ class Failure:
 
 
 class Trial:
-    """The product with changed texts, the others being those in `sources`. All that is made is put into `directory`,
-    which is made, too."""
+    """The product with some texts changed; the others are those in `sources`. Everything is built in `directory`, which
+    is created, too."""
 
     def __init__(self, build: Build, sources: Path, directory: Path, texts: Mapping[str, str]) -> None:
         self._build = build
@@ -45,9 +45,9 @@ class Trial:
         self._libraries.mkdir()
 
     def link_libraries(self) -> None:
-        """Makes the libraries that any of the changed objects is in.
+        """Links the libraries that contain a changed object.
 
-        Raises DoesNotBuild when that is not possible.
+        Raises DoesNotBuild when that fails.
         """
         for library in self._build.libraries:
             if not self._objects & set(library.inputs):
@@ -58,13 +58,13 @@ class Trial:
                 (self._libraries / library.soname).symlink_to(library.name)
 
     def concerns(self, program: Linked) -> bool:
-        """Whether any of the changed objects is in the program or in what it runs or loads."""
+        """Whether the program, or anything it runs or loads, contains a changed object."""
         return bool(self._objects & program.needs)
 
     def run(self, program: Linked, seconds: float) -> Outcome:
         """Runs a test program with the changed objects up to its first failure.
 
-        Raises DoesNotBuild when the program cannot be made.
+        Raises DoesNotBuild when the program cannot be built.
         """
         path = self._build.directory / program.path
         if self._objects & set(program.inputs):
@@ -78,11 +78,11 @@ class Trial:
         )
 
     def first_failure(self, programs: Iterator[tuple[Linked, float]]) -> Failure | None:
-        """The first of the programs, each with its time, that does not pass."""
+        """The failure of the first program that fails. Each program comes with its time limit."""
         for program, seconds in programs:
             outcome = self.run(program, seconds)
             if not outcome.is_success:
-                # Where the program has crashed, the test in which it has.
+                # If the program has crashed, the test that was running.
                 tests = _FAILED_TEST.findall(outcome.output)[:1] or _BEGUN_TEST.findall(outcome.output)[-1:]
                 return Failure(program.name, "".join(tests), outcome.has_timed_out)
         return None
@@ -116,7 +116,7 @@ class Trial:
 
 
 def _make_tree(sources: Path, tree: Path, texts: Mapping[str, str]) -> None:
-    """A tree of sources that has its own directories for the changed texts and links for everything else."""
+    """Creates a source tree with directories of its own for the changed texts and links to everything else."""
     changed = {name.split("/")[0] for name in texts}
     tree.mkdir()
     for entry in sources.iterdir():

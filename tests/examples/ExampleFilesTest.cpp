@@ -1,4 +1,4 @@
-// What the example files promise: that everything in them is understood, and that the numbers agree with each other.
+// What the example files promise: everything in them is understood, and their numbers are consistent.
 #include "ExampleFolder.h"
 #include "VIFTextCheck.h"
 #include "VIFXmlCheck.h"
@@ -37,7 +37,7 @@ std::string Bytes(const std::filesystem::path& file) {
   return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-// The number of the only field of that name and place; nothing when there is none, or more than one.
+// The number of the only field of that name and location; nothing if there is none, or more than one.
 std::optional<std::uint64_t> Number(const Fields& fields, const char* name, const VifIndex& place = kAny) {
   std::optional<std::uint64_t> number;
   for (const CVIFField& field : fields) {
@@ -48,7 +48,7 @@ std::optional<std::uint64_t> Number(const Fields& fields, const char* name, cons
   return number;
 }
 
-// The numbers of the groups at a location inside the given place.
+// The numbers of the groups at a location within the given group.
 std::set<VifIndexNumber> Groups(const Fields& fields, EVifLocation location, const VifIndex& place = kAny) {
   std::set<VifIndexNumber> groups;
   for (const CVIFField& field : fields) {
@@ -57,7 +57,7 @@ std::set<VifIndexNumber> Groups(const Fields& fields, EVifLocation location, con
   return groups;
 }
 
-// The numbers 1 to count, where count is a field's number.
+// The numbers from 1 to the number of a field.
 std::set<VifIndexNumber> UpTo(std::optional<std::uint64_t> count) {
   std::set<VifIndexNumber> numbers;
   for (std::size_t i = 1; i <= count.value_or(0); ++i) numbers.insert(i);
@@ -79,13 +79,13 @@ class ExampleFile : public testing::TestWithParam<std::string> {
 class TextExampleFile : public ExampleFile {};
 class XmlExampleFile : public ExampleFile {};
 
-TEST_P(TextExampleFile, HasNoLineThatIsNotUnderstoodAndNoUnknownName) {
+TEST_P(TextExampleFile, HasOnlyUnderstoodLinesAndKnownNames) {
   std::vector<std::string> problems;
   CheckTextVif(ExampleVif(GetParam()), [&](const VifLineReport& report) { problems.emplace_back(report.text); });
   EXPECT_THAT(problems, IsEmpty());
 }
 
-TEST_P(XmlExampleFile, HasNoElementThatIsPassedOver) {
+TEST_P(XmlExampleFile, HasNoSkippedElement) {
   std::vector<std::string> passedOver;
   CheckXmlVif(ExampleVif(GetParam()), [&](const VifElementReport& report) {
     if (report.field == nullptr) passedOver.push_back(report.path);
@@ -115,14 +115,14 @@ TEST_P(ExampleFile, DeclaresNothingTwice) {
   }
 }
 
-TEST_P(ExampleFile, HasAsManyPdosAsItSays) {
+TEST_P(ExampleFile, HasAsManyPdosAsItStates) {
   for (const Fields& component : Components()) {
     EXPECT_EQ(Groups(component, eVifLocSrcPdo), UpTo(Number(component, "Num_Src_PDOs")));
     EXPECT_EQ(Groups(component, eVifLocSnkPdo), UpTo(Number(component, "Num_Snk_PDOs")));
   }
 }
 
-TEST_P(ExampleFile, HasAsManySvidsAndModesAsItSays) {
+TEST_P(ExampleFile, HasAsManySvidsAndModesAsItStates) {
   for (const Fields& component : Components()) {
     EXPECT_EQ(Groups(component, eVifLocSopSvid), UpTo(Number(component, "Num_SVIDs_Max_SOP")));
     for (const std::size_t svid : Groups(component, eVifLocSopSvid)) {
@@ -137,7 +137,7 @@ TEST_P(ExampleFile, HasAsManySvidsAndModesAsItSays) {
   }
 }
 
-TEST_P(ExampleFile, HasAsManyPcieEndpointsAsItsRoutersSay) {
+TEST_P(ExampleFile, HasAsManyPcieEndpointsAsItsRoutersState) {
   const VifFieldList fields = m_vif.GetFields();
   for (const std::size_t router : Groups(*fields, eVifLocRouter)) {
     const VifIndex place = {eVifLocRouter, router};
@@ -154,7 +154,7 @@ TEST_P(ExampleFile, HasTheRoutersThatItsPortsBelongTo) {
   }
 }
 
-// The format of text VIFs leaves it at "5000 mV"; editors of XML VIFs write "5000 mV (Factor = 50)" too.
+// In text VIFs the format stops at "5000 mV"; editors of XML VIFs also write "5000 mV (Factor = 50)".
 TEST_P(ExampleFile, SpellsOutItsMillivoltsMilliamperesAndMilliwatts) {
   for (const Fields& component : Components()) {
     for (const CVIFField& field : component) {
@@ -193,7 +193,7 @@ TEST_P(ExampleFile, StatesThePowerOfItsStrongestFixedPdo) {
   }
 }
 
-// The file's name, with underscores in place of what a test's name may not hold.
+// The name of the file, with underscores for characters that test names cannot contain.
 std::string TestName(const testing::TestParamInfo<std::string>& file) {
   std::string name = file.param;
   std::replace_if(

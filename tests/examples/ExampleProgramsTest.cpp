@@ -1,4 +1,4 @@
-// What all example programs have in common. What each of them prints is held by tests of its own.
+// What all example programs have in common. Separate tests check the output of each.
 #include "support/RunProgram.h"
 #include "support/TempDir.h"
 
@@ -10,7 +10,7 @@ namespace {
 
 class ExampleProgram : public testing::TestWithParam<const char*> {};
 
-TEST_P(ExampleProgram, TakesAFileWithANameOfAnyLanguage) {
+TEST_P(ExampleProgram, AcceptsAFileWithANameInAnyLanguage) {
   const testsupport::TempDir dir;
   const auto file = dir.Write(u8"Gr\u00F6\u00DFe \u96FB\u529B \U0001F50C.txt", "PID: 1\n");
   const testsupport::ProgramResult result = testsupport::RunProgram({GetParam(), testsupport::NameOf(file)});
@@ -18,7 +18,7 @@ TEST_P(ExampleProgram, TakesAFileWithANameOfAnyLanguage) {
   EXPECT_EQ(result.error, "");
 }
 
-TEST_P(ExampleProgram, NamesAFileThatIsNotThere) {
+TEST_P(ExampleProgram, NamesAMissingFile) {
   const testsupport::TempDir dir;
   const std::string file = testsupport::NameOf(dir.Path() / u8"Gr\u00F6\u00DFe \u96FB.txt");
   const testsupport::ProgramResult result = testsupport::RunProgram({GetParam(), file});

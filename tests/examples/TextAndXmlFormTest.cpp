@@ -1,4 +1,4 @@
-// In what the fields of a product's text VIF differ from those of its XML VIF, shown by the charger that has both.
+// How the fields of a product's text VIF differ from those of its XML VIF, shown with the charger that has both.
 #include "ExampleFolder.h"
 #include "VendorInfoFile.h"
 
@@ -16,7 +16,7 @@ namespace {
 
 using testing::ElementsAre;
 
-// Names a field alike in both forms: without the "$", and with the number of its PDO.
+// A name for a field that is the same in both forms: without the "$", and with the number of its PDO.
 std::string Key(const CVIFField& field) {
   const char* name = field.Name();
   std::string key = *name == '$' ? name + 1 : name;
@@ -35,7 +35,7 @@ struct Pair {
   CVIFField xml;
 };
 
-// The fields with a text for a value, such as `$Vendor_Name: "..."` and `<Vendor_Name>...</Vendor_Name>`.
+// The fields whose value is text, such as `$Vendor_Name: "..."` and `<Vendor_Name>...</Vendor_Name>`.
 bool IsString(const Pair& field) { return !field.text.IsNumeric(); }
 
 bool IsHexadecimal(const Pair& field) { return std::string_view(field.text.Value()).starts_with("0x"); }
@@ -68,7 +68,7 @@ TEST_F(TextAndXmlForm, HoldTheSameFields) {
   EXPECT_EQ(m_pairs.size(), m_text->size()) << "a key names two fields";
 }
 
-TEST_F(TextAndXmlForm, AgreeInAllOfAFieldButAStringAndAHexadecimalValue) {
+TEST_F(TextAndXmlForm, AgreeInEverythingButStringsAndHexadecimalValues) {
   for (const auto& [text, xml] : Pairs([](const Pair& pair) { return !IsString(pair) && !IsHexadecimal(pair); })) {
     EXPECT_STREQ(xml.Name(), text.Name());
     EXPECT_STREQ(xml.Value(), text.Value()) << text.Name();
@@ -79,7 +79,7 @@ TEST_F(TextAndXmlForm, AgreeInAllOfAFieldButAStringAndAHexadecimalValue) {
   }
 }
 
-TEST_F(TextAndXmlForm, DifferInHexadecimalValuesOnlyInThatXmlSaysThemInDecimal) {
+TEST_F(TextAndXmlForm, DifferInHexadecimalValuesOnlyInThatXmlHasThemInDecimal) {
   for (const auto& [text, xml] : Pairs(IsHexadecimal)) {
     EXPECT_EQ(xml.Value(), std::to_string(text.GetULongNumericValue())) << text.Name();
 
@@ -91,7 +91,7 @@ TEST_F(TextAndXmlForm, DifferInHexadecimalValuesOnlyInThatXmlSaysThemInDecimal) 
   }
 }
 
-TEST_F(TextAndXmlForm, HaveTheSameStringsNumericInNeither) {
+TEST_F(TextAndXmlForm, HaveTheSameStringsAndThoseAreNumericInNeither) {
   std::vector<std::string> names;
   for (const auto& [text, xml] : Pairs(IsString)) {
     names.emplace_back(xml.Name());
@@ -117,7 +117,7 @@ TEST_F(TextAndXmlForm, PutStringsInTheFilesHeaderOrTheComponentInXml) {
   }
 }
 
-// The description in text is the comment behind the string, of which XML has none.
+// The description in text is the comment after the string; XML has none.
 TEST_F(TextAndXmlForm, KeepAStringAsTheValueInTextAndAsTheDescriptionInXml) {
   const Pair& label = m_pairs["Port_Label"];
   EXPECT_STREQ(label.text.Value(), "C1");
@@ -133,8 +133,8 @@ TEST_F(TextAndXmlForm, KeepAStringAsTheValueInTextAndAsTheDescriptionInXml) {
   }
 }
 
-// These two are made from texts in XML, and keep them as value and description.
-TEST_F(TextAndXmlForm, SayVersionBeforeThatOfTheFormatInXmlOnly) {
+// In XML these two are assembled from texts, and have them as value and description.
+TEST_F(TextAndXmlForm, PrefixTheFormatVersionWithTheWordVersionInXmlOnly) {
   const auto& [text, xml] = m_pairs["VIF_Specification"];
   EXPECT_STREQ(text.Value(), "3.26");
   EXPECT_STREQ(text.Description(), "");
@@ -142,7 +142,7 @@ TEST_F(TextAndXmlForm, SayVersionBeforeThatOfTheFormatInXmlOnly) {
   EXPECT_STREQ(xml.Description(), "Version 3.26");
 }
 
-TEST_F(TextAndXmlForm, JoinTheProducerFromVendorNameAndVersionInXml) {
+TEST_F(TextAndXmlForm, AssembleTheProducerFromVendorNameAndVersionInXml) {
   const auto& [text, xml] = m_pairs["VIF_Producer"];
   EXPECT_STREQ(text.Value(), "VIF example, written by hand");
   EXPECT_STREQ(text.Description(), "");

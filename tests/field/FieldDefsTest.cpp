@@ -45,13 +45,13 @@ std::vector<std::string> NamesOfAllFields() {
   return names;
 }
 
-/// How many definitions fit the name.
-std::ptrdiff_t FittingDefinitions(const std::string& name) {
+/// How many definitions match the name.
+std::ptrdiff_t MatchingDefinitions(const std::string& name) {
   return std::count_if(GetVifFieldDefs().begin(), GetVifFieldDefs().end(),
                        [&](const VifFieldDef& definition) { return Matches(name, definition.pattern); });
 }
 
-TEST(FieldDefs, Number271) { EXPECT_EQ(GetVifFieldDefs().size(), 271U); }
+TEST(FieldDefs, Are271) { EXPECT_EQ(GetVifFieldDefs().size(), 271U); }
 
 TEST(FieldDefs, StartWithTheSpecification) {
   EXPECT_STREQ(GetVifFieldDefs().front().name, L"VIF_Specification");
@@ -94,7 +94,7 @@ TEST(FieldDefs, HaveTheReferenceNumberOfCaptureGroups) {
   }
 }
 
-TEST(FieldDefs, FitTheirOwnNames) {
+TEST(FieldDefs, MatchTheirOwnNames) {
   ASSERT_EQ(GetVifFieldDefs().size(), std::size(kReferenceFields));
   for (size_t i = 0; i < std::size(kReferenceFields); ++i) {
     for (const std::string& name : reference::NamesOf(kReferenceFields[i])) {
@@ -120,7 +120,7 @@ TEST(FieldDefs, CaptureWhatTheReferencePatternsDo) {
   }
 }
 
-TEST(FieldDefs, FitWhatTheReferencePatternsFitAmongAllNames) {
+TEST(FieldDefs, MatchWhatTheReferencePatternsMatchAmongAllNames) {
   ASSERT_EQ(GetVifFieldDefs().size(), std::size(kReferenceFields));
   const std::vector<std::string> names = NamesOfAllFields();
   for (size_t i = 0; i < std::size(kReferenceFields); ++i) {
@@ -132,7 +132,7 @@ TEST(FieldDefs, FitWhatTheReferencePatternsFitAmongAllNames) {
   }
 }
 
-TEST(FieldDefs, FitWhatTheReferencePatternsFitAmongChangedNames) {
+TEST(FieldDefs, MatchWhatTheReferencePatternsMatchAmongChangedNames) {
   SCOPED_TRACE(testsupport::SeedMessage());
   std::mt19937_64 generator = testsupport::SeededGenerator();
   ASSERT_EQ(GetVifFieldDefs().size(), std::size(kReferenceFields));
@@ -148,7 +148,7 @@ TEST(FieldDefs, FitWhatTheReferencePatternsFitAmongChangedNames) {
   }
 }
 
-TEST(FieldDefs, AreNotFoundWithinALongerText) {
+TEST(FieldDefs, DoNotMatchWithinALongerText) {
   ASSERT_EQ(GetVifFieldDefs().size(), std::size(kReferenceFields));
   for (size_t i = 0; i < std::size(kReferenceFields); ++i) {
     const std::wregex& pattern = GetVifFieldDefs()[i].pattern;
@@ -159,19 +159,19 @@ TEST(FieldDefs, AreNotFoundWithinALongerText) {
   }
 }
 
-TEST(FieldDefs, FitNoNameTwice) {
-  for (const std::string& name : NamesOfAllFields()) EXPECT_EQ(FittingDefinitions(name), 1) << name;
+TEST(FieldDefs, NeverMatchTheSameName) {
+  for (const std::string& name : NamesOfAllFields()) EXPECT_EQ(MatchingDefinitions(name), 1) << name;
 }
 
-TEST(FieldDefs, RegardLetterCase) {
-  EXPECT_EQ(FittingDefinitions("Vendor_Name"), 1);
-  EXPECT_EQ(FittingDefinitions("vendor_name"), 0);
-  EXPECT_EQ(FittingDefinitions("VENDOR_NAME"), 0);
+TEST(FieldDefs, AreCaseSensitive) {
+  EXPECT_EQ(MatchingDefinitions("Vendor_Name"), 1);
+  EXPECT_EQ(MatchingDefinitions("vendor_name"), 0);
+  EXPECT_EQ(MatchingDefinitions("VENDOR_NAME"), 0);
 }
 
 TEST(FieldDefs, AreTheSameObjectOnEveryCall) { EXPECT_EQ(&GetVifFieldDefs(), &GetVifFieldDefs()); }
 
-TEST(FieldDefs, AreCopiedWithoutBeingChanged) {
+TEST(FieldDefs, AreNotChangedByCopying) {
   std::vector<VifFieldDef> copy = GetVifFieldDefs();
   EXPECT_EQ(copy[230].name, GetVifFieldDefs()[230].name);
   EXPECT_EQ(copy[230].locations, GetVifFieldDefs()[230].locations);
@@ -184,17 +184,17 @@ TEST(FieldDefs, AreCopiedWithoutBeingChanged) {
   EXPECT_EQ(GetVifFieldDefs().size(), 271U);
 }
 
-TEST(FieldDefs, AreAppliedByManyThreadsAtOnce) {
+TEST(FieldDefs, MayBeUsedByManyThreadsAtOnce) {
   std::array<std::ptrdiff_t, 8> fitting{};
   std::vector<std::thread> threads;
   for (std::ptrdiff_t& count : fitting) {
-    threads.emplace_back([&count] { count = FittingDefinitions("SVID1_Mode2_Enter_SOP"); });
+    threads.emplace_back([&count] { count = MatchingDefinitions("SVID1_Mode2_Enter_SOP"); });
   }
   for (std::thread& thread : threads) thread.join();
   for (const std::ptrdiff_t count : fitting) EXPECT_EQ(count, 1);
 }
 
-/// Whether the table was built under the classic locale although another one has been the global one since.
+/// Whether the table was built under the classic locale although another has since become the global one.
 bool IsBuiltUnderTheClassicLocale() {
   std::locale::global(testsupport::Latin1Locale());
   const auto& definitions = GetVifFieldDefs();
@@ -203,8 +203,8 @@ bool IsBuiltUnderTheClassicLocale() {
   });
 }
 
-// A regular expression keeps the global locale of the moment in which it was compiled. So a new process that changes
-// the locale before its first call sees whether the table was there before.
+// A regular expression keeps the global locale in force when it was compiled. So a new process that changes the locale
+// before its first call can tell whether the table existed before.
 TEST(FieldDefsDeathTest, AreBuiltBeforeTheFirstCall) {
   testing::FLAGS_gtest_death_test_style = "threadsafe";
   EXPECT_EXIT(std::exit(IsBuiltUnderTheClassicLocale() ? 0 : 1), testing::ExitedWithCode(0), "");

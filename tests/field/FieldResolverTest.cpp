@@ -28,8 +28,8 @@ using Table = std::vector<VifFieldDef>;
 
 constexpr std::uint32_t kComponent = 5;
 
-/// A resolved name as its canonical name and its three slots, `-` for a slot not in use and for a missing number;
-/// a name that no definition knows with a question mark in front.
+/// A resolved name as its canonical name and its three slots, with `-` for an unused slot and a missing number, and a
+/// leading question mark if no definition knows the name.
 std::string Text(const vif::ResolvedName& resolved) {
   std::string text = resolved.isKnown ? "" : "?";
   text += resolved.name;
@@ -55,7 +55,7 @@ Table Recompiled() {
   return table;
 }
 
-/// The built-in table in its guises: as none, as itself, as a copy, and as a table of the caller's own.
+/// The built-in table in all its forms: null, itself, a copy, and a table of the caller's own.
 class BuiltInTable : public testing::TestWithParam<const char*> {
  protected:
   std::string Resolve(std::string_view name, std::uint32_t component = kComponent) const {
@@ -71,12 +71,12 @@ class BuiltInTable : public testing::TestWithParam<const char*> {
 INSTANTIATE_TEST_SUITE_P(As, BuiltInTable, testing::Values("None", "Itself", "Copy", "Recompiled"),
                          [](const auto& guise) { return std::string(guise.param); });
 
-TEST_P(BuiltInTable, TakesTheNumberOutOfTheName) {
+TEST_P(BuiltInTable, ExtractsTheNumberFromTheName) {
   EXPECT_EQ(Resolve("Src_PDO_Voltage2"), "Src_PDO_Voltage 6.5 7.2 -");
   EXPECT_EQ(Resolve("Snk_PDO_Voltage12"), "Snk_PDO_Voltage 6.5 8.12 -");
 }
 
-TEST_P(BuiltInTable, LeavesTheNumberOpenWithoutDigits) {
+TEST_P(BuiltInTable, LeavesTheNumberUnsetWithoutDigits) {
   EXPECT_EQ(Resolve("Src_PDO_Voltage"), "Src_PDO_Voltage 6.5 7.- -");
   EXPECT_EQ(Resolve("SVID_Mode_Enter"), "SVID_Mode_Enter 6.5 11.- 12.-");
   EXPECT_EQ(Resolve("SVID1_Mode_Enter"), "SVID_Mode_Enter 6.5 11.1 12.-");
@@ -89,7 +89,7 @@ TEST_P(BuiltInTable, GivesTheFirstNumberToTheOuterGroupAndTheSecondToTheInner) {
   EXPECT_EQ(Resolve("SVID3_Mode2_Recog_Value"), "SVID_Mode_Recog_Value 6.5 11.3 12.2");
 }
 
-TEST_P(BuiltInTable, TakesTheNumberBehindEndpointForTheRouters) {
+TEST_P(BuiltInTable, TreatsTheNumberAfterEndpointAsTheRouters) {
   EXPECT_EQ(Resolve("USB4_PCIe_Endpoint1_Device_ID4"), "USB4_PCIe_Endpoint_Device_ID 3.0 4.1 5.4");
   EXPECT_EQ(Resolve("USB4_PCIe_Endpoint1_Vendor_ID2"), "USB4_PCIe_Endpoint_Vendor_ID 3.0 4.1 5.2");
 }
@@ -101,13 +101,13 @@ TEST_P(BuiltInTable, NumbersTheVifAndTheProductZero) {
   EXPECT_EQ(Resolve("USB4_Dock"), "USB4_Dock 3.0 - -");
 }
 
-TEST_P(BuiltInTable, NumbersTheComponentAsTheReaderSays) {
+TEST_P(BuiltInTable, NumbersTheComponentAsTheReaderDoes) {
   EXPECT_EQ(Resolve("Port_Label", 1), "Port_Label 6.1 - -");
   EXPECT_EQ(Resolve("Port_Label", 0), "Port_Label 6.0 - -");
   EXPECT_EQ(Resolve("Port_Label", 0xFFFFFFFF), "Port_Label 6.4294967295 - -");
 }
 
-TEST_P(BuiltInTable, TakesTheRouterIndexForAComponentsField) {
+TEST_P(BuiltInTable, TreatsTheRouterIndexAsAComponentsField) {
   EXPECT_EQ(Resolve("USB4_Router_Index"), "USB4_Router_Index 6.5 - -");
   EXPECT_EQ(Resolve("USB4_Router_Index1"), "?USB4_Router_Index1 - - -");
   EXPECT_EQ(Resolve("USB4_Router_ID1"), "USB4_Router_ID 3.0 4.1 -");
@@ -120,7 +120,7 @@ TEST_P(BuiltInTable, ReadsNumbersInDecimalUpTo64Bits) {
   EXPECT_EQ(Resolve("Src_PDO_Voltage18446744073709551614"), "Src_PDO_Voltage 6.5 7.18446744073709551614 -");
 }
 
-TEST_P(BuiltInTable, LeavesANumberOfMoreThan64BitsOpen) {
+TEST_P(BuiltInTable, LeavesANumberOfMoreThan64BitsUnset) {
   EXPECT_EQ(Resolve("Src_PDO_Voltage18446744073709551616"), "Src_PDO_Voltage 6.5 7.- -");
   EXPECT_EQ(Resolve("SVID" + std::string(40, '9') + "_Mode2_Enter"), "SVID_Mode_Enter 6.5 11.- 12.2");
 }
@@ -131,24 +131,24 @@ TEST_P(BuiltInTable, KnowsTheCableControllerInBothSpellings) {
   EXPECT_EQ(Resolve("Cable_SOP'_Controller"), "?Cable_SOP'_Controller - - -");
 }
 
-TEST_P(BuiltInTable, KeepsTheMisspelledFieldApart) {
+TEST_P(BuiltInTable, KeepsTheMisspelledFieldSeparate) {
   EXPECT_EQ(Resolve("Active_Cable_Optically_Isolated"), "Active_Cable_Optically_Isolated 6.5 - -");
   EXPECT_EQ(Resolve("Active_Cable_Optically_Isololated"), "Active_Cable_Optically_Isololated 6.5 - -");
 }
 
-TEST_P(BuiltInTable, GivesOptionalContentNoPlace) { EXPECT_EQ(Resolve("OptionalContent"), "OptionalContent - - -"); }
+TEST_P(BuiltInTable, GivesOptionalContentNoLocation) { EXPECT_EQ(Resolve("OptionalContent"), "OptionalContent - - -"); }
 
 TEST_P(BuiltInTable, LeavesAnUnknownNameAsWritten) {
   EXPECT_EQ(Resolve("My_Own_Field7"), "?My_Own_Field7 - - -");
   EXPECT_EQ(Resolve(""), "? - - -");
 }
 
-TEST_P(BuiltInTable, RegardsLetterCase) {
+TEST_P(BuiltInTable, IsCaseSensitive) {
   EXPECT_EQ(Resolve("vendor_name"), "?vendor_name - - -");
   EXPECT_EQ(Resolve("Vendor_Name"), "Vendor_Name 1.0 - -");
 }
 
-TEST_P(BuiltInTable, AsksForTheWholeName) {
+TEST_P(BuiltInTable, MatchesTheWholeName) {
   EXPECT_EQ(Resolve("Vendor_Names"), "?Vendor_Names - - -");
   EXPECT_EQ(Resolve(" Vendor_Name"), "? Vendor_Name - - -");
   EXPECT_EQ(Resolve("Vendor_Name\n"), "?Vendor_Name\n - - -");
@@ -159,7 +159,7 @@ TEST_P(BuiltInTable, AsksForTheWholeName) {
   EXPECT_EQ(Resolve("Src_PDO_Voltage#"), "?Src_PDO_Voltage# - - -");
 }
 
-TEST_P(BuiltInTable, KeepsUnknownBytesAsTheyAre) {
+TEST_P(BuiltInTable, KeepsUnknownBytesUnchanged) {
   EXPECT_EQ(Resolve("Vendor_N\xC3\xA4me"), "?Vendor_N\xC3\xA4me - - -");
   EXPECT_EQ(Resolve("Vendor_Name\xFF"), "?Vendor_Name\xFF - - -");
 }
@@ -168,18 +168,18 @@ TEST_P(BuiltInTable, KnowsOnlyAsciiDigits) {
   EXPECT_EQ(Resolve("Src_PDO_Voltage\xD9\xA3"), "?Src_PDO_Voltage\xD9\xA3 - - -");
 }
 
-TEST_P(BuiltInTable, DoesNotAskTheGlobalLocale) {
+TEST_P(BuiltInTable, IgnoresTheGlobalLocale) {
   const testsupport::CScopedGlobalLocale latin1(testsupport::Latin1Locale());
   EXPECT_EQ(Resolve("Src_PDO_Voltage2"), "Src_PDO_Voltage 6.5 7.2 -");
   EXPECT_EQ(Resolve("src_pdo_voltage2"), "?src_pdo_voltage2 - - -");
 }
 
-TEST_P(BuiltInTable, EndsOnANameOfAMillionCharacters) {
+TEST_P(BuiltInTable, TerminatesOnANameOfAMillionCharacters) {
   const std::string unknown(1'000'000, 'x');
   EXPECT_EQ(Resolve(unknown), "?" + unknown + " - - -");
 }
 
-TEST_P(BuiltInTable, IsAppliedByManyThreadsAtOnce) {
+TEST_P(BuiltInTable, MayBeUsedByManyThreadsAtOnce) {
   std::array<std::string, 8> results;
   std::vector<std::thread> threads;
   for (std::string& result : results) {
@@ -189,7 +189,7 @@ TEST_P(BuiltInTable, IsAppliedByManyThreadsAtOnce) {
   for (const std::string& result : results) EXPECT_EQ(result, "SVID_Mode_Recog_Mask_SOP 6.5 9.3 10.2");
 }
 
-TEST(FieldResolver, TakesANumberOfAMillionDigitsWithoutTryingThePatternsOfTheBuiltInTable) {
+TEST(FieldResolver, AcceptsANumberOfAMillionDigitsWithoutTryingTheBuiltInPatterns) {
   const std::string nines(1'000'000, '9');
   const std::string zeros(1'000'000, '0');
   for (const Table* table : {static_cast<const Table*>(nullptr), &VifFieldDefs::GetVifFieldDefs()}) {
@@ -198,12 +198,12 @@ TEST(FieldResolver, TakesANumberOfAMillionDigitsWithoutTryingThePatternsOfTheBui
   }
 }
 
-TEST(FieldResolver, ReadsNoDigitBehindTheName) {
+TEST(FieldResolver, ReadsNoDigitBeyondTheEndOfTheName) {
   const std::string_view longer = "Src_PDO_Voltage12";
   EXPECT_EQ(Resolved(nullptr, longer.substr(0, longer.size() - 1)), "Src_PDO_Voltage 6.5 7.1 -");
 }
 
-TEST(FieldResolver, LeavesNothingOfTheNameBefore) {
+TEST(FieldResolver, KeepsNothingOfThePreviousName) {
   const vif::CFieldResolver resolver(nullptr, kComponent);
   vif::ResolvedName resolved;
   resolver.Resolve("SVID3_Mode2_Enter_SOP", resolved);
@@ -241,7 +241,7 @@ TEST(OwnTable, IsTriedInItsOwnOrder) {
   EXPECT_EQ(Resolved(&oneFirst, "two"), "Any 1.0 - -");
 }
 
-TEST(OwnTable, MustFitTheWholeName) {
+TEST(OwnTable, MustMatchTheWholeName) {
   const Table table = {{L"Mine", std::wregex(L"Mine"), {}}};
   EXPECT_EQ(Resolved(&table, "Mine1"), "?Mine1 - - -");
   EXPECT_EQ(Resolved(&table, "aMine"), "?aMine - - -");
@@ -276,7 +276,7 @@ TEST(OwnTable, NumbersTheApplicationHeaderZero) {
   EXPECT_EQ(Resolved(&table, "Mine4"), "Mine 1.0 2.0 3.0");
 }
 
-/// What a definition with the two numbers of `Mine1_2` gives for one location.
+/// The result for one location of a definition with the two numbers of `Mine1_2`.
 std::string MineAt(EVifLocation location) {
   const Table table = {{L"Mine", std::wregex(L"Mine([0-9]*)_([0-9]*)"), {location}}};
   return Resolved(&table, "Mine1_2");
@@ -316,40 +316,40 @@ TEST(OwnTable, SkipsUnsetLocationsBetweenOthers) {
   EXPECT_EQ(Resolved(&before, "Mine4"), "Mine 7.4 - -");
 }
 
-TEST(OwnTable, LeavesTheNumberOpenWithoutSuchAGroup) {
+TEST(OwnTable, LeavesTheNumberUnsetWithoutSuchAGroup) {
   const Table none = {{L"Mine", std::wregex(L"Mine[0-9]*"), {eVifLocSrcPdo, eVifLocSopSvidMode}}};
   EXPECT_EQ(Resolved(&none, "Mine4"), "Mine 7.- 10.- -");
   const Table one = {{L"Mine", std::wregex(L"Mine([0-9]*)"), {eVifLocSopSvid, eVifLocSopSvidMode}}};
   EXPECT_EQ(Resolved(&one, "Mine4"), "Mine 9.4 10.- -");
 }
 
-TEST(OwnTable, LeavesTheNumberOpenWhenTheGroupCapturesNothing) {
+TEST(OwnTable, LeavesTheNumberUnsetWhenTheGroupCapturesNothing) {
   const Table table = {{L"Mine", std::wregex(L"Mine(?:a([0-9]*)|b([0-9]*))"), {eVifLocSopSvid, eVifLocSopSvidMode}}};
   EXPECT_EQ(Resolved(&table, "Minea1"), "Mine 9.1 10.- -");
   EXPECT_EQ(Resolved(&table, "Mineb2"), "Mine 9.- 10.2 -");
   EXPECT_EQ(Resolved(&table, "Minea"), "Mine 9.- 10.- -");
 }
 
-TEST(OwnTable, LeavesTheNumberOpenWhenTheGroupCapturesNoNumber) {
+TEST(OwnTable, LeavesTheNumberUnsetWhenTheGroupCapturesNoNumber) {
   const Table table = {{L"Mine", std::wregex(L"Mine(.*)"), {eVifLocSopSvid}}};
   for (const std::string& captured : {"x"s, "-1"s, "+1"s, " 1"s, "\xD9\xA3"s}) {
     EXPECT_EQ(Resolved(&table, "Mine" + captured), "Mine 9.- - -") << captured;
   }
 }
 
-TEST(OwnTable, LeavesANumberOfMoreThan64BitsOpen) {
+TEST(OwnTable, LeavesANumberOfMoreThan64BitsUnset) {
   const Table table = {{L"Mine", std::wregex(L"Mine([0-9]*)"), {eVifLocSopSvid}}};
   EXPECT_EQ(Resolved(&table, "Mine18446744073709551614"), "Mine 9.18446744073709551614 - -");
   EXPECT_EQ(Resolved(&table, "Mine18446744073709551616"), "Mine 9.- - -");
 }
 
-/// A definition with a location that does not exist, behind one that goes first.
+/// A definition with a location that does not exist, after one that matches first.
 Table TableWithLocation(std::int32_t value) {
   return {{L"First", std::wregex(L"Mine1"), {eVifLocVif}},
           {L"Mine", std::wregex(L"Mine([0-9]*)"), {eVifLocComponent, static_cast<EVifLocation>(value)}}};
 }
 
-TEST(OwnTable, FailsOnAnUnknownLocationAtTheFirstNameThatFits) {
+TEST(OwnTable, FailsOnAnUnknownLocationAtTheFirstNameThatMatches) {
   const Table table = TableWithLocation(13);
   const vif::CFieldResolver resolver(&table, kComponent);
   vif::ResolvedName resolved;
@@ -375,7 +375,7 @@ TEST(OwnTable, FailsOnAnUnknownLocationInEverySlot) {
   }
 }
 
-/// Resolves a name of 100,000 times "a" and `end` by a table of one pattern.
+/// Resolves a name of 100,000 times "a" followed by `end`, using a table of one pattern.
 std::string TextOfLongName(const wchar_t* pattern, const std::string& end = "") {
   const Table table = {{L"Long", std::wregex(pattern), {eVifLocComponent, eVifLocSrcPdo}}};
   vif::ResolvedName resolved;
@@ -383,7 +383,7 @@ std::string TextOfLongName(const wchar_t* pattern, const std::string& end = "") 
   return resolved.isKnown ? Text(resolved) : "unknown";
 }
 
-/// The code of the error in which resolving a long name ends; nothing when it has an answer.
+/// The code of the error that resolving a long name throws; nothing if it succeeds.
 std::optional<std::regex_constants::error_type> ErrorOnLongName(const wchar_t* pattern) {
   try {
     TextOfLongName(pattern);
@@ -410,17 +410,17 @@ TEST(OwnTable, ResolvesLongNamesOnASmallStack) { testsupport::RunOnSmallStack(Ex
 
 #endif
 
-TEST(OwnTable, FailsOnLongNamesWhereAPatternRefersBackOnASmallStack) {
+TEST(OwnTable, FailsOnLongNamesWhenAPatternHasABackReferenceOnASmallStack) {
   testsupport::RunOnSmallStack([] { EXPECT_EQ(ErrorOnLongName(L"(a)\\1*"), std::regex_constants::error_stack); });
 }
 
-TEST(OwnTable, RefersBackAsFarAsTheStackGoes) {
+TEST(OwnTable, FollowsBackReferencesAsFarAsTheStackAllows) {
   const Table table = {{L"Twice", std::wregex(L"(a)\\1.*"), {}}};
   testsupport::RunOnStack(testsupport::kOrdinaryStack,
                           [&] { EXPECT_EQ(Resolved(&table, std::string(3000, 'a')), "Twice - - -"); });
 }
 
-TEST(OwnTable, EndsOnAPatternThatGoesDeepWithoutReadingAnything) {
+TEST(OwnTable, TerminatesOnAPatternThatRecursesDeeplyWithoutReadingAnything) {
   const std::wregex deep(L"(?:()+){9000}Abc");
   for (const std::size_t stack : {testsupport::kSmallStack, testsupport::kOrdinaryStack}) {
     testsupport::RunOnStack(stack, [&] {
@@ -434,7 +434,7 @@ TEST(OwnTable, EndsOnAPatternThatGoesDeepWithoutReadingAnything) {
   }
 }
 
-TEST(OwnTable, IsStillOfUseAfterSuchAFailure) {
+TEST(OwnTable, RemainsUsableAfterSuchAFailure) {
   const Table table = {{L"Long", std::wregex(L"(.)\\1.*"), {}}};
   const vif::CFieldResolver resolver(&table, kComponent);
   vif::ResolvedName resolved;
@@ -457,7 +457,7 @@ TEST(CopiedTable, ResolvesLongNames) {
   });
 }
 
-TEST(CopiedTable, MayGiveItsDefinitionsOtherNamesAndPlaces) {
+TEST(CopiedTable, MayGiveItsDefinitionsOtherNamesAndLocations) {
   Table table = VifFieldDefs::GetVifFieldDefs();
   for (VifFieldDef& definition : table) {
     definition.name = L"Other";
@@ -476,7 +476,7 @@ TEST(CopiedTable, MayHaveOtherPatternsUnderTheOldNames) {
   EXPECT_EQ(Resolved(&table, "TID"), Resolved(nullptr, "TID"));
   std::swap(table[0].pattern, table[1].pattern);
   EXPECT_EQ(Resolved(&table, "VIF_Producer"), "VIF_Specification 1.0 - -");
-  table[5].pattern.imbue(std::locale::classic());  // which empties it
+  table[5].pattern.imbue(std::locale::classic());  // which clears it
   EXPECT_EQ(Resolved(&table, "TID"), "Active_Cable_Shutdown_Temp_Support 6.5 - -");
 }
 
@@ -489,7 +489,7 @@ TEST(CopiedTable, IsTriedInItsOwnOrder) {
   EXPECT_EQ(Resolved(&table, "TID"), "First - - -");
 }
 
-TEST(CopiedTable, TakesTheFirstOfSeveralCopies) {
+TEST(CopiedTable, UsesTheFirstOfSeveralCopies) {
   const VifFieldDef tid = VifFieldDefs::GetVifFieldDefs()[5];
   Table table = {tid, tid, tid};
   table[0].name = L"One";

@@ -68,16 +68,16 @@ static_assert(std::is_same_v<decltype(std::declval<const CVIFField&>().MakeOutpu
 static_assert(std::is_nothrow_move_constructible_v<CVIFField>);
 static_assert(std::is_nothrow_move_assignable_v<CVIFField>);
 
-// Too long to be held inside a string object.
+// Too long for the small-string buffer.
 const std::string kLongName(200, 'N');
 
 /// A numeric field with that value.
 CVIFField Number(const std::string& value) { return {true, "Number", value, kUnused, kUnused, kUnused}; }
 
-/// What a numeric value's text stands for.
+/// The number that a numeric field reads from the text.
 std::uint64_t NumberOf(const std::string& value) { return Number(value).GetULongNumericValue(); }
 
-/// A field of that name without a place.
+/// A field of that name without a location.
 CVIFField Named(const std::string& name) { return {false, name, "", kUnused, kUnused, kUnused}; }
 
 bool NameMatches(const std::string& name, const char* pattern) {
@@ -131,7 +131,7 @@ TEST(Field, KeepsADescriptionOfItsOwn) {
   EXPECT_STREQ(CVIFField(true, "name", "12", "", slots).Description(), "");
 }
 
-TEST(Field, HoldsWhatEveryConstructorWasGiven) {
+TEST(Field, HoldsTheArgumentsOfEveryConstructor) {
   const Slots slots = {{{eVifLocComponent, 1}, {eVifLocSopSvid, 2}, {eVifLocSopSvidMode, 3}}};
   for (const bool isNumeric : {true, false}) {
     for (const CVIFField& field :
@@ -148,7 +148,7 @@ TEST(Field, HoldsWhatEveryConstructorWasGiven) {
   }
 }
 
-/// A text as values are, and as they are not.
+/// A random text, like real values or unlike them.
 std::string RandomText(std::mt19937_64& generator) {
   const std::array texts = {""s,
                             "12"s,
@@ -170,7 +170,7 @@ std::string RandomText(std::mt19937_64& generator) {
   return texts[testsupport::RandomBelow(generator, texts.size())];
 }
 
-TEST(Field, HoldsTheSameWhetherItTakesItsTextsOverOrCopiesThem) {
+TEST(Field, HoldsTheSameWhetherItMovesOrCopiesItsTexts) {
   SCOPED_TRACE(testsupport::SeedMessage());
   std::mt19937_64 generator = testsupport::SeededGenerator();
   const Slots slots = {{{eVifLocComponent, 1}, {eVifLocSrcPdo, 2}, kUnused}};
@@ -192,7 +192,7 @@ TEST(Field, HoldsTheSameWhetherItTakesItsTextsOverOrCopiesThem) {
   }
 }
 
-TEST(Field, TakesTextsOverWithoutCopyingThem) {
+TEST(Field, MovesTextsWithoutCopyingThem) {
   std::string name = kLongName;
   std::string value = kLongName;
   std::string description = kLongName;
@@ -203,7 +203,7 @@ TEST(Field, TakesTextsOverWithoutCopyingThem) {
   EXPECT_EQ(field.Description(), characters[2]);
 }
 
-TEST(Field, LeavesTextsThatItMayNotTakeOver) {
+TEST(Field, DoesNotChangeTextsThatItMayNotMove) {
   std::string name = kLongName;
   const std::string value = kLongName;
   const CVIFField field(false, std::move(name), value, value, {kUnused, kUnused, kUnused});
@@ -266,7 +266,7 @@ TEST(NumericValue, ReadsDecimalText) {
   EXPECT_EQ(NumberOf(std::string(100, '0') + "7"), 7U);
 }
 
-TEST(NumericValue, ReadsHexadecimalTextBehindItsPrefix) {
+TEST(NumericValue, ReadsHexadecimalTextAfterItsPrefix) {
   EXPECT_EQ(NumberOf("0x1F"), 31U);
   EXPECT_EQ(NumberOf("0X1f"), 31U);
   EXPECT_EQ(NumberOf("0xabcdefABCDEF"), 0xABCDEFABCDEFU);
@@ -274,7 +274,7 @@ TEST(NumericValue, ReadsHexadecimalTextBehindItsPrefix) {
   EXPECT_EQ(NumberOf("0xFFFFFFFFFFFFFFFE"), 0xFFFFFFFFFFFFFFFEU);
 }
 
-TEST(NumericValue, StopsAtTheFirstCharacterThatIsNoDigit) {
+TEST(NumericValue, StopsAtTheFirstCharacterThatIsNotADigit) {
   EXPECT_EQ(NumberOf("12 V"), 12U);
   EXPECT_EQ(NumberOf("0x1F;"), 31U);
   EXPECT_EQ(NumberOf("12.75"), 12U);
@@ -330,7 +330,7 @@ TEST(NumericValue, CannotTellTheLargestNumberFromUnset) {
   EXPECT_EQ(Number("18446744073709551615").GetNumericValue(), kUnset32);
 }
 
-TEST(NumericValue, GivesItsLow32Bits) {
+TEST(NumericValue, ReturnsItsLow32Bits) {
   EXPECT_EQ(Number("100").GetNumericValue(), 100U);
   EXPECT_EQ(NumberOf("0x100000005"), 4294967301U);
   EXPECT_EQ(Number("0x100000005").GetNumericValue(), 5U);
@@ -339,7 +339,7 @@ TEST(NumericValue, GivesItsLow32Bits) {
   EXPECT_EQ(Number("0x1FFFFFFFF").GetNumericValue(), 0xFFFFFFFFU);
 }
 
-TEST(NumericValue, GivesTheUnset32BitsForTextThatIsNoNumber) {
+TEST(NumericValue, ReturnsTheUnset32BitsForTextThatIsNotANumber) {
   EXPECT_EQ(Number("ABC").GetNumericValue(), kUnset32);
   EXPECT_EQ(Number("18446744073709551616").GetNumericValue(), kUnset32);
 }
@@ -352,7 +352,7 @@ TEST(NumericValue, IsUnsetForAFieldThatIsNotNumeric) {
   }
 }
 
-TEST(NumericValue, FailsInWaysThatEveryHandlerCatches) {
+TEST(NumericValue, ThrowsWhatEveryHandlerCatches) {
   const CVIFField field(false, "Vendor_Name", "ABC", kUnused, kUnused, kUnused);
   EXPECT_THROW(field.GetULongNumericValue(), CZoRunTimeException);
   EXPECT_THROW(field.GetULongNumericValue(), CZoException);
@@ -360,15 +360,15 @@ TEST(NumericValue, FailsInWaysThatEveryHandlerCatches) {
   EXPECT_THROW(field.GetULongNumericValue(), std::exception);
 }
 
-TEST(NumericValue, NamesAnyFieldInItsFailure) {
+TEST(NumericValue, NamesAnyFieldInItsError) {
   for (const std::string& name : {""s, "%s%n%d"s, "\xFF\x80"s, std::string(100'000, 'n')}) {
     const CVIFField field(false, name, "", kUnused, kUnused, kUnused);
     EXPECT_EQ(RunTimeErrorOf([&] { field.GetULongNumericValue(); }), "Field '" + name + "' is not Numeric.");
   }
 }
 
-/// Reads a number digit by digit, as one would by hand.
-std::uint64_t NumberByHand(std::string text) {
+/// Reads a number digit by digit.
+std::uint64_t NumberDigitByDigit(std::string text) {
   for (char& c : text) {
     if (std::string_view("abcdefghijklmnopqrstuvwxyz").find(c) != std::string_view::npos) c = static_cast<char>(c - 32);
   }
@@ -387,7 +387,7 @@ std::uint64_t NumberByHand(std::string text) {
   return number.value_or(kUnset64);
 }
 
-TEST(NumericValue, AgreesWithReadingByHand) {
+TEST(NumericValue, AgreesWithReadingDigitByDigit) {
   SCOPED_TRACE(testsupport::SeedMessage());
   std::mt19937_64 generator = testsupport::SeededGenerator();
   constexpr std::string_view beginnings[] = {"",  "0x",  "0X", "184467440737095516", "0xFFFFFFFFFFFFFFF",
@@ -398,7 +398,7 @@ TEST(NumericValue, AgreesWithReadingByHand) {
     for (std::size_t rest = testsupport::RandomBelow(generator, 12); rest > 0; --rest) {
       text += characters[testsupport::RandomBelow(generator, characters.size())];
     }
-    ASSERT_EQ(NumberOf(text), NumberByHand(text)) << text;
+    ASSERT_EQ(NumberOf(text), NumberDigitByDigit(text)) << text;
   }
 }
 
@@ -513,7 +513,7 @@ TEST(Field, CopyingTransfersTheNumberWithoutReadingTheValueAgain) {
   CVIFField source = Number("100");
   CVIFField target = Number("5");
   target = std::move(source);
-  // The source's text is now another number than the one that it keeps.
+  // The source's text now says another number than the one that it stores.
   ASSERT_STREQ(source.Value(), "5");
   const CVIFField constructed(source);
   CVIFField assigned;
@@ -559,7 +559,7 @@ TEST(Field, SwapsWithAnother) {
   EXPECT_TRUE(b.HasIndex(eVifLocSrcPdo));
 }
 
-TEST(Field, GivesTheSameTextsWhileItLivesUnchanged) {
+TEST(Field, ReturnsTheSameTextsUntilItIsChanged) {
   const CVIFField field = Voltage();
   EXPECT_EQ(field.Name(), field.Name());
   EXPECT_EQ(field.Value(), field.Value());
@@ -576,7 +576,7 @@ TEST(IndexCount, CountsTheSlotsInUse) {
   EXPECT_EQ(CVIFField(true, "", "", {eVifLocVif, 0}, {eVifLocVif, 0}, {eVifLocVif, 0}).IndexCount(), 3U);
 }
 
-TEST(IndexCount, LooksAtLocationsAndNotAtNumbers) {
+TEST(IndexCount, DependsOnLocationsAndNotOnNumbers) {
   EXPECT_EQ(CVIFField(true, "", "", {eVifLocUnset, 5}, {eVifLocVif, kAnyNumber}, kUnused).IndexCount(), 1U);
 }
 
@@ -585,7 +585,7 @@ TEST(Index, IsTheNumberAtTheLocation) {
   EXPECT_EQ(Voltage().Index(eVifLocSrcPdo), 3U);
 }
 
-TEST(Index, IsTheFirstSlotsOfSeveral) {
+TEST(Index, IsThatOfTheFirstOfSeveralSlots) {
   const CVIFField field(true, "", "", kUnused, {eVifLocSrcPdo, 8}, {eVifLocSrcPdo, 9});
   EXPECT_EQ(field.Index(eVifLocSrcPdo), 8U);
 }
@@ -609,7 +609,7 @@ TEST(HasIndex, FindsALocationInAnySlot) {
   EXPECT_FALSE(field.HasIndex(eVifLocComponent));
 }
 
-TEST(HasIndex, OfNoLocationIsWhetherASlotIsUnused) {
+TEST(HasIndex, ForNoLocationTellsWhetherASlotIsUnused) {
   EXPECT_TRUE(Voltage().HasIndex(eVifLocUnset));
   EXPECT_TRUE(CVIFField().HasIndex(eVifLocUnset));
   EXPECT_TRUE(CVIFField(true, "", "", {eVifLocUnset, 5}, {eVifLocVif, 0}, {eVifLocVif, 0}).HasIndex(eVifLocUnset));
@@ -621,7 +621,7 @@ TEST(ComponentIndex, IsTheComponentsNumberMinusOne) {
   EXPECT_EQ(CVIFField(true, "", "", {eVifLocProduct, 0}, kUnused, {eVifLocComponent, 5}).ComponentIndex(), 4U);
 }
 
-TEST(ComponentIndex, IsTheFirstSlotsOfSeveral) {
+TEST(ComponentIndex, IsThatOfTheFirstOfSeveralSlots) {
   EXPECT_EQ(CVIFField(true, "", "", {eVifLocComponent, 3}, {eVifLocComponent, 9}, kUnused).ComponentIndex(), 2U);
 }
 
@@ -637,7 +637,7 @@ TEST(ComponentIndex, WrapsForComponentZero) {
 
 // Match: locations
 
-TEST(Match, PassesEveryFieldOnTheEmptyQuery) {
+TEST(Match, AcceptsEveryFieldForTheEmptyQuery) {
   for (const CVIFField& field : {CVIFField(), Voltage(), Named("Vendor_Name")}) {
     EXPECT_TRUE(field.Match(nullptr, kUnused, kUnused, kUnused));
     EXPECT_TRUE(field.Match("", kUnused, kUnused, kUnused));
@@ -646,13 +646,13 @@ TEST(Match, PassesEveryFieldOnTheEmptyQuery) {
   }
 }
 
-TEST(Match, AsksForTheLocation) {
+TEST(Match, ComparesTheLocation) {
   EXPECT_TRUE(Voltage().Match(nullptr, {eVifLocComponent, kAnyNumber}, kUnused, kUnused));
   EXPECT_FALSE(Voltage().Match(nullptr, {eVifLocSnkPdo, kAnyNumber}, kUnused, kUnused));
   EXPECT_FALSE(CVIFField().Match(nullptr, {eVifLocComponent, kAnyNumber}, kUnused, kUnused));
 }
 
-TEST(Match, AsksForTheNumber) {
+TEST(Match, ComparesTheNumber) {
   EXPECT_TRUE(Voltage().Match(nullptr, {eVifLocSrcPdo, 3}, kUnused, kUnused));
   EXPECT_FALSE(Voltage().Match(nullptr, {eVifLocSrcPdo, 2}, kUnused, kUnused));
   EXPECT_FALSE(Voltage().Match(nullptr, {eVifLocSrcPdo, 0}, kUnused, kUnused));
@@ -662,7 +662,7 @@ TEST(Match, ComparesAllBitsOfTheNumber) {
   EXPECT_FALSE(Voltage().Match(nullptr, {eVifLocSrcPdo, 0x100000003}, kUnused, kUnused));
 }
 
-TEST(Match, AsksThatAllQuerySlotsPass) {
+TEST(Match, RequiresAllQuerySlotsToMatch) {
   EXPECT_TRUE(Voltage().Match(nullptr, {eVifLocComponent, 1}, {eVifLocSrcPdo, 3}, kUnused));
   EXPECT_FALSE(Voltage().Match(nullptr, {eVifLocComponent, 1}, {eVifLocSrcPdo, 4}, kUnused));
   EXPECT_FALSE(Voltage().Match(nullptr, {eVifLocComponent, 2}, {eVifLocSrcPdo, 3}, kUnused));
@@ -676,7 +676,7 @@ TEST(Match, ComparesSlotsByLocationAndNotByPosition) {
   EXPECT_TRUE(field.Match(nullptr, kUnused, kUnused, {eVifLocProduct, 0}));
 }
 
-TEST(Match, LooksAtTheFirstSlotWithTheLocation) {
+TEST(Match, UsesTheFirstSlotWithTheLocation) {
   const CVIFField field(true, "", "", {eVifLocSrcPdo, 1}, {eVifLocSrcPdo, 2}, kUnused);
   EXPECT_TRUE(field.Match(nullptr, {eVifLocSrcPdo, 1}, kUnused, kUnused));
   EXPECT_FALSE(field.Match(nullptr, {eVifLocSrcPdo, 2}, kUnused, kUnused));
@@ -689,13 +689,13 @@ TEST(Match, FindsASlotWithoutNumberOnlyByAnyNumber) {
   EXPECT_FALSE(field.Match(nullptr, {eVifLocSrcPdo, 1}, kUnused, kUnused));
 }
 
-TEST(Match, TakesAQuerySlotWithoutLocationForAWildcardWhateverItsNumber) {
+TEST(Match, TreatsAQuerySlotWithoutLocationAsAWildcardWhateverItsNumber) {
   EXPECT_TRUE(Voltage().Match(nullptr, {eVifLocUnset, 5}, kUnused, kUnused));
   const CVIFField full(true, "", "", {eVifLocVif, 0}, {eVifLocVif, 0}, {eVifLocVif, 0});
   EXPECT_TRUE(full.Match(nullptr, {eVifLocUnset, 5}, {eVifLocVif, 0}, kUnused));
 }
 
-TEST(Match, TakesTheQuerySlotsAsOneArray) {
+TEST(Match, AcceptsTheQuerySlotsAsOneArray) {
   EXPECT_TRUE(Voltage().Match("Src.*", {{{eVifLocSrcPdo, 3}, kUnused, {eVifLocComponent, 1}}}));
   EXPECT_FALSE(Voltage().Match("Src.*", {{{eVifLocComponent, 2}, kUnused, kUnused}}));
   EXPECT_FALSE(Voltage().Match("Src.*", {{kUnused, {eVifLocComponent, 2}, kUnused}}));
@@ -705,7 +705,7 @@ TEST(Match, TakesTheQuerySlotsAsOneArray) {
 
 // Match: names
 
-TEST(Match, AsksForTheWholeName) {
+TEST(Match, MatchesTheWholeName) {
   EXPECT_TRUE(NameMatches("Src_PDO_Voltage", "Src_PDO_Voltage"));
   EXPECT_FALSE(NameMatches("Src_PDO_Voltage", "Src_PDO"));
   EXPECT_FALSE(NameMatches("Src_PDO_Voltage", "PDO_Voltage"));
@@ -714,7 +714,7 @@ TEST(Match, AsksForTheWholeName) {
   EXPECT_FALSE(NameMatches("Src_PDO_Voltage", "PDO_.*"));
 }
 
-TEST(Match, DisregardsLetterCase) {
+TEST(Match, IgnoresLetterCase) {
   EXPECT_TRUE(NameMatches("SRC_PDO_VOLTAGE", "Src_PDO_Voltage"));
   EXPECT_TRUE(NameMatches("src_pdo_voltage", "SRC_[A-Z]+_VOLTAGE"));
 }
@@ -730,18 +730,18 @@ TEST(Match, UnderstandsEcmaScript) {
   EXPECT_TRUE(NameMatches("Vendor_Name", "^Vendor_Name$"));
 }
 
-TEST(Match, TakesAPatternForTheEmptyName) {
+TEST(Match, AcceptsAPatternThatMatchesTheEmptyName) {
   EXPECT_TRUE(CVIFField().Match(".*", kUnused, kUnused, kUnused));
   EXPECT_FALSE(CVIFField().Match("Vendor_Name", kUnused, kUnused, kUnused));
 }
 
-TEST(Match, AsksForLocationsAndName) {
+TEST(Match, ComparesLocationsAndName) {
   EXPECT_TRUE(Voltage().Match("src_.*", {eVifLocSrcPdo, 3}, kUnused, kUnused));
   EXPECT_FALSE(Voltage().Match("src_.*", {eVifLocSrcPdo, 2}, kUnused, kUnused));
   EXPECT_FALSE(Voltage().Match("snk_.*", {eVifLocSrcPdo, 3}, kUnused, kUnused));
 }
 
-TEST(Match, RaisesTheErrorOfAnInvalidPatternWhenTheLocationsPass) {
+TEST(Match, ThrowsTheErrorOfAnInvalidPatternWhenTheLocationsMatch) {
   for (const char* pattern : {"(", "[", "*", "a{2", "\\", "a)", "[z-a]"}) {
     EXPECT_THROW(Voltage().Match(pattern, kUnused, kUnused, kUnused), std::regex_error) << pattern;
     EXPECT_THROW(Voltage().Match(pattern, {eVifLocSrcPdo, 3}, kUnused, kUnused), std::regex_error) << pattern;
@@ -749,13 +749,13 @@ TEST(Match, RaisesTheErrorOfAnInvalidPatternWhenTheLocationsPass) {
   }
 }
 
-TEST(Match, DoesNotLookAtThePatternWhenTheLocationsFail) {
+TEST(Match, IgnoresThePatternWhenTheLocationsDoNotMatch) {
   EXPECT_FALSE(Voltage().Match("(", {eVifLocSrcPdo, 2}, kUnused, kUnused));
   EXPECT_FALSE(Voltage().Match("(", {eVifLocSnkPdo, kAnyNumber}, kUnused, kUnused));
   EXPECT_FALSE(Voltage().Match("(", kUnused, kUnused, {eVifLocSnkPdo, kAnyNumber}));
 }
 
-TEST(Match, EndsInAnAnswerOrAnErrorOnLongNames) {
+TEST(Match, AnswersOrThrowsOnLongNames) {
   const CVIFField field = Named(std::string(200'000, 'a'));
   try {
     EXPECT_TRUE(field.Match("(a|b)*", kUnused, kUnused, kUnused));
@@ -778,7 +778,7 @@ TEST(MakeOutputString, QuotesAnyOtherValue) {
   EXPECT_STREQ(CVIFField(false, "", "", kUnused, kUnused, kUnused).MakeOutputString().get(), "=\"\"");
 }
 
-TEST(MakeOutputString, PrintsTheValuesTextAndNotItsNumber) {
+TEST(MakeOutputString, PrintsTheTextOfTheValueAndNotItsNumber) {
   EXPECT_STREQ(Number("0x1F;").MakeOutputString().get(), "Number=0x1F;");
   EXPECT_STREQ(Number("no number").MakeOutputString().get(), "Number=no number");
 }
@@ -794,7 +794,7 @@ TEST(MakeOutputString, PrintsNeitherDescriptionNorSlots) {
 
 // Threads
 
-TEST(Field, IsReadByManyThreadsAtOnce) {
+TEST(Field, MayBeReadByManyThreadsAtOnce) {
   const CVIFField numeric = Voltage();
   const CVIFField textual(false, "Vendor_Name", "ABC", kUnused, kUnused, kUnused);
   std::array<int, 8> right{};
@@ -814,7 +814,7 @@ TEST(Field, IsReadByManyThreadsAtOnce) {
   EXPECT_EQ(right, (std::array<int, 8>{200, 200, 200, 200, 200, 200, 200, 200}));
 }
 
-TEST(Field, FailsInEveryThreadWithAMessageOfItsOwn) {
+TEST(Field, FailsInEveryThreadWithItsOwnMessage) {
   std::array<int, 8> right{};
   std::vector<std::thread> threads;
   for (std::size_t thread = 0; thread < right.size(); ++thread) {

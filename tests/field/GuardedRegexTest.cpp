@@ -36,7 +36,7 @@ bool RecursiveMatch(std::basic_string_view<Char> text, GuardedMatch<Char>& match
   return GuardedRegexMatch(text, match, expression, {testsupport::RecursionLimit(), vif::kMatchStepBudget});
 }
 
-// For narrow and wide text alike
+// Helpers for both narrow and wide text.
 
 template <typename Char>
 std::basic_string<Char> Converted(const std::string& text) {
@@ -45,7 +45,7 @@ std::basic_string<Char> Converted(const std::string& text) {
   return converted;
 }
 
-/// The text between two positions, of which a guarded match gives no more than where they are.
+/// The text between two positions, which is all that a guarded match returns.
 template <typename Char>
 std::basic_string<Char> Between(const CGuardedIterator<Char>& first, const CGuardedIterator<Char>& second) {
   return {first.Position(), second.Position()};
@@ -56,7 +56,7 @@ auto Between(const Iterator& first, const Iterator& second) {
   return std::basic_string<typename std::iterator_traits<Iterator>::value_type>(first, second);
 }
 
-/// What a match captured, as text; a group that took no part has none.
+/// The captures of a match as text; a group that did not participate has none.
 template <typename Results>
 auto Captures(const Results& match) {
   std::vector<std::optional<std::basic_string<typename Results::value_type::value_type>>> captures;
@@ -117,9 +117,9 @@ TYPED_TEST(GuardedRegex, FailsInsteadOfRunningOffTheStack) {
   }
 }
 
-// With narrow text
+// With narrow text.
 
-TEST(GuardedRegexMatch, FitsTheWholeText) {
+TEST(GuardedRegexMatch, MatchesTheWholeText) {
   EXPECT_TRUE(*GuardedOutcome("Src_(.*)", "SRC_PDO").answer);
   EXPECT_FALSE(*GuardedOutcome("Src", "Src_PDO").answer);
   EXPECT_FALSE(*GuardedOutcome("PDO", "Src_PDO").answer);
@@ -128,14 +128,14 @@ TEST(GuardedRegexMatch, FitsTheWholeText) {
   EXPECT_TRUE(*GuardedOutcome("a.b", "a\0b"s).answer);
 }
 
-TEST(GuardedRegexMatch, LooksBehindAsWellAsAhead) {
+TEST(GuardedRegexMatch, LooksBackwardAsWellAsForward) {
   EXPECT_TRUE(*GuardedOutcome("a\\b-\\bb", "a-b").answer);
   EXPECT_FALSE(*GuardedOutcome("a\\bb", "ab").answer);
   EXPECT_TRUE(*GuardedOutcome("a(?=b)b", "ab").answer);
   EXPECT_TRUE(*GuardedOutcome("(a|b)\\1", "bb").answer);
 }
 
-TEST(GuardedRegexMatch, TellsWhereTheGroupsAre) {
+TEST(GuardedRegexMatch, ReportsThePositionsOfTheGroups) {
   const std::string text = "Src_PDO_12";
   const std::regex expression("(\\w+?)_([A-Z]+)_(\\d+)(x)?");
   GuardedMatch<char> match;
@@ -156,7 +156,7 @@ TEST(GuardedRegexMatch, MatchesWideText) {
   EXPECT_FALSE(RecursiveMatch(std::wstring_view(L"Gerat"), match, expression));
 }
 
-TEST(GuardedRegexMatch, EndsForWantOfTimeOnTextThatTakesTooManySteps) {
+TEST(GuardedRegexMatch, RunsOutOfTimeOnTextThatTakesTooManySteps) {
   for (const char* pattern :
        {"(a|aa)*x", "(a*)*x", "(a+)+x", "(a|a)*x", "(.*)(.*)(.*)(.*)(.*)(.*)(.*)x", "(a|aa)*\\1x"}) {
     const RegexOutcome outcome = GuardedOutcome(pattern, std::string(40, 'a'));
@@ -167,7 +167,7 @@ TEST(GuardedRegexMatch, EndsForWantOfTimeOnTextThatTakesTooManySteps) {
   }
 }
 
-TEST(GuardedRegexMatch, EndsForWantOfTimeWhereNothingIsLeftToRead) {
+TEST(GuardedRegexMatch, RunsOutOfTimeWhereNothingIsLeftToRead) {
   std::string optionalNothing;
   for (int i = 0; i < 40; ++i) optionalNothing += "()?";
   for (const std::string& pattern :
@@ -198,7 +198,7 @@ TEST(GuardedRegexMatch, HasStackAndTimeForAnyUsualName) {
   }
 }
 
-TEST(GuardedIterator, WalksBothWays) {
+TEST(GuardedIterator, MovesInBothDirections) {
   MatchBudget budget;
   const std::string text = "abc";
   CGuardedIterator<char> position(text.data(), budget);
@@ -212,7 +212,7 @@ TEST(GuardedIterator, WalksBothWays) {
   EXPECT_EQ(std::distance(first, CGuardedIterator<char>(text.data() + 3, budget)), 3);
 }
 
-TEST(GuardedIterator, FailsWhenItHasReadTooOften) {
+TEST(GuardedIterator, FailsAfterTooManyReads) {
   MatchBudget budget;
   budget.stepsLeft = 2;
   const CGuardedIterator<char> position("a", budget);
@@ -222,7 +222,7 @@ TEST(GuardedIterator, FailsWhenItHasReadTooOften) {
   EXPECT_EQ(outcome.error, std::regex_constants::error_complexity);
 }
 
-TEST(GuardedIterator, FailsWhenItHasBeenComparedTooOften) {
+TEST(GuardedIterator, FailsAfterTooManyComparisons) {
   MatchBudget budget;
   budget.stepsLeft = 1;
   const CGuardedIterator<char> position("a", budget);

@@ -1,5 +1,5 @@
-// The built-in field definitions as plain text, written out in full: the second opinion on everything that the
-// library makes of its own, shorter table.
+// The built-in field definitions written out in full as plain text: the reference for everything that the library
+// derives from its shorter table.
 #pragma once
 
 #include <iterator>

@@ -81,7 +81,7 @@ TEST(GetVifLocInfo, DescribesACableSvidMode) {
              "/VIF/Component/CableSVIDList/CableSVID/CableSVIDModeList/CableSVIDMode ");
 }
 
-TEST(GetVifLocInfo, EndsEveryPathInExactlyOneBlank) {
+TEST(GetVifLocInfo, EndsEveryPathWithExactlyOneBlank) {
   for (std::int32_t value = 1; value <= 12; ++value) {
     const std::string_view xpath = Info(value).xpath;
     EXPECT_EQ(xpath.find(' '), xpath.size() - 1) << xpath;
@@ -105,13 +105,13 @@ TEST(GetVifLocInfo, DescribesAnyOtherValueAsNoLocation) {
   }
 }
 
-TEST(GetVifLocInfo, GivesTheSameObjectOnEveryCall) {
+TEST(GetVifLocInfo, ReturnsTheSameObjectOnEveryCall) {
   for (const std::int32_t value : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, -1}) {
     EXPECT_EQ(&Info(value), &Info(value)) << value;
   }
 }
 
-TEST(GetVifLocInfo, GivesEachLocationAnObjectOfItsOwn) {
+TEST(GetVifLocInfo, ReturnsADifferentObjectForEachLocation) {
   for (std::int32_t value = 1; value <= 12; ++value) EXPECT_NE(&Info(value), &Info(value - 1)) << value;
 }
 
@@ -135,8 +135,8 @@ std::string_view PathOf(std::int32_t value) {
   return xpath;
 }
 
-/// The innermost group around a location's, by the paths of their elements; the VIF, which is around all, takes no
-/// slot.
+/// The innermost enclosing group of a location, going by the paths of their elements; the VIF, which encloses
+/// everything, has no slot.
 std::int32_t InnermostGroupAround(std::int32_t value) {
   std::int32_t innermost = eVifLocUnset;
   std::size_t longest = 0;
@@ -150,7 +150,7 @@ std::int32_t InnermostGroupAround(std::int32_t value) {
   return innermost;
 }
 
-TEST(GetVifLocParent, IsTheGroupAroundByThePaths) {
+TEST(GetVifLocParent, IsTheEnclosingGroupAccordingToThePaths) {
   for (std::int32_t value = 1; value <= 12; ++value) {
     EXPECT_EQ(GetVifLocParent(static_cast<EVifLocation>(value)), InnermostGroupAround(value)) << value;
   }

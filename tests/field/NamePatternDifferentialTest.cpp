@@ -1,4 +1,4 @@
-// Name patterns compared with the plain engine of the standard library, and on names that are too much for it.
+// Name patterns against the standard library's plain engine, and on names that overwhelm it.
 #include "NamePattern.h"
 
 #include "RegexGrammar.h"
@@ -35,7 +35,7 @@ constexpr std::size_t kLong = 200'000;
 
 struct LongNameCase {
   const char* pattern;
-  const char* end;  // of the name, behind 200,000 times "a"
+  const char* end;  // of the name, after 200,000 times "a"
   bool expected;
 };
 
@@ -72,7 +72,7 @@ INSTANTIATE_TEST_SUITE_P(Without, LongName,
 
 class LongNameWithReference : public testing::TestWithParam<LongNameCase> {};
 
-TEST_P(LongNameWithReference, EndsInTheAnswerOrForWantOfStackOrTime) {
+TEST_P(LongNameWithReference, AnswersOrRunsOutOfStackOrTime) {
   const LongNameCase& tried = GetParam();
   const std::string name = std::string(kLong, 'a') + tried.end;
   const auto expectAnEnd = [&] {
@@ -88,7 +88,7 @@ INSTANTIATE_TEST_SUITE_P(ToAGroup, LongNameWithReference,
                                          LongNameCase{"(a*)\\1", "", true}, LongNameCase{"(a|aa)*\\1x", "", false},
                                          LongNameCase{"(a+)\\1+b", "", false}, LongNameCase{"(a)?\\1a*", "", true}));
 
-TEST(LongNames, MayFollowShortOnesAndComeBeforeThem) {
+TEST(LongNames, MayFollowOrPrecedeShortOnes) {
   const std::string name(kLong, 'a');
   for (const char* text : {"(a|b)*", "(a)\\1*"}) {
     vif::CNamePattern pattern(text);
@@ -103,7 +103,7 @@ TEST(LongNames, MayFollowShortOnesAndComeBeforeThem) {
 
 // Comparison with the plain engine, over generated patterns.
 
-/// What the plain engine answers when it may use any amount of stack; nothing when it takes too many steps.
+/// The plain engine's answer when it may use any amount of stack; nothing if it takes too many steps.
 std::optional<bool> PlainAnswer(const std::regex& expression, const std::string& text) {
   MatchBudget budget;
   budget.stepsLeft = 200'000;
@@ -114,7 +114,7 @@ std::optional<bool> PlainAnswer(const std::regex& expression, const std::string&
 
 constexpr std::string_view kNameCharacters = "aaabbAB1_. ";
 
-/// Compares `matches`, which is made from each pattern and asked with names, with the plain engine.
+/// Compares with the plain engine: creates `matches` from each pattern and asks it about names.
 template <typename MakeMatches>
 void ExpectAgreementWithPlainEngine(CPatternGenerator& generator, const MakeMatches& makeMatches) {
   SCOPED_TRACE(testsupport::SeedMessage());
@@ -158,7 +158,7 @@ TEST(NamePatternDifferential, StepwiseEngineAgreesWithThePlainOne) {
 #endif
 
 TEST(NamePatternDifferential, AgreesWithThePlainEngineOnNamesThatAreTooLongForIt) {
-  if (testsupport::kIsThreadSanitized) GTEST_SKIP() << "ThreadSanitizer keeps every deep call stack for good.";
+  if (testsupport::kIsThreadSanitized) GTEST_SKIP() << "ThreadSanitizer never frees deep call stacks.";
   SCOPED_TRACE(testsupport::SeedMessage());
   constexpr std::size_t largeStack = 256 * 1024 * 1024;
   CPatternGenerator generator(false);

@@ -27,7 +27,7 @@ bool Matches(const std::string& pattern, const std::string& name) {
   return vif::CNamePattern(pattern.c_str()).Matches(name.c_str());
 }
 
-/// The second opinion on a pattern; nothing when it is no regular expression.
+/// The reference for a pattern; nothing if it is not a valid regular expression.
 std::optional<std::regex> Expression(const std::string& pattern) {
   return randomexpression::Compiled(pattern, std::regex_constants::ECMAScript | std::regex_constants::icase);
 }
@@ -40,7 +40,7 @@ std::optional<vif::CNamePattern> NamePattern(const std::string& pattern) {
   }
 }
 
-TEST(NamePattern, FitsTheWholeName) {
+TEST(NamePattern, MatchesTheWholeName) {
   EXPECT_TRUE(Matches("Src_PDO", "Src_PDO"));
   EXPECT_FALSE(Matches("Src_PDO", "Src_PDO_Voltage"));
   EXPECT_FALSE(Matches("Src_PDO_Voltage", "Src_PDO"));
@@ -49,27 +49,27 @@ TEST(NamePattern, FitsTheWholeName) {
   EXPECT_FALSE(Matches("Src_P.", "Src_PDO"));
 }
 
-TEST(NamePattern, DisregardsLetterCase) {
+TEST(NamePattern, IgnoresLetterCase) {
   EXPECT_TRUE(Matches("src_pdo", "SRC_PDO"));
   EXPECT_TRUE(Matches("SRC_PDO", "src_pdo"));
   EXPECT_TRUE(Matches("sRc_.d.", "SrC_PDO"));
   EXPECT_FALSE(Matches("src_pdo", "SRC_PDP"));
 }
 
-TEST(NamePattern, IsMadeOnceForManyNames) {
+TEST(NamePattern, IsCompiledOnceForManyNames) {
   vif::CNamePattern pattern("(Src|Snk)_PDO");
   EXPECT_TRUE(pattern.Matches("Src_PDO"));
   EXPECT_FALSE(pattern.Matches("Sxx_PDO"));
   EXPECT_TRUE(pattern.Matches("Snk_PDO"));
 }
 
-TEST(NamePattern, RaisesTheErrorOfAnInvalidExpressionWhenItIsMade) {
+TEST(NamePattern, ThrowsTheErrorOfAnInvalidExpressionOnConstruction) {
   for (const char* pattern : {"(", ")", "[", "[b-a]", "*", "+", "?", "a{", "a{2,1}", "\\", "(?", "[[:none:]]"}) {
     EXPECT_THROW(vif::CNamePattern{pattern}, std::regex_error) << pattern;
   }
 }
 
-TEST(NamePattern, TakesEverySpecialCharacterForSpecial) {
+TEST(NamePattern, RecognisesEverySpecialCharacter) {
   EXPECT_TRUE(Matches("^a", "a"));
   EXPECT_TRUE(Matches("a$", "a"));
   EXPECT_TRUE(Matches("\\x61", "a"));
@@ -83,7 +83,7 @@ TEST(NamePattern, TakesEverySpecialCharacterForSpecial) {
   EXPECT_TRUE(Matches("a|b", "b"));
 }
 
-TEST(NamePattern, LetsAQuantifierTakeBackThePlainCharacterBefore) {
+TEST(NamePattern, LetsAQuantifierApplyToThePlainCharacterBefore) {
   EXPECT_TRUE(Matches("Src_*", "src"));
   EXPECT_TRUE(Matches("Src_?.", "srcX"));
   EXPECT_TRUE(Matches("Src_{0,2}P", "srcp"));
@@ -93,7 +93,7 @@ TEST(NamePattern, LetsAQuantifierTakeBackThePlainCharacterBefore) {
   EXPECT_FALSE(Matches("Src_*", "sr"));
 }
 
-TEST(NamePattern, LetsEveryAlternativeBeginInItsOwnWay) {
+TEST(NamePattern, LetsEveryAlternativeBeginDifferently) {
   EXPECT_TRUE(Matches("Src_PDO|Snk_PDO", "snk_pdo"));
   EXPECT_TRUE(Matches("Src_PDO|.*", "Vendor_Name"));
   EXPECT_TRUE(Matches("S(rc|nk)_PDO", "snk_pdo"));
@@ -107,7 +107,7 @@ TEST(NamePattern, ComparesPlainPatternsOfAnyLength) {
   EXPECT_FALSE(Matches(pattern, std::string(200'001, 'a')));
 }
 
-/// Makes a pattern of every byte and compares its answers on every byte.
+/// Builds a pattern from every byte and compares its answers on every byte.
 void ExpectAgreementOnAllBytes() {
   for (int patternByte = 1; patternByte < 256; ++patternByte) {
     const std::string pattern(1, static_cast<char>(patternByte));
@@ -130,7 +130,7 @@ TEST(NamePattern, AgreesWithTheExpressionOnAllBytesInAnotherLocale) {
   ExpectAgreementOnAllBytes();
 }
 
-TEST(NamePattern, DisregardsLetterCaseAsTheGlobalLocaleHasIt) {
+TEST(NamePattern, IgnoresLetterCaseAccordingToTheGlobalLocale) {
   EXPECT_FALSE(Matches("\xC9", "\xE9"));
   EXPECT_FALSE(Matches("\xC9.", "\xE9."));
   const CScopedGlobalLocale latin1(Latin1Locale());
@@ -139,7 +139,7 @@ TEST(NamePattern, DisregardsLetterCaseAsTheGlobalLocaleHasIt) {
   EXPECT_TRUE(Matches("\xC9.", "\xE9."));
 }
 
-TEST(NamePattern, KeepsTheLocaleOfTheMomentItWasMadeIn) {
+TEST(NamePattern, KeepsTheLocaleOfItsConstruction) {
   for (const char* text : {"\xC9", "\xC9?"}) {
     vif::CNamePattern madeBefore(text);
     std::optional<vif::CNamePattern> madeWithin;
@@ -152,7 +152,7 @@ TEST(NamePattern, KeepsTheLocaleOfTheMomentItWasMadeIn) {
   }
 }
 
-/// Has NUL for the lower case of "q".
+/// Has NUL as the lower case of "q".
 class CNulForQ : public std::ctype<char> {
  protected:
   char do_tolower(char c) const override { return c == 'q' ? '\0' : std::ctype<char>::do_tolower(c); }
@@ -162,7 +162,7 @@ class CNulForQ : public std::ctype<char> {
   }
 };
 
-TEST(NamePattern, TakesNoCharacterForTheEndOfAName) {
+TEST(NamePattern, TreatsNoCharacterAsTheEndOfAName) {
   const CScopedGlobalLocale odd(std::locale(std::locale::classic(), new CNulForQ));
   EXPECT_TRUE(Matches("qa", "qA"));
   EXPECT_FALSE(Matches("q", ""));
@@ -182,7 +182,7 @@ std::string RandomPlainText(std::mt19937_64& generator) {
   return text;
 }
 
-/// A name that is often near to the text: the same, in other letter case, or with a character changed.
+/// A name that is often close to the text: the same, in other letter case, or with one character changed.
 std::string RandomNameNear(std::string text, std::mt19937_64& generator) {
   for (char& c : text) {
     if (RandomBelow(generator, 4) == 0) c = std::toupper(c, std::locale());
@@ -216,8 +216,8 @@ TEST(NamePattern, AgreesWithTheExpressionOnPlainPatternsInAnotherLocale) {
   ExpectAgreementOnPlainPatterns();
 }
 
-/// Compares on random expressions and names. With `lengthened` the pattern first sees a name that is too long for
-/// the way in which it matches names at first.
+/// Compares on random expressions and names. With `lengthened`, the pattern first sees a name too long for the engine
+/// that it starts with.
 void ExpectAgreementOnExpressions(bool lengthened) {
   SCOPED_TRACE(testsupport::SeedMessage());
   std::mt19937_64 generator = testsupport::SeededGenerator();
@@ -252,8 +252,8 @@ TEST(NamePattern, AgreesWithTheExpressionOnExpressionsInAnotherLocale) {
   ExpectAgreementOnExpressions(false);
 }
 
-/// Compares on expressions that begin with plain characters, which need no expression to be told apart.
-void ExpectAgreementBehindPlainBeginnings() {
+/// Compares on expressions with plain beginnings, which can rule out a name without the expression.
+void ExpectAgreementAfterPlainBeginnings() {
   SCOPED_TRACE(testsupport::SeedMessage());
   std::mt19937_64 generator = testsupport::SeededGenerator();
   std::size_t fitting = 0;
@@ -275,16 +275,16 @@ void ExpectAgreementBehindPlainBeginnings() {
   EXPECT_GT(fitting, 100U);
 }
 
-TEST(NamePattern, AgreesWithTheExpressionBehindAPlainBeginning) { ExpectAgreementBehindPlainBeginnings(); }
+TEST(NamePattern, AgreesWithTheExpressionAfterAPlainBeginning) { ExpectAgreementAfterPlainBeginnings(); }
 
-TEST(NamePattern, AgreesWithTheExpressionBehindAPlainBeginningInAnotherLocale) {
+TEST(NamePattern, AgreesWithTheExpressionAfterAPlainBeginningInAnotherLocale) {
   const CScopedGlobalLocale latin1(Latin1Locale());
-  ExpectAgreementBehindPlainBeginnings();
+  ExpectAgreementAfterPlainBeginnings();
 }
 
 constexpr size_t kLongName = 200'000;
 
-/// The answer on a long name; nothing when the match ended for want of stack. Any other error passes.
+/// The answer on a long name; nothing if the match ran out of stack. Other errors pass.
 std::optional<bool> AnswerOnLongName(const char* pattern, const std::string& name) {
   try {
     return Matches(pattern, name);
@@ -302,7 +302,7 @@ void ExpectAnswerOnLongName(const char* pattern, const std::string& name, bool e
   EXPECT_EQ(answer.value_or(expected), expected) << pattern;
 }
 
-TEST(NamePatternOnLongNames, AnswersWhereNoGroupIsReferredTo) {
+TEST(NamePatternOnLongNames, AnswersWithoutABackReference) {
   const std::string name(kLongName, 'a');
   ExpectAnswerOnLongName(".*", name, true);
   ExpectAnswerOnLongName("(a|b)*", name, true);
@@ -314,14 +314,14 @@ TEST(NamePatternOnLongNames, AnswersWhereNoGroupIsReferredTo) {
   ExpectAnswerOnLongName("(.*a)?", name, true);
 }
 
-TEST(NamePatternOnLongNames, EndsWhereAGroupIsReferredTo) {
+TEST(NamePatternOnLongNames, TerminatesWithABackReference) {
   const std::string name(kLongName, 'a');
   EXPECT_EQ(AnswerOnLongName("(a)\\1*", name).value_or(true), true);
   EXPECT_EQ(AnswerOnLongName("(a)\\1*", name + "b").value_or(false), false);
   EXPECT_EQ(AnswerOnLongName("(a*)\\1", name).value_or(true), true);
 }
 
-TEST(NamePatternOnLongNames, IsOfUseForShortNamesAfterwards) {
+TEST(NamePatternOnLongNames, RemainsUsableForShortNames) {
   const std::string longName(kLongName, 'a');
   for (const char* text : {"(a)\\1*", "(a|b)*"}) {
     vif::CNamePattern pattern(text);
@@ -335,7 +335,7 @@ TEST(NamePatternOnLongNames, IsOfUseForShortNamesAfterwards) {
   }
 }
 
-TEST(NamePatternOnLongNames, KeepsTheLocaleOfTheMomentItWasMadeIn) {
+TEST(NamePatternOnLongNames, KeepsTheLocaleOfItsConstruction) {
   std::optional<vif::CNamePattern> pattern;
   {
     const CScopedGlobalLocale latin1(Latin1Locale());
@@ -351,7 +351,7 @@ TEST(NamePatternOnLongNames, KeepsTheLocaleOfTheMomentItWasMadeIn) {
   EXPECT_TRUE(pattern->Matches("\xE9\xE9"));
 }
 
-TEST(NamePatternOfRepeatedNothing, EndsAlthoughItReadsNoCharacter) {
+TEST(NamePatternOfRepeatedNothing, TerminatesAlthoughItReadsNoCharacter) {
   for (const char* pattern : {"(()+){20}", "((()+){5}){5}", "(()*|()+){15}x"}) {
     EXPECT_FALSE(vif::CNamePattern(pattern).Matches("aaa")) << pattern;
   }

@@ -34,7 +34,7 @@ std::string Repeated(std::string_view text, std::size_t count) {
   return repeated;
 }
 
-/// The pattern in so many groups, each closed by `close`.
+/// The pattern in that many groups, each closed by `close`.
 std::string Nested(std::string_view open, std::string_view pattern, std::string_view close, std::size_t count) {
   return Repeated(open, count) + std::string(pattern) + Repeated(close, count);
 }
@@ -86,7 +86,7 @@ TEST(PatternDepth, CountsAGroupAsMoreThanItsContent) {
   EXPECT_EQ(Depth("x(a)y"), Depth("(a)") + 2);
 }
 
-TEST(PatternDepth, AddsUpGroupsBesideAndInsideEachOther) {
+TEST(PatternDepth, AddsUpAdjacentAndNestedGroups) {
   EXPECT_EQ(Depth("(a)(a)(a)"), 3 * Depth("(a)"));
   const std::size_t group = Depth("()");
   EXPECT_EQ(Depth("((a))"), Depth("(a)") + group);
@@ -127,7 +127,7 @@ TEST(PatternJoints, CountAsOftenAsBracesRepeatThem) {
   EXPECT_LT(Joints(".{0,2000}"), 10U);
 }
 
-TEST(PatternJoints, GrowNoFurtherThanNumbersDo) {
+TEST(PatternJoints, SaturateInsteadOfOverflowing) {
   for (const char* pattern :
        {"(){99999999999999999999999999}", "((){999999999}){999999999}", "(((((){99999}){99999}){99999}){99999}){99999}",
         "(){18446744073709551616}", "(){4294967296}{4294967296}{4294967296}{4294967296}"}) {
@@ -135,7 +135,7 @@ TEST(PatternJoints, GrowNoFurtherThanNumbersDo) {
   }
 }
 
-TEST(PatternDepth, IsFiniteForWhatIsNoExpression) {
+TEST(PatternDepth, IsFiniteForInvalidExpressions) {
   const char* const patterns[] = {"(",   "((",  ")",  "))",  "a)",   "(a",    "(a|",    "|)", "[",  "[a",
                                   "[\\", "[^",  "{",  "a{",  "}",    "]",     "{5",     "*",  "**", "?",
                                   "(?",  "(*",  "\\", "a\\", "a{5,", "{,}",   "|",      "||", "(|", "a{,}",
@@ -146,7 +146,7 @@ TEST(PatternDepth, IsFiniteForWhatIsNoExpression) {
   }
 }
 
-TEST(PatternDepth, OfGroupsThatAreNotClosedCounts) {
+TEST(PatternDepth, IncludesUnclosedGroups) {
   EXPECT_GT(Depth(std::string(200'000, '(')), 200'000U);
   EXPECT_GT(Depth(Repeated("(a|", 200'000)), 200'000U);
   EXPECT_GT(Depth(Repeated("(?:", 200'000)), 200'000U);
@@ -154,7 +154,7 @@ TEST(PatternDepth, OfGroupsThatAreNotClosedCounts) {
 
 #if defined(__GLIBCXX__)
 
-/// Tells how deep the stack is whenever a plain character is compiled.
+/// Records the depth of the stack whenever a plain character is compiled.
 class CDepthProbe : public std::ctype<char> {
  public:
   mutable std::uintptr_t lowest = std::numeric_limits<std::uintptr_t>::max();
@@ -166,7 +166,7 @@ class CDepthProbe : public std::ctype<char> {
   }
 };
 
-/// How many bytes of stack compiling the pattern takes; nothing when it is not a regular expression.
+/// How many bytes of stack compiling the pattern takes; nothing if it is not a valid regular expression.
 std::optional<std::uintptr_t> BytesToCompile(const std::string& pattern) {
   auto* const probe = new CDepthProbe;  // owned by the locale
   std::regex expression;

@@ -1,4 +1,4 @@
-// How far name patterns go on stacks of different sizes.
+// The limits of name patterns on stacks of different sizes.
 #include "KnownFields.h"
 #include "NamePattern.h"
 #include "RegexOutcome.h"
@@ -30,7 +30,7 @@ std::string Repeated(std::string_view text, std::size_t count) {
   return repeated;
 }
 
-/// The pattern in so many groups, each closed by `close`.
+/// The pattern in that many groups, each closed by `close`.
 std::string Nested(std::string_view open, std::string_view pattern, std::string_view close, std::size_t count) {
   return Repeated(open, count) + std::string(pattern) + Repeated(close, count);
 }
@@ -49,11 +49,11 @@ struct Question {
 
 void PrintTo(const Question& question, std::ostream* stream) { *stream << question.pattern.substr(0, 40); }
 
-// Sound patterns
+// Valid patterns
 
-class SoundPattern : public testing::TestWithParam<Question> {};
+class ValidPattern : public testing::TestWithParam<Question> {};
 
-TEST_P(SoundPattern, IsAnsweredOnAnOrdinaryStackAsByThePlainEngine) {
+TEST_P(ValidPattern, GivesThePlainEnginesAnswerOnAnOrdinaryStack) {
   const Question& question = GetParam();
   std::vector<std::optional<bool>> answers;
   RunOnStack(kOrdinaryStack, [&] {
@@ -70,7 +70,7 @@ TEST_P(SoundPattern, IsAnsweredOnAnOrdinaryStackAsByThePlainEngine) {
   });
 }
 
-TEST_P(SoundPattern, EndsInTheAnswerOrForWantOfStackOnASmallStack) {
+TEST_P(ValidPattern, AnswersOrRunsOutOfStackOnASmallStack) {
   const Question& question = GetParam();
   RunOnStack(kSmallStack, [&] {
     for (const std::string& name : question.names) {
@@ -81,7 +81,7 @@ TEST_P(SoundPattern, EndsInTheAnswerOrForWantOfStackOnASmallStack) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Of, SoundPattern,
+    Of, ValidPattern,
     testing::Values(
         Question{AlternationOf(1000), {"src_pdo_field_number_0", "Src_PDO_Field_Number_999", "Src_PDO_Field", "x", ""}},
         Question{AlternationOf(2500), {"src_pdo_field_number_0", "Src_PDO_Field_Number_2499", "Src_PDO_Field"}},
@@ -97,7 +97,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 // Errors
 
-/// The text of the error that the question ends in; nothing when it is answered.
+/// The text of the error that asking the question throws; nothing if it is answered.
 std::optional<std::string> ErrorText(const std::string& pattern, const std::string& name) {
   try {
     vif::CNamePattern(pattern.c_str()).Matches(name.c_str());
@@ -107,7 +107,7 @@ std::optional<std::string> ErrorText(const std::string& pattern, const std::stri
   }
 }
 
-TEST(PatternErrorText, OfWantOfStackDoesNotBlameMemory) {
+TEST(PatternErrorText, ForTooLittleStackDoesNotBlameMemory) {
   constexpr const char* expected = "The regular expression needs more stack than this thread has left.";
   RunOnStack(kSmallStack, [&] {
     EXPECT_EQ(ErrorText(std::string(100'000, 'a') + ".*", "a"), expected);
@@ -115,13 +115,13 @@ TEST(PatternErrorText, OfWantOfStackDoesNotBlameMemory) {
   });
 }
 
-TEST(PatternErrorText, OfWantOfTimeSpeaksOfSteps) {
+TEST(PatternErrorText, ForTooLittleTimeMentionsSteps) {
   EXPECT_EQ(ErrorText("(a|aa)*\\1x", std::string(60, 'a')), "The regular expression takes too many steps.");
 }
 
 // Hostile patterns
 
-/// What comes of making the pattern and asking it with a few names.
+/// The result of compiling the pattern and asking it about a few names.
 RegexOutcome OutcomeOf(const std::string& pattern) {
   return RegexOutcomeOf([&] {
     vif::CNamePattern compiled(pattern.c_str());
@@ -131,12 +131,12 @@ RegexOutcome OutcomeOf(const std::string& pattern) {
   });
 }
 
-/// Whether the outcome is one that a pattern may have which asks too much: an answer, or an error that says so.
-bool IsAnEnd(const RegexOutcome& outcome) {
+/// Whether a pattern that demands too much may have this outcome: an answer, or an error that says so.
+bool IsAcceptable(const RegexOutcome& outcome) {
   return outcome.answer || outcome.IsWantOfStackOrTime() || outcome.error == std::regex_constants::error_space;
 }
 
-TEST(HostilePattern, IsRejectedForWantOfStack) {
+TEST(HostilePattern, IsRejectedForTooLittleStack) {
   const std::string patterns[] = {std::string(200'000, '('),
                                   Nested("(", "a", ")", 200'000),
                                   Nested("(", "a", ")*", 200'000),
@@ -161,19 +161,20 @@ TEST(HostilePattern, IsRejectedForWantOfStack) {
   }
 }
 
-TEST(HostilePattern, ThatBracesMakeLargeEndsInAnError) {
+TEST(HostilePattern, ThatBracesMakeLargeFails) {
   const std::string patterns[] = {"(a*){30000}",     "(a{1000}){1000}", "((((((a{9}){9}){9}){9}){9}){9}){9}",
                                   "a{1000000}",      "(){100000}",      "(^){100000}",
                                   "(^){40}{40}{10}", "(a?){40}{40}{8}", "(){40}{40}{12}",
                                   "(?:){20000}",     "a{0}{40000}",     Repeated("a|", 200'000)};
   for (const std::size_t stack : {kSmallStack, kOrdinaryStack}) {
     RunOnStack(stack, [&] {
-      for (const std::string& pattern : patterns) EXPECT_TRUE(IsAnEnd(OutcomeOf(pattern))) << pattern.substr(0, 40);
+      for (const std::string& pattern : patterns)
+        EXPECT_TRUE(IsAcceptable(OutcomeOf(pattern))) << pattern.substr(0, 40);
     });
   }
 }
 
-TEST(HostilePattern, ThatIsNoExpressionIsRejected) {
+TEST(HostilePattern, ThatIsNotAnExpressionIsRejected) {
   const std::string patterns[] = {std::string(200'000, ')'),
                                   std::string(200'000, '['),
                                   std::string(200'000, '*'),
@@ -189,7 +190,7 @@ TEST(HostilePattern, ThatIsNoExpressionIsRejected) {
   });
 }
 
-TEST(HostilePattern, ThatRepeatsMoreOftenThanNumbersGoIsRejected) {
+TEST(HostilePattern, WithAnOverflowingRepeatCountIsRejected) {
   for (const char* pattern :
        {"a{1000001}", "a{9999999999999999999}", "a{0,99999999999999999999999}", "(){999999999}"}) {
     const RegexOutcome outcome = OutcomeOf(pattern);
@@ -198,7 +199,7 @@ TEST(HostilePattern, ThatRepeatsMoreOftenThanNumbersGoIsRejected) {
   }
 }
 
-TEST(HostilePattern, OfPlainTextIsNoneAndOfAnyLength) {
+TEST(HostilePattern, OfPlainTextIsHarmlessAtAnyLength) {
   const std::string pattern(1'000'000, 'a');
   RunOnStack(kSmallStack, [&] {
     vif::CNamePattern compiled(pattern.c_str());
@@ -210,7 +211,7 @@ TEST(HostilePattern, OfPlainTextIsNoneAndOfAnyLength) {
 // Patterns of every shape and size, on stacks of every size
 
 struct Shape {
-  const char* open;  // as often as the pattern is large, before "a"
+  const char* open;  // repeated before "a", as often as the size says
   const char* close;
 };
 
@@ -218,7 +219,7 @@ void PrintTo(const Shape& shape, std::ostream* stream) { *stream << shape.open <
 
 class PatternOfEverySize : public testing::TestWithParam<Shape> {};
 
-TEST_P(PatternOfEverySize, EndsOnStacksOfEverySize) {
+TEST_P(PatternOfEverySize, TerminatesOnStacksOfEverySize) {
   std::size_t answers = 0;
   std::size_t errors = 0;
   for (const std::size_t kilobytes : {128U, 160U, 200U, 256U, 384U, 600U, 1000U, 2000U}) {
@@ -226,9 +227,9 @@ TEST_P(PatternOfEverySize, EndsOnStacksOfEverySize) {
       for (std::size_t count = 4; count <= 16'384; count *= 4) {
         const std::string pattern = Nested(GetParam().open, "a", GetParam().close, count);
         const RegexOutcome outcome = OutcomeOf(pattern);
-        EXPECT_TRUE(IsAnEnd(outcome)) << count << " on " << kilobytes << " kB: " << outcome.error;
+        EXPECT_TRUE(IsAcceptable(outcome)) << count << " on " << kilobytes << " kB: " << outcome.error;
         ++(outcome.answer ? answers : errors);
-        if (!outcome.answer) break;  // larger ones take no less
+        if (!outcome.answer) break;  // larger ones need no less
       }
     });
   }

@@ -1,4 +1,4 @@
-// Random regular expressions and texts that some of them fit.
+// Random regular expressions, and texts that some of them match.
 #pragma once
 
 #include "support/Random.h"
@@ -15,14 +15,14 @@ namespace randomexpression {
 
 constexpr std::string_view kQuantifiers[] = {"*", "+", "?", "*?", "+?", "{2}", "{1,2}"};
 
-/// What else the patterns consist of: parts of expressions, not all of them complete.
+/// What else the patterns consist of: parts of expressions, some of them incomplete.
 constexpr std::string_view kPieces[] = {"a",   "B",     "_",     "1",     "-",     "\xC9",        "\xE9",  "(",
                                         ")",   "(a|b)", ".",     "|",     "^",     "$",           "[",     "]",
                                         "{",   "}",     "[a-c]", "[^a",   "[^b]",  "[[:alpha:]]", "\\",    "\\d",
                                         "\\w", "\\b",   "\\x41", "(?:a)", "(?=a)", "(?!b)",       "(b)\\1"};
 
-/// A few pieces in a row, often a valid expression and sometimes none. A quantifier follows no other directly,
-/// because three of them in a row can take seconds on the shortest text.
+/// A few pieces in a row, often a valid expression, sometimes not. No quantifier directly follows another, because
+/// three in a row can take seconds on the shortest text.
 inline std::string Pattern(std::mt19937_64& generator) {
   std::string text;
   bool mayQuantify = true;
@@ -35,7 +35,7 @@ inline std::string Pattern(std::mt19937_64& generator) {
   return text;
 }
 
-/// A text so short that no expression takes long to be tried on it.
+/// A text so short that no expression takes long on it.
 inline std::string Subject(std::mt19937_64& generator) {
   constexpr std::string_view characters = "aAbBc_1\xC9\xE9-]}";
   std::string text(testsupport::RandomBelow(generator, 7), ' ');
@@ -43,7 +43,7 @@ inline std::string Subject(std::mt19937_64& generator) {
   return text;
 }
 
-/// The compiled pattern; nothing when it is no regular expression.
+/// The compiled pattern; nothing if it is not a valid regular expression.
 template <typename Char>
 std::optional<std::basic_regex<Char>> Compiled(const std::basic_string<Char>& pattern,
                                                std::regex_constants::syntax_option_type options) {

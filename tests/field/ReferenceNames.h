@@ -1,4 +1,4 @@
-// Names to try the field definitions with, made from the reference patterns.
+// Names for testing the field definitions, derived from the reference patterns.
 #pragma once
 
 #include "KnownFieldsReference.h"
@@ -15,10 +15,10 @@
 
 namespace reference {
 
-/// Stands in a spelling for the digits of an index.
+/// Stands for the digits of an index in a spelling.
 constexpr char kDigits = '#';
 
-/// Every kind of index: none, zero, one digit, several, with leading zeros, the largest number, numbers beyond it.
+/// Every kind of index: none, zero, one digit, several, with leading zeros, the largest number, larger numbers.
 constexpr std::string_view kIndexes[] = {"",
                                          "0",
                                          "7",
@@ -30,8 +30,8 @@ constexpr std::string_view kIndexes[] = {"",
                                          "000000000000000000000000000012",
                                          "123456789012345678901234567890"};
 
-/// The ways to write a field: its pattern without anchors, with `kDigits` for each capture group. There is one way,
-/// but two for the pattern with an alternation.
+/// The spellings of a field: its pattern without anchors, with `kDigits` for each capture group. There is one, or two
+/// for the pattern with an alternation.
 inline std::vector<std::string> Spellings(const ReferenceField& field) {
   constexpr std::string_view group = "([0-9]*)";
   constexpr std::string_view alternation = "(?:";
@@ -49,7 +49,7 @@ inline std::vector<std::string> Spellings(const ReferenceField& field) {
   return {text};
 }
 
-/// The name with these indexes, as far as the spelling has a place for them.
+/// The name with these indexes, as far as the spelling has places for them.
 inline std::string NameWith(std::string spelling, std::string_view first, std::string_view second) {
   for (const std::string_view index : {first, second}) {
     const size_t at = spelling.find(kDigits);
@@ -72,7 +72,7 @@ inline std::vector<std::string> NamesOf(const ReferenceField& field) {
   return names;
 }
 
-/// A character that a changed name may get: often one that names consist of, sometimes any byte at all.
+/// A character to put into a changed name: often one that occurs in names, sometimes any byte.
 inline char RandomCharacter(std::mt19937_64& generator) {
   constexpr std::string_view usual = "0123456789__ESPVDOabcdeorstxyz'# .:\t\n";
   const size_t choice = testsupport::RandomBelow(generator, usual.size() + 8);
@@ -86,8 +86,8 @@ enum class Change { Replaced, Removed, Inserted, OtherCase };
 
 constexpr Change kChanges[] = {Change::Replaced, Change::Removed, Change::Inserted, Change::OtherCase};
 
-/// The name, which must not be empty, with one character changed. A change of letter case goes to the next
-/// letter from a random place on, if there is one.
+/// The name, which must not be empty, with one character changed. A change of letter case applies to the next letter
+/// from a random position, if there is one.
 inline std::string Changed(std::string name, Change change, std::mt19937_64& generator) {
   const size_t at = testsupport::RandomBelow(generator, name.size());
   switch (change) {
@@ -109,7 +109,7 @@ inline std::string Changed(std::string name, std::mt19937_64& generator) {
   return Changed(std::move(name), change, generator);
 }
 
-/// A name as a message can show it: bytes that are no printable ASCII in hexadecimal.
+/// A name in printable form: bytes that are not printable ASCII in hexadecimal.
 inline std::string Shown(std::string_view name) {
   std::string text = "\"";
   for (const char c : name) {

@@ -1,4 +1,4 @@
-// Regular expressions made from a grammar.
+// Regular expressions generated from a grammar.
 #pragma once
 
 #include "support/Random.h"
@@ -11,7 +11,8 @@
 
 namespace testsupport {
 
-/// Makes expressions from a grammar: sequences of literals, classes, assertions and groups, some of them quantified.
+/// Generates expressions from a grammar: sequences of literals, classes, assertions and groups, some of them
+/// quantified.
 class CPatternGenerator {
  public:
   explicit CPatternGenerator(bool withReferences) : m_withReferences(withReferences) {}
@@ -77,8 +78,8 @@ class CPatternGenerator {
 
   std::mt19937_64 m_random = testsupport::SeededGenerator();
   bool m_withReferences;
-  std::size_t m_groups = 0;                 // that have been opened
-  std::vector<std::size_t> m_closedGroups;  // their numbers; only these may be referred to
+  std::size_t m_groups = 0;                 // opened so far
+  std::vector<std::size_t> m_closedGroups;  // their numbers; back references may use only these
 };
 
 }  // namespace testsupport

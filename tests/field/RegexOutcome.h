@@ -1,4 +1,4 @@
-// What a match with a regular expression ends in.
+// Outcomes of matching a regular expression.
 #pragma once
 
 #include "Compiler.h"
@@ -17,10 +17,10 @@ namespace testsupport {
 /// The syntax of name patterns.
 constexpr auto kNameSyntax = std::regex_constants::ECMAScript | std::regex_constants::icase;
 
-/// Whether the standard library has a way to match names of any length.
+/// Whether names of any length can be matched with this standard library.
 constexpr bool kHasStepwise = vif::kHasStepwiseEngine;
 
-/// An answer, or the code of the error that takes its place.
+/// An answer, or the code of the error thrown instead.
 struct RegexOutcome {
   std::optional<bool> answer;
   std::regex_constants::error_type error{};
@@ -39,7 +39,7 @@ RegexOutcome RegexOutcomeOf(const Match& match) {
   }
 }
 
-/// How far down the recursive engine goes where another can take over.
+/// How deep the recursive engine goes where another can take over.
 inline std::uintptr_t RecursionLimit() {
   return std::max(vif::LowestFrame(), VIF_FRAME_ADDRESS() - vif::kRecursionBudget);
 }

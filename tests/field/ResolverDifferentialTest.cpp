@@ -1,5 +1,5 @@
-// Compares the resolver, which finds the built-in definitions with plain code, with a slow second opinion that tries
-// the reference patterns one after the other.
+// Compares the resolver, which finds the built-in definitions with plain code, with a slow reference that tries one
+// pattern after another.
 
 #include "FieldResolver.h"
 
@@ -27,7 +27,7 @@ using Numbers = std::vector<size_t>;
 constexpr std::uint32_t kComponent = 3;
 constexpr std::uint64_t kNoNumber = 0xFFFFFFFFFFFFFFFF;
 
-/// Groups of the file whose number is 0, comes from the first number in the name, and from the second.
+/// Groups of the file whose number is 0, is the first number in the name, or the second.
 constexpr int kUnnumbered[] = {1, 2, 3};
 constexpr int kFirstNumber[] = {4, 7, 8, 9, 11};
 constexpr int kSecondNumber[] = {5, 10, 12};
@@ -37,7 +37,7 @@ bool IsIn(int location, const int (&locations)[Size]) {
   return std::find(std::begin(locations), std::end(locations), location) != std::end(locations);
 }
 
-/// Reads the number in the captured digits; there is none without digits or beyond 64 bits.
+/// Reads the number in the captured digits; unset without digits or beyond 64 bits.
 std::uint64_t NumberOf(std::wstring digits) {
   if (digits.empty()) return kNoNumber;
   digits.erase(0, std::min(digits.find_first_not_of(L'0'), digits.size()));
@@ -54,7 +54,7 @@ std::string Narrow(std::wstring_view ascii) {
   return text;
 }
 
-/// The second opinion.
+/// The reference.
 class CReferenceResolver {
  public:
   CReferenceResolver() {
@@ -66,7 +66,7 @@ class CReferenceResolver {
     }
   }
 
-  /// Resolves the name by the definitions that share its first letters: all that can fit it.
+  /// Resolves the name by the definitions that share its first letters, the only ones that can match.
   vif::ResolvedName ResolveByPrefix(std::string_view name) const {
     Numbers candidates;
     for (size_t length = 1; length <= kPrefix; ++length) {
@@ -92,7 +92,7 @@ class CReferenceResolver {
   vif::ResolvedName Resolve(std::string_view name, const Numbers& candidates) const {
     vif::ResolvedName resolved{std::string(name), {}, false};
     resolved.slots.fill({eVifLocUnset, kNoNumber});
-    // Bytes beyond ASCII turn into something that is no ASCII either, and what it is makes no difference.
+    // Bytes beyond ASCII become some character outside ASCII; it makes no difference which.
     std::wstring wideName;
     for (const char c : name) wideName += static_cast<unsigned char>(c) < 0x80 ? static_cast<wchar_t>(c) : L'\uFFFD';
     for (const size_t candidate : candidates) {
@@ -144,7 +144,7 @@ std::string Shown(const vif::ResolvedName& resolved) {
 /// Resolves names both ways and counts them.
 class CComparison {
  public:
-  /// Whether both opinions on the name are the same.
+  /// Whether both resolve the name alike.
   testing::AssertionResult Compare(std::string_view name) {
     m_resolver.Resolve(name, m_actual);
     const bool withAll = ++m_count % 128 == 0;
@@ -201,7 +201,7 @@ TEST(ResolverDifferential, AgreesOnFieldsWithOneRandomChange) {
   CComparison comparison;
   for (const ReferenceField& field : kReferenceFields) {
     const std::vector<std::string> names = reference::NamesOf(field);
-    // A field with two indexes has a hundred names, which are enough with fewer changes each.
+    // A field with two indexes has a hundred names, so fewer changes of each are enough.
     const int repetitions = names.size() > std::size(reference::kIndexes) ? 15 : 60;
     for (const std::string& name : names) {
       for (const reference::Change change : reference::kChanges) {
@@ -215,7 +215,7 @@ TEST(ResolverDifferential, AgreesOnFieldsWithOneRandomChange) {
   EXPECT_LT(comparison.KnownCount(), comparison.Count() / 2);
 }
 
-/// Everything that stands between underscores and index digits in the names of the fields.
+/// Everything between underscores and index digits in the names of the fields.
 std::vector<std::string> Fragments() {
   std::vector<std::string> fragments;
   for (const ReferenceField& field : kReferenceFields) {
@@ -230,7 +230,7 @@ std::vector<std::string> Fragments() {
   return fragments;
 }
 
-TEST(ResolverDifferential, AgreesOnFragmentsOfFieldsPutTogether) {
+TEST(ResolverDifferential, AgreesOnCombinedFragmentsOfFields) {
   SCOPED_TRACE(testsupport::SeedMessage());
   std::mt19937_64 generator = testsupport::SeededGenerator();
   const std::vector<std::string> fragments = Fragments();
@@ -274,8 +274,8 @@ TEST(ResolverDifferential, AgreesOnRandomBytes) {
   }
 }
 
-/// A definition of a random field, its pattern a copy of the built-in one or compiled once more, and the same compiled
-/// once more in any case.
+/// A definition of a random field, its pattern either a copy of the built-in one or recompiled, and the same definition
+/// always recompiled.
 struct DefinitionPair {
   VifFieldDef maybeCopied;
   VifFieldDef recompiled;
@@ -308,12 +308,12 @@ DefinitionPair RandomDefinition(std::mt19937_64& generator, const std::vector<si
   return pair;
 }
 
-TEST(ResolverDifferential, CopiesOfBuiltInDefinitionsDoWhatTheirPatternsSay) {
+TEST(ResolverDifferential, CopiesOfBuiltInDefinitionsBehaveAsTheirPatternsSay) {
   SCOPED_TRACE(testsupport::SeedMessage());
   std::mt19937_64 generator = testsupport::SeededGenerator();
   size_t known = 0;
   for (int i = 0; i < 300; ++i) {
-    std::vector<size_t> fields;  // a few, so that some are there more than once
+    std::vector<size_t> fields;  // few enough for some to occur more than once
     while (fields.size() < 12) fields.push_back(testsupport::RandomBelow(generator, std::size(kReferenceFields)));
     std::vector<VifFieldDef> copied;
     std::vector<VifFieldDef> recompiled;

@@ -1,4 +1,4 @@
-// Runs code on a stack of a size of its own.
+// Runs code on a stack of a given size.
 #pragma once
 
 #include <cstddef>
@@ -30,13 +30,13 @@ constexpr bool kIsThreadSanitized = true;
 constexpr bool kIsThreadSanitized = false;
 #endif
 
-/// A stack as small as a host's threads may have.
+/// A stack as small as those of a host's threads can be.
 constexpr std::size_t kSmallStack = std::size_t{256} * 1024;
 
 /// The stack that most systems give a program.
 constexpr std::size_t kOrdinaryStack = std::size_t{8} * 1024 * 1024;
 
-/// Runs the action in a thread with a stack of so many bytes, and waits for it. Exceptions of the action pass.
+/// Runs the action in a thread with a stack of that many bytes, and waits for it. Exceptions of the action pass.
 inline void RunOnStack(std::size_t bytes, const std::function<void()>& action) {
   struct Task {
     const std::function<void()>& action;

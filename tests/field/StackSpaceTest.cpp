@@ -31,7 +31,7 @@ std::uintptr_t StackLeftOf(std::size_t bytes) {
   return left;
 }
 
-// A system may give a thread more than was asked for: the C library uses the stacks of earlier threads again.
+// A system may give a thread more than requested: the C library reuses the stacks of earlier threads.
 TEST(StackLeft, IsNearlyAllOfANewThread) {
   for (const std::uintptr_t size : {kMegabyte, 2 * kMegabyte, 8 * kMegabyte, 32 * kMegabyte}) {
     const std::uintptr_t left = StackLeftOf(size);
@@ -75,7 +75,7 @@ TEST(StackLeft, ShrinksWithEveryCall) {
   });
 }
 
-/// Goes down the stack until nothing is left, and tells how far that was.
+/// Goes down the stack until nothing is left, and returns how far that was.
 std::uintptr_t DepthWhereNothingIsLeft(std::uintptr_t start) {
   volatile char used[256] = {};
   const std::uintptr_t here = VIF_FRAME_ADDRESS();
@@ -83,7 +83,7 @@ std::uintptr_t DepthWhereNothingIsLeft(std::uintptr_t start) {
   return used[0] == 0 ? depth : 0;
 }
 
-TEST(StackLeft, IsNothingInTheReserve) {
+TEST(StackLeft, IsZeroInTheReserve) {
   RunOnStack(kMegabyte, [] {
     const std::uintptr_t left = StackLeft();
     const std::uintptr_t depth = DepthWhereNothingIsLeft(VIF_FRAME_ADDRESS());
@@ -96,7 +96,7 @@ TEST(StackLeft, IsNothingInTheReserve) {
 
 std::uintptr_t leftOnOwnStack = 0;
 
-TEST(StackLeft, IsAssumedOnAStackThatIsNotTheThreads) {
+TEST(StackLeft, IsAssumedOnAStackOtherThanTheThreads) {
   std::vector<char> stack(kMegabyte);
   ucontext_t caller{};
   ucontext_t coroutine{};

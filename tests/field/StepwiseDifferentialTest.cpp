@@ -1,4 +1,4 @@
-// The stepwise engine against the recursive one, with wide text and captures, as field definitions need them.
+// The stepwise engine against the recursive one, on wide text and with captures, which field definitions need.
 #include "Compiler.h"
 #include "RegexGrammar.h"
 #include "support/Random.h"
@@ -17,7 +17,7 @@ namespace {
 
 using testsupport::RandomBelow;
 
-/// The texts of the groups; nothing for the groups that took no part.
+/// The texts of the groups; nothing for groups that did not participate.
 std::vector<std::optional<std::wstring>> CapturesOf(const std::wsmatch& match) {
   std::vector<std::optional<std::wstring>> captures;
   for (const auto& group : match) captures.push_back(group.matched ? std::make_optional(group.str()) : std::nullopt);
@@ -27,8 +27,8 @@ std::vector<std::optional<std::wstring>> CapturesOf(const std::wsmatch& match) {
 struct Answers {
   std::wsmatch recursive;
   std::wsmatch stepwise;
-  bool fits = false;    // by the recursive engine
-  bool agrees = false;  // the other one on that
+  bool fits = false;    // according to the recursive engine
+  bool agrees = false;  // whether the other one agrees
 };
 
 void Ask(const std::wregex& expression, const std::wstring& name, Answers& answers) {
@@ -55,7 +55,7 @@ TEST(StepwiseEngine, AnswersAsTheRecursiveOneDoes) {
   EXPECT_GT(fitting, 1000U);
 }
 
-// Captures of a repeated group that may match nothing are left out: there the two differ now and then.
+// Captures of a repeated group that may match nothing are left out: there the two occasionally differ.
 TEST(StepwiseEngine, CapturesWhatTheRecursiveOneDoes) {
   SCOPED_TRACE(testsupport::SeedMessage());
   std::mt19937_64 generator = testsupport::SeededGenerator();

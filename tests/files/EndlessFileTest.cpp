@@ -1,4 +1,4 @@
-// Files that go on for longer than there is memory, or for ever.
+// Files that exceed memory or never end.
 #include "FileTest.h"
 
 #include <gtest/gtest.h>
@@ -19,10 +19,10 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::uintmax_t kHuge = std::uintmax_t{8} << 30;
-constexpr rlim_t kMemory = rlim_t{300} << 20;  // of addresses, with the program and its libraries
+constexpr rlim_t kMemory = rlim_t{300} << 20;  // of address space, including the program and its libraries
 constexpr unsigned kSeconds = 30;
 
-/// Runs an expectation in a process of its own, which has little memory and not for ever.
+/// Runs an expectation in a process of its own, with little memory and a time limit.
 /// \return whether it held
 bool HoldsWithLittleMemory(const std::function<bool()>& expectation) {
   const pid_t child = fork();
@@ -37,7 +37,7 @@ bool HoldsWithLittleMemory(const std::function<bool()>& expectation) {
   return WIFEXITED(state) && WEXITSTATUS(state) == 0;
 }
 
-/// Whether the action ends for want of memory.
+/// Whether the action runs out of memory.
 bool LacksMemory(const std::function<void()>& action) {
   try {
     action();
@@ -51,11 +51,11 @@ class EndlessFileTest : public testsupport::CFileTest {
  protected:
   void SetUp() override {
 #ifdef IS_SANITIZED
-    GTEST_SKIP() << "the sanitizer takes more addresses than there are to be";
+    GTEST_SKIP() << "the sanitizer needs more address space than the limit";
 #endif
   }
 
-  /// Makes a file longer than memory, with NULs that take no room on the disk.
+  /// Makes a file larger than memory, with NULs that take no disk space.
   static bool Lengthen(const fs::path& file) {
     std::error_code error;
     fs::resize_file(file, kHuge, error);
@@ -65,7 +65,7 @@ class EndlessFileTest : public testsupport::CFileTest {
 
 constexpr const char* kNoHugeFiles = "files of 8 GB cannot be made here";
 
-TEST_F(EndlessFileTest, LineThatMemoryCannotHoldLosesNothingThatWasLoadedBefore) {
+TEST_F(EndlessFileTest, LineThatMemoryCannotHoldKeepsWhatWasLoadedBefore) {
   if (!Lengthen(WriteText("PID: 1\nPID: "))) GTEST_SKIP() << kNoHugeFiles;
   EXPECT_TRUE(HoldsWithLittleMemory([&] {
     CVendorInfoFile vif(Dir().Path() / "held.txt");
@@ -73,7 +73,7 @@ TEST_F(EndlessFileTest, LineThatMemoryCannotHoldLosesNothingThatWasLoadedBefore)
   }));
 }
 
-TEST_F(EndlessFileTest, CheckOfALineThatMemoryCannotHoldEndsForWantOfMemory) {
+TEST_F(EndlessFileTest, CheckOfALineThatMemoryCannotHoldRunsOutOfMemory) {
   if (!Lengthen(WriteText("PID: 1\nPID: "))) GTEST_SKIP() << kNoHugeFiles;
   EXPECT_TRUE(HoldsWithLittleMemory([&] {
     std::size_t fields = 0;
@@ -93,7 +93,7 @@ TEST_F(EndlessFileTest, XmlIsReadUpToTheFirstNul) {
   }
 }
 
-TEST_F(EndlessFileTest, MadeUpFileThatLooksRegularIsReadToAnEnd) {
+TEST_F(EndlessFileTest, VirtualFileThatLooksRegularIsReadToAnEnd) {
   const fs::path madeUp = "/proc/self/pagemap";
   std::error_code ignored;
   if (!fs::is_regular_file(madeUp, ignored)) GTEST_SKIP() << "there is no " << madeUp;

@@ -22,7 +22,7 @@ struct CFileCalls::Watch {
   std::string file;
   FileScript script;
   std::array<std::size_t, 4> counts = {};
-  // What was opened last by the name.
+  // What was last opened by the name.
   bool isOpened = false;
   dev_t device = 0;
   ino_t inode = 0;
@@ -33,20 +33,20 @@ namespace {
 
 using Kind = FileCall::Kind;
 
-/// The function of that name that stands behind the one here.
+/// The next function of that name, which the one here overrides.
 template <typename Function>
-Function* Behind(const char* name) {
+Function* Real(const char* name) {
   return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
-/// Of the object that lives. There are calls before anything of the program's is initialised, and behind its end.
+/// The watch of the living object. Calls happen before anything in the program is initialised, and after its end.
 CFileCalls::Watch* g_watch = nullptr;
 
-thread_local bool t_isPassing = false;  // in calls of the script's and in calls inside of calls
+thread_local bool t_isPassing = false;  // in the script's own calls and in nested calls
 
-int StatusBehind(int descriptor, struct stat* status) {
-  static auto* const behind = Behind<int(int, struct stat*)>("fstat");
-  return behind(descriptor, status);
+int RealStatus(int descriptor, struct stat* status) {
+  static auto* const real = Real<int(int, struct stat*)>("fstat");
+  return real(descriptor, status);
 }
 
 bool IsWatched(const char* name) {
@@ -56,7 +56,7 @@ bool IsWatched(const char* name) {
 bool IsWatched(int descriptor) {
   if (g_watch == nullptr || t_isPassing || !g_watch->isOpened) return false;
   struct stat status = {};
-  return StatusBehind(descriptor, &status) == 0 && status.st_dev == g_watch->device && status.st_ino == g_watch->inode;
+  return RealStatus(descriptor, &status) == 0 && status.st_dev == g_watch->device && status.st_ino == g_watch->inode;
 }
 
 FileCallFate Decide(Kind kind) {
@@ -72,7 +72,7 @@ FileCallFate Decide(Kind kind) {
 /// Remembers what has been opened by the name.
 void TakeOpened(int descriptor) {
   struct stat status = {};
-  if (StatusBehind(descriptor, &status) != 0) return;
+  if (RealStatus(descriptor, &status) != 0) return;
   g_watch->isOpened = true;
   g_watch->device = status.st_dev;
   g_watch->inode = status.st_ino;
@@ -81,10 +81,10 @@ void TakeOpened(int descriptor) {
 
 template <typename... Mode>
 int Open(const char* function, const char* name, int flags, Mode... mode) {
-  auto* const behind = Behind<int(const char*, int, ...)>(function);
+  auto* const real = Real<int(const char*, int, ...)>(function);
   const bool isWatched = IsWatched(name);
   if (isWatched && Decide(Kind::Open).error != 0) return -1;
-  const int descriptor = behind(name, flags, mode...);
+  const int descriptor = real(name, flags, mode...);
   if (isWatched && descriptor >= 0) TakeOpened(descriptor);
   return descriptor;
 }
@@ -95,11 +95,11 @@ int Open(const char* function, const char* name, int flags, va_list arguments) {
 }
 
 std::FILE* OpenStream(const char* function, const char* name, const char* mode) {
-  auto* const behind = Behind<std::FILE*(const char*, const char*)>(function);
+  auto* const real = Real<std::FILE*(const char*, const char*)>(function);
   const bool isWatched = IsWatched(name);
   if (isWatched && Decide(Kind::Open).error != 0) return nullptr;
-  const bool wasPassing = std::exchange(t_isPassing, true);  // it may open by way of the functions here
-  std::FILE* file = behind(name, mode);
+  const bool wasPassing = std::exchange(t_isPassing, true);  // it may call the functions here
+  std::FILE* file = real(name, mode);
   t_isPassing = wasPassing;
   if (isWatched && file != nullptr) TakeOpened(fileno(file));
   return file;
@@ -118,12 +118,12 @@ std::size_t CFileCalls::Count(FileCall::Kind kind) const { return m_watch->count
 
 }  // namespace testsupport
 
-using testsupport::Behind;
 using testsupport::Decide;
 using testsupport::IsWatched;
 using testsupport::Kind;
+using testsupport::Real;
 
-// They stand in front of the C library's functions for the program and all libraries in it.
+// These override the C library's functions in the program and all its libraries.
 #define FRONT __attribute__((visibility("default")))
 
 extern "C" FRONT int open(const char* name, int flags, ...) {
@@ -139,26 +139,26 @@ extern "C" FRONT std::FILE* fopen(const char* name, const char* mode) {
 }
 
 extern "C" FRONT int stat(const char* name, struct stat* status) noexcept {
-  static auto* const behind = Behind<int(const char*, struct stat*)>("stat");
-  return IsWatched(name) && Decide(Kind::Stat).error != 0 ? -1 : behind(name, status);
+  static auto* const real = Real<int(const char*, struct stat*)>("stat");
+  return IsWatched(name) && Decide(Kind::Stat).error != 0 ? -1 : real(name, status);
 }
 
 extern "C" FRONT int fstat(int descriptor, struct stat* status) noexcept {
   if (IsWatched(descriptor) && Decide(Kind::Status).error != 0) return -1;
-  return testsupport::StatusBehind(descriptor, status);
+  return testsupport::RealStatus(descriptor, status);
 }
 
 extern "C" FRONT ssize_t read(int descriptor, void* buffer, std::size_t size) {
-  static auto* const behind = Behind<ssize_t(int, void*, std::size_t)>("read");
-  if (!IsWatched(descriptor)) return behind(descriptor, buffer, size);
+  static auto* const real = Real<ssize_t(int, void*, std::size_t)>("read");
+  if (!IsWatched(descriptor)) return real(descriptor, buffer, size);
   const testsupport::FileCallFate fate = Decide(Kind::Read);
   if (fate.error != 0) return -1;
-  const ssize_t count = behind(descriptor, buffer, std::min(size, fate.mostBytes));
+  const ssize_t count = real(descriptor, buffer, std::min(size, fate.mostBytes));
   if (count > 0) testsupport::g_watch->position += static_cast<std::size_t>(count);
   return count;
 }
 
-// With the GNU C library, the functions for large files have names of their own.
+// The GNU C library has separate names for the functions for large files.
 #ifdef __GLIBC__
 extern "C" FRONT int open64(const char* name, int flags, ...) {
   va_list arguments;

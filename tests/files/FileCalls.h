@@ -1,5 +1,5 @@
-// Makes the C library's calls on one file fail, or do less than they could, or be the moment at which something happens
-// to the file. What a disk, a network or another process does to a reader at its own time is done here at a known one.
+// Makes the C library's calls on one file fail, do less than requested, or trigger a change to the file. What a disk, a
+// network or another process does to a reader at any time happens here at a known one.
 #pragma once
 
 #include <cstddef>
@@ -24,22 +24,21 @@ struct FileCall {
   std::size_t position;  ///< how many bytes have been read since the file was opened
 };
 
-/// What becomes of a call.
+/// What happens to a call.
 struct FileCallFate {
-  int error = 0;                                               ///< it fails with this number; 0: it is made
-  std::size_t mostBytes = std::numeric_limits<size_t>::max();  ///< a read delivers no more
+  int error = 0;                                               ///< it fails with this number; 0: it goes through
+  std::size_t mostBytes = std::numeric_limits<size_t>::max();  ///< a read returns no more
 };
 
-/// Decides on each call. Calls that it makes itself are made as ever.
+/// Decides on each call. Calls that it makes itself are not intercepted.
 using FileScript = std::function<FileCallFate(const FileCall&)>;
 
-/// While it lives, the script decides on all calls of this process on one file. Only one may live at a time, and only
-/// one thread may make calls on the file.
+/// While it lives, the script decides on all calls of this process on one file. Only one object may live at a time, and
+/// only one thread may make calls on the file.
 class CFileCalls {
  public:
-  /// \param file the name with which calls by name are made; whatever is opened by it is read under the script,
-  /// whatever
-  ///   becomes of the name meanwhile
+  /// \param file the name used by calls that take a name; whatever is opened under it is read under the script,
+  ///   whatever becomes of the name meanwhile
   CFileCalls(const std::filesystem::path& file, FileScript script);
   CFileCalls(const CFileCalls&) = delete;
   CFileCalls& operator=(const CFileCalls&) = delete;
@@ -48,7 +47,7 @@ class CFileCalls {
   /// How many calls of that kind there were.
   std::size_t Count(FileCall::Kind kind) const;
 
-  struct Watch;  ///< what the functions that stand in front of the C library's know
+  struct Watch;  ///< what the overriding functions know
 
  private:
   std::unique_ptr<Watch> m_watch;

@@ -1,4 +1,4 @@
-// What tests of files that misbehave have in common.
+// Shared by the tests with files that misbehave.
 #pragma once
 
 #include "FileCalls.h"
@@ -28,10 +28,10 @@
 
 namespace testsupport {
 
-/// What reading a file comes to.
+/// The outcome of reading a file.
 struct ReadOutcome {
-  std::vector<std::string> found;  ///< fields, or what a check tells
-  std::string error;               ///< how it ended; empty when it did so well
+  std::vector<std::string> found;  ///< fields, or what a check reports
+  std::string error;               ///< how it failed; empty on success
 
   friend bool operator==(const ReadOutcome&, const ReadOutcome&) = default;
   friend void PrintTo(const ReadOutcome& outcome, std::ostream* stream) {
@@ -39,8 +39,8 @@ struct ReadOutcome {
   }
 };
 
-/// Runs what reads a file.
-/// \return the message it ends with, with the reasons why a file is invalid behind it; empty when there is none
+/// Runs an action that reads a file.
+/// \return the message of its exception, followed by the reasons why a file is invalid; empty if it succeeds
 template <typename Action>
 std::string ErrorOf(const Action& action) {
   try {
@@ -57,7 +57,7 @@ std::string ErrorOf(const Action& action) {
   return {};
 }
 
-/// Reads text as checking does.
+/// Reads text the way checking does.
 inline ReadOutcome CheckText(const std::filesystem::path& path) {
   ReadOutcome outcome;
   const auto take = [&](std::size_t line, const std::string& what) {
@@ -71,7 +71,7 @@ inline ReadOutcome CheckText(const std::filesystem::path& path) {
   return outcome;
 }
 
-/// Reads XML as checking does.
+/// Reads XML the way checking does.
 inline ReadOutcome CheckXml(const std::filesystem::path& path) {
   ReadOutcome outcome;
   outcome.error = ErrorOf([&] {
@@ -82,7 +82,7 @@ inline ReadOutcome CheckXml(const std::filesystem::path& path) {
   return outcome;
 }
 
-/// With an object that holds fields of a file of each form already.
+/// Holds an object with the fields of a file of each form.
 class CFileTest : public testing::Test {
  protected:
   static constexpr std::string_view kXmlHead =
@@ -119,19 +119,19 @@ class CFileTest : public testing::Test {
   std::filesystem::path TextPath() const { return m_dir.Path() / "x.txt"; }
   std::filesystem::path XmlPath() const { return m_dir.Path() / "x.xml"; }
 
-  /// The file anew, so that nothing that was done to it before lasts.
+  /// Writes the file anew, so that nothing done to it before remains.
   std::filesystem::path WriteText(std::string_view content = kText) const { return Write("x.txt", content); }
   std::filesystem::path WriteXml(std::string_view content = kXml) const { return Write("x.xml", content); }
 
-  /// Appends a file to the object that holds others, and expects that nothing of these is lost or changed.
+  /// Appends a file to the object that holds others, and expects that none of their fields is lost or changed.
   ReadOutcome Append(const std::filesystem::path& path) {
     CVendorInfoFile vif = m_vif;
     ReadOutcome outcome;
     outcome.error = ErrorOf([&] { testsupport::AppendFile(vif, path); });
     outcome.found = FieldTexts(vif.Fields());
-    const auto behind = outcome.found.begin() + static_cast<std::ptrdiff_t>(std::min(m_held.size(), vif.Count()));
-    EXPECT_EQ(std::vector(outcome.found.begin(), behind), m_held);
-    outcome.found.erase(outcome.found.begin(), behind);
+    const auto afterHeld = outcome.found.begin() + static_cast<std::ptrdiff_t>(std::min(m_held.size(), vif.Count()));
+    EXPECT_EQ(std::vector(outcome.found.begin(), afterHeld), m_held);
+    outcome.found.erase(outcome.found.begin(), afterHeld);
     EXPECT_EQ(vif.FileName(), (m_dir.Path() / "held.txt").wstring());
     EXPECT_GE(vif.ComponentCount(), m_vif.ComponentCount());
     m_newComponents = vif.ComponentCount() - m_vif.ComponentCount();
@@ -142,12 +142,12 @@ class CFileTest : public testing::Test {
     return [this](const std::filesystem::path& path) { return Append(path); };
   }
 
-  /// How many components the last file appended has counted up.
+  /// How many components the last appended file has added.
   std::size_t NewComponents() const { return m_newComponents; }
 
   static ReadOutcome Ended(std::string error) { return {{}, std::move(error)}; }
 
-  // What refusals say.
+  // Messages of refusals.
   static std::string NoFile(const std::filesystem::path& path) {
     return "VIF Does not exist. (name: " + path.native() + ")";
   }

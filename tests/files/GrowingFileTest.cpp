@@ -25,7 +25,7 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kSteps = 500;
 
-/// A file gets something more before each of so many reads, and never more than a piece of it is read at once.
+/// Appends a piece to a file before each of many reads, and returns at most the length of a piece per read.
 FileScript GrowsBeforeReads(const fs::path& file, std::string piece) {
   return [=](const FileCall& call) -> FileCallFate {
     if (call.kind != FileCall::Kind::Read) return {};
@@ -40,7 +40,7 @@ std::string Repeated(std::string_view piece, std::size_t count) {
   return text;
 }
 
-/// Appends to a file as fast as it can while it lives, up to a bound.
+/// Appends to a file as fast as it can while it lives, up to a limit.
 class CWriter {
  public:
   CWriter(fs::path file, std::string piece) : m_thread([this, file, piece] { Write(file, piece); }) {}
@@ -64,7 +64,7 @@ class CWriter {
 
 class GrowingFileTest : public testsupport::CFileTest {};
 
-TEST_F(GrowingFileTest, TextIsReadToTheEndThatItHasThen) {
+TEST_F(GrowingFileTest, TextIsReadToItsNewEnd) {
   const std::string line = "PID: 1\n";
   const ReadOutcome whole = Append(WriteText(Repeated(line, kSteps + 1)));
   const ReadOutcome checked = CheckText(TextPath());
@@ -79,7 +79,7 @@ TEST_F(GrowingFileTest, TextIsReadToTheEndThatItHasThen) {
   EXPECT_EQ(CheckText(TextPath()), checked);
 }
 
-TEST_F(GrowingFileTest, TextThatGrowsAtItsEndOnlyIsNotReadOn) {
+TEST_F(GrowingFileTest, TextThatGrowsAfterItsEndIsReachedIsNotReadOn) {
   WriteText("PID: 1");
   const CFileCalls calls(TextPath(), [&](const FileCall& call) -> FileCallFate {
     if (call.kind == FileCall::Kind::Read && call.number == 3) std::ofstream(TextPath(), std::ios::app) << "23\n";
@@ -88,7 +88,7 @@ TEST_F(GrowingFileTest, TextThatGrowsAtItsEndOnlyIsNotReadOn) {
   EXPECT_EQ(Append(TextPath()).found, std::vector<std::string>{"PID=1 @6.3"});
 }
 
-TEST_F(GrowingFileTest, XmlMayGrowByWhatMayStandBehindTheRoot) {
+TEST_F(GrowingFileTest, XmlMayGrowByWhatMayFollowTheRoot) {
   const ReadOutcome whole = Append(WriteXml());
   const ReadOutcome checked = CheckXml(XmlPath());
   for (const char* piece : {" ", "<!--c-->", "\n<?p i?>"}) {

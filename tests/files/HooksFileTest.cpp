@@ -27,7 +27,7 @@ FileScript Fails(Kind kind, int error) {
 
 class HooksFileTest : public testsupport::CFileTest {
  protected:
-  /// Has the operator choose a file that does what the script says. The one chosen before stays published.
+  /// Has the operator choose a file that behaves as the script says. The VIF published before stays published.
   void ExpectRefusal(const fs::path& file, const FileScript& script, const std::string& reason) {
     m_host.suiteLog.SetVifFileName((Dir().Path() / "held.txt").c_str());
     ASSERT_EQ(m_host.Initialize(), kDone);
@@ -55,7 +55,7 @@ TEST_F(HooksFileTest, FileThatCannotBeOpened) {
   ExpectRefusal(WriteXml(), Fails(Kind::Open, EIO), XmlPath().native() + " is not a valid Vendor Info File.");
 }
 
-TEST_F(HooksFileTest, FileThatCannotBeFoundOutAbout) {
+TEST_F(HooksFileTest, FileThatCannotBeExamined) {
   for (const fs::path& file : {WriteText(), WriteXml()}) {
     const fs::filesystem_error error("exists", file, std::error_code(EIO, std::generic_category()));
     ExpectRefusal(file, Fails(Kind::Stat, EIO), error.what());
@@ -77,7 +77,7 @@ TEST_F(HooksFileTest, XmlThatCannotBeRead) {
   ExpectRefusal(WriteXml(), Fails(Kind::Read, EIO), XmlPath().native() + " is not a valid Vendor Info File.");
 }
 
-TEST_F(HooksFileTest, TextThatCannotBeReadOnIsPublishedWithWhatIsBefore) {
+TEST_F(HooksFileTest, TextThatCannotBeReadToItsEndIsPublishedUpToTheError) {
   Host().suiteLog.SetVifFileName(WriteText("PID: 1\nPID: 2\n").c_str());
   const CFileCalls calls(TextPath(), [](const FileCall& call) {
     return FileCallFate{call.kind == Kind::Read && call.position > 0 ? EIO : 0, 10};
@@ -88,7 +88,7 @@ TEST_F(HooksFileTest, TextThatCannotBeReadOnIsPublishedWithWhatIsBefore) {
   EXPECT_EQ(CAppState::TestSuiteVIF()->Count(), 1U);
 }
 
-TEST_F(HooksFileTest, OddNamesAreLoggedAsTheyAre) {
+TEST_F(HooksFileTest, OddNamesAreLoggedUnchanged) {
   for (const char* name : {"%s%n%1$s%ls.txt", "{}{0}.xml", "a\nb\r\t\x1B[31m.txt", "%", "--help"}) {
     const std::string path = (Dir().Path() / name).native();
     Host().suiteLog.SetVifFileName(path.c_str());
@@ -100,7 +100,7 @@ TEST_F(HooksFileTest, OddNamesAreLoggedAsTheyAre) {
   }
 }
 
-TEST_F(HooksFileTest, OddNamesOfFilesThatAreLoadedAreLoggedAsTheyAre) {
+TEST_F(HooksFileTest, OddNamesOfLoadedFilesAreLoggedUnchanged) {
   for (const char* name : {"%s%n%1$s%ls.txt", "{}{0}.txt", "a\nb\r\t\x1B[31m.txt"}) {
     const std::string path = Dir().Write(name, kText).native();
     Host().suiteLog.SetVifFileName(path.c_str());

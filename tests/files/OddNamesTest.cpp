@@ -18,7 +18,7 @@ using testsupport::ReadOutcome;
 
 namespace fs = std::filesystem;
 
-/// All bytes that can be in a name, one by one.
+/// All bytes that a name can contain, one by one.
 std::vector<std::string> NameBytes() {
   std::vector<std::string> bytes;
   for (int byte = 1; byte < 256; ++byte) {
@@ -29,16 +29,16 @@ std::vector<std::string> NameBytes() {
 
 class OddNamesTest : public testsupport::CFileTest {
  protected:
-  void SetUp() override {}  // no calls are taken over
+  void SetUp() override {}  // no calls are intercepted
 
-  /// Whether a file of that name can be made here: file systems may have rules of their own.
+  /// Whether a file of that name can be created here: file systems may have their own rules.
   static bool Write(const fs::path& file, std::string_view content) {
     std::ofstream stream(file, std::ios::binary);
     stream << content;
     return stream.flush().good();
   }
 
-  /// Expects that the file is loaded and checked as one of an ordinary name.
+  /// Expects that the file is loaded and checked like one with an ordinary name.
   void ExpectIsRead(const fs::path& file) {
     EXPECT_EQ(Append(file).error, "");
     EXPECT_EQ(NewComponents(), 1U);
@@ -67,7 +67,7 @@ TEST_F(OddNamesTest, AnyByteMayBeInThem) {
   EXPECT_GT(count, 180U);
 }
 
-TEST_F(OddNamesTest, AnyByteIsQuotedAsItIs) {
+TEST_F(OddNamesTest, AnyByteIsQuotedUnchanged) {
   for (const std::string& byte : NameBytes()) {
     const fs::path text = Dir().Path() / ("x" + byte + ".txt");
     const fs::path xml = Dir().Path() / ("x" + byte + ".xml");
@@ -88,7 +88,7 @@ TEST_F(OddNamesTest, LongestComponentsAreRead) {
   }
 }
 
-TEST_F(OddNamesTest, TooLongComponentsAreTheErrorOfTheExistenceTest) {
+TEST_F(OddNamesTest, TooLongComponentsFailTheExistenceTest) {
   for (const std::size_t size : {252U, 5000U, 1'000'000U}) {
     const fs::path file = Dir().Path() / (std::string(size, 'n') + ".txt");
     EXPECT_EQ(Append(file), Ended("filesystem error: " + ErrorText(ENAMETOOLONG)));
@@ -107,14 +107,14 @@ TEST_F(OddNamesTest, LongPathsAreRead) {
   }
 }
 
-TEST_F(OddNamesTest, PathsBeyondTheSystemsBoundAreTheErrorOfTheExistenceTest) {
+TEST_F(OddNamesTest, PathsBeyondTheSystemsLimitFailTheExistenceTest) {
   std::string path = Dir().Path().native();
   while (path.size() < 5000) path += "/.";
   EXPECT_EQ(Append(path + "/x.txt"), Ended("filesystem error: " + ErrorText(ENAMETOOLONG)));
   EXPECT_EQ(Append(path + "/x.xml"), Ended("filesystem error: " + ErrorText(ENAMETOOLONG)));
 }
 
-TEST_F(OddNamesTest, RelativeNamesAreReadWhereNoPathCanReach) {
+TEST_F(OddNamesTest, RelativeNamesAreReadInADirectoryTooDeepForAnyPath) {
   const fs::path former = fs::current_path();
   const fs::path directory = std::string(200, 'd');
   constexpr int depth = 25;
@@ -130,7 +130,7 @@ TEST_F(OddNamesTest, RelativeNamesAreReadWhereNoPathCanReach) {
   fs::current_path(former);
 }
 
-TEST_F(OddNamesTest, AbsoluteNamesAreReadWhereThereIsNoDirectoryAnyMore) {
+TEST_F(OddNamesTest, AbsoluteNamesAreReadFromADeletedDirectory) {
   Write(TextPath(), kText);
   Write(XmlPath(), kXml);
   const fs::path former = fs::current_path();
@@ -144,7 +144,7 @@ TEST_F(OddNamesTest, AbsoluteNamesAreReadWhereThereIsNoDirectoryAnyMore) {
   fs::current_path(former);
 }
 
-TEST_F(OddNamesTest, NamesOfNothingButAnExtensionHaveNone) {
+TEST_F(OddNamesTest, NamesThatAreOnlyAnExtensionHaveNone) {
   for (const char* name : {".txt", ".xml"}) {
     const fs::path file = Dir().Path() / name;
     ASSERT_TRUE(Write(file, kText));
@@ -152,7 +152,7 @@ TEST_F(OddNamesTest, NamesOfNothingButAnExtensionHaveNone) {
   }
 }
 
-TEST_F(OddNamesTest, WhatEndsInABlankOrADotHasAnotherExtension) {
+TEST_F(OddNamesTest, NamesThatEndInABlankOrADotHaveAnotherExtension) {
   for (const char* name : {"x.txt ", "x.txt.", "x.xml ", "x.xml.", "x.txt\n", "x. txt", "-", "--help"}) {
     const fs::path file = Dir().Path() / name;
     ASSERT_TRUE(Write(file, kText));
@@ -160,9 +160,9 @@ TEST_F(OddNamesTest, WhatEndsInABlankOrADotHasAnotherExtension) {
   }
 }
 
-// Texts that are quoted.
+// Quoted text.
 
-TEST_F(OddNamesTest, PlaceholdersAreQuotedAsTheyAre) {
+TEST_F(OddNamesTest, PlaceholdersAreQuotedUnchanged) {
   constexpr const char* formats = "%s%n%1$s%d{}{0}";
   const fs::path file = Dir().Path() / (std::string(formats) + ".txt");
   ASSERT_TRUE(Write(file, "PID: 1\nPID: 2\n"));
@@ -174,7 +174,7 @@ TEST_F(OddNamesTest, PlaceholdersAreQuotedAsTheyAre) {
             "2 fields in \"" + file.native() + "\" matched with \"P.D|%n\".");
 }
 
-TEST_F(OddNamesTest, PlaceholdersInXmlAreQuotedAsTheyAre) {
+TEST_F(OddNamesTest, PlaceholdersInXmlAreQuotedUnchanged) {
   constexpr const char* formats = "%s%n%1$s{}{0}%";
   Write(XmlPath(), std::string(kXmlHead) + "<Component><PID_SOP value='" + formats + "'/></Component></VIF>");
   const std::string error = Append(XmlPath()).error;

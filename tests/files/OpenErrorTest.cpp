@@ -1,4 +1,4 @@
-// Files that cannot be opened or found out about.
+// Files that cannot be opened or examined.
 #include "FileTest.h"
 #include "support/RunTimeErrorOf.h"
 
@@ -27,12 +27,12 @@ FileScript Fails(FileCall::Kind kind, int error) {
   return [=](const FileCall& call) { return FileCallFate{call.kind == kind ? error : 0}; };
 }
 
-/// The first call of that kind is interrupted by a signal.
+/// A signal interrupts the first call of that kind.
 FileScript IsInterrupted(FileCall::Kind kind) {
   return [=](const FileCall& call) { return FileCallFate{call.kind == kind && call.number == 1 ? EINTR : 0}; };
 }
 
-/// No further file can be opened while it lives.
+/// While it lives, no further file can be opened.
 class NoDescriptors {
  public:
   NoDescriptors() {
@@ -94,7 +94,7 @@ TEST_F(OpenErrorTest, StatusOfTheOpenFileIsNeededToReadIt) {
   }
 }
 
-TEST_F(OpenErrorTest, OtherErrorsOfTheExistenceTestAreThrownAsTheyAre) {
+TEST_F(OpenErrorTest, OtherErrorsOfTheExistenceTestAreThrownUnchanged) {
   for (const auto& file : {WriteText(), WriteXml()}) {
     for (const int error : kErrors) {
       const CFileCalls calls(file, Fails(FileCall::Kind::Stat, error));
@@ -104,7 +104,7 @@ TEST_F(OpenErrorTest, OtherErrorsOfTheExistenceTestAreThrownAsTheyAre) {
   }
 }
 
-TEST_F(OpenErrorTest, WhatTheExistenceTestDoesNotFindIsNotThere) {
+TEST_F(OpenErrorTest, FileThatTheExistenceTestDoesNotFindIsMissing) {
   for (const auto& file : {WriteText(), WriteXml()}) {
     for (const int error : {ENOENT, ENOTDIR}) {
       const CFileCalls calls(file, Fails(FileCall::Kind::Stat, error));
@@ -113,7 +113,7 @@ TEST_F(OpenErrorTest, WhatTheExistenceTestDoesNotFindIsNotThere) {
   }
 }
 
-TEST_F(OpenErrorTest, InterruptedOpeningIsTriedAgain) {
+TEST_F(OpenErrorTest, InterruptedOpenIsRetried) {
   for (const auto& file : {WriteText(), WriteXml()}) {
     const ReadOutcome whole = Append(file);
     const CFileCalls calls(file, IsInterrupted(FileCall::Kind::Open));
@@ -123,7 +123,7 @@ TEST_F(OpenErrorTest, InterruptedOpeningIsTriedAgain) {
 
 TEST_F(OpenErrorTest, FilesCannotBeOpenedWithoutDescriptors) {
 #ifdef IS_SANITIZED
-  GTEST_SKIP() << "the sanitizer opens a pipe of its own to look at memory with";
+  GTEST_SKIP() << "the sanitizer opens a pipe of its own to examine memory";
 #endif
   WriteText();
   WriteXml();

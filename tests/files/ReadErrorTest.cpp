@@ -1,4 +1,4 @@
-// Files of which a part cannot be read, or only in pieces.
+// Files that can be read only in part, or only in pieces.
 #include "FileTest.h"
 
 #include <gtest/gtest.h>
@@ -17,8 +17,8 @@ using testsupport::FileCallFate;
 using testsupport::FileScript;
 using testsupport::ReadOutcome;
 
-/// So many bytes can be read, and what is behind them cannot.
-FileScript FailsBehind(std::size_t readable, int error = EIO) {
+/// That many bytes can be read, those after them cannot.
+FileScript FailsAfter(std::size_t readable, int error = EIO) {
   return [=](const FileCall& call) -> FileCallFate {
     if (call.kind != FileCall::Kind::Read) return {};
     if (call.position >= readable) return {error};
@@ -26,12 +26,12 @@ FileScript FailsBehind(std::size_t readable, int error = EIO) {
   };
 }
 
-/// Every read delivers a few bytes at most.
+/// Every read returns a few bytes at most.
 FileScript InPieces(std::size_t size) {
   return [=](const FileCall&) { return FileCallFate{0, size}; };
 }
 
-/// Every other read is interrupted by a signal.
+/// A signal interrupts every other read.
 FileCallFate InterruptOften(const FileCall& call) {
   return {call.kind == FileCall::Kind::Read && call.number % 2 == 1 ? EINTR : 0, 7};
 }
@@ -46,7 +46,7 @@ std::string Utf16(std::string_view ascii, bool isBigEndian) {
 
 class ReadErrorTest : public testsupport::CFileTest {
  protected:
-  /// Expects that the file is read in pieces of any size as it is at once.
+  /// Expects the same from reading the file in pieces of any size as from reading it at once.
   template <typename Read>
   static void ExpectTheSameInPieces(const std::filesystem::path& path, const Read& read) {
     const ReadOutcome whole = read(path);
@@ -60,31 +60,31 @@ class ReadErrorTest : public testsupport::CFileTest {
   }
 };
 
-// Text: what could be read counts, and the error is quiet.
+// Text: what could be read counts, and the error is silent.
 
 TEST_F(ReadErrorTest, TextKeepsTheWholeLinesBeforeIt) {
   for (std::size_t readable = 0; readable <= kText.size(); ++readable) {
     const ReadOutcome expected = Append(WriteText(WholeLines(kText.substr(0, readable))));
     WriteText();
-    const CFileCalls calls(TextPath(), FailsBehind(readable));
+    const CFileCalls calls(TextPath(), FailsAfter(readable));
     EXPECT_EQ(Append(TextPath()), expected) << readable;
     EXPECT_EQ(NewComponents(), 1U);
   }
 }
 
-TEST_F(ReadErrorTest, CheckOfTextKeepsTheWholeLinesBeforeItAndTellsOfIt) {
+TEST_F(ReadErrorTest, CheckOfTextKeepsTheWholeLinesBeforeItAndReportsIt) {
   for (std::size_t readable = 0; readable <= kText.size(); ++readable) {
     const std::string_view before = WholeLines(kText.substr(0, readable));
     ReadOutcome expected = CheckText(WriteText(before));
     const auto line = 1 + std::count(before.begin(), before.end(), '\n');
     expected.found.push_back(std::to_string(line) + ": problem " + std::to_string(int{eVifLineReadFailed}));
     WriteText();
-    const CFileCalls calls(TextPath(), FailsBehind(readable));
+    const CFileCalls calls(TextPath(), FailsAfter(readable));
     EXPECT_EQ(CheckText(TextPath()), expected) << readable;
   }
 }
 
-TEST_F(ReadErrorTest, TextIsNotReadOnBehindAnErrorThatPasses) {
+TEST_F(ReadErrorTest, TextIsNotReadOnAfterATransientError) {
   WriteText("A: 1\nB: 2\nC: 3\n");
   const CFileCalls calls(TextPath(), [](const FileCall& call) {
     return FileCallFate{call.kind == FileCall::Kind::Read && call.number == 2 ? EIO : 0, 5};
@@ -93,13 +93,13 @@ TEST_F(ReadErrorTest, TextIsNotReadOnBehindAnErrorThatPasses) {
   EXPECT_EQ(calls.Count(FileCall::Kind::Read), 2U);
 }
 
-TEST_F(ReadErrorTest, TextThatWouldHaveToBeWaitedForIsAnError) {
+TEST_F(ReadErrorTest, TextThatWouldBlockIsAnError) {
   WriteText("$A: \"x\"\nPID: 2\n");
-  const CFileCalls calls(TextPath(), FailsBehind(10, EAGAIN));
+  const CFileCalls calls(TextPath(), FailsAfter(10, EAGAIN));
   EXPECT_EQ(CheckText(TextPath()).found, (std::vector<std::string>{"1: problem 1", "1: $A=\"x\"", "2: problem 2"}));
 }
 
-TEST_F(ReadErrorTest, TextIsReadInPiecesAsAtOnce) {
+TEST_F(ReadErrorTest, TextReadInPiecesGivesTheSame) {
   ExpectTheSameInPieces(WriteText(), Appending());
   ExpectTheSameInPieces(WriteText(), CheckText);
 }
@@ -110,17 +110,17 @@ TEST_F(ReadErrorTest, XmlIsRefusedForIt) {
   WriteXml();
   const ReadOutcome expected = Ended(Invalid(XmlPath(), "The file cannot be read: " + ErrorText(EIO) + "."));
   for (std::size_t readable = 0; readable <= kXml.size(); ++readable) {
-    const CFileCalls calls(XmlPath(), FailsBehind(readable));
+    const CFileCalls calls(XmlPath(), FailsAfter(readable));
     EXPECT_EQ(Append(XmlPath()), expected) << readable;
     EXPECT_EQ(NewComponents(), 0U);
     EXPECT_EQ(CheckXml(XmlPath()), expected) << readable;
   }
 }
 
-TEST_F(ReadErrorTest, XmlIsRefusedForAnErrorThatPasses) {
+TEST_F(ReadErrorTest, XmlIsRefusedForATransientError) {
   WriteXml();
   constexpr std::size_t piece = 5;
-  constexpr std::size_t reads = (kXml.size() + piece - 1) / piece + 1;  // with that of the end
+  constexpr std::size_t reads = (kXml.size() + piece - 1) / piece + 1;  // including the one at the end
   for (std::size_t number = 1; number <= reads; ++number) {
     const CFileCalls calls(XmlPath(), [=](const FileCall& call) {
       return FileCallFate{call.kind == FileCall::Kind::Read && call.number == number ? ENXIO : 0, piece};
@@ -130,18 +130,18 @@ TEST_F(ReadErrorTest, XmlIsRefusedForAnErrorThatPasses) {
   }
 }
 
-TEST_F(ReadErrorTest, XmlThatWouldHaveToBeWaitedForIsRefused) {
+TEST_F(ReadErrorTest, XmlThatWouldBlockIsRefused) {
   WriteXml();
-  const CFileCalls calls(XmlPath(), FailsBehind(kXmlHead.size(), EAGAIN));
+  const CFileCalls calls(XmlPath(), FailsAfter(kXmlHead.size(), EAGAIN));
   EXPECT_EQ(Append(XmlPath()), Ended(Invalid(XmlPath(), "The file cannot be read: " + ErrorText(EAGAIN) + ".")));
 }
 
-TEST_F(ReadErrorTest, XmlIsReadInPiecesAsAtOnce) {
+TEST_F(ReadErrorTest, XmlReadInPiecesGivesTheSame) {
   ExpectTheSameInPieces(WriteXml(), Appending());
   ExpectTheSameInPieces(WriteXml(), CheckXml);
 }
 
-TEST_F(ReadErrorTest, EncodingOfXmlIsFoundInPieces) {
+TEST_F(ReadErrorTest, EncodingOfXmlIsDetectedInPieces) {
   const std::string declared = "<?xml version='1.0' encoding='UTF-16'?>";
   const std::string root = "<VIF xmlns='http://usb.org/VendorInfoFile.xsd'><TID>x</TID></VIF>";
   const std::string latin1 =

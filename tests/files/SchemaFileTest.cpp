@@ -27,10 +27,10 @@ using Kind = FileCall::Kind;
 
 constexpr const char* kNames[] = {"VendorInfoFile.xsd", "VendorInfoFileOptionalContent.xsd"};
 
-/// A schema is opened twice: to be looked at, and to be compiled.
+/// A schema is opened twice: to be examined, and to be compiled.
 constexpr std::size_t kOpenings[] = {1, 2};
 
-/// The calls on the file as it is opened for the given time.
+/// Applies the script to the calls of one of the openings only.
 FileScript At(std::size_t opening, FileScript script) {
   return [=, opened = std::size_t{0}](const FileCall& call) mutable -> FileCallFate {
     if (call.kind == Kind::Open) ++opened;
@@ -42,12 +42,12 @@ FileScript Fails(Kind kind, int error) {
   return [=](const FileCall& call) { return FileCallFate{call.kind == kind ? error : 0}; };
 }
 
-/// What is said of a file that cannot be used; the compiler has another way to put it.
+/// The reason given for a file that cannot be used; the compiler words it differently.
 std::string Reason(std::size_t opening, const std::string& what) {
   return opening == 1 ? "The file " + what + "." : "the file " + what;
 }
 
-FileScript FailsBehind(std::size_t readable) {
+FileScript FailsAfter(std::size_t readable) {
   return [=](const FileCall& call) -> FileCallFate {
     if (call.kind != Kind::Read) return {};
     if (call.position >= readable) return {EIO};
@@ -55,7 +55,7 @@ FileScript FailsBehind(std::size_t readable) {
   };
 }
 
-/// Numbers up to the greatest, which is one of them.
+/// Numbers up to and including the greatest.
 std::vector<std::size_t> Samples(std::size_t greatest) {
   constexpr std::size_t count = 30;
   std::vector<std::size_t> samples;
@@ -86,8 +86,8 @@ class SchemaFileTest : public testsupport::CFileTest {
 
   fs::path SchemaPath(const char* name) const { return m_directory / name; }
 
-  /// Expects that loading ends with that said of the schema, loses nothing, and ends well when the schema has
-  /// recovered.
+  /// Expects that loading fails with that message about the schema and loses nothing, and that it succeeds once the
+  /// schema has recovered.
   void ExpectError(const char* name, const FileScript& script, const std::string& reason) {
     const ReadOutcome expected = Ended("Couldn't load the schema " + SchemaPath(name).native() + ": " + reason);
     {
@@ -137,7 +137,7 @@ TEST_F(SchemaFileTest, CannotBeRead) {
   for (const char* name : kNames) {
     for (const std::size_t readable : Samples(SizeOf(name))) {
       SCOPED_TRACE(testing::Message() << name << ", readable " << readable);
-      ExpectError(name, At(1, FailsBehind(readable)), Reason(1, "cannot be read: " + ErrorText(EIO)));
+      ExpectError(name, At(1, FailsAfter(readable)), Reason(1, "cannot be read: " + ErrorText(EIO)));
       if (HasFailure()) return;
     }
   }
@@ -147,13 +147,13 @@ TEST_F(SchemaFileTest, CannotBeReadAgainToBeCompiled) {
   for (const char* name : kNames) {
     for (const std::size_t readable : Samples(SizeOf(name) - 10)) {
       SCOPED_TRACE(testing::Message() << name << ", readable " << readable);
-      ExpectError(name, At(2, FailsBehind(readable)), Reason(2, "cannot be read: " + ErrorText(EIO)));
+      ExpectError(name, At(2, FailsAfter(readable)), Reason(2, "cannot be read: " + ErrorText(EIO)));
       if (HasFailure()) return;
     }
   }
 }
 
-TEST_F(SchemaFileTest, IsReadInPiecesAsAtOnce) {
+TEST_F(SchemaFileTest, ReadInPiecesGivesTheSame) {
   for (const char* name : kNames) {
     for (const std::size_t size : {1U, 3U, 1000U}) {
       ExpectNoError(name, [=](const FileCall& call) {
@@ -205,7 +205,7 @@ TEST_F(SchemaFileTest, GrowsWhileItIsRead) {
   }
 }
 
-TEST_F(SchemaFileTest, CutWhileItIsReadIsAnError) {
+TEST_F(SchemaFileTest, IsAnErrorIfCutWhileItIsRead) {
   for (const char* name : kNames) {
     for (const std::size_t opening : kOpenings) {
       for (const std::size_t parts : {0U, 1U, 2U, 3U}) {
@@ -227,7 +227,7 @@ TEST_F(SchemaFileTest, CutWhileItIsReadIsAnError) {
   }
 }
 
-TEST_F(SchemaFileTest, ChangeWhileItIsReadIsSeenAtTheNextLoad) {
+TEST_F(SchemaFileTest, ChangeDuringTheReadIsSeenAtTheNextLoad) {
   const fs::path schema = SchemaPath(kNames[0]);
   {
     const CFileCalls calls(schema, At(2, [&](const FileCall& call) {

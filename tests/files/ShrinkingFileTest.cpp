@@ -21,7 +21,7 @@ using testsupport::ReadOutcome;
 
 namespace fs = std::filesystem;
 
-/// A file is cut before its first call of that kind.
+/// Cuts the file before its first call of that kind.
 FileScript IsCutBefore(FileCall::Kind kind, const fs::path& file, std::size_t size) {
   return [=](const FileCall& call) -> FileCallFate {
     if (call.kind == kind && call.number == 1) fs::resize_file(file, size);
@@ -31,7 +31,7 @@ FileScript IsCutBefore(FileCall::Kind kind, const fs::path& file, std::size_t si
 
 constexpr std::size_t kPiece = 16;
 
-/// A file is cut when so much of it has been read. It is read in pieces.
+/// Cuts the file once that much of it has been read, in pieces.
 FileScript IsCutAt(std::size_t position, const fs::path& file, std::size_t size) {
   return [=](const FileCall& call) -> FileCallFate {
     if (call.kind == FileCall::Kind::Read && call.position == position) fs::resize_file(file, size);
@@ -41,8 +41,8 @@ FileScript IsCutAt(std::size_t position, const fs::path& file, std::size_t size)
 
 class ShrinkingFileTest : public testsupport::CFileTest {
  protected:
-  /// Cuts the file wherever it has been read to and to any size, and expects that it is read as if it had always been
-  /// what was then read of it.
+  /// Cuts the file at every read position and to every size, and expects the same as for a file that consists only of
+  /// what was then read.
   template <typename Write, typename Read>
   static void ExpectPrefixesAreRead(std::string_view content, const Write& write, const Read& read) {
     std::vector<ReadOutcome> prefixes;
@@ -51,8 +51,7 @@ class ShrinkingFileTest : public testsupport::CFileTest {
       for (std::size_t size = 0; size <= content.size(); size += size < position ? 13 : 1) {
         const fs::path file = write(content);
         const CFileCalls calls(file, IsCutAt(position, file, size));
-        ASSERT_EQ(read(file), prefixes[std::max(position, size)])
-            << "cut to " << size << " when " << position << " were read";
+        ASSERT_EQ(read(file), prefixes[std::max(position, size)]) << "cut to " << size << " after reading " << position;
       }
     }
   }
@@ -76,7 +75,7 @@ TEST_F(ShrinkingFileTest, XmlEndsWhereItIsCut) {
   ExpectPrefixesAreRead(xml, WritingXml(), CheckXml);
 }
 
-TEST_F(ShrinkingFileTest, XmlCutInAnyPlaceLosesNothingThatWasLoadedBefore) {
+TEST_F(ShrinkingFileTest, XmlCutAnywhereKeepsWhatWasLoadedBefore) {
   for (std::size_t size = 0; size + 1 < kXml.size(); ++size) {
     WriteXml();
     const CFileCalls calls(XmlPath(), IsCutAt(0, XmlPath(), size));
@@ -86,7 +85,7 @@ TEST_F(ShrinkingFileTest, XmlCutInAnyPlaceLosesNothingThatWasLoadedBefore) {
   }
 }
 
-// As long as a page, or what is read at once, or by one byte more or less.
+// As long as a page or a single read, or one byte more or less.
 TEST_F(ShrinkingFileTest, LongTextEndsWhereItIsCut) {
   std::string content;
   while (content.size() < 20'000) content += "PID: 1 ; \u20AC\n";

@@ -1,4 +1,4 @@
-// Files that go, or turn into something else, while they are read.
+// Files that vanish, or turn into something else, while they are read.
 #include "FileTest.h"
 
 #include <gtest/gtest.h>
@@ -29,12 +29,12 @@ FileScript Before(FileCall::Kind kind, std::function<void()> action) {
   };
 }
 
-/// A way for a file to go.
+/// A way for a file to vanish.
 struct Departure {
   const char* name;
   void (*perform)(const fs::path& file);
-  bool isGone;             ///< nothing has the name then
-  const char* xmlProblem;  ///< that what has the name cannot be read as XML
+  bool isGone;             ///< nothing has the name afterwards
+  const char* xmlProblem;  ///< why whatever has the name then cannot be read as XML
 };
 
 const Departure kDepartures[] = {
@@ -71,9 +71,9 @@ const Departure kDepartures[] = {
 
 class VanishingFileTest : public testsupport::CFileTest {
  protected:
-  /// Reads a file in a directory of its own, which goes before the first call of that kind.
+  /// Reads a file in a directory of its own; it vanishes before the first call of that kind.
   template <typename Read>
-  ReadOutcome ReadWhileItGoes(const char* name, const Departure& departure, FileCall::Kind kind, const Read& read) {
+  ReadOutcome ReadWhileItVanishes(const char* name, const Departure& departure, FileCall::Kind kind, const Read& read) {
     const fs::path file = Prepare(name);
     const CFileCalls calls(file, Before(kind, [&] { departure.perform(file); }));
     return read(file);
@@ -87,43 +87,43 @@ class VanishingFileTest : public testsupport::CFileTest {
   }
 };
 
-TEST_F(VanishingFileTest, TextThatGoesBeforeItIsLookedForIsNotThere) {
+TEST_F(VanishingFileTest, TextThatVanishesBeforeTheExistenceTestIsMissing) {
   for (const Departure& departure : kDepartures) {
-    const ReadOutcome outcome = ReadWhileItGoes("x.txt", departure, FileCall::Kind::Stat, Appending());
+    const ReadOutcome outcome = ReadWhileItVanishes("x.txt", departure, FileCall::Kind::Stat, Appending());
     const fs::path file = Dir().Path() / "d" / "x.txt";
     EXPECT_EQ(outcome, Ended(departure.isGone ? NoFile(file) : NotOpened(file))) << departure.name;
     EXPECT_EQ(NewComponents(), 0U);
   }
 }
 
-TEST_F(VanishingFileTest, TextThatGoesBeforeItIsOpenedCannotBe) {
+TEST_F(VanishingFileTest, TextThatVanishesBeforeItIsOpenedCannotBeOpened) {
   for (const Departure& departure : kDepartures) {
-    const ReadOutcome outcome = ReadWhileItGoes("x.txt", departure, FileCall::Kind::Open, Appending());
+    const ReadOutcome outcome = ReadWhileItVanishes("x.txt", departure, FileCall::Kind::Open, Appending());
     EXPECT_EQ(outcome, Ended(NotOpened(Dir().Path() / "d" / "x.txt"))) << departure.name;
     EXPECT_EQ(NewComponents(), 0U);
   }
 }
 
-TEST_F(VanishingFileTest, CheckOfTextThatGoesBeforeItIsOpenedCannotOpenIt) {
+TEST_F(VanishingFileTest, CheckOfTextThatVanishesBeforeItIsOpenedCannotOpenIt) {
   for (const Departure& departure : kDepartures) {
-    EXPECT_EQ(ReadWhileItGoes("x.txt", departure, FileCall::Kind::Open, CheckText),
+    EXPECT_EQ(ReadWhileItVanishes("x.txt", departure, FileCall::Kind::Open, CheckText),
               Ended(NotOpened(Dir().Path() / "d" / "x.txt")))
         << departure.name;
   }
 }
 
-TEST_F(VanishingFileTest, TextThatGoesWhileItIsReadIsReadToItsEnd) {
+TEST_F(VanishingFileTest, TextThatVanishesWhileItIsReadIsReadToItsEnd) {
   const ReadOutcome whole = Append(WriteText());
   const ReadOutcome checked = CheckText(TextPath());
   for (const Departure& departure : kDepartures) {
-    EXPECT_EQ(ReadWhileItGoes("x.txt", departure, FileCall::Kind::Read, Appending()), whole) << departure.name;
-    EXPECT_EQ(ReadWhileItGoes("x.txt", departure, FileCall::Kind::Read, CheckText), checked) << departure.name;
+    EXPECT_EQ(ReadWhileItVanishes("x.txt", departure, FileCall::Kind::Read, Appending()), whole) << departure.name;
+    EXPECT_EQ(ReadWhileItVanishes("x.txt", departure, FileCall::Kind::Read, CheckText), checked) << departure.name;
   }
 }
 
-TEST_F(VanishingFileTest, XmlThatGoesBeforeItIsLookedForIsNotThere) {
+TEST_F(VanishingFileTest, XmlThatVanishesBeforeTheExistenceTestIsMissing) {
   for (const Departure& departure : kDepartures) {
-    const ReadOutcome outcome = ReadWhileItGoes("x.xml", departure, FileCall::Kind::Stat, Appending());
+    const ReadOutcome outcome = ReadWhileItVanishes("x.xml", departure, FileCall::Kind::Stat, Appending());
     const fs::path file = Dir().Path() / "d" / "x.xml";
     EXPECT_EQ(outcome, Ended(departure.isGone ? NoFile(file)
                                               : Invalid(file, std::string("The file ") + departure.xmlProblem + ".")))
@@ -131,23 +131,23 @@ TEST_F(VanishingFileTest, XmlThatGoesBeforeItIsLookedForIsNotThere) {
   }
 }
 
-TEST_F(VanishingFileTest, XmlThatGoesBeforeItIsOpenedIsNotValid) {
+TEST_F(VanishingFileTest, XmlThatVanishesBeforeItIsOpenedIsNotValid) {
   for (const Departure& departure : kDepartures) {
-    const ReadOutcome outcome = ReadWhileItGoes("x.xml", departure, FileCall::Kind::Open, Appending());
+    const ReadOutcome outcome = ReadWhileItVanishes("x.xml", departure, FileCall::Kind::Open, Appending());
     const ReadOutcome expected =
         Ended(Invalid(Dir().Path() / "d" / "x.xml", std::string("The file ") + departure.xmlProblem + "."));
     EXPECT_EQ(outcome, expected) << departure.name;
     EXPECT_EQ(NewComponents(), 0U);
-    EXPECT_EQ(ReadWhileItGoes("x.xml", departure, FileCall::Kind::Open, CheckXml), expected) << departure.name;
+    EXPECT_EQ(ReadWhileItVanishes("x.xml", departure, FileCall::Kind::Open, CheckXml), expected) << departure.name;
   }
 }
 
-TEST_F(VanishingFileTest, XmlThatGoesWhileItIsReadIsReadToItsEnd) {
+TEST_F(VanishingFileTest, XmlThatVanishesWhileItIsReadIsReadToItsEnd) {
   const ReadOutcome whole = Append(WriteXml());
   const ReadOutcome checked = CheckXml(XmlPath());
   for (const Departure& departure : kDepartures) {
-    EXPECT_EQ(ReadWhileItGoes("x.xml", departure, FileCall::Kind::Read, Appending()), whole) << departure.name;
-    EXPECT_EQ(ReadWhileItGoes("x.xml", departure, FileCall::Kind::Read, CheckXml), checked) << departure.name;
+    EXPECT_EQ(ReadWhileItVanishes("x.xml", departure, FileCall::Kind::Read, Appending()), whole) << departure.name;
+    EXPECT_EQ(ReadWhileItVanishes("x.xml", departure, FileCall::Kind::Read, CheckXml), checked) << departure.name;
   }
 }
 

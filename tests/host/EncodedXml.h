@@ -1,4 +1,4 @@
-// The bytes of XML documents in the encodings of files.
+// XML documents in the encodings of files.
 #pragma once
 
 #include "BaseUtilities/StringConvert.h"
@@ -15,7 +15,7 @@ enum class EForm { Utf8, Utf8WithMark, Utf16Little, Utf16Big, Latin1 };
 inline constexpr std::array kForms = {EForm::Utf8, EForm::Utf8WithMark, EForm::Utf16Little, EForm::Utf16Big,
                                       EForm::Latin1};
 
-/// UTF-8 text as UTF-16, with a byte order mark.
+/// Converts UTF-8 to UTF-16 with a byte order mark.
 inline std::string EncodeUtf16(std::string_view utf8, bool isBig) {
   std::string bytes;
   const auto append = [&](char32_t unit) {
@@ -31,7 +31,7 @@ inline std::string EncodeUtf16(std::string_view utf8, bool isBig) {
   return bytes;
 }
 
-/// UTF-8 text as ISO 8859-1, with an underscore for what that does not have.
+/// Converts UTF-8 to ISO 8859-1, with an underscore for characters that it lacks.
 inline std::string EncodeLatin1(std::string_view utf8) {
   std::string bytes;
   for (const wchar_t wide : Utf8ToUtf16(utf8)) {

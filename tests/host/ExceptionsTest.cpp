@@ -15,7 +15,7 @@ static_assert(std::is_abstract_v<CZoException>);
 static_assert(std::has_virtual_destructor_v<CZoException>);
 static_assert(!std::is_base_of_v<std::exception, CZoException>);
 
-// A base that a class has twice would be a base, but its pointer would not convert.
+// Not std::is_base_of, which also holds for a base that a class has twice; pointers do not convert to that.
 static_assert(std::is_convertible_v<CZoRunTimeException*, CZoException*>);
 static_assert(std::is_convertible_v<CZoRunTimeException*, std::runtime_error*>);
 static_assert(std::is_convertible_v<CZoRunTimeException*, std::exception*>);
@@ -26,7 +26,7 @@ static_assert(!std::is_base_of_v<std::runtime_error, CZoDOMDocException>);
 static_assert(!std::is_convertible_v<const char*, CZoRunTimeException>);
 static_assert(!std::is_convertible_v<const char*, CZoDOMDocException>);
 
-/// Throws the exception and gives the message of what a handler of that type catches.
+/// Throws the exception and returns the message that a handler of that type sees.
 template <typename Handled, typename Thrown>
 std::string MessageCaughtAs(const Thrown& thrown) {
   try {

@@ -1,4 +1,4 @@
-// What the host's modules do that a host does not derive from, or not in full.
+// What the host modules do unless a host overrides it.
 #include "TestUtilities/TULog.h"
 #include "TestUtilities/TUUserInput.h"
 
@@ -6,19 +6,19 @@
 
 namespace {
 
-TEST(HostModulesTest, LogByItselfGivesBackTheStatusOfALine) {
+TEST(HostModulesTest, PlainLogReturnsTheStatusOfALine) {
   CTULog log;
   EXPECT_EQ(log.DoWrite(1, eZoLogVerbosityAlways, nullptr, "line"), 1U);
   EXPECT_EQ(log.DoWrite(0x40000000, eZoLogVerbosityDetailed, nullptr, L"line"), 0x40000000U);
 }
 
-/// Answers the one question that every host must.
+/// Implements only the function that every host must.
 class CNobody final : public CTUUserInput {
  public:
   bool ChooseFile(const wchar_t*, const wchar_t*, unsigned long, unsigned long) override { return false; }
 };
 
-TEST(HostModulesTest, QuestionsToNobodyAreAnsweredByNothing) {
+TEST(HostModulesTest, QuestionsHaveNoAnswerByDefault) {
   CNobody nobody;
   CTUUserInput& input = nobody;
   EXPECT_NO_THROW(input.ShowMessage(L"prompt", L"caption"));
@@ -27,7 +27,7 @@ TEST(HostModulesTest, QuestionsToNobodyAreAnsweredByNothing) {
   EXPECT_EQ(input.ChooseItem(L"prompt", L"caption", items, 2), -1);
 }
 
-TEST(HostModulesTest, NumberThatNobodyGivesLeavesThePlaceUntouched) {
+TEST(HostModulesTest, NumberThatIsNotEnteredLeavesTheVariableUnchanged) {
   CNobody nobody;
   long number = 7;
   EXPECT_FALSE(nobody.AskNumber(L"prompt", L"caption", 1, 9, &number));

@@ -1,4 +1,4 @@
-// File names as text, and back.
+// File names as text, and the reverse.
 #include "BaseUtilities/PathText.h"
 
 #include "BaseUtilities/StringConvert.h"
@@ -16,7 +16,7 @@ constexpr const char* kUtf8 =
     "Gr\xC3\xB6\xC3\x9F"
     "e \xE9\x9B\xBB \xF0\x9F\x94\x8C.txt";
 
-TEST(PathText, Utf8NamesComeBack) {
+TEST(PathText, Utf8NamesRoundTrip) {
   const std::filesystem::path path = PathFromUtf8(kUtf8);
   EXPECT_EQ(path, std::filesystem::path(u8"Gr\u00F6\u00DFe \u96FB \U0001F50C.txt"));
   EXPECT_EQ(PathToUtf8(path), kUtf8);
@@ -24,7 +24,7 @@ TEST(PathText, Utf8NamesComeBack) {
 
 TEST(PathText, WideTextIsThatOfTheName) { EXPECT_EQ(PathToWide(PathFromUtf8(kUtf8)), Utf8ToUtf16(kUtf8)); }
 
-TEST(PathText, SystemNamesComeBack) {
+TEST(PathText, SystemNamesRoundTrip) {
   EXPECT_EQ(PathFromSystem("a b.txt"), std::filesystem::path("a b.txt"));
   EXPECT_EQ(PathToSystem("a b.txt"), "a b.txt");
 }
@@ -39,11 +39,11 @@ TEST(PathText, EmptyNamesAreEmptyPaths) {
   EXPECT_EQ(PathToLosslessWide({}), L"");
 }
 
-TEST(SystemText, IsAsciiWhereTheTextIs) { EXPECT_EQ(WideToSystem(L"VIF_App 1"), "VIF_App 1"); }
+TEST(SystemText, IsAsciiIfTheTextIs) { EXPECT_EQ(WideToSystem(L"VIF_App 1"), "VIF_App 1"); }
 
 #ifdef _WIN32
 
-TEST(PathText, Utf8NameThatIsNotUtf8StandsForAFileWithReplacedCharacters) {
+TEST(PathText, NameThatIsNotUtf8BecomesAPathWithReplacementCharacters) {
   EXPECT_EQ(PathFromUtf8("a\xFF.txt"), std::filesystem::path(L"a\uFFFD.txt"));
 }
 
@@ -57,7 +57,7 @@ TEST(PathText, NameThatIsNotUtf8KeepsItsBytes) {
   EXPECT_EQ(PathToSystem(name), name);
 }
 
-TEST(PathText, NameThatIsNotUtf8IsReadWithReplacedCharacters) {
+TEST(PathText, NameThatIsNotUtf8IsReadWithReplacementCharacters) {
   EXPECT_EQ(PathToWide("a\xFF\xC3.txt"), L"a\uFFFD\uFFFD.txt");
 }
 

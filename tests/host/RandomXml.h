@@ -1,4 +1,4 @@
-// Well-formed XML documents of all that a parser can come upon without a document type.
+// Well-formed XML documents with everything that a parser can meet without a document type.
 #pragma once
 
 #include "support/Random.h"
@@ -17,7 +17,7 @@ class CRandomXml {
  public:
   explicit CRandomXml(std::mt19937_64& generator) : m_generator(generator) {}
 
-  /// \param declaration the XML declaration, or nothing
+  /// \param declaration the XML declaration, or empty
   std::string Document(std::string_view declaration) {
     m_xml = declaration;
     m_prefixes = {"", "xml"};
@@ -47,7 +47,7 @@ class CRandomXml {
     return texts[Below(count)];
   }
 
-  /// What may stand before and behind the root.
+  /// What may precede and follow the root.
   void AppendAround() {
     for (std::size_t i = Below(4); i > 0; --i) m_xml.append(Any(kAsides)).append(Below(2) == 0 ? "\n" : "");
   }
@@ -82,7 +82,7 @@ class CRandomXml {
     return text;
   }
 
-  /// No two have the same local name, so that none are the same in two prefixes' namespace.
+  /// All have different local names, so that none clash even if two prefixes share a namespace.
   std::string Attributes() {
     std::string text;
     for (std::size_t i = Below(4); i > 0; --i) {
@@ -111,7 +111,7 @@ class CRandomXml {
     }
   }
 
-  /// Now and then, a text that the parser hands over in many pieces.
+  /// Occasionally, a text that the parser delivers in many pieces.
   void AppendLongText() {
     switch (Below(12)) {
       case 0: m_xml.append(3900 + Below(300), 'x'); break;
@@ -124,7 +124,7 @@ class CRandomXml {
 
   std::mt19937_64& m_generator;
   std::string m_xml;
-  std::vector<std::string> m_prefixes;  // that are declared around what is being written; empty is none
+  std::vector<std::string> m_prefixes;  // in scope at the current position; empty stands for no prefix
 };
 
 }  // namespace testsupport

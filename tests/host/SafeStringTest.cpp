@@ -20,34 +20,34 @@ static_assert(std::is_convertible_v<std::string, CSafeString>);
 static_assert(std::is_convertible_v<const std::string&, CSafeString>);
 static_assert(std::is_nothrow_constructible_v<CSafeString, std::string&&>);
 
-// Too long to be held inside the string object, so that moving it moves its memory.
+// Too long for the small-string buffer, so that moving the string moves its memory.
 const std::string kLongText(1000, 'x');
 
 TEST(SafeString, IsEmptyByDefault) { EXPECT_STREQ(CSafeString().get(), ""); }
 
-TEST(SafeString, CopiesTheTextThatItIsMadeFrom) {
+TEST(SafeString, CopiesTheTextItIsConstructedFrom) {
   char text[] = "narrow";
   const CSafeString made(text);
   text[0] = 'h';
   EXPECT_STREQ(made.get(), "narrow");
 }
 
-TEST(SafeString, TakesNullForTheEmptyString) { EXPECT_STREQ(CSafeString(nullptr).get(), ""); }
+TEST(SafeString, TreatsNullAsTheEmptyString) { EXPECT_STREQ(CSafeString(nullptr).get(), ""); }
 
-TEST(SafeString, IsMadeFromAStandardString) {
+TEST(SafeString, IsConstructedFromAStandardString) {
   EXPECT_STREQ(CSafeString("standard"s).get(), "standard");
   EXPECT_STREQ(CSafeString(""s).get(), "");
   EXPECT_EQ(CSafeString(kLongText).get(), kLongText);
 }
 
-TEST(SafeString, DropsTextBehindAnEmbeddedNul) {
+TEST(SafeString, DropsTextAfterAnEmbeddedNul) {
   const CSafeString fromStandard("kept\0dropped"s);
   EXPECT_STREQ(fromStandard.get(), "kept");
   EXPECT_STREQ(CSafeString("kept\0dropped").get(), "kept");
   EXPECT_STREQ(CSafeString("\0dropped"s).get(), "");
 }
 
-TEST(SafeString, TakesAStandardStringOver) {
+TEST(SafeString, MovesFromAStandardString) {
   std::string text = kLongText;
   const char* characters = text.data();
   const CSafeString taken(std::move(text));
@@ -55,14 +55,14 @@ TEST(SafeString, TakesAStandardStringOver) {
   EXPECT_EQ(taken.get(), kLongText);
 }
 
-TEST(SafeString, LeavesAStandardStringThatItCopiesAsItWas) {
+TEST(SafeString, LeavesAStandardStringThatItCopiesUnchanged) {
   const std::string text = "kept\0too"s;
   const CSafeString copied(text);
   EXPECT_STREQ(copied.get(), "kept");
   EXPECT_EQ(text, "kept\0too"s);
 }
 
-TEST(SafeString, StandardStringThatWasTakenOverMayBeUsedAgain) {
+TEST(SafeString, MovedFromStandardStringMayBeUsedAgain) {
   std::string text = kLongText;
   const CSafeString taken(std::move(text));
   text = "again";
@@ -71,7 +71,7 @@ TEST(SafeString, StandardStringThatWasTakenOverMayBeUsedAgain) {
   EXPECT_STREQ(second.get(), "again");
 }
 
-TEST(SafeString, TakesOverTheSameTextThatItWouldCopy) {
+TEST(SafeString, MovesTheSameTextThatItWouldCopy) {
   for (std::size_t length = 0; length < 100; ++length) {
     for (std::size_t nul = 0; nul <= length; ++nul) {
       std::string text(length, 'x');
@@ -86,7 +86,7 @@ TEST(SafeString, TakesOverTheSameTextThatItWouldCopy) {
 
 TEST(SafeString, KeepsBytesThatAreNotUtf8) { EXPECT_STREQ(CSafeString("\xFF\x80"s).get(), "\xFF\x80"); }
 
-TEST(SafeString, GivesTheSameTextUntilItIsChanged) {
+TEST(SafeString, ReturnsTheSameTextUntilItIsChanged) {
   const CSafeString text(kLongText);
   const char* before = text.get();
   EXPECT_EQ(text.get(), before);
@@ -135,7 +135,7 @@ TEST(SafeString, AssigningItToItselfChangesNothing) {
   }
 }
 
-TEST(SafeString, TakesItsOwnTextInAssignment) {
+TEST(SafeString, MayBeAssignedItsOwnText) {
   CSafeString string("prefix and rest");
   string = string.get() + 7;
   EXPECT_STREQ(string.get(), "and rest");

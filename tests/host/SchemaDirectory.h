@@ -1,4 +1,4 @@
-// Tests that validate against the schema of a directory that they set.
+// Tests that validate against the schema in a directory that they set.
 #pragma once
 
 #include "support/Schemas.h"
@@ -8,14 +8,14 @@
 #include <filesystem>
 #include <string>
 
-/// A document is validated against `t.xsd` of the directory that is set.
+/// Documents are validated against `t.xsd` in the directory that is set.
 class CSchemaDirectoryTest : public testing::Test {
  protected:
   void TearDown() override { CDOMDoc::SetSchemaDirectory({}); }
 
   const testsupport::TempDir& Dir() const { return m_dir; }
 
-  /// Makes a directory and sets it.
+  /// Creates a directory and sets it.
   std::filesystem::path UseDirectory(const std::filesystem::path& name) const {
     std::filesystem::path directory = m_dir.Path() / name;
     std::filesystem::create_directory(directory);
@@ -23,7 +23,7 @@ class CSchemaDirectoryTest : public testing::Test {
     return directory;
   }
 
-  /// Writes the schema of that directory, in which the root's content has a type of that name.
+  /// Writes that directory's schema, in which the content of the root has a type of that name.
   void WriteSchema(const std::filesystem::path& directory, const std::string& type) const {
     m_dir.Write(directory / "t.xsd", testsupport::Schema("urn:t", "<xs:element name='n' type='xs:" + type + "'/>"));
   }
@@ -33,7 +33,7 @@ class CSchemaDirectoryTest : public testing::Test {
     return document.ValidateDoc(m_dir.Write("x.xml", "<n xmlns='urn:t'>" + content + "</n>"));
   }
 
-  /// Makes a directory of that name and validates against the schema in it.
+  /// Creates a directory of that name and expects documents to be validated against the schema in it.
   void ExpectSchemaIsUsed(const std::filesystem::path& directory) const {
     UseDirectory(directory);
     WriteSchema(directory, "integer");

@@ -18,7 +18,7 @@ using namespace std::string_literals;
 enum Unscoped : std::int32_t { eSmall = -2 };
 enum class Scoped : std::uint8_t { Large = 200 };
 
-/// The text that a fresh buffer makes of a format.
+/// The text that a new buffer produces from a format.
 template <typename... Arguments>
 std::string Narrow(const char* format, const Arguments&... arguments) {
   CSimpleBuffer buffer;
@@ -62,7 +62,7 @@ TEST(SimpleBuffer, GrowsAsNeeded) {
   EXPECT_EQ(Narrow("<%s>", text), "<" + text + ">");
 }
 
-TEST(SimpleBuffer, HoldsTheWideTextBesideTheNarrowOne) {
+TEST(SimpleBuffer, HoldsWideAndNarrowTextAtTheSameTime) {
   CSimpleBuffer buffer;
   buffer.Printf("narrow");
   buffer.Printf(L"wide");
@@ -70,7 +70,7 @@ TEST(SimpleBuffer, HoldsTheWideTextBesideTheNarrowOne) {
   EXPECT_STREQ(buffer.getWide(), L"wide");
 }
 
-TEST(SimpleBuffer, TakesNullForTheEmptyFormat) {
+TEST(SimpleBuffer, TreatsNullAsTheEmptyFormat) {
   CSimpleBuffer buffer;
   buffer.Printf("before");
   EXPECT_STREQ(buffer.Printf(static_cast<const char*>(nullptr)), "");
@@ -79,7 +79,7 @@ TEST(SimpleBuffer, TakesNullForTheEmptyFormat) {
   EXPECT_STREQ(buffer.Printf(static_cast<const wchar_t*>(nullptr)), L"");
 }
 
-TEST(SimpleBuffer, PrintsTextAsItIsWhateverThePlaceholder) {
+TEST(SimpleBuffer, PrintsTextUnchangedWhateverThePlaceholder) {
   for (const char* format : {"%d", "%i", "%u", "%x", "%X", "%o", "%c", "%s", "%S", "%ls", "%hs"}) {
     EXPECT_EQ(Narrow(format, "text"), "text") << format;
     EXPECT_EQ(Narrow(format, L"text"), "text") << format;
@@ -100,7 +100,7 @@ TEST(SimpleBuffer, PrintsUtf8AsWideTextInAWideFormat) {
   EXPECT_EQ(Wide(L"\U0001F50C"), L"\U0001F50C");
 }
 
-TEST(SimpleBuffer, PrintsBytesThatAreNotUtf8AsTheyAre) { EXPECT_EQ(Narrow("\xFE%s", "\xFF\x80"), "\xFE\xFF\x80"); }
+TEST(SimpleBuffer, PrintsBytesThatAreNotUtf8Unchanged) { EXPECT_EQ(Narrow("\xFE%s", "\xFF\x80"), "\xFE\xFF\x80"); }
 
 TEST(SimpleBuffer, PrintsBytesThatAreNotUtf8AsReplacementCharactersInAWideFormat) {
   EXPECT_EQ(Wide(L"<%s>", "a\xFFz"), L"<a\uFFFDz>");
@@ -115,7 +115,7 @@ TEST(SimpleBuffer, PrintsNullTexts) {
   EXPECT_EQ(Wide(L"%s", static_cast<const char*>(nullptr)), L"(null)");
 }
 
-TEST(SimpleBuffer, KeepsTextBehindAnEmbeddedNulOfAnArgument) {
+TEST(SimpleBuffer, KeepsTextAfterAnEmbeddedNulOfAnArgument) {
   CSimpleBuffer buffer;
   EXPECT_EQ(std::string_view(buffer.Printf("<%s>", "a\0b"s), 5), "<a\0b>"s);
 }
@@ -140,7 +140,7 @@ TEST(SimpleBuffer, DoesNotTurnLargeUnsignedNumbersNegative) {
   EXPECT_EQ(Narrow("%d", std::uint64_t{18446744073709551615U}), "18446744073709551615");
 }
 
-TEST(SimpleBuffer, PrintsNumbersToTheBaseAskedFor) {
+TEST(SimpleBuffer, PrintsNumbersInTheRequestedBase) {
   EXPECT_EQ(Narrow("%x", 0xBEEF), "beef");
   EXPECT_EQ(Narrow("%X", 0xbeef), "BEEF");
   EXPECT_EQ(Narrow("%o", 8), "10");
@@ -188,7 +188,7 @@ TEST(SimpleBuffer, PrintsADoubledPercentSignAsOne) {
   EXPECT_EQ(Wide(L"100%%"), L"100%");
 }
 
-TEST(SimpleBuffer, TakesAnyLengthForNothing) {
+TEST(SimpleBuffer, IgnoresLengthModifiers) {
   for (const std::string& length : {"h"s, "hh"s, "l"s, "ll"s, "z"s, "t"s, "j"s, "L"s, "hlztjL"s}) {
     EXPECT_EQ(Narrow(("%" + length + "d").c_str(), -1), "-1") << length;
     EXPECT_EQ(Narrow(("%" + length + "x").c_str(), std::int32_t{-1}), "ffffffff") << length;
@@ -199,23 +199,23 @@ TEST(SimpleBuffer, TakesAnyLengthForNothing) {
   }
 }
 
-TEST(SimpleBuffer, FillsUpToTheWidth) {
+TEST(SimpleBuffer, PadsToTheWidth) {
   EXPECT_EQ(Narrow("%5d|%5s|%5c|", 42, "ab", 'c'), "   42|   ab|    c|");
   EXPECT_EQ(Narrow("%1d|%0d", 42, 42), "42|42");
   EXPECT_EQ(Wide(L"%5d|%-5s|", 42, L"ab"), L"   42|ab   |");
 }
 
-TEST(SimpleBuffer, FillsBehindWhenLeftAligned) {
+TEST(SimpleBuffer, PadsOnTheRightWhenLeftAligned) {
   EXPECT_EQ(Narrow("%-5d|%-5s|%-5c|", 42, "ab", 'c'), "42   |ab   |c    |");
 }
 
-TEST(SimpleBuffer, FillsNumbersWithZerosOnRequest) { EXPECT_EQ(Narrow("%05d|%04X", 42, 0xAB), "00042|00AB"); }
+TEST(SimpleBuffer, PadsNumbersWithZerosOnRequest) { EXPECT_EQ(Narrow("%05d|%04X", 42, 0xAB), "00042|00AB"); }
 
 TEST(SimpleBuffer, PutsTheSignBeforeTheZeros) { EXPECT_EQ(Narrow("%05d", -42), "-0042"); }
 
-TEST(SimpleBuffer, FillsTheCodeOfACharacterWithZeros) { EXPECT_EQ(Narrow("%04X", 'A'), "0041"); }
+TEST(SimpleBuffer, PadsTheCodeOfACharacterWithZeros) { EXPECT_EQ(Narrow("%04X", 'A'), "0041"); }
 
-TEST(SimpleBuffer, FillsWithZerosNeitherBehindNorBeforeText) {
+TEST(SimpleBuffer, NeverPadsTextOrOnTheRightWithZeros) {
   EXPECT_EQ(Narrow("%-05d|%0-5d|", 42, 42), "42   |42   |");
   EXPECT_EQ(Narrow("%05s", "ab"), "   ab");
   EXPECT_EQ(Narrow("%05s", "-1"), "   -1");
@@ -228,7 +228,7 @@ TEST(SimpleBuffer, CountsWidthsInUnicodeCharacters) {
   EXPECT_EQ(Wide(L"%2s", L"\U0001F50C"), L" \U0001F50C");
 }
 
-TEST(SimpleBuffer, HoldsWidthsToOneThousand) {
+TEST(SimpleBuffer, LimitsWidthsToOneThousand) {
   EXPECT_EQ(Narrow("%999d", 1), std::string(998, ' ') + "1");
   EXPECT_EQ(Narrow("%1000d", 1), std::string(999, ' ') + "1");
   for (const char* format : {"%1001d", "%5000d", "%4294967297d", "%18446744073709551617d",
@@ -243,13 +243,13 @@ TEST(SimpleBuffer, DoesNotShortenTextToTheWidth) {
   EXPECT_EQ(Narrow("%1s", "text"), "text");
 }
 
-TEST(SimpleBuffer, PrintsPlaceholdersWithoutAnArgumentAsTheyStand) {
+TEST(SimpleBuffer, PrintsPlaceholdersWithoutAnArgumentUnchanged) {
   EXPECT_EQ(Narrow("%d"), "%d");
   EXPECT_EQ(Narrow("%s and %-08lX", "one"), "one and %-08lX");
   EXPECT_EQ(Wide(L"%d %s", 1), L"1 %s");
 }
 
-TEST(SimpleBuffer, PrintsUnknownPlaceholdersAsTheyStand) {
+TEST(SimpleBuffer, PrintsUnknownPlaceholdersUnchanged) {
   for (const std::string& format : {"%q"s, "%"s, "%5"s, "%-"s, "%l"s, "%.3s"s, "%*d"s, "%n"s, "%f"s, "%p"s, "%+d"s,
                                     "% d"s, "%#x"s, "%1$s"s, "%I64u"s, "%\xC3\xA4"s}) {
     EXPECT_EQ(Narrow(format.c_str(), 7), format);
@@ -259,12 +259,12 @@ TEST(SimpleBuffer, PrintsUnknownPlaceholdersAsTheyStand) {
 
 TEST(SimpleBuffer, IgnoresSurplusArguments) { EXPECT_EQ(Narrow("%d", 1, "two", L"three"), "1"); }
 
-TEST(SimpleBuffer, TakesPlaceholdersInAnArgumentForText) {
+TEST(SimpleBuffer, TreatsPlaceholdersInAnArgumentAsText) {
   EXPECT_EQ(Narrow("%s %s", "%s%d%%%n", "end"), "%s%d%%%n end");
   EXPECT_EQ(Wide(L"%s %s", L"%s%d%%%n", "end"), L"%s%d%%%n end");
 }
 
-TEST(SimpleBuffer, TakesItsOwnContentAsArgument) {
+TEST(SimpleBuffer, AcceptsItsOwnContentAsArgument) {
   CSimpleBuffer buffer;
   buffer.Printf("%s", std::string(50, 'n'));
   EXPECT_EQ(buffer.Printf("%s<%s>", buffer.get(), buffer.get() + 48), std::string(50, 'n') + "<nn>");
@@ -272,20 +272,20 @@ TEST(SimpleBuffer, TakesItsOwnContentAsArgument) {
   EXPECT_EQ(buffer.Printf(L"%s<%s>", buffer.getWide(), buffer.getWide() + 48), std::wstring(50, L'w') + L"<ww>");
 }
 
-TEST(SimpleBuffer, TakesItsOwnContentAsFormat) {
+TEST(SimpleBuffer, AcceptsItsOwnContentAsFormat) {
   CSimpleBuffer buffer;
   buffer.Printf("%s", "%d of %d, in a text that needs memory of its own");
   EXPECT_STREQ(buffer.Printf(buffer.get(), 1, 2), "1 of 2, in a text that needs memory of its own");
 }
 
-TEST(SimpleBuffer, PassesItsContentBetweenNarrowAndWide) {
+TEST(SimpleBuffer, ConvertsItsContentBetweenNarrowAndWide) {
   CSimpleBuffer buffer;
   buffer.Printf("\xC3\xA4");
   buffer.Printf(L"<%s>", buffer.get());
   EXPECT_STREQ(buffer.Printf("[%s]", buffer.getWide()), "[<\xC3\xA4>]");
 }
 
-/// A random text of the characters given.
+/// Random text from the given characters.
 std::string RandomText(std::mt19937_64& generator, std::string_view characters, size_t maxLength) {
   std::string text(testsupport::RandomBelow(generator, maxLength + 1), ' ');
   for (char& c : text) c = characters[testsupport::RandomBelow(generator, characters.size())];
@@ -316,7 +316,7 @@ TEST(SimpleBuffer, SurvivesAnyFormatWithAnyArguments) {
     const std::string narrow = buffer.Printf(format.c_str(), -1, text, nullptr, L'\u20AC', text.c_str());
     const std::wstring wideFormat(format.begin(), format.end());
     const std::wstring wide = buffer.Printf(wideFormat.c_str(), text, L"w", -1, 'c', nullptr);
-    // Nothing can come out that neither the format nor the widths account for.
+    // The output contains nothing that neither the format nor the widths account for.
     ASSERT_LE(narrow.size(), format.size() + 5 * 3000);
     ASSERT_LE(wide.size(), format.size() + 5 * 1000);
   }

@@ -39,7 +39,7 @@ std::wstring Wide(std::u32string_view codePoints) {
   return text;
 }
 
-/// As many replacement characters.
+/// That many replacement characters.
 std::u32string Replacements(size_t count) { return std::u32string(count, kReplacement); }
 
 /// One row of the Unicode standard's table of well-formed byte sequences: the range of each byte.
@@ -60,7 +60,7 @@ constexpr WellFormedRow kWellFormed[] = {
     {4, {{{0xF4, 0xF4}, {0x80, 0x8F}, {0x80, 0xBF}, {0x80, 0xBF}}}},
 };
 
-/// How many bytes at the text's start are as the row has them.
+/// How many bytes at the start of the text match the row.
 size_t MatchingBytes(std::string_view text, const WellFormedRow& row) {
   size_t i = 0;
   while (i < row.length && i < text.size() && static_cast<std::uint8_t>(text[i]) >= row.ranges[i][0] &&
@@ -77,8 +77,8 @@ char32_t Value(std::string_view sequence) {
   return value;
 }
 
-/// Decodes by the definition: what starts like a well-formed sequence but is none is replaced as far as it does,
-/// and a byte that starts none is replaced alone.
+/// Decodes by the definition: the longest beginning of a well-formed sequence that is not complete becomes one
+/// replacement character, and so does each byte that can start none.
 std::u32string DecodeByDefinition(std::string_view text) {
   std::u32string decoded;
   while (!text.empty()) {
@@ -209,7 +209,7 @@ TEST(Utf8ToUtf16, ReplacesATruncatedSequenceAsOne) {
   EXPECT_EQ(Utf8ToUtf16("\xE1\x80\xE2\xF0\x91\x92\xF1\xBF\x41"), Wide(Replacements(4) + U"A"));
 }
 
-TEST(Utf8ToUtf16, DoesNotReadBehindTheTextGiven) {
+TEST(Utf8ToUtf16, DoesNotReadPastTheGivenText) {
   EXPECT_EQ(Utf8ToUtf16(std::string_view("\xE2\x82\xAC", 2)), L"\uFFFD");
   EXPECT_EQ(Utf8ToUtf16(std::string_view("ab", 1)), L"a");
 }
@@ -249,7 +249,7 @@ TEST(Utf8ToUtf16, AgreesWithTheDefinitionOnRandomBytes) {
   for (int i = 0; i < 50'000; ++i) {
     std::string text;
     const size_t length = testsupport::RandomBelow(generator, 40);
-    // Half the bytes are continuations, so that sequences get far enough to go wrong late.
+    // Half the bytes are continuations, so that sequences get far enough to fail late.
     while (text.size() < length) {
       const size_t byte = testsupport::RandomBelow(generator, 512);
       text += static_cast<char>(byte < 256 ? byte : 0x80 + byte % 64);
@@ -308,7 +308,7 @@ TEST(Utf16ToUtf8, ReplacesASurrogateAtEveryPlaceInAsciiOfEveryLength) {
   for (size_t length = 1; length <= 70; ++length) {
     for (size_t place = 0; place < length; ++place) {
       std::wstring text(length, L'a');
-      text[place] = static_cast<wchar_t>(0xDC41);  // whose lower byte is a letter
+      text[place] = static_cast<wchar_t>(0xDC41);  // its low byte is a letter
       const std::string expected = std::string(place, 'a') + "\xEF\xBF\xBD" + std::string(length - place - 1, 'a');
       ASSERT_EQ(Utf16ToUtf8(text), expected) << place << " of " << length;
     }
@@ -376,7 +376,7 @@ TEST(ToLower, ChangesTheAsciiLettersAndNothingElse) {
   }
 }
 
-TEST(LetterCase, OfNothingIsNothing) {
+TEST(LetterCase, OfEmptyTextIsEmpty) {
   std::string text;
   ToUpper(text);
   EXPECT_EQ(text, "");
@@ -384,7 +384,7 @@ TEST(LetterCase, OfNothingIsNothing) {
   EXPECT_EQ(text, "");
 }
 
-TEST(LetterCase, GoesOnBehindAnEmbeddedNul) {
+TEST(LetterCase, ContinuesAfterAnEmbeddedNul) {
   std::string text = "a\0b"s;
   ToUpper(text);
   EXPECT_EQ(text, "A\0B"s);
@@ -392,7 +392,7 @@ TEST(LetterCase, GoesOnBehindAnEmbeddedNul) {
   EXPECT_EQ(text, "a\0b"s);
 }
 
-TEST(LetterCase, DoesNotAskTheGlobalLocale) {
+TEST(LetterCase, IgnoresTheGlobalLocale) {
   const testsupport::CScopedGlobalLocale latin1(testsupport::Latin1Locale());
   std::string text = "\xE9z";
   ToUpper(text);

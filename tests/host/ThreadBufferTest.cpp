@@ -1,4 +1,4 @@
-// The buffers that each thread has for itself.
+// The per-thread buffers.
 #include "TestUtilities/TULog.h"
 
 #include <gtest/gtest.h>
@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Formats one text in a thread of its own, which ends then, and keeps copies of it in memory that it frees at once.
+/// Formats one text in a new thread, which then ends, and fills memory with copies of it that it frees at once.
 bool FormatInThread(std::size_t number) {
   bool isRight = true;
   std::thread([&] {
@@ -22,8 +22,8 @@ bool FormatInThread(std::size_t number) {
   return isRight;
 }
 
-// The memory of a buffer that goes with its thread is at once another thread's.
-TEST(ThreadBuffer, GoesWithItsThreadAndLeavesOthersAlone) {
+// The memory of a buffer that is freed with its thread goes straight to another thread.
+TEST(ThreadBuffer, IsFreedWithItsThreadAndLeavesOthersAlone) {
   constexpr std::size_t starters = 8;
   constexpr std::size_t rounds = 200;
   std::vector<std::size_t> right(starters);
@@ -37,7 +37,7 @@ TEST(ThreadBuffer, GoesWithItsThreadAndLeavesOthersAlone) {
   EXPECT_EQ(right, std::vector<std::size_t>(starters, rounds));
 }
 
-TEST(ThreadBuffer, IsAnotherForEachThread) {
+TEST(ThreadBuffer, IsSeparateForEachThread) {
   const CSimpleBuffer* mine = &CTULog::GetSimpleBuffer();
   const CSimpleBuffer* other = mine;
   std::thread([&] { other = &CTULog::GetSimpleBuffer(); }).join();

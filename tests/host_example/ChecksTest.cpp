@@ -1,4 +1,4 @@
-// What the checks of the reference host's suite find.
+// Findings of the checks in the reference host's suite.
 #include "ReferenceHost.h"
 #include "support/XmlVif.h"
 
@@ -16,13 +16,13 @@ using testsupport::CReferenceHost;
 using testsupport::kChecksFailed;
 using testsupport::kNothingFailed;
 
-/// Runs the host over a VIF.
+/// Runs the host on a VIF.
 class Checks : public testing::Test {
  protected:
   void Text(const std::string& content) { Run("a.txt", content); }
   void Xml(const std::string& content) { Run("a.xml", testsupport::XmlVif(content)); }
 
-  /// What is said by the lines with that status, such as "FAIL".
+  /// The messages of the lines with that status, such as "FAIL".
   std::vector<std::string> LinesWith(const std::string& word) const {
     std::vector<std::string> found;
     for (const std::string& line : m_log) {
@@ -80,7 +80,7 @@ TEST_F(Checks, PdoNeedsASupplyType) {
   EXPECT_THAT(Failures(), ElementsAre("Source PDOs: Component 1, source PDO 1: Src_PDO_Supply_Type is missing"));
 }
 
-TEST_F(Checks, SupplyTypeAboveThreeIsNone) {
+TEST_F(Checks, SupplyTypeAboveThreeIsInvalid) {
   Text("Num_Src_PDOs: 1\nSrc_PDO_Supply_Type1: 4\n");
   EXPECT_THAT(Failures(),
               ElementsAre("Source PDOs: Component 1, source PDO 1: Src_PDO_Supply_Type is 4 and not from 0 to 3"));
@@ -129,7 +129,7 @@ TEST_F(Checks, LowestVoltageAboveTheHighestFails) {
                                       "Snk_PDO_Max_Voltage is 200"));
 }
 
-TEST_F(Checks, NumberOfMoreThan64BitsIsNone) {
+TEST_F(Checks, NumberOfMoreThan64BitsIsInvalid) {
   Text(
       "Num_Src_PDOs: 1\nSrc_PDO_Supply_Type1: 0\nSrc_PDO_Voltage1: 99999999999999999999\n"
       "Src_PDO_Max_Current1: 1\n");
@@ -149,33 +149,33 @@ TEST_F(Checks, PdoWithoutANumberFails) {
   EXPECT_THAT(Failures(), ElementsAre("Source PDOs: Component 1, source PDO without a number"));
 }
 
-TEST_F(Checks, NumberOfPdosThatDisagreesFails) {
+TEST_F(Checks, WrongNumberOfPdosFails) {
   Text("Num_Src_PDOs: 2\nNum_Snk_PDOs: 1\nSrc_PDO_Supply_Type1: 0\nSrc_PDO_Voltage1: 100\nSrc_PDO_Max_Current1: 1\n");
   EXPECT_THAT(Failures(),
               ElementsAre("Number of source PDOs: Component 1: Num_Src_PDOs is 2, but the number of source PDOs is 1",
                           "Number of sink PDOs: Component 1: Num_Snk_PDOs is 1, but the number of sink PDOs is 0"));
 }
 
-TEST_F(Checks, PdosWithoutTheirNumberFail) {
+TEST_F(Checks, PdosWithoutTheNumberOfPdosFail) {
   Text("Src_PDO_Supply_Type1: 0\nSrc_PDO_Voltage1: 100\nSrc_PDO_Max_Current1: 1\n");
   EXPECT_THAT(Failures(), ElementsAre("Number of source PDOs: Component 1: Num_Src_PDOs is missing, but the number of "
                                       "source PDOs is 1"));
 }
 
-TEST_F(Checks, EveryComponentIsLookedAt) {
+TEST_F(Checks, EveryComponentIsChecked) {
   Xml("<vif:Component/><vif:Component><vif:Num_Snk_PDOs value='3'/></vif:Component>");
   EXPECT_THAT(Failures(),
               ElementsAre("Number of sink PDOs: Component 2: Num_Snk_PDOs is 3, but the number of sink PDOs is 0"));
 }
 
-TEST_F(Checks, NumberOfEndpointsThatDisagreesFails) {
+TEST_F(Checks, WrongNumberOfEndpointsFails) {
   Xml("<vif:Product><vif:USB4RouterList><vif:Usb4Router><vif:USB4_Num_PCIe_Endpoints value='1'/></vif:Usb4Router>"
       "</vif:USB4RouterList></vif:Product>");
   EXPECT_THAT(Failures(), ElementsAre("Number of PCIe endpoints: Router 0: USB4_Num_PCIe_Endpoints is 1, but the "
                                       "number of PCIe endpoints is 0"));
 }
 
-TEST_F(Checks, RouterThatIsNotThereFails) {
+TEST_F(Checks, MissingRouterFails) {
   Text("USB4_Router_Index: 1\nUSB4_Router_ID0: 0\nUSB4_Num_PCIe_Endpoints0: 0\n");
   EXPECT_THAT(Failures(),
               ElementsAre("USB4 router of a port: Component 1: USB4_Router_Index is 1, but there is no such router"));
@@ -198,7 +198,7 @@ TEST_F(Checks, ModalOperationWithAModePasses) {
   EXPECT_THAT(LinesWith("PASS"), ElementsAre("SOP modes: nothing wrong; components with modal operation: 1"));
 }
 
-TEST_F(Checks, ModesAreNotAskedForWithoutModalOperation) {
+TEST_F(Checks, ModesAreNotRequiredWithoutModalOperation) {
   Text("Modal_Operation_Supported_SOP: NO\n");
   EXPECT_THAT(LinesWith("N/A"), testing::Contains("SOP modes: the VIF has no components with modal operation"));
 }

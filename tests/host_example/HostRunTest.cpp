@@ -1,4 +1,4 @@
-// Runs of which nobody is asked anything: the hooks, the log and the exit status.
+// Runs without questions to the operator: the hooks, the log and the exit status.
 #include "ReferenceHost.h"
 
 #include <gmock/gmock.h>
@@ -90,7 +90,7 @@ TEST_F(HostRun, InvalidXmlVifCannotBeRun) {
 }
 
 TEST_F(HostRun, EscapesControlCharactersOfFileNamesAndLogsALineForEachLine) {
-#ifdef _WIN32  // where none below U+0020 can be in a name
+#ifdef _WIN32  // names cannot contain characters below U+0020 there
   const std::string vif = m_host.Write(u8"a\u0085\u009B31m.txt", "");
   const std::string escaped = "a\\u0085\\u009b31m.txt";
 #else
@@ -105,20 +105,20 @@ TEST_F(HostRun, EscapesControlCharactersOfFileNamesAndLogsALineForEachLine) {
   EXPECT_THAT(m_host.Log(), Not(Contains(HasSubstr("no time"))));
 }
 
-TEST_F(HostRun, TakesAVifWithANameOfAnyLanguage) {
+TEST_F(HostRun, AcceptsAVifWithANameInAnyLanguage) {
   const std::string vif = m_host.Write(u8"Gr\u00F6\u00DFe \u96FB\u529B \U0001F50C.txt", "");
   EXPECT_EQ(m_host.Run({"--vif", vif}).status, kNothingFailed);
   EXPECT_EQ(m_host.Log().front(), "0x04000000 INFO  Selected VIF: " + vif + ".");
   EXPECT_EQ(m_host.Log().back(), "0x04000000 INFO  Deleting Test Suite VIF: " + vif);
 }
 
-TEST_F(HostRun, WritesALogWithANameOfAnyLanguage) {
+TEST_F(HostRun, WritesALogWithANameInAnyLanguage) {
   const std::string log = m_host.File(u8"Gr\u00F6\u00DFe \u96FB.log");
   EXPECT_EQ(m_host.Run({"--log", log, "--vif", Example("active-cable.txt")}).status, kNothingFailed);
   EXPECT_TRUE(std::filesystem::exists(std::filesystem::path(std::u8string(log.begin(), log.end()))));
 }
 
-TEST_F(HostRun, TakesTheLibraryThatItIsGiven) {
+TEST_F(HostRun, UsesTheLibraryThatItIsGiven) {
   const std::filesystem::path library = VIF_LIBRARY_FILE;
   const std::filesystem::path folder = m_host.Folder(u8"\u96FB");
   std::filesystem::copy_file(library, folder / library.filename());

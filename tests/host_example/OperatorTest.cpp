@@ -1,4 +1,4 @@
-// The operator choosing a VIF, at a terminal or by what is piped in.
+// The operator choosing a VIF, at a terminal or through a pipe.
 #include "ReferenceHost.h"
 
 #include <gmock/gmock.h>
@@ -52,7 +52,7 @@ long Questions(const ProgramResult& result) {
   return count;
 }
 
-TEST_P(Operator, IsShownWhatTheLibraryAsksAndTheVifsByName) {
+TEST_P(Operator, IsShownTheLibrarysQuestionAndTheVifsByName) {
   for (const char* name : {"b.XML", "a.txt", "c.json"}) m_host.Write(name, "");
   const auto lines = testsupport::Lines(Types("\n").output);
   const auto caption = std::find(lines.begin(), lines.end(), "Choose VIF for test suite");
@@ -76,7 +76,7 @@ TEST_P(Operator, TypesAPath) {
   EXPECT_EQ(m_host.Log().front(), Selected(vif));
 }
 
-TEST_P(Operator, IsAskedAgainAfterANumberThatIsNotThere) {
+TEST_P(Operator, IsAskedAgainAfterAnInvalidNumber) {
   const std::string vif = m_host.Write("a.txt", "");
   const auto result = Types("0\n2\n99999999999999999999999\n1\n");
   EXPECT_EQ(result.status, kNothingFailed);
@@ -86,7 +86,7 @@ TEST_P(Operator, IsAskedAgainAfterANumberThatIsNotThere) {
   EXPECT_EQ(m_host.Log().front(), Selected(vif));
 }
 
-TEST_P(Operator, IsAskedAgainAfterAPathThatIsNoVif) {
+TEST_P(Operator, IsAskedAgainAfterAPathThatIsNotAVif) {
   const std::string other = m_host.Write("a.json", "");
   const std::string vif = m_host.Write("a.txt", "");
   const auto result = Types("missing.txt\n" + m_host.Dir() + "\n" + other + "\n" + vif + "\n");
@@ -137,7 +137,7 @@ TEST_P(Operator, MayTypeAPathWhereADirectoryHasNoVifs) {
 }
 
 TEST_P(Operator, IsShownFileNamesWithEscapesAndChoosesTheFileItself) {
-#ifdef _WIN32  // where none below U+0020 can be in a name
+#ifdef _WIN32  // names cannot contain characters below U+0020 there
   m_host.Write(u8"a\u009B2J\u0085.txt", "");
   const std::string escaped = "  1  a\\u009b2J\\u0085.txt";
 #else
@@ -149,7 +149,7 @@ TEST_P(Operator, IsShownFileNamesWithEscapesAndChoosesTheFileItself) {
   EXPECT_THAT(result.output, AllOf(HasSubstr(escaped), Not(HasSubstr("\x1b")), Not(HasSubstr("\u009B"))));
 }
 
-TEST_P(Operator, IsShownFileNamesOfAnyLanguage) {
+TEST_P(Operator, IsShownFileNamesInAnyLanguage) {
   const std::string vif = m_host.Write(u8"Gr\u00F6\u00DFe \u96FB\u529B \U0001F50C.txt", "");
   const auto result = Types("1\n");
   EXPECT_EQ(result.status, kNothingFailed);
@@ -157,7 +157,7 @@ TEST_P(Operator, IsShownFileNamesOfAnyLanguage) {
   EXPECT_EQ(m_host.Log().front(), Selected(vif));
 }
 
-TEST_P(Operator, TypesAPathOfAnyLanguage) {
+TEST_P(Operator, TypesAPathInAnyLanguage) {
   const std::string vif = m_host.Write(u8"Gr\u00F6\u00DFe \u96FB\u529B \U0001F50C.txt", "");
   EXPECT_EQ(Types(vif + "\n").status, kNothingFailed);
   EXPECT_EQ(m_host.Log().front(), Selected(vif));

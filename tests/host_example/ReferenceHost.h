@@ -42,7 +42,7 @@ class CReferenceHost {
     return NameOf(m_dir.Write(name, content));
   }
 
-  /// Makes a directory in the directory.
+  /// Creates a directory in the directory.
   std::filesystem::path Folder(const std::filesystem::path& name) const {
     std::filesystem::create_directory(m_dir.Path() / name);
     return m_dir.Path() / name;
@@ -50,13 +50,13 @@ class CReferenceHost {
 
   std::string LogFile() const { return File("the.log"); }
 
-  /// The lines of the log file as they are.
+  /// The lines of the log file, unchanged.
   std::vector<std::string> RawLog() const {
     std::ifstream file(m_dir.Path() / "the.log", std::ios::binary);
     return Lines({std::istreambuf_iterator<char>(file), {}});
   }
 
-  /// The same without their times; a line that does not begin with a time is "no time: " and the line.
+  /// The same without timestamps; a line that does not start with one becomes "no time: " and the line.
   std::vector<std::string> Log() const {
     const std::regex time("^[0-9]{4}-[0-9]{2}-[0-9]{2}T[0-9]{2}:[0-9]{2}:[0-9]{2}Z ");
     std::vector<std::string> lines = RawLog();

@@ -17,7 +17,7 @@ using testsupport::kNothingFailed;
 
 class Usage : public testing::Test {
  protected:
-  /// Expects that a command line is refused before anything is done.
+  /// Expects a command line to be refused before anything is done.
   void ExpectRefused(const std::vector<std::string>& arguments, const std::string& reason) const {
     const auto result = m_host.Run(arguments);
     EXPECT_EQ(result.status, kCouldNotRun);

@@ -1,4 +1,4 @@
-// What a program finds that loads the library while it runs, and that the library goes when it is unloaded.
+// Loading the library at run time: what the program finds in it, and that it is gone once unloaded.
 #include "Modules.h"
 #include "VIFField.h"
 
@@ -12,7 +12,7 @@ namespace {
 
 const std::string kLibrary = VIF_LIBRARY;
 
-/// Unloads it at the end of a test.
+/// Unloads the library at the end of a test.
 class CLoaded {
  public:
   explicit CLoaded(const std::string& file) : m_library(modules::Load(file)) {}
@@ -68,7 +68,7 @@ TEST(LoadingTest, UnloadedLibraryIsGone) {
   EXPECT_FALSE(modules::IsLoaded(kLibrary));
 }
 
-TEST(LoadingTest, LibraryGoesWithThePlugInThatUsedIt) {
+TEST(LoadingTest, LibraryIsUnloadedWithThePlugInThatUsedIt) {
   {
     const CLoaded plugin(LOADING_PLUGIN);
     ASSERT_TRUE(plugin.IsLoaded());

@@ -9,7 +9,7 @@ namespace modules {
 
 namespace {
 
-/// Whether a part of the file is mapped into memory.
+/// Whether part of the file is mapped into memory.
 bool IsMapped(const std::string& file) {
   const std::string path = std::filesystem::canonical(file).string();
   std::ifstream maps("/proc/self/maps");

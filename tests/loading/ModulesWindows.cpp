@@ -6,7 +6,7 @@
 
 namespace modules {
 
-// The libraries are beside the program, where Windows looks for them first. Paths of the build may not be paths there.
+// The libraries are next to the program, where Windows looks first. Paths of the build may not be valid there.
 namespace {
 std::wstring NameOf(const std::string& file) { return std::filesystem::path(file).filename().wstring(); }
 }  // namespace

@@ -12,13 +12,13 @@
 #define PLUGIN_API VIF_API
 #endif
 
-// They are odr-used, so that the plug-in has them for itself, as any program may.
+// These are odr-used, so that the plug-in has its own copies, as any program may.
 namespace {
 const std::uint32_t& g_unset = CVIFField::VIF_VALUE_UNSET;
 const VifIndex& g_any = CVIFField::UNSPECIFIED_INDEX;
 }  // namespace
 
-/// The number of fields in a file that have that name and a number; 0 also when the file cannot be loaded.
+/// How many fields in a file have that name and a number; 0 if the file cannot be loaded.
 extern "C" PLUGIN_API std::size_t CountNumbers(const char* file, const char* pattern) {
   try {
     const CVendorInfoFile vif(file);

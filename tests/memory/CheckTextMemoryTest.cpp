@@ -1,4 +1,4 @@
-// Following how a text file becomes fields.
+// Checking how a text file becomes fields.
 #include "Samples.h"
 #include "VIFTextCheck.h"
 #include "support/ForEveryFailingAllocation.h"
@@ -14,7 +14,7 @@ namespace {
 
 using testsupport::ForEveryFailingAllocation;
 
-/// How often observers have been told of something. They take no memory, so that what fails is the library's.
+/// How often each observer has been called. They allocate nothing, so that only the library's allocations fail.
 struct Told {
   bool operator==(const Told&) const = default;
 
@@ -46,7 +46,7 @@ TEST(CheckTextMemory, CheckTextVif) {
                             });
 }
 
-TEST(CheckTextMemory, CheckTextVifWithDefinitionsOfTheCallers) {
+TEST(CheckTextMemory, CheckTextVifWithTheCallersDefinitions) {
   const testsupport::TempDir dir;
   const std::filesystem::path path = dir.Write("a file with a long name.txt", testsupport::TextVif());
   const std::vector<VifFieldDef> definitions = {{L"PID", std::wregex(L"PID"), {eVifLocVif}}};

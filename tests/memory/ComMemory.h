@@ -10,8 +10,8 @@
 
 namespace testsupport {
 
-/// Makes a call that reports memory that has run out either by `std::bad_alloc` or by the error of COM; the latter
-/// becomes the former.
+/// Makes a call that reports exhausted memory either with `std::bad_alloc` or with the error of COM; turns the latter
+/// into the former.
 template <typename Call>
 auto WithComErrors(const Call& call) {
   try {
@@ -22,7 +22,7 @@ auto WithComErrors(const Call& call) {
   }
 }
 
-/// A result that is no failure, or that memory has run out.
+/// A result that is either not a failure or reports exhausted memory.
 /// \throws std::bad_alloc
 inline HRESULT Succeeded(HRESULT result) {
   if (result == E_OUTOFMEMORY) throw std::bad_alloc();

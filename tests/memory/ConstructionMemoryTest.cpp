@@ -1,4 +1,4 @@
-// Constructing objects, but for those from XML files.
+// Constructing objects, except from XML files.
 #include "Outcome.h"
 #include "Samples.h"
 #include "VendorInfoFile.h"
@@ -20,9 +20,9 @@ using testsupport::COutcome;
 using testsupport::FieldTexts;
 using testsupport::ForEveryFailingAllocation;
 
-/// Constructs with memory running out; an object that comes of it must hold just these fields.
+/// Constructs with memory running out; a resulting object must hold exactly these fields.
 template <typename Construct>
-void ExpectConstructionBearsFailures(const std::vector<std::string>& expected, const Construct& construct) {
+void ExpectConstructionSurvivesFailures(const std::vector<std::string>& expected, const Construct& construct) {
   ForEveryFailingAllocation(construct, [&](const std::optional<CVendorInfoFile>& vif) {
     if (vif) {
       EXPECT_EQ(FieldTexts(*vif->GetFields()), expected);
@@ -30,8 +30,8 @@ void ExpectConstructionBearsFailures(const std::vector<std::string>& expected, c
   });
 }
 
-/// Constructs from a file that is refused; whenever there is memory for it, that is said.
-void ExpectRefusalBearsFailures(const std::filesystem::path& path, const std::string& expected) {
+/// Constructs from a file that is refused; if memory suffices, the refusal must have the expected message.
+void ExpectRefusalSurvivesFailures(const std::filesystem::path& path, const std::string& expected) {
   const auto load = [&] { return CVendorInfoFile(path).Count(); };
   EXPECT_EQ(testsupport::OutcomeOf(load), expected);
   ForEveryFailingAllocation([&] { return COutcome(load); },
@@ -43,18 +43,18 @@ void ExpectRefusalBearsFailures(const std::filesystem::path& path, const std::st
 }
 
 TEST(ConstructionMemory, Empty) {
-  ExpectConstructionBearsFailures({}, [] { return CVendorInfoFile(); });
+  ExpectConstructionSurvivesFailures({}, [] { return CVendorInfoFile(); });
 }
 
 TEST(ConstructionMemory, FromNullAndFromAnEmptyPath) {
-  ExpectConstructionBearsFailures({}, [] { return CVendorInfoFile(nullptr); });
-  ExpectConstructionBearsFailures({}, [] { return CVendorInfoFile(std::filesystem::path()); });
+  ExpectConstructionSurvivesFailures({}, [] { return CVendorInfoFile(nullptr); });
+  ExpectConstructionSurvivesFailures({}, [] { return CVendorInfoFile(std::filesystem::path()); });
 }
 
 TEST(ConstructionMemory, FromAFieldList) {
   const std::vector<CVIFField> fields = testsupport::SampleFields();
   const std::vector<std::string> expected = FieldTexts(fields);
-  ExpectConstructionBearsFailures(expected, [&] { return CVendorInfoFile(fields); });
+  ExpectConstructionSurvivesFailures(expected, [&] { return CVendorInfoFile(fields); });
   EXPECT_EQ(FieldTexts(fields), expected);
 }
 
@@ -63,10 +63,10 @@ TEST(ConstructionMemory, FromATextFile) {
   const std::filesystem::path path = dir.Write("a file with a long name.txt", testsupport::TextVif());
   const std::vector<std::string> expected = FieldTexts(*CVendorInfoFile(path).GetFields());
   ASSERT_EQ(expected.size(), testsupport::kTextFieldCount);
-  ExpectConstructionBearsFailures(expected, [&] { return CVendorInfoFile(path); });
+  ExpectConstructionSurvivesFailures(expected, [&] { return CVendorInfoFile(path); });
 }
 
-// Longer than what is read at once, and with a line that is, too.
+// Longer than a single read, and with a line that is also longer.
 TEST(ConstructionMemory, FromALongTextFile) {
   const testsupport::TempDir dir;
   std::string text = "$Vendor_Name: \"" + std::string(200'000, 'v') + "\"\n";
@@ -85,7 +85,7 @@ TEST(ConstructionMemory, FromALongTextFile) {
                             everyUpTo);
 }
 
-TEST(ConstructionMemory, FromATextFileWithDefinitionsOfTheCallers) {
+TEST(ConstructionMemory, FromATextFileWithTheCallersDefinitions) {
   const testsupport::TempDir dir;
   const std::filesystem::path path = dir.Write("a.txt", testsupport::TextVif());
   std::vector<VifFieldDef> definitions = {{L"Src_PDO_Voltage_Of_A_Name_That_Is_Long",
@@ -93,26 +93,26 @@ TEST(ConstructionMemory, FromATextFileWithDefinitionsOfTheCallers) {
                                            {eVifLocComponent, eVifLocSrcPdo}},
                                           {L"Nothing", std::wregex(L"(Name_Of_)?Nothing_.*"), {}}};
   const std::vector<std::string> expected = FieldTexts(*CVendorInfoFile(path, &definitions).GetFields());
-  ExpectConstructionBearsFailures(expected, [&] { return CVendorInfoFile(path, &definitions); });
+  ExpectConstructionSurvivesFailures(expected, [&] { return CVendorInfoFile(path, &definitions); });
 }
 
 TEST(ConstructionMemory, FromAFileThatDoesNotExist) {
   const testsupport::TempDir dir;
   const std::filesystem::path path = dir.Path() / "no file of that name.txt";
-  ExpectRefusalBearsFailures(path, "CZoRunTimeException: VIF Does not exist. (name: " + path.string() + ")");
+  ExpectRefusalSurvivesFailures(path, "CZoRunTimeException: VIF Does not exist. (name: " + path.string() + ")");
 }
 
 TEST(ConstructionMemory, FromAFileOfAnotherType) {
   const testsupport::TempDir dir;
-  ExpectRefusalBearsFailures(dir.Write("a file with a long name.jpeg", ""),
-                             "CZoRunTimeException: Invalid file type for VIF!  Must be text (*.txt) or XML (*.xml)");
+  ExpectRefusalSurvivesFailures(dir.Write("a file with a long name.jpeg", ""),
+                                "CZoRunTimeException: Invalid file type for VIF!  Must be text (*.txt) or XML (*.xml)");
 }
 
 TEST(ConstructionMemory, FromADirectory) {
   const testsupport::TempDir dir;
   const std::filesystem::path path = dir.Path() / "a directory with a long name.txt";
   std::filesystem::create_directory(path);
-  ExpectRefusalBearsFailures(path, "CZoRunTimeException: Couldn't open Vendor Info File: " + path.string() + ".");
+  ExpectRefusalSurvivesFailures(path, "CZoRunTimeException: Couldn't open Vendor Info File: " + path.string() + ".");
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ namespace {
 using testsupport::FieldTexts;
 using testsupport::ForEveryFailingAllocation;
 
-/// All that can be seen of an object.
+/// The observable state of an object.
 struct Contents {
   explicit Contents(const CVendorInfoFile& vif)
       : fields(FieldTexts(*vif.GetFields())), fileName(vif.FileName()), components(vif.ComponentCount()) {}
@@ -55,7 +55,7 @@ TEST_F(CopyMemoryTest, CopyConstruct) {
                             });
 }
 
-TEST_F(CopyMemoryTest, CopyConstructFromAMovedObject) {
+TEST_F(CopyMemoryTest, CopyConstructFromAMovedFromObject) {
   CVendorInfoFile source = Loaded();
   const CVendorInfoFile taken = std::move(source);
   ForEveryFailingAllocation([&] { return CVendorInfoFile(source); },  // NOLINT(bugprone-use-after-move): it is empty
@@ -77,7 +77,7 @@ TEST_F(CopyMemoryTest, CopyAssign) {
       });
 }
 
-TEST_F(CopyMemoryTest, MoveConstructTakesNoMemory) {
+TEST_F(CopyMemoryTest, MoveConstructAllocatesNothing) {
   CVendorInfoFile source = Loaded();
   ForEveryFailingAllocation([&] { return CVendorInfoFile(std::move(source)); },
                             [&](std::optional<CVendorInfoFile> moved) {
@@ -87,7 +87,7 @@ TEST_F(CopyMemoryTest, MoveConstructTakesNoMemory) {
                             });
 }
 
-TEST_F(CopyMemoryTest, MoveAssignTakesNoMemory) {
+TEST_F(CopyMemoryTest, MoveAssignAllocatesNothing) {
   ForEveryFailingAllocation(
       [&] {
         return Pair{Loaded(), Other()};
@@ -100,7 +100,7 @@ TEST_F(CopyMemoryTest, MoveAssignTakesNoMemory) {
       });
 }
 
-TEST_F(CopyMemoryTest, MovedObjectIsUsedAgain) {
+TEST_F(CopyMemoryTest, MovedFromObjectIsUsedAgain) {
   const auto begin = [&] {
     CVendorInfoFile vif = Loaded();
     const CVendorInfoFile taken = std::move(vif);

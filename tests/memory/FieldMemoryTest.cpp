@@ -1,4 +1,4 @@
-// One field by itself, and the tables of fields and locations.
+// A single field, and the tables of fields and locations.
 #include "BaseUtilities/Exceptions.h"
 #include "Outcome.h"
 #include "Samples.h"
@@ -29,16 +29,16 @@ constexpr const char* kLongDescription = "a description that needs memory of its
 
 CVIFField Sample() { return CVIFField(false, kLongName, kLongValue, kLongDescription, kComponent, kUnused, kUnused); }
 
-/// The texts that constructors take; the fields take copies of them.
+/// The texts that constructors take; the fields get copies.
 struct Texts {
   std::string name = kLongName;
   std::string value = kLongValue;
   std::string description = kLongDescription;
 };
 
-/// Makes a field with memory running out, which must be as the text says, or not there.
+/// Constructs a field with memory running out; it must have the expected text, or not exist.
 template <typename Make>
-void ExpectFieldBearsFailures(const std::string& expected, const Make& make) {
+void ExpectFieldSurvivesFailures(const std::string& expected, const Make& make) {
   ForEveryFailingAllocation(make, [&](const std::optional<CVIFField>& field) {
     if (field) {
       EXPECT_EQ(FieldText(*field), expected);
@@ -47,23 +47,23 @@ void ExpectFieldBearsFailures(const std::string& expected, const Make& make) {
 }
 
 TEST(FieldMemory, ConstructEmpty) {
-  ExpectFieldBearsFailures("=", [] { return CVIFField(); });
+  ExpectFieldSurvivesFailures("=", [] { return CVIFField(); });
 }
 
 TEST(FieldMemory, ConstructWithoutADescription) {
   const Texts texts;
   const std::string expected = FieldText(CVIFField(false, kLongName, kLongValue, kLongValue, kAnywhere));
-  ExpectFieldBearsFailures(expected, [&] { return CVIFField(false, texts.name, texts.value, kAnywhere); });
-  ExpectFieldBearsFailures(expected,
-                           [&] { return CVIFField(false, texts.name, texts.value, kUnused, kUnused, kUnused); });
+  ExpectFieldSurvivesFailures(expected, [&] { return CVIFField(false, texts.name, texts.value, kAnywhere); });
+  ExpectFieldSurvivesFailures(expected,
+                              [&] { return CVIFField(false, texts.name, texts.value, kUnused, kUnused, kUnused); });
 }
 
 TEST(FieldMemory, ConstructWithADescription) {
   const Texts texts;
-  ExpectFieldBearsFailures(FieldText(Sample()), [&] {
+  ExpectFieldSurvivesFailures(FieldText(Sample()), [&] {
     return CVIFField(false, texts.name, texts.value, texts.description, {kComponent, kUnused, kUnused});
   });
-  ExpectFieldBearsFailures(FieldText(Sample()), [&] {
+  ExpectFieldSurvivesFailures(FieldText(Sample()), [&] {
     return CVIFField(false, texts.name, texts.value, texts.description, kComponent, kUnused, kUnused);
   });
 }
@@ -98,7 +98,7 @@ TEST(FieldMemory, CopyAssign) {
 /// Two fields, so that one can be moved.
 using Pair = std::array<CVIFField, 2>;
 
-TEST(FieldMemory, MoveConstructTakesNoMemory) {
+TEST(FieldMemory, MoveConstructAllocatesNothing) {
   CVIFField source = Sample();
   ForEveryFailingAllocation([&] { return CVIFField(std::move(source)); },
                             [&](std::optional<CVIFField> moved) {
@@ -108,7 +108,7 @@ TEST(FieldMemory, MoveConstructTakesNoMemory) {
                             });
 }
 
-TEST(FieldMemory, MoveAssignTakesNoMemory) {
+TEST(FieldMemory, MoveAssignAllocatesNothing) {
   ForEveryFailingAllocation(
       [] {
         return Pair{Sample(), CVIFField()};
@@ -145,7 +145,7 @@ TEST(FieldMemory, GetULongNumericValueOfAFieldThatIsNotNumeric) {
                             });
 }
 
-TEST(FieldMemory, MatchAPlainNameTakesNoMemory) {
+TEST(FieldMemory, MatchAPlainNameAllocatesNothing) {
   const CVIFField field = Sample();
   ForEveryFailingAllocation(
       [&] {
@@ -157,7 +157,7 @@ TEST(FieldMemory, MatchAPlainNameTakesNoMemory) {
       });
 }
 
-TEST(TableMemory, GetVifLocInfoTakesNoMemory) {
+TEST(TableMemory, GetVifLocInfoAllocatesNothing) {
   ForEveryFailingAllocation([] { return &GetVifLocInfo(eVifLocSrcPdo); },
                             [](const auto& info) {
                               ASSERT_TRUE(info);
@@ -165,7 +165,7 @@ TEST(TableMemory, GetVifLocInfoTakesNoMemory) {
                             });
 }
 
-TEST(TableMemory, GetVifFieldDefsTakesNoMemory) {
+TEST(TableMemory, GetVifFieldDefsAllocatesNothing) {
   ForEveryFailingAllocation([] { return VifFieldDefs::GetVifFieldDefs().size(); },
                             [](const auto& size) { EXPECT_EQ(size, 271U); });
 }

@@ -1,4 +1,4 @@
-// That the other tests here would see what they look for.
+// Checks that the other tests here can detect what they look for.
 #include "support/FailingMemory.h"
 #include "support/ForEveryFailingAllocation.h"
 
@@ -17,9 +17,9 @@ namespace {
 
 using testsupport::ForEveryFailingAllocation;
 
-TEST(ForEveryFailingAllocation, FailsEachAllocationOnceAndThenAllBehindIt) {
+TEST(ForEveryFailingAllocation, FailsEachAllocationAloneAndThenWithAllAfterIt) {
   std::vector<int> made;
-  made.reserve(10);  // so that nothing but the operation takes memory
+  made.reserve(10);  // so that only the operation allocates
   ForEveryFailingAllocation([] { return std::vector<std::unique_ptr<int>>(3); },
                             [](auto& pointers) {
                               for (auto& pointer : pointers) pointer = std::make_unique<int>(1);
@@ -33,15 +33,15 @@ TEST(ForEveryFailingAllocation, FailsEachAllocationOnceAndThenAllBehindIt) {
   EXPECT_EQ(made, (std::vector<int>{3, 0, 1, 2, 3, 0, 1, 2, 3}));
 }
 
-TEST(ForEveryFailingAllocation, GivesTheResultOrNothing) {
+TEST(ForEveryFailingAllocation, PassesTheResultOrNothing) {
   std::vector<int> results;
-  results.reserve(10);  // so that nothing but the operation takes memory
+  results.reserve(10);  // so that only the operation allocates
   ForEveryFailingAllocation([] { return std::make_unique<int>(7); },
                             [&](const auto& result) { results.push_back(result ? **result : 0); });
   EXPECT_EQ(results, (std::vector<int>{7, 0, 7, 0, 7}));
 }
 
-/// What the first failure says that is found with an operation.
+/// The message of the first failure found in an operation.
 template <typename Operation>
 std::string FirstFailure(const Operation& operation) {
   testing::TestPartResultArray failures;
@@ -50,13 +50,13 @@ std::string FirstFailure(const Operation& operation) {
                                                        &failures);
     ForEveryFailingAllocation([] { return 0; }, [&](int) { operation(); }, [](int, bool) {});
   }
-  return failures.size() != 0 ? failures.GetTestPartResult(0).message() : "nothing is found";
+  return failures.size() != 0 ? failures.GetTestPartResult(0).message() : "no failure";
 }
 
-/// By calls, which unlike `new` and `delete` a compiler may not leave out.
+/// Uses calls, because a compiler may elide `new` and `delete`.
 void Allocate() { ::operator delete(::operator new(1)); }
 
-TEST(ForEveryFailingAllocation, SeesALeak) {
+TEST(ForEveryFailingAllocation, DetectsALeak) {
   std::unique_ptr<int> leaked;
   const std::string failure = FirstFailure([&] {
     auto first = std::make_unique<int>(1);
@@ -68,13 +68,13 @@ TEST(ForEveryFailingAllocation, SeesALeak) {
     }
   });
 #ifdef _WIN32
-  EXPECT_EQ(failure, "nothing is found");
+  EXPECT_EQ(failure, "no failure");
 #else
   EXPECT_THAT(failure, testing::HasSubstr("allocation 2 fails and leaks"));
 #endif
 }
 
-TEST(ForEveryFailingAllocation, SeesAnotherException) {
+TEST(ForEveryFailingAllocation, DetectsAnotherException) {
   const std::string failure = FirstFailure([] {
     try {
       Allocate();
@@ -85,7 +85,7 @@ TEST(ForEveryFailingAllocation, SeesAnotherException) {
   EXPECT_THAT(failure, testing::HasSubstr("a wrong exception instead of std::bad_alloc"));
 }
 
-TEST(ForEveryFailingAllocation, SeesAnExceptionThatNoFailureHasCaused) {
+TEST(ForEveryFailingAllocation, DetectsAnExceptionThatNoFailureHasCaused) {
   EXPECT_THAT(FirstFailure([] { throw std::bad_alloc(); }), testing::HasSubstr("outside the operation"));
 }
 

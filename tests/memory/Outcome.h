@@ -1,4 +1,4 @@
-// What calls end in, kept without taking memory, so that it can be looked at when there is memory again.
+// Outcomes of calls, kept without allocating so that they can be examined once there is memory again.
 #pragma once
 
 #include <exception>
@@ -8,11 +8,11 @@
 
 namespace testsupport {
 
-/// A call's result, or the exception that it ends with.
+/// A call's result, or the exception that it throws.
 template <typename Result>
 class COutcome {
  public:
-  /// \throws std::bad_alloc when the call does
+  /// \throws std::bad_alloc if the call does
   template <typename Call>
   explicit COutcome(const Call& call) {
     try {
@@ -24,7 +24,7 @@ class COutcome {
     }
   }
 
-  /// The result, or the exception once more.
+  /// Returns the result, or rethrows the exception.
   const Result& Get() const {
     if (m_exception != nullptr) std::rethrow_exception(m_exception);
     return *m_result;

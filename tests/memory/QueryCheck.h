@@ -17,11 +17,11 @@
 
 namespace testsupport {
 
-/// Asks a query with every allocation failing in turn. Whenever it comes to an end, it must be the one that it comes to
-/// with memory enough, whether that is a result or an exception; and the object must stay as it was.
+/// Runs a query with every allocation failing in turn. If it completes, the outcome, a result or an exception, must be
+/// the same as with enough memory; and the object must be unchanged.
 /// \param expected the result, or the exception, as text (`OutcomeOf`)
 template <typename Query>
-void ExpectQueryBearsFailures(const CVendorInfoFile& vif, const std::string& expected, const Query& query) {
+void ExpectQuerySurvivesFailures(const CVendorInfoFile& vif, const std::string& expected, const Query& query) {
   const std::vector<std::string> before = FieldTexts(*vif.GetFields());
   EXPECT_EQ(OutcomeOf(query), expected);
   const auto operation = [&] { return COutcome(query); };
@@ -34,19 +34,19 @@ void ExpectQueryBearsFailures(const CVendorInfoFile& vif, const std::string& exp
   });
 }
 
-/// The same in the four forms of a query: with a narrow and a wide pattern, each with the slots one by one and as an
-/// array.
-/// \param ask takes the arguments of any form and asks the query
+/// The same in the four forms of a query: with a narrow and a wide pattern, each with separate slots and with an array
+/// of slots.
+/// \param ask runs the query with the arguments of any form
 template <typename Ask>
 void ExpectAllFormsBearFailures(const CVendorInfoFile& vif, const std::string& expected, const std::string& pattern,
                                 const Slots& slots, const Ask& ask) {
   const char* narrow = pattern.c_str();
   const std::wstring wideText = Utf8ToUtf16(pattern);
   const wchar_t* wide = wideText.c_str();
-  ExpectQueryBearsFailures(vif, expected, [&] { return ask(narrow, slots[0], slots[1], slots[2]); });
-  ExpectQueryBearsFailures(vif, expected, [&] { return ask(narrow, slots); });
-  ExpectQueryBearsFailures(vif, expected, [&] { return ask(wide, slots[0], slots[1], slots[2]); });
-  ExpectQueryBearsFailures(vif, expected, [&] { return ask(wide, slots); });
+  ExpectQuerySurvivesFailures(vif, expected, [&] { return ask(narrow, slots[0], slots[1], slots[2]); });
+  ExpectQuerySurvivesFailures(vif, expected, [&] { return ask(narrow, slots); });
+  ExpectQuerySurvivesFailures(vif, expected, [&] { return ask(wide, slots[0], slots[1], slots[2]); });
+  ExpectQuerySurvivesFailures(vif, expected, [&] { return ask(wide, slots); });
 }
 
 /// The same for `GetFirstFields` and `GetFirstUniqueField`, which take two slots and have two forms.
@@ -54,8 +54,8 @@ template <typename Ask>
 void ExpectFirstFormsBearFailures(const CVendorInfoFile& vif, const std::string& expected, const std::string& pattern,
                                   const VifIndex& index2, const VifIndex& index3, const Ask& ask) {
   const std::wstring wide = Utf8ToUtf16(pattern);
-  ExpectQueryBearsFailures(vif, expected, [&] { return ask(pattern.c_str(), index2, index3); });
-  ExpectQueryBearsFailures(vif, expected, [&] { return ask(wide.c_str(), index2, index3); });
+  ExpectQuerySurvivesFailures(vif, expected, [&] { return ask(pattern.c_str(), index2, index3); });
+  ExpectQuerySurvivesFailures(vif, expected, [&] { return ask(wide.c_str(), index2, index3); });
 }
 
 }  // namespace testsupport

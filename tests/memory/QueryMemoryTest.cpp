@@ -1,11 +1,11 @@
-// Queries that find what they look for.
+// Queries that find a match.
 #include "QueryCheck.h"
 
 namespace {
 
 using testsupport::ExpectAllFormsBearFailures;
 using testsupport::ExpectFirstFormsBearFailures;
-using testsupport::ExpectQueryBearsFailures;
+using testsupport::ExpectQuerySurvivesFailures;
 using testsupport::kAnywhere;
 using testsupport::kUnused;
 using testsupport::Slots;
@@ -25,7 +25,7 @@ constexpr const char* kVoltageText = "Src_PDO_Voltage_With_A_Long_Name=100 ; 500
 class QueryMemoryTest : public testing::Test {
  protected:
   QueryMemoryTest() {
-    // Three components are known, so that the first two are among those that GetFirstFields searches.
+    // Three components are known, so that GetFirstFields searches the first two.
     const testsupport::TempDir dir;
     for (int i = 0; i < 3; ++i) testsupport::AppendFile(m_vif, dir.Write("empty.txt", ""));
     m_vif.Append(testsupport::SampleFields());
@@ -51,16 +51,16 @@ TEST_F(QueryMemoryTest, CountByExpression) {
 }
 
 TEST_F(QueryMemoryTest, CountOfAllAndByLocation) {
-  ExpectQueryBearsFailures(m_vif, "12", [&] { return m_vif.Count(); });
-  ExpectQueryBearsFailures(m_vif, "12", [&] { return m_vif.Count(nullptr, kAnywhere); });
-  ExpectQueryBearsFailures(m_vif, "6", [&] { return m_vif.Count(nullptr, kComponent2, kUnused, kUnused); });
+  ExpectQuerySurvivesFailures(m_vif, "12", [&] { return m_vif.Count(); });
+  ExpectQuerySurvivesFailures(m_vif, "12", [&] { return m_vif.Count(nullptr, kAnywhere); });
+  ExpectQuerySurvivesFailures(m_vif, "6", [&] { return m_vif.Count(nullptr, kComponent2, kUnused, kUnused); });
 }
 
 TEST_F(QueryMemoryTest, GetFieldsOfAll) {
   const std::string all = testsupport::OutcomeOf([&] { return m_vif.GetFields(); });
-  ExpectQueryBearsFailures(m_vif, all, [&] { return m_vif.GetFields(); });
-  ExpectQueryBearsFailures(m_vif, all, [&] { return m_vif.GetFields(nullptr, kAnywhere); });
-  ExpectQueryBearsFailures(m_vif, all, [&] { return m_vif.GetFields(nullptr, kUnused, kUnused, kUnused); });
+  ExpectQuerySurvivesFailures(m_vif, all, [&] { return m_vif.GetFields(); });
+  ExpectQuerySurvivesFailures(m_vif, all, [&] { return m_vif.GetFields(nullptr, kAnywhere); });
+  ExpectQuerySurvivesFailures(m_vif, all, [&] { return m_vif.GetFields(nullptr, kUnused, kUnused, kUnused); });
 }
 
 TEST_F(QueryMemoryTest, GetFieldsByPlainName) {
@@ -83,8 +83,9 @@ TEST_F(QueryMemoryTest, GetUniqueFieldByExpression) {
 
 TEST_F(QueryMemoryTest, GetUniqueFieldByLocation) {
   const std::string expected = std::string(kVoltageText).append("@6.1 @7.3");
-  ExpectQueryBearsFailures(m_vif, expected, [&] { return m_vif.GetUniqueField(nullptr, kComponent1, kPdo3, kUnused); });
-  ExpectQueryBearsFailures(m_vif, expected, [&] {
+  ExpectQuerySurvivesFailures(m_vif, expected,
+                              [&] { return m_vif.GetUniqueField(nullptr, kComponent1, kPdo3, kUnused); });
+  ExpectQuerySurvivesFailures(m_vif, expected, [&] {
     return m_vif.GetUniqueField(nullptr, Slots{kComponent1, kPdo3, kUnused});
   });
 }
@@ -101,13 +102,14 @@ TEST_F(QueryMemoryTest, GetSingleFieldByExpression) {
 
 TEST_F(QueryMemoryTest, GetSingleFieldByLocation) {
   const std::string expected = std::string("true ").append(kVoltageText).append("@6.1 @7.3");
-  ExpectQueryBearsFailures(m_vif, expected, [&] { return m_vif.GetSingleField(nullptr, kComponent1, kPdo3, kUnused); });
-  ExpectQueryBearsFailures(m_vif, expected, [&] {
+  ExpectQuerySurvivesFailures(m_vif, expected,
+                              [&] { return m_vif.GetSingleField(nullptr, kComponent1, kPdo3, kUnused); });
+  ExpectQuerySurvivesFailures(m_vif, expected, [&] {
     return m_vif.GetSingleField(nullptr, Slots{kComponent1, kPdo3, kUnused});
   });
 }
 
-TEST_F(QueryMemoryTest, GetSingleFieldThatIsNotThere) {
+TEST_F(QueryMemoryTest, GetSingleFieldThatIsMissing) {
   ExpectAllFormsBearFailures(m_vif, "false =", "Name_Of_Nothing_That_Is_There_At_All.*", kAnywhere,
                              testsupport::GetSingleField(m_vif));
 }
@@ -121,8 +123,8 @@ TEST_F(QueryMemoryTest, GetFirstFieldsByExpression) {
 }
 
 TEST_F(QueryMemoryTest, GetFirstFieldsByLocation) {
-  ExpectQueryBearsFailures(m_vif, std::string(kSupplyText).append("@6.1 @7.1]"),
-                           [&] { return m_vif.GetFirstFields(nullptr, kPdo1, kUnused); });
+  ExpectQuerySurvivesFailures(m_vif, std::string(kSupplyText).append("@6.1 @7.1]"),
+                              [&] { return m_vif.GetFirstFields(nullptr, kPdo1, kUnused); });
 }
 
 TEST_F(QueryMemoryTest, GetFirstUniqueFieldByPlainName) {
@@ -136,8 +138,8 @@ TEST_F(QueryMemoryTest, GetFirstUniqueFieldByExpression) {
 }
 
 TEST_F(QueryMemoryTest, GetFirstUniqueFieldByLocation) {
-  ExpectQueryBearsFailures(m_vif, std::string(kVoltageText).append("@6.1 @7.3"),
-                           [&] { return m_vif.GetFirstUniqueField(nullptr, kPdo3, kUnused); });
+  ExpectQuerySurvivesFailures(m_vif, std::string(kVoltageText).append("@6.1 @7.3"),
+                              [&] { return m_vif.GetFirstUniqueField(nullptr, kPdo3, kUnused); });
 }
 
 TEST(FieldMatchMemory, MatchAnExpression) {

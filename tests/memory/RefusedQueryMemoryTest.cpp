@@ -1,4 +1,4 @@
-// Queries that end in an exception, whose message takes memory.
+// Queries that throw an exception, whose message needs memory.
 #include "QueryCheck.h"
 
 namespace {
@@ -11,7 +11,7 @@ using testsupport::kUnused;
 constexpr const char* kNothing = "Name_Of_Nothing_That_Is_There_At_All";
 constexpr const char* kSeveral = "Src_PDO_Voltage_.*";
 
-/// Two components from an empty file each, with a file's name to be told of, and all the fields in them.
+/// The components of empty files, whose name the messages need, and sample fields.
 class RefusedQueryMemoryTest : public testing::Test {
  protected:
   RefusedQueryMemoryTest() {
@@ -69,14 +69,14 @@ TEST_F(RefusedQueryMemoryTest, GetFirstUniqueFieldThatFindsNothing) {
                                testsupport::GetFirstUniqueField(m_vif));
 }
 
-TEST_F(RefusedQueryMemoryTest, PatternThatIsNoExpression) {
+TEST_F(RefusedQueryMemoryTest, PatternThatIsNotAnExpression) {
   const std::string expected = testsupport::OutcomeOf([&] { return m_vif.Count("(Src_PDO_Voltage", kAnywhere); });
   EXPECT_TRUE(expected.starts_with("std::regex_error: ")) << expected;
   ExpectAllFormsBearFailures(m_vif, expected, "(Src_PDO_Voltage", kAnywhere, testsupport::Count(m_vif));
   ExpectAllFormsBearFailures(m_vif, expected, "(Src_PDO_Voltage", kAnywhere, testsupport::GetFields(m_vif));
 }
 
-// Too long for the recursive matcher, so that it is matched anew, step by step.
+// Too long for the recursive engine, so that the stepwise one starts over.
 TEST_F(RefusedQueryMemoryTest, PatternThatIsMatchedStepByStep) {
   CVendorInfoFile vif;
   vif.Append({CVIFField(true, std::string(20'000, 'a'), "1", kAnywhere)});

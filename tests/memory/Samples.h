@@ -1,4 +1,4 @@
-// Small Vendor Info Files, and the fields of some.
+// Small VIFs, and the fields of some.
 #pragma once
 
 #include "VendorInfoFile.h"
@@ -30,7 +30,7 @@ inline std::string TextVif() {
 
 constexpr std::size_t kTextFieldCount = 6;
 
-/// A header, a product with two routers and two components with a source PDO each.
+/// A header, a product with two routers, and two components with a source PDO each.
 inline std::string XmlDocumentText() {
   return XmlVif(
       "<vif:VIF_Specification>3.1</vif:VIF_Specification>"
@@ -48,7 +48,7 @@ inline std::string XmlDocumentText() {
 
 constexpr std::size_t kXmlFieldCount = 11;
 
-/// Twelve fields of three names in components 1 and 2, with a source PDO or in none.
+/// Twelve fields of three names in components 1 and 2, some of them in a source PDO.
 inline std::vector<CVIFField> SampleFields() {
   std::vector<CVIFField> fields;
   for (const std::uint64_t component : {1U, 2U}) {

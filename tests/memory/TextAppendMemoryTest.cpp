@@ -31,7 +31,8 @@ class AppendMemoryTest : public testing::Test {
 
   static CVendorInfoFile Begun() { return CVendorInfoFile(SampleFields()); }
 
-  /// The object holds what it held before and what was appended, as far as that was read, and takes the file again.
+  /// Expects that the object holds what it held before and whatever was read of the appended file, and accepts the file
+  /// again.
   void ExpectUsable(CVendorInfoFile& vif) const {
     const std::vector<std::string> held = FieldTexts(*vif.GetFields());
     ASSERT_GE(held.size(), m_before.size());
@@ -58,7 +59,7 @@ TEST_F(AppendMemoryTest, AppendOfATextFileLosesNothing) {
       });
 }
 
-TEST_F(AppendMemoryTest, AppendOfNoFileTakesNoMemory) {
+TEST_F(AppendMemoryTest, AppendOfNoFileAllocatesNothing) {
   ForEveryFailingAllocation(
       Begun,
       [](CVendorInfoFile& vif) {

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Prints the relative links of Markdown files that lead nowhere, and fails when there is any.
+"""Prints the broken relative links of Markdown files, and fails if there are any.
 
     broken_links.py FILE...
 """
@@ -9,7 +9,7 @@ import sys
 
 
 def links_of(document):
-    """The targets of all links, without anchors and addresses of the Web."""
+    """The targets of all links, without anchors and URLs."""
     text = re.sub(r"^```.*?^```", "", document.read_text(encoding="utf-8"), flags=re.MULTILINE | re.DOTALL)
     for target in re.findall(r"\]\(([^)\s]+)\)", text):
         if not re.match(r"[a-z]+:|#", target):
@@ -23,7 +23,7 @@ def main():
     for document, link in broken:
         print(f"{document}: {link}")
     if not links:
-        print("no links at all")
+        print("no links found")
     sys.exit(1 if broken or not links else 0)
 
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Checks one thing about the installed package, which lies in $PREFIX. See CMakeLists.txt for the environment.
+# Runs one check on the package installed in $PREFIX. CMakeLists.txt sets the environment.
 set -euo pipefail
 
 here=$(cd "$(dirname "$0")" && pwd)
@@ -15,24 +15,24 @@ read -ra flags <<<"$FLAGS"
 
 fail() { echo "FAILED: $*" >&2; exit 1; }
 
-# The program of another system runs under an emulator, which must find the libraries.
+# Programs of another system run under an emulator, which must find the libraries.
 run=()
 if [ -n "$EMULATOR" ]; then
   run=("$EMULATOR")
   export WINEPATH="Z:${PREFIX//\//\\}\\bin"
 fi
 
-# Expects the consumer to list a file and to catch what the library throws.
+# Expects the consumer to read a file and to catch what the library throws.
 check_consumer() {
   printf 'PID: 1\nUSB_VID: 0x1A2B\n' >"$work/a.txt"
   local said
   said=$("${run[@]}" "$1" "$work/a.txt" | tr -d '\r')
   [ "$said" = '2 fields, last USB_VID=0x1A2B' ] || fail "the consumer said: $said"
-  said=$("${run[@]}" "$1" "$work/b.txt" | tr -d '\r') && fail 'a missing file was not refused'
+  said=$("${run[@]}" "$1" "$work/b.txt" | tr -d '\r') && fail 'the consumer accepted a missing file'
   [ "$said" = "refused: VIF Does not exist. (name: $work/b.txt)" ] || fail "the consumer said: $said"
 }
 
-# The names that a library exports, as people read them.
+# Lists the demangled names that a library exports.
 exported_by() {
   if [ -n "$EMULATOR" ]; then
     "$OBJDUMP" -p "$PREFIX/bin/$1.dll" | sed -n '/^\[Ordinal\/Name Pointer\]/,/^$/s/^\t\[ *[0-9]*\] //p' | c++filt -_
@@ -41,7 +41,7 @@ exported_by() {
   fi | LC_ALL=C sort -u
 }
 
-# Compiles with the installed headers; links too when told where to.
+# Compiles against the installed headers; links too if given an output file.
 compile() { "$CXX" -std=c++20 -Wall -Wextra -Werror "${flags[@]}" -I"$headers" "$@"; }
 link=("-L$lib" -lVendorInfoFile -lVendorInfoFileHost "-Wl,-rpath,$lib")
 
@@ -54,7 +54,7 @@ include_all() { (cd "$headers" && find . -name '*.h' -printf '#include <%P>\n') 
 case $1 in
   FoundByCMake)
     if [ -n "$TOOLCHAIN" ]; then
-      # The toolchain looks for packages nowhere but under its roots.
+      # The toolchain searches for packages only under its roots.
       with=(--toolchain "$TOOLCHAIN" -DVendorInfoFile_DIR="$lib/cmake/VendorInfoFile")
     else
       with=(-DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_PREFIX_PATH="$PREFIX")
@@ -65,7 +65,7 @@ case $1 in
     ;;
   FoundByPkgConfig)
     export PKG_CONFIG_PATH=$lib/pkgconfig
-    [ "$(pkg-config --modversion vendorinfofile)" = "$VERSION" ] || fail 'pkg-config knows another version'
+    [ "$(pkg-config --modversion vendorinfofile)" = "$VERSION" ] || fail 'pkg-config reports another version'
     read -ra package <<<"$(pkg-config --cflags --libs vendorinfofile)"
     "$CXX" -std=c++20 "${flags[@]}" "$CONSUMER/consumer.cpp" "${package[@]}" -Wl,-rpath,"$lib" -o "$work/consumer$EXE"
     check_consumer "$work/consumer$EXE"
@@ -80,12 +80,13 @@ case $1 in
     [ "$count" -ge 3 ] || fail "only $count examples are installed"
     ;;
   SchemasFoundThroughLinks)
-    [ -z "$EMULATOR" ] || { echo 'SKIPPED: Windows does not look for libraries through symbolic links'; exit; }
+    [ -z "$EMULATOR" ] || { echo 'SKIPPED: Windows does not search for libraries through symbolic links'; exit; }
     mkdir "$work/files"
     ln -s "$lib"/*.so* "$work/files"
     ln -s "$lib" "$work/directory"
     for links in files directory; do
-      LD_LIBRARY_PATH=$work/$links "$PREFIX/bin/vif" list "$xml" >"$work/$links.txt" || fail "not through links: $links"
+      LD_LIBRARY_PATH=$work/$links "$PREFIX/bin/vif" list "$xml" >"$work/$links.txt" ||
+        fail "no schemas through links: $links"
     done
     ;;
   SchemasFoundFromAnotherDirectory)
@@ -105,7 +106,8 @@ EOF
       -lVendorInfoFile -lVendorInfoFileHost $([ -z "$EMULATOR" ] || echo -lole32 -loleaut32) -o "$work/moving$EXE"
     mkdir "$work/elsewhere"
     cd "$PREFIX"
-    LD_LIBRARY_PATH=$LIBDIR "${run[@]}" "$work/moving$EXE" "$work/elsewhere" "$xml" || fail 'not from another directory'
+    LD_LIBRARY_PATH=$LIBDIR "${run[@]}" "$work/moving$EXE" "$work/elsewhere" "$xml" ||
+      fail 'no schemas from another directory'
     ;;
   HeadersStandAlone)
     count=0
@@ -116,17 +118,17 @@ EOF
     [ "$count" -ge 9 ] || fail "only $count headers are installed"
     printf '%s\0' "$work"/*.cpp | xargs -0 -P "$(nproc)" -n 1 \
       "$CXX" -std=c++20 "${flags[@]}" -Wall -Wextra -Werror -I"$headers" -fsyntax-only ||
-      fail 'the above cannot be included alone'
+      fail 'the headers above do not compile on their own'
     ;;
   NamesLeftToPrograms)
     [ -z "$EMULATOR" ] || { echo 'SKIPPED: COM declares these names itself'; exit; }
     include_all >"$work/all.h"
     for own in own_types own_macros; do
       compile -include "$here/names/$own.h" -include "$work/all.h" "$CONSUMER/consumer.cpp" "${link[@]}" -o "$work/before" ||
-        fail "not after $own.h"
+        fail "the headers do not compile after $own.h"
       check_consumer "$work/before"
       compile -include "$work/all.h" -include "$here/names/$own.h" "$CONSUMER/consumer.cpp" "${link[@]}" -o "$work/after" ||
-        fail "not before $own.h"
+        fail "the headers do not compile before $own.h"
       check_consumer "$work/after"
     done
     ;;
@@ -135,26 +137,26 @@ EOF
     include_all >"$work/all.h"
     compile -E -dD -x c++ "$work/all.h" | python3 -B "$here/names/global_names.py" "$headers/" >"$work/global-names.txt"
     diff "$here/names/global-names.txt" "$work/global-names.txt" ||
-      fail 'the headers declare other global names than tests/package/names/global-names.txt lists'
+      fail 'the global names that the headers declare differ from tests/package/names/global-names.txt'
     ;;
   ExportsOnlyWhatIsIntended)
     for library in VendorInfoFile VendorInfoFileHost; do
       exported_by "$library" >"$work/$library.txt"
       [ -s "$work/$library.txt" ] || fail "$library exports nothing"
-      # A DLL exports whole classes; elsewhere the names of types are those of 64-bit systems.
+      # A DLL exports whole classes, and the list has the type names of 64-bit systems.
       if [ -n "$EMULATOR" ] || [ "$(getconf LONG_BIT)" != 64 ]; then
-        ! grep -E '^(vif::|msxml::|CVIFImpl|std::)' "$work/$library.txt" || fail "$library exports the above"
+        ! grep -E '^(vif::|msxml::|CVIFImpl|std::)' "$work/$library.txt" || fail "$library exports the names above"
       else
         diff "$here/exports/$library.txt" "$work/$library.txt" ||
-          fail "$library exports other symbols than tests/package/exports/$library.txt lists"
+          fail "the exports of $library differ from tests/package/exports/$library.txt"
       fi
     done
     ;;
   ExportsNoUniqueSymbols)
-    [ -z "$EMULATOR" ] || { echo 'SKIPPED: Windows has none'; exit; }
+    [ -z "$EMULATOR" ] || { echo 'SKIPPED: Windows has no unique symbols'; exit; }
     for library in VendorInfoFile VendorInfoFileHost; do
       ! nm -DC --defined-only "$lib/lib$library.so" | grep ' u ' ||
-        fail "the above keep $library from being unloaded"
+        fail "the symbols above keep $library from being unloaded"
     done
     ;;
   NamedForItsAbi)
@@ -164,7 +166,7 @@ EOF
     for library in VendorInfoFile VendorInfoFileHost; do
       readelf -d "$lib/lib$library.so" | grep -qF "[lib$library.so.$abi]" || fail "$library is not named for ABI $abi"
       [ -z "$(nm -D --defined-only "$lib/lib$library.so" | grep -vE "(@@| A )${library^^}_$abi\$")" ] ||
-        fail "$library has symbols of another version than $abi"
+        fail "$library has symbols without the version $abi"
     done
     ;;
   PartOfAnotherProject)
@@ -176,19 +178,19 @@ EOF
     cp "$CONSUMER/consumer.cpp" "$work/parent/my_tests.cpp"
     cp "$(sample_with cmake 'add_subdirectory(VendorInfoFile)')" "$work/parent/sample.cmake"
     ln -s "$sources" "$work/parent/VendorInfoFile"
-    # The flags are a distributor's.
+    # Flags that a distribution might set.
     cmake -S "$work/parent" -B "$work/build" -G Ninja "${with[@]}" -DCMAKE_COMPILE_WARNING_AS_ERROR=ON \
       -DCMAKE_CXX_FLAGS="${flags[*]} -O1 -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3"
     cmake --build "$work/build"
     [ -n "$EMULATOR" ] || check_consumer "$work/build/my_tests$EXE"
     cmake --install "$work/build" --prefix "$work/prefix"
     installed=$(cd "$work/prefix" && find . -type f)
-    [ "$installed" = "./bin/my_tests$EXE" ] || fail "this was installed without being asked for: $installed"
+    [ "$installed" = "./bin/my_tests$EXE" ] || fail "the library installed files of its own: $installed"
     ;;
   FortifiedAsTheFlagsSay)
-    [ -z "$EMULATOR" ] || { echo 'SKIPPED: Windows has no such calls'; exit; }
-    [ -z "$SANITIZE" ] || { echo 'SKIPPED: the sanitizers watch these calls'; exit; }
-    # Expects a level of _FORTIFY_SOURCE in a source of the library, as a project with these flags compiles it.
+    [ -z "$EMULATOR" ] || { echo 'SKIPPED: Windows has no fortified calls'; exit; }
+    [ -z "$SANITIZE" ] || { echo 'SKIPPED: the sanitizers check these calls themselves'; exit; }
+    # Expects a level of _FORTIFY_SOURCE in a source of the library when a project compiles it with these flags.
     expect_level() {
       cmake -S "$sources" -B "$work/build" -G Ninja --fresh -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_CXX_FLAGS="$2" \
         -DCMAKE_BUILD_TYPE="$3" -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >"$work/log.txt" || fail "cannot configure with $2"
@@ -201,7 +203,7 @@ EOF
     }
     none="$("$CXX" -O1 -E -dM -x c++ - </dev/null | sed -n 's/^#define _FORTIFY_SOURCE //p')"
     expect_level "${none:-2}" '' Release
-    expect_level "${none:-2}" '' ''  # Release, for want of another
+    expect_level "${none:-2}" '' ''  # Release is the default
     expect_level '' '' Debug
     expect_level 3 '-D_FORTIFY_SOURCE=3' Release
     expect_level 1 '-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=1' Release
@@ -211,10 +213,10 @@ EOF
   LinksOfDocumentsLead)
     mapfile -t installed < <(find "$PREFIX/share/doc" -name '*.md')
     [ ${#installed[@]} -ge 9 ] || fail "only ${#installed[@]} documents are installed"
-    python3 -B "$here/broken_links.py" "${installed[@]}" || fail 'the above links of installed documents lead nowhere'
+    python3 -B "$here/broken_links.py" "${installed[@]}" || fail 'the links above, in installed documents, are broken'
     mapfile -t documents < <(find "$sources" -name '*.md' -not -path "$sources/build/*")
     python3 -B "$here/broken_links.py" "${documents[@]}" ||
-      fail 'the above links of the sources lead nowhere'
+      fail 'the links above, in the sources, are broken'
     ;;
-  *) fail "no check is called $1" ;;
+  *) fail "unknown check: $1" ;;
 esac

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Writes each block of code of Markdown files into a file of its own, such as 03.cpp, and prints the files' names.
+"""Writes each code block of Markdown files to a file of its own, such as 03.cpp, and prints the names of these files.
 
-The extension is the block's language, "text" when it names none. Transcripts of the command ("console") are left out:
+The extension is the block's language, or "text" if it names none. Transcripts of the command ("console") are skipped:
 the command's own tests run them.
 
     code_blocks.py DIRECTORY FILE...

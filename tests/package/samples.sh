@@ -1,32 +1,32 @@
-# What runs the samples of the documents. Sourced by check-package.sh, whose variables and functions it uses.
+# Runs the samples in the documents. Sourced by check-package.sh, whose variables and functions it uses.
 
-# The sample programs are built from these, in the working directory.
+# Where the samples are extracted to.
 samples=$work/samples
 
-# Writes all blocks of code of the README and of docs/ into $samples.
+# Writes all code blocks of the README and of docs/ to $samples.
 extract_samples() {
   python3 -B "$here/code_blocks.py" "$samples" "$sources/README.md" "$sources"/docs/*.md >"$work/blocks.txt"
   [ -s "$work/blocks.txt" ] || fail 'the documents have no samples'
 }
 
-# Prints the one sample in a language that has a text in it.
+# Prints the file name of the only sample in a language that contains a string.
 sample_with() {
   local found
   mapfile -t found < <(grep -lF -- "$2" "$samples"/*."$1")
-  [ ${#found[@]} -eq 1 ] || fail "${#found[@]} samples in $1 have $2"
+  [ ${#found[@]} -eq 1 ] || fail "${#found[@]} samples in $1 contain $2"
   echo "${found[0]}"
 }
 
-# Runs a program, which must end by itself with a status and say something with a text in it.
+# Runs a program, which must exit with the given status and print the given text among other things.
 expect_run() {
   local expected=$1 text=$2 status=0 said
   shift 2
   said=$("${run[@]}" "$@" 2>&1 | tr -d '\r'; exit "${PIPESTATUS[0]}") || status=$?
-  [ "$status" = "$expected" ] || fail "'${*:2}' ended with $status: $said"
-  [[ $said == *"$text"* ]] || fail "'${*:2}' said: $said"
+  [ "$status" = "$expected" ] || fail "'${*:2}' exited with $status: $said"
+  [[ $said == *"$text"* ]] || fail "'${*:2}' printed: $said"
 }
 
-# Runs the README's program on a file that is as it expects it, and on what it must handle.
+# Runs the README's program on a file that suits it, and on failures that it must handle.
 check_sample_program() {
   local long
   long=$(printf 'x%.0s' {1..300})
@@ -43,7 +43,7 @@ check_sample_program() {
   expect_run 1 "$([ -n "$EMULATOR" ] || echo 'line ')" "$1" invalid-port.xml
 }
 
-# Builds the README's program by a sample for CMake.
+# Builds the README's program with a CMake sample.
 check_cmake_sample() {
   mkdir "$work/by-cmake"
   cp "$(sample_with cpp 'int main')" "$work/by-cmake/my_tests.cpp"
@@ -57,7 +57,7 @@ check_cmake_sample() {
   check_sample_program "$work/by-cmake/build/my_tests"
 }
 
-# Makes a copy of the sources' scripts in which everything is built already, and commands that take it for built.
+# Copies the sources' scripts to a tree where everything counts as built, with stand-ins for the build commands.
 prepare_shell() {
   local tree=$work/tree tool
   mkdir -p "$tree/scripts" "$tree/build/release/cli" "$work/bin"
@@ -71,13 +71,13 @@ prepare_shell() {
   done
   cat >"$work/bin/cmake" <<END
 #!/usr/bin/env bash
-# Looks whether a preset exists instead of configuring or building, and installs what is built already.
+# Checks that a preset exists instead of configuring or building, and installs what is already built.
 set -euo pipefail
 case "\$*" in
   '--preset release') "$(command -v cmake)" --list-presets=configure | grep -qF '"release"' ;;
   '--build --preset release') "$(command -v cmake)" --list-presets=build | grep -qF '"release"' ;;
   '--install build/release --prefix /usr/local') "$(command -v cmake)" --install "$BUILD" --prefix "$work/usr-local" ;;
-  *) echo "cmake \$*: not a command that is known here" >&2; exit 2 ;;
+  *) echo "cmake \$*: unknown command" >&2; exit 2 ;;
 esac
 END
   cat >"$work/bin/ctest" <<END
@@ -89,33 +89,33 @@ END
   chmod +x "$work"/bin/* "$tree"/scripts/*
 }
 
-# Runs a sample for the shell in that copy.
+# Runs a shell sample in that tree.
 check_shell_sample() {
   cd "$work/tree"
   PATH=$work/bin:$PATH PKG_CONFIG_PATH=$lib/pkgconfig bash -euo pipefail "$1" >"$work/said.txt" 2>&1 ||
     fail "the sample $1 failed: $(cat "$work/said.txt")"
 }
 
-# Expects each line to begin with a command that has a help.
+# Expects each line to begin with a command that has help.
 check_usage_sample() {
   local program command rest
   while read -r program command rest; do
-    [ "$program" = vif ] || fail "no command: $program $command $rest"
-    "${run[@]}" "$PREFIX/bin/vif$EXE" "$command" --help >"$work/help.txt" || fail "there is no $program $command"
+    [ "$program" = vif ] || fail "not a vif command: $program $command $rest"
+    "${run[@]}" "$PREFIX/bin/vif$EXE" "$command" --help >"$work/help.txt" || fail "unknown command: $program $command"
   done <"$1"
 }
 
 check_sample() {
   case $1 in
     *.cpp)
-      compile "$1" "${link[@]}" ${EMULATOR:+-lole32 -loleaut32} -o "$work/sample$EXE" || fail "$1 cannot be compiled"
+      compile "$1" "${link[@]}" ${EMULATOR:+-lole32 -loleaut32} -o "$work/sample$EXE" || fail "$1 does not compile"
       check_sample_program "$work/sample$EXE"
       ;;
     *.cmake)
       if grep -q find_package "$1"; then
         [ -n "$EMULATOR" ] || check_cmake_sample "$1"
       else
-        grep -q '^add_subdirectory(VendorInfoFile)$' "$1" || fail "$1 is checked by nothing"  # PartOfAnotherProject does
+        grep -q '^add_subdirectory(VendorInfoFile)$' "$1" || fail "nothing checks $1"  # PartOfAnotherProject checks these
       fi
       ;;
     *.sh) [ -n "$EMULATOR" ] || check_shell_sample "$1" ;;
@@ -130,5 +130,5 @@ check_samples() {
   [ -n "$EMULATOR" ] || prepare_shell
   while read -r sample; do check_sample "$sample"; done <"$work/blocks.txt"
   [ -n "$EMULATOR" ] || [ -f "$work/usr-local/include/vendorinfofile/VendorInfoFile.h" ] || fail 'no sample has installed anything'
-  [ -n "$EMULATOR" ] || [ -x "$work/tree/a.out" ] || fail 'no sample has compiled anything by pkg-config'
+  [ -n "$EMULATOR" ] || [ -x "$work/tree/a.out" ] || fail 'no sample has compiled anything with pkg-config'
 }

@@ -1,4 +1,4 @@
-// Choices at random.
+// Random choices.
 #pragma once
 
 #include "support/Random.h"

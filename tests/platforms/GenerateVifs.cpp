@@ -1,4 +1,4 @@
-// Writes VIFs at random, text and XML, sound and broken, by which two builds of the command can be compared.
+// Writes random VIFs, text and XML, valid and broken, for comparing two builds of the command.
 #include "RandomTextVif.h"
 #include "RandomXmlVif.h"
 #include "support/Random.h"

@@ -76,8 +76,8 @@ std::string RandomTextVif(std::mt19937_64& generator) {
   std::string text = OneIn(20, generator) ? "\xEF\xBB\xBF" : "";
   const std::size_t count = testsupport::RandomBelow(generator, 60);
   for (std::size_t i = 0; i < count; ++i) text.append(Line(generator)).append(lineEnd);
-  if (OneIn(5, generator)) text += Line(generator);  // a last line without its end
-  // The one character that is meant to make a difference: in text mode, Ctrl-Z ends a file on Windows.
+  if (OneIn(5, generator)) text += Line(generator);  // a last line without a line end
+  // The only character that is meant to make a difference: in text mode, Ctrl-Z ends a file on Windows.
   std::replace(text.begin(), text.end(), '\x1A', '\x1B');
   return text;
 }

@@ -1,4 +1,4 @@
-// A text VIF at random.
+// A random text VIF.
 #pragma once
 
 #include <random>
@@ -6,8 +6,8 @@
 
 namespace platforms {
 
-/// Lines as people and their programs write them: known names with all kinds of indexes, others, numbers of every form,
-/// comments, blanks, either line end, and lines that are none.
+/// Lines as people and their programs write them: known names with all kinds of indexes, other names, numbers in every
+/// form, comments, blanks, either line end, and lines that are not declarations.
 std::string RandomTextVif(std::mt19937_64& generator);
 
 }  // namespace platforms

@@ -42,7 +42,7 @@ constexpr std::string_view kTexts[] = {"",
                                        "one<!-- comment -->two",
                                        "one<?instruction?>two"};
 
-/// A document in the making. Elements are written with one prefix or none.
+/// A document under construction. Elements have one prefix or none.
 class CWriter {
  public:
   explicit CWriter(std::mt19937_64& generator)
@@ -91,7 +91,7 @@ class CWriter {
     for (std::size_t i = Below(8); i > 0; --i) Field();
     if (Once(6)) OptionalContent();
     if (Once(10)) m_text += "<!-- <not:there/> -->";
-    // One level more than there may be, now and then.
+    // Occasionally one level more than allowed.
     if (depth < (m_isSound ? 3U : 4U)) {
       for (std::size_t i = Below(3); i > 0; --i) List(depth + 1);
     }
@@ -101,7 +101,7 @@ class CWriter {
 
   void List(std::size_t depth) {
     const std::size_t kind = Below(std::size(kLists));
-    // A list that is none ends the loading.
+    // An unknown list ends the loading.
     const std::string_view list = !m_isSound && Once(10) ? "Strange_List" : kLists[kind];
     Open(list);
     for (std::size_t i = Below(4); i > 0; --i) Group(kItems[kind], depth);
@@ -115,7 +115,7 @@ class CWriter {
       case 1: return Element(OneOf(kNumeric, m_generator), Value(kNumbers), Text());
       case 2: return Element("Unknown_" + KnownName(), Value(kTexts), Text());
       case 3: return Element(KnownName(), "", Text());
-      default: return Element(KnownName(), Value(kBits), Text());  // fits a number and a boolean
+      default: return Element(KnownName(), Value(kBits), Text());  // valid as a number and as a boolean
     }
   }
 
@@ -137,7 +137,7 @@ class CWriter {
   template <std::size_t size>
   std::string Value(const std::string_view (&values)[size]) {
     const std::string_view chosen = OneOf(values, m_generator);
-    // What is markup in a text is an error in a value.
+    // Markup in a text would be an error in a value.
     std::string value(chosen.find('<') == std::string_view::npos ? chosen : "&lt;");
     std::replace(value.begin(), value.end(), '"', '\'');
     return " value=\"" + value + '"';
@@ -180,7 +180,7 @@ class CWriter {
   std::string m_text;
 };
 
-/// The text, which is UTF-8, with a declaration, in an encoding.
+/// Adds a declaration to UTF-8 text and encodes the result.
 std::string Encoded(const std::string& text, std::mt19937_64& generator) {
   const auto declared = [&](std::string_view name) {
     return "<?xml version='1.0' encoding='" + std::string(name) + "'?>\n" + text;

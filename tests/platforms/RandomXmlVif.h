@@ -1,4 +1,4 @@
-// An XML VIF at random.
+// A random XML VIF.
 #pragma once
 
 #include <random>
@@ -6,8 +6,8 @@
 
 namespace platforms {
 
-/// Groups and fields of every kind, known and not, in their places or not, with texts and values of every form, in one
-/// of several encodings; now and then with something that makes it invalid.
+/// Groups and fields of every kind, known or unknown, in the right place or not, with texts and values of every form,
+/// in one of several encodings; occasionally with something that makes it invalid.
 std::string RandomXmlVif(std::mt19937_64& generator);
 
 }  // namespace platforms

@@ -1,4 +1,4 @@
-// Locales with an opinion of their own about characters.
+// Locales with their own character classification.
 #pragma once
 
 #include <cstddef>
@@ -6,7 +6,7 @@
 
 namespace testsupport {
 
-/// What a locale of its own says about characters: the classic tables, to be changed at will.
+/// A locale facet with its own character classification: the classic tables, to be changed at will.
 class CustomCtype : public std::ctype<char> {
  public:
   struct Tables {

@@ -1,4 +1,4 @@
-// The XML document that is made for VIFs, with the schemas that are shipped.
+// The XML document for VIFs, with the schemas that ship with the library.
 #include "DOMDocVIF.h"
 
 #include "BaseUtilities/Exceptions.h"
@@ -24,7 +24,7 @@ using testsupport::SelectOne;
 using testsupport::TempDir;
 using testsupport::Text;
 
-/// Lets the document's interface be used.
+/// Exposes the document's interface.
 class CVifDocument : public CDOMDocVIF {
  public:
   using CDOMDocVIF::Document;
@@ -43,7 +43,7 @@ class DOMDocVIFTest : public testing::Test {
                         std::string(content) + "</vif:VIF>");
   }
 
-  /// Expects problems, of these elements. MSXML tells of the first problem only, and not which element has it.
+  /// Expects problems with these elements. MSXML reports only the first problem, and not which element has it.
   template <typename Elements>
   void ExpectBadElements([[maybe_unused]] const Elements& elements) const {
 #ifdef _WIN32
@@ -78,7 +78,7 @@ TEST_F(DOMDocVIFTest, SelectionNamespacesOfAllDocumentsAreTheSame) {
   EXPECT_EQ(SelectionNamespaces(other.Document()), SelectionNamespaces(Document().Document()));
 }
 
-TEST_F(DOMDocVIFTest, PrefixesFindElementsWhateverTheFileCallsThem) {
+TEST_F(DOMDocVIFTest, PrefixesFindElementsWhateverPrefixesTheFileUses) {
   ASSERT_TRUE(ValidateFile("<VIF xmlns='" + std::string(kVif) + "' xmlns:x='" + std::string(kOptional) +
                            "' xmlns:i='http://www.w3.org/2001/XMLSchema-instance' i:schemaLocation='urn:o o.xsd'>"
                            "<TID>1</TID><x:OptionalContent/></VIF>"));
@@ -87,7 +87,7 @@ TEST_F(DOMDocVIFTest, PrefixesFindElementsWhateverTheFileCallsThem) {
   EXPECT_THAT(NodeNames(Select(*Root(), L"@xsi:schemaLocation")), ElementsAre("i:schemaLocation"));
 }
 
-TEST_F(DOMDocVIFTest, OptionalContentOfTheSameNameIsNotFoundAsTheVifs) {
+TEST_F(DOMDocVIFTest, OptionalContentOfTheSameNameIsNotMistakenForTheVifs) {
   ASSERT_TRUE(Validate("<opt:TID>optional</opt:TID><opt:Component/><vif:TID>1</vif:TID>"));
   EXPECT_THAT(NodeNames(Select(*Root(), L"vif:*")), ElementsAre("vif:TID"));
   EXPECT_EQ(Text(*SelectOne(*Root(), L"vif:TID")), "1");
@@ -125,14 +125,14 @@ TEST_F(DOMDocVIFTest, RootInNoNamespaceIsNotValid) {
   EXPECT_THAT(Document().Problems().front().reason, HasSubstr("'VIF' in no namespace"));
 }
 
-TEST_F(DOMDocVIFTest, LetterCaseOfTheRootCounts) {
+TEST_F(DOMDocVIFTest, LetterCaseOfTheRootMatters) {
   EXPECT_FALSE(ValidateFile("<vif xmlns='" + std::string(kVif) + "'/>"));
   EXPECT_THAT(Document().Problems(), SizeIs(1));
 }
 
 // What the schemas check.
 
-TEST_F(DOMDocVIFTest, NumericFieldsHaveIntegers) {
+TEST_F(DOMDocVIFTest, NumericFieldsTakeIntegers) {
   for (const char* value : {"0", "-1", "+7", " 12 ", "4294967296", "007"}) {
     EXPECT_TRUE(Validate("<vif:Connector_Type value='" + std::string(value) + "'/>")) << value;
   }
@@ -143,7 +143,7 @@ TEST_F(DOMDocVIFTest, NumericFieldsHaveIntegers) {
   }
 }
 
-TEST_F(DOMDocVIFTest, BooleanFieldsHaveBooleans) {
+TEST_F(DOMDocVIFTest, BooleanFieldsTakeBooleans) {
   for (const char* value : {"true", "false", "1", "0", " true "}) {
     EXPECT_TRUE(Validate("<vif:USB4_Supported value='" + std::string(value) + "'/>")) << value;
   }
@@ -154,7 +154,7 @@ TEST_F(DOMDocVIFTest, BooleanFieldsHaveBooleans) {
   }
 }
 
-// Some descriptions of the format have it as a code from 0 to 6, others as a boolean, so files may have either.
+// Some descriptions of the format define it as a code from 0 to 6, others as a boolean, so files may have either.
 TEST_F(DOMDocVIFTest, PowerThatAnAdapterNeedsFromVconnIsABooleanOrACode) {
   for (const char* value : {"true", "false", "0", "1", "2", "6", " 3 "}) {
     EXPECT_TRUE(Validate("<vif:AMA_VCONN_Power value='" + std::string(value) + "'/>")) << value;
@@ -170,12 +170,12 @@ TEST_F(DOMDocVIFTest, FieldsNeedNoValueAndMayHaveAnyText) {
   EXPECT_TRUE(Validate("<vif:Connector_Type>any text</vif:Connector_Type><vif:USB4_Supported/><vif:TID value='x'/>"));
 }
 
-TEST_F(DOMDocVIFTest, ValueMisspelledIsNotValid) {
+TEST_F(DOMDocVIFTest, MisspelledValueAttributeIsNotValid) {
   EXPECT_FALSE(Validate("<vif:Connector_Type Value='1'/>"));
   ExpectBadElements(ElementsAre("vif:Connector_Type"));
 }
 
-TEST_F(DOMDocVIFTest, AttributesOfOtherNamespacesAreLetThrough) {
+TEST_F(DOMDocVIFTest, AttributesOfOtherNamespacesAreAllowed) {
   EXPECT_TRUE(Validate("<vif:TID xml:space='preserve' xmlns:o='urn:o' o:x='1'> 1 </vif:TID>"));
   EXPECT_EQ(Text(*SelectOne(*Root(), L"vif:TID")), " 1 ");
 }
@@ -192,7 +192,7 @@ TEST_F(DOMDocVIFTest, FieldHasNoElementsInside) {
   ExpectBadElements(testing::Contains("vif:TID"));
 }
 
-TEST_F(DOMDocVIFTest, UnknownElementsAreLetThrough) {
+TEST_F(DOMDocVIFTest, UnknownElementsAreAllowed) {
   EXPECT_TRUE(
       Validate("<vif:Unknown_Field value='x'>text</vif:Unknown_Field>"
                "<vif:Component><vif:UnknownList>text<vif:Unknown a='1'/></vif:UnknownList></vif:Component>"));
@@ -204,11 +204,11 @@ TEST_F(DOMDocVIFTest, KnownElementInAnUnknownListIsChecked) {
   ExpectBadElements(ElementsAre("vif:Connector_Type"));
 }
 
-TEST_F(DOMDocVIFTest, KnownElementsMayStandAnywhereAndInAnyNumber) {
+TEST_F(DOMDocVIFTest, KnownElementsMayOccurAnywhereAndInAnyNumber) {
   EXPECT_TRUE(Validate("<vif:SrcPDO><vif:TID/><vif:TID/></vif:SrcPDO><vif:Component/><vif:Product/><vif:Product/>"));
 }
 
-TEST_F(DOMDocVIFTest, OptionalContentIsLetThroughAnywhere) {
+TEST_F(DOMDocVIFTest, OptionalContentIsAllowedAnywhere) {
   EXPECT_TRUE(
       Validate("<opt:OptionalContent identifier='x' o='1'>text<opt:Any><other/></opt:Any></opt:OptionalContent>"
                "<vif:Component><opt:OptionalContent/><opt:Anything>text</opt:Anything></vif:Component>"));
@@ -219,19 +219,19 @@ TEST_F(DOMDocVIFTest, KnownElementInOptionalContentIsChecked) {
   ExpectBadElements(ElementsAre("vif:Connector_Type"));
 }
 
-TEST_F(DOMDocVIFTest, EveryReasonIsListed) {
+TEST_F(DOMDocVIFTest, EveryProblemIsListed) {
   EXPECT_FALSE(
       Validate("<vif:Connector_Type value='x'/>\n<vif:Component>\n<vif:USB4_Supported value='y'/>text\n"
                "</vif:Component>"));
   ExpectBadElements(testing::UnorderedElementsAre("vif:Connector_Type", "vif:USB4_Supported", "vif:Component"));
 }
 
-TEST_F(DOMDocVIFTest, InvalidVifCanBeLookedAt) {
+TEST_F(DOMDocVIFTest, InvalidVifCanBeExamined) {
   EXPECT_FALSE(Validate("<vif:Connector_Type value='x'/><vif:TID>7</vif:TID>"));
   EXPECT_EQ(Text(*SelectOne(*Root(), L"vif:TID")), "7");
 }
 
-TEST_F(DOMDocVIFTest, SchemaThatIsBrokenInTheDirectorySetIsAnError) {
+TEST_F(DOMDocVIFTest, BrokenSchemaInTheDirectorySetIsAnError) {
   const TempDir dir;
   dir.Write("VendorInfoFile.xsd", "");
   CDOMDoc::SetSchemaDirectory(dir.Path());

@@ -40,7 +40,7 @@ class FakeAttributes : public UnfakedMap {
   Call failing = Call::None;
 };
 
-/// An element that finds children by the last step of a path, and all of them by any other.
+/// An element that finds the children named by the last step of a path, and all of them for any other step.
 class FakeNode : public UnfakedElement {
  public:
   explicit FakeNode(std::wstring name) : m_name(std::move(name)) {}
@@ -103,7 +103,7 @@ class FakeNode : public UnfakedElement {
   }
 
   std::wstring m_name;
-  // Lists take a type that is not complete yet, and leave their elements where they are.
+  // Lists accept an incomplete type, and do not move their elements.
   std::list<FakeNode> m_children;
   std::list<FakeList> m_lists;
   FakeAttributes m_attributes;

@@ -1,4 +1,4 @@
-// Compares and prints what the line grammar answers with.
+// Compares and prints the line grammar's results.
 #pragma once
 
 #include "LineGrammar.h"

@@ -1,4 +1,4 @@
-// Which location an element's name stands for.
+// The location that the name of an element stands for.
 #include "GroupNames.h"
 
 #include <gtest/gtest.h>

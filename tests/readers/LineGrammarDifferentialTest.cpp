@@ -1,5 +1,5 @@
-// The line grammar against a second opinion: the regular expressions it stands for, and a step by step account of
-// how a line is split.
+// The line grammar against a reference: the regular expressions that it implements, and a literal transcription of the
+// steps that split a line.
 #include "LineGrammar.h"
 
 #include "CustomCtype.h"
@@ -42,7 +42,7 @@ std::string Repeated(Generator& generator, std::size_t atMost, const std::functi
   return text;
 }
 
-/// Calls the action with every text over the alphabet that is not longer than that.
+/// Calls the action with every text over the alphabet up to that length.
 void ForEachText(std::string_view alphabet, std::size_t longest, const std::function<void(const std::string&)>& action,
                  std::string& text) {
   action(text);
@@ -62,7 +62,7 @@ void ForEachText(std::string_view alphabet, std::size_t longest,
 
 // Contents.
 
-/// A blank, mostly; or white space; or any byte, which a locale may well take for white space.
+/// Usually a blank; or white space; or any byte, which a locale may well classify as white space.
 std::string Spacing(Generator& generator) {
   return Repeated(generator, 2, [&] {
     return RandomBelow(generator, 8) != 0 ? OneOf(generator, "  \t\r\n\v\f") : AnyByte(generator);
@@ -85,7 +85,7 @@ std::string QuotedValue(Generator& generator) {
   return value;
 }
 
-/// The word in any mix of letter cases.
+/// The word in a random mix of letter cases.
 std::string Word(Generator& generator, std::string_view upperCase) {
   std::string word(upperCase);
   for (char& c : word) {
@@ -121,12 +121,12 @@ void ChangeOnePlace(Generator& generator, std::string& text) {
   }
 }
 
-/// Nearly a declaration, often just one.
+/// A declaration, or almost one.
 std::string Content(Generator& generator) {
   const bool isString = RandomBelow(generator, 2) == 0;
-  // Now and then the value of the other kind.
+  // Occasionally the value of the other kind.
   const bool isQuoted = RandomBelow(generator, 10) == 0 ? !isString : isString;
-  // In statements of their own, so that every compiler makes the same contents.
+  // In separate statements, so that every compiler generates the same contents.
   std::string content = isString ? "$" : "";
   content += Name(generator);
   content += Spacing(generator);
@@ -137,7 +137,7 @@ std::string Content(Generator& generator) {
   return content;
 }
 
-/// The two patterns as regular expressions, with the global locale at the time of making.
+/// The two patterns as regular expressions, with the global locale in force on construction.
 class PatternReference {
  public:
   std::optional<Declaration> Parse(const std::string& content) {
@@ -154,8 +154,8 @@ class PatternReference {
   std::cmatch m_match;
 };
 
-/// Compares the two and counts what is a declaration, so that a test can tell that it has tried both kinds of
-/// contents often enough.
+/// Compares the two and counts the declarations, so that a test can tell whether it has tried both kinds of contents
+/// often enough.
 class GrammarComparison {
  public:
   void Compare(const std::string& content) {
@@ -194,10 +194,10 @@ void CompareShortContents(const std::string& start, std::string_view alphabet, s
   EXPECT_GT(comparison.Others(), 0);
 }
 
-/// Tables that differ from the classic ones in what they say about the bytes from 0x80 on: any of them may be a
-/// letter, a digit, a hexadecimal digit or white space, and many are upper-case forms of characters with a
-/// meaning in the patterns. They are sane in two respects only: what may begin a value is no white space, and
-/// what stands for the colon is none of a name's characters.
+/// Tables that differ from the classic ones for bytes from 0x80 on: any of these may be a letter, a digit, a
+/// hexadecimal digit or white space, and many are upper-case forms of characters that have a meaning in the patterns.
+/// The tables are sane in only two respects: what may begin a value is not white space, and what stands for the colon
+/// cannot be part of a name.
 class UnusualTables : public testsupport::CustomCtype::Tables {
  public:
   explicit UnusualTables(Generator& generator) {
@@ -242,9 +242,9 @@ struct ReferenceSplit {
 
 bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 
-/// How a line is split, one step after the other.
+/// Splits a line step by step.
 ReferenceSplit SplitByTheSteps(const std::string& line) {
-  // A line that is empty or all blanks, and one that starts with a semicolon.
+  // A line that is empty or blank, and one that starts with a semicolon.
   std::size_t begin = 0;
   while (begin < line.size() && IsBlank(line[begin])) ++begin;
   if (begin == line.size() || line[begin] == ';') return {};
@@ -254,23 +254,23 @@ ReferenceSplit SplitByTheSteps(const std::string& line) {
   const std::string trimmed = line.substr(begin, end - begin);
 
   std::optional<std::size_t> firstQuote;
-  std::optional<std::size_t> behindLastQuote;
+  std::optional<std::size_t> afterLastQuote;
   std::optional<std::size_t> firstSemicolon;
   for (std::size_t i = 0; i < trimmed.size(); ++i) {
     if (trimmed[i] == '"' && !firstQuote) firstQuote = i;
-    if (trimmed[i] == '"') behindLastQuote = i + 1;
+    if (trimmed[i] == '"') afterLastQuote = i + 1;
     if (trimmed[i] == ';' && !firstSemicolon) firstSemicolon = i;
   }
   if (!firstSemicolon) return {trimmed, ""};
 
   std::size_t cut = *firstSemicolon;
-  const bool isQuoted = firstQuote && !(cut < *firstQuote) && !(cut > *behindLastQuote);
+  const bool isQuoted = firstQuote && !(cut < *firstQuote) && !(cut > *afterLastQuote);
   if (isQuoted) {
     do {
       ++cut;
       while (cut < trimmed.size() && trimmed[cut] == ';') ++cut;
       if (cut == trimmed.size()) return {trimmed, ""};
-    } while (cut > *firstQuote && cut < *behindLastQuote);
+    } while (cut > *firstQuote && cut < *afterLastQuote);
   }
 
   std::string content = trimmed.substr(0, cut);
@@ -286,7 +286,7 @@ void CompareSplit(const std::string& line) {
       << "line: " << testsupport::Escaped(line);
 }
 
-/// A line of few different characters, or one that looks like a declaration with a comment.
+/// A line of a few distinct characters, or one that looks like a declaration with a comment.
 std::string Line(Generator& generator) {
   const auto character = [&] { return OneOf(generator, "\"\";;; \t\r\nab:$\0\xFF"sv); };
   if (RandomBelow(generator, 2) == 0) return Repeated(generator, 24, character);

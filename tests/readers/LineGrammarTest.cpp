@@ -1,4 +1,4 @@
-// Taking a line apart and recognising the two forms of a declaration.
+// Splitting a line and recognising the two forms of a declaration.
 #include "LineGrammar.h"
 
 #include "CustomCtype.h"
@@ -29,13 +29,13 @@ Declaration Number(std::string_view name, std::string_view value) { return {fals
 
 // Trimming.
 
-TEST(TrimBlanksTest, TakesSpaceTabCrAndLfFromBothEnds) { EXPECT_EQ(TrimBlanks(" \t\r\na b\r\n\t "), "a b"); }
+TEST(TrimBlanksTest, RemovesSpaceTabCrAndLfFromBothEnds) { EXPECT_EQ(TrimBlanks(" \t\r\na b\r\n\t "), "a b"); }
 
-TEST(TrimBlanksTest, LeavesBlanksWithinTheLine) { EXPECT_EQ(TrimBlanks("a \t\r\n b"), "a \t\r\n b"); }
+TEST(TrimBlanksTest, KeepsBlanksWithinTheLine) { EXPECT_EQ(TrimBlanks("a \t\r\n b"), "a \t\r\n b"); }
 
-TEST(TrimBlanksTest, LeavesOtherWhiteSpaceAndNul) { EXPECT_EQ(TrimBlanks("\v\fa\0"sv), "\v\fa\0"sv); }
+TEST(TrimBlanksTest, KeepsOtherWhiteSpaceAndNul) { EXPECT_EQ(TrimBlanks("\v\fa\0"sv), "\v\fa\0"sv); }
 
-TEST(TrimBlanksTest, MakesNothingOfBlanks) {
+TEST(TrimBlanksTest, ReturnsNothingForBlanks) {
   EXPECT_EQ(TrimBlanks(""), "");
   EXPECT_EQ(TrimBlanks(" "), "");
   EXPECT_EQ(TrimBlanks(" \t\r\n"), "");
@@ -59,18 +59,18 @@ TEST(SplitLineTest, WithoutASemicolonTheTrimmedLineIsTheContent) {
   EXPECT_EQ(Split("$A: \"x\""), (SplitLine{"$A: \"x\"", ""}));
 }
 
-TEST(SplitLineTest, OtherWhiteSpaceIsNoBlank) { EXPECT_EQ(Split("\vA: 5\f"), (SplitLine{"\vA: 5\f", ""})); }
+TEST(SplitLineTest, OtherWhiteSpaceIsNotABlank) { EXPECT_EQ(Split("\vA: 5\f"), (SplitLine{"\vA: 5\f", ""})); }
 
 TEST(SplitLineTest, WithoutQuotesTheFirstSemicolonOpensTheComment) {
   EXPECT_EQ(Split("A: 5;five"), (SplitLine{"A: 5", "five"}));
   EXPECT_EQ(Split("A: 5 ; five ; or so"), (SplitLine{"A: 5", "five ; or so"}));
 }
 
-TEST(SplitLineTest, BlanksBeforeTheCommentLeaveTheContent) {
+TEST(SplitLineTest, BlanksBeforeTheCommentAreRemoved) {
   EXPECT_EQ(Split("A: 5 \t\r\n;five"), (SplitLine{"A: 5", "five"}));
 }
 
-TEST(SplitLineTest, BlanksAndSemicolonsThatOpenTheCommentLeaveIt) {
+TEST(SplitLineTest, BlanksAndSemicolonsThatOpenTheCommentAreRemoved) {
   EXPECT_EQ(Split("A: 5; ;\t;\r\n; five;; \t"), (SplitLine{"A: 5", "five;;"}));
 }
 
@@ -84,7 +84,7 @@ TEST(SplitLineTest, SemicolonBeforeTheFirstQuoteOpensTheComment) {
   EXPECT_EQ(Split("A: 5;\"a;b\""), (SplitLine{"A: 5", "\"a;b\""}));
 }
 
-TEST(SplitLineTest, SemicolonAwayFromTheClosingQuoteOpensTheComment) {
+TEST(SplitLineTest, SemicolonApartFromTheClosingQuoteOpensTheComment) {
   EXPECT_EQ(Split("$A: \"x\" ; maker"), (SplitLine{"$A: \"x\"", "maker"}));
   EXPECT_EQ(Split("$A: \"x\" \t;;maker"), (SplitLine{"$A: \"x\"", "maker"}));
   EXPECT_EQ(Split("$A: \"x\"y;maker"), (SplitLine{"$A: \"x\"y", "maker"}));
@@ -95,20 +95,20 @@ TEST(SplitLineTest, SemicolonsWithinTheQuotesBelongToTheContent) {
   EXPECT_EQ(Split("$A: \";;;\""), (SplitLine{"$A: \";;;\"", ""}));
 }
 
-TEST(SplitLineTest, BehindQuotedSemicolonsTheCommentBeginsRightBehindTheClosingQuote) {
+TEST(SplitLineTest, AfterQuotedSemicolonsTheCommentBeginsRightAfterTheClosingQuote) {
   EXPECT_EQ(Split("$A: \"x; y\" ; maker"), (SplitLine{"$A: \"x; y\"", "maker"}));
   EXPECT_EQ(Split("$A: \"x; y\" maker"), (SplitLine{"$A: \"x; y\"", "maker"}));
   EXPECT_EQ(Split("$A: \"x;;y;\"maker"), (SplitLine{"$A: \"x;;y;\"", "maker"}));
 }
 
-TEST(SplitLineTest, SemicolonRightBehindTheClosingQuoteStaysInTheContent) {
+TEST(SplitLineTest, SemicolonRightAfterTheClosingQuoteStaysInTheContent) {
   EXPECT_EQ(Split("$A: \"x\"; maker"), (SplitLine{"$A: \"x\";", "maker"}));
   EXPECT_EQ(Split("$A: \"x\";;;maker"), (SplitLine{"$A: \"x\";;;", "maker"}));
   EXPECT_EQ(Split("$A: \"x;y\"; maker"), (SplitLine{"$A: \"x;y\";", "maker"}));
   EXPECT_EQ(Split("$A: \"x\";"), (SplitLine{"$A: \"x\";", ""}));
 }
 
-TEST(SplitLineTest, OnlyOneSemicolonRunIsKeptBehindTheClosingQuote) {
+TEST(SplitLineTest, OnlyOneSemicolonRunIsKeptAfterTheClosingQuote) {
   EXPECT_EQ(Split("$A: \"x\"; ; maker"), (SplitLine{"$A: \"x\";", "maker"}));
 }
 
@@ -195,7 +195,7 @@ TEST(StringDeclarationTest, HasNoNumber) {
   EXPECT_EQ(Parse("$A: YES"), std::nullopt);
 }
 
-TEST(StringDeclarationTest, NameHasOneMarkAtItsStart) {
+TEST(StringDeclarationTest, NameStartsWithOneMark) {
   EXPECT_EQ(Parse("$$A: \"x\""), std::nullopt);
   EXPECT_EQ(Parse("$A$: \"x\""), std::nullopt);
 }
@@ -248,7 +248,7 @@ TEST(NumericDeclarationTest, NeedsANameAndAColonAndAValue) {
   EXPECT_EQ(Parse("A:: 5"), std::nullopt);
 }
 
-TEST(NumericDeclarationTest, HasNothingElseForAValue) {
+TEST(NumericDeclarationTest, HasNoOtherValue) {
   for (const std::string_view value :
        {"-5",   "+5",    "5 V", "5 ",   "5.0", "5V",  "1F",   "0x",    "0xG", "0x1G",  "x5", "00x5",
         "0x 5", "YESNO", "YE",  "YESS", "N",   "NOO", "TRUE", "FALSE", "ON",  "\"5\"", "5;", "5:5"}) {
@@ -265,14 +265,14 @@ TEST(LineGrammarTest, NulEndsTheContent) {
   EXPECT_THAT(Parse("$A: \"x\"\0\""sv), Optional(Text("$A", "x")));
 }
 
-TEST(LineGrammarTest, NothingBehindANulCounts) {
+TEST(LineGrammarTest, NothingAfterANulCounts) {
   EXPECT_EQ(Parse("\0A: 5"sv), std::nullopt);
   EXPECT_EQ(Parse("A\0: 5"sv), std::nullopt);
   EXPECT_EQ(Parse("A: \0005"sv), std::nullopt);
   EXPECT_EQ(Parse("$A: \"x\0y\""sv), std::nullopt);
 }
 
-TEST(LineGrammarTest, ResultIsPartOfTheContent) {
+TEST(LineGrammarTest, ResultRefersToTheContent) {
   const std::string content = "$Name: \"value\"";
   const std::optional<Declaration> declaration = Parse(content);
   ASSERT_TRUE(declaration);
@@ -280,7 +280,7 @@ TEST(LineGrammarTest, ResultIsPartOfTheContent) {
   EXPECT_EQ(declaration->value.data(), content.data() + 8);
 }
 
-TEST(LineGrammarTest, GlobalLocaleSaysWhatALetterIs) {
+TEST(LineGrammarTest, GlobalLocaleDecidesWhatALetterIs) {
   testsupport::CustomCtype::Tables tables;
   tables.classes[0xE4] = std::ctype_base::alpha;
   {
@@ -290,7 +290,7 @@ TEST(LineGrammarTest, GlobalLocaleSaysWhatALetterIs) {
   EXPECT_EQ(Parse("A\xE4: 5"), std::nullopt);
 }
 
-TEST(LineGrammarTest, LocaleIsTheOneAtItsMaking) {
+TEST(LineGrammarTest, LocaleIsTheOneAtItsConstruction) {
   testsupport::CustomCtype::Tables tables;
   tables.classes[0xE4] = std::ctype_base::alpha;
   const CLineGrammar madeBefore;

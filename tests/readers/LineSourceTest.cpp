@@ -1,4 +1,4 @@
-// Cutting a stream into lines.
+// Splitting a stream into lines.
 #include "LineSource.h"
 
 #include "ScriptedBuffer.h"
@@ -78,7 +78,7 @@ TEST(LineSourceTest, OnlyLineFeedsEndALine) {
 
 TEST(LineSourceTest, NulIsACharacterLikeAnyOther) { EXPECT_THAT(LinesOf("\0a\0\n\0"s), ElementsAre("\0a\0"s, "\0"s)); }
 
-TEST(LineSourceTest, EveryByteComesThrough) {
+TEST(LineSourceTest, EveryByteIsPreserved) {
   std::string line;
   for (int i = 0; i < 256; ++i) {
     if (i != '\n') line.push_back(static_cast<char>(i));
@@ -95,7 +95,7 @@ TEST(LineSourceTest, AfterTheLastLineThereIsNone) {
   EXPECT_FALSE(source.HasFailed());
 }
 
-TEST(LineSourceTest, BeginsWhereTheStreamStands) {
+TEST(LineSourceTest, BeginsAtTheStreamsPosition) {
   std::istringstream stream("ab\nc");
   stream.get();
   EXPECT_THAT(LinesOf(stream), ElementsAre("b", "c"));
@@ -110,7 +110,7 @@ TEST(LineSourceTest, StreamAtItsEndIsOneEmptyLine) {
 
 // Chunks.
 
-TEST(LineSourceTest, LinesGoOverTheEndOfAChunk) {
+TEST(LineSourceTest, LinesSpanTheEndOfAChunk) {
   for (std::size_t length = kChunkSize - 3; length <= kChunkSize + 3; ++length) {
     const std::string first(length, 'a');
     EXPECT_EQ(LinesOf(first + "\nb\nc"), (std::vector<std::string>{first, "b", "c"})) << length;
@@ -119,13 +119,13 @@ TEST(LineSourceTest, LinesGoOverTheEndOfAChunk) {
   }
 }
 
-TEST(LineSourceTest, LineGoesOverManyChunks) {
+TEST(LineSourceTest, LineSpansManyChunks) {
   const std::string first = "first" + std::string(5 * kChunkSize, 'a') + "end";
   const std::string second = "second" + std::string(2 * kChunkSize, 'b') + "end";
   EXPECT_EQ(LinesOf(first + "\nx\n" + second), (std::vector<std::string>{first, "x", second}));
 }
 
-TEST(LineSourceTest, PiecesInWhichTheStreamArrivesDoNotShow) {
+TEST(LineSourceTest, PiecesInWhichTheStreamArrivesMakeNoDifference) {
   const std::string text = "\na\r\n\n\rbcd\n\ne";
   for (std::size_t first = 1; first < text.size(); ++first) {
     for (std::size_t second = first + 1; second < text.size(); ++second) {
@@ -147,7 +147,7 @@ TEST(LineSourceTest, StreamMayArriveByteByByte) {
 
 // Ends and failures.
 
-TEST(LineSourceTest, EndIsNoFailureUnderAnyExceptionMask) {
+TEST(LineSourceTest, EndIsNotAFailureUnderAnyExceptionMask) {
   constexpr std::ios_base::iostate bits[] = {std::ios::eofbit, std::ios::failbit, std::ios::badbit};
   for (unsigned chosen = 0; chosen < 8; ++chosen) {
     std::ios_base::iostate mask = std::ios::goodbit;
@@ -185,7 +185,7 @@ TEST(LineSourceTest, AfterAFailureThereIsNoLine) {
   EXPECT_TRUE(source.HasFailed());
 }
 
-TEST(LineSourceTest, FailureAtOnceGivesNoLine) {
+TEST(LineSourceTest, ImmediateFailureYieldsNoLine) {
   ScriptedBuffer buffer({}, FailToRead);
   std::istream stream(&buffer);
   CLineSource source(stream, "x.txt");
@@ -193,7 +193,7 @@ TEST(LineSourceTest, FailureAtOnceGivesNoLine) {
   EXPECT_TRUE(source.HasFailed());
 }
 
-TEST(LineSourceTest, FailureRightBehindALineFeedCostsNoWholeLine) {
+TEST(LineSourceTest, FailureRightAfterALineFeedLosesNoWholeLine) {
   ScriptedBuffer buffer({"a\n", "b\n"}, FailToRead);
   std::istream stream(&buffer);
   CLineSource source(stream, "x.txt");
@@ -201,7 +201,7 @@ TEST(LineSourceTest, FailureRightBehindALineFeedCostsNoWholeLine) {
   EXPECT_TRUE(source.HasFailed());
 }
 
-TEST(LineSourceTest, FailureIsQuietUnderMasksThatDoNotAskForIt) {
+TEST(LineSourceTest, FailureIsQuietUnderMasksThatExcludeIt) {
   ScriptedBuffer buffer({"a\nb"}, FailToRead);
   std::istream stream(&buffer);
   stream.exceptions(std::ios::failbit | std::ios::eofbit);
@@ -210,7 +210,7 @@ TEST(LineSourceTest, FailureIsQuietUnderMasksThatDoNotAskForIt) {
   EXPECT_TRUE(source.HasFailed());
 }
 
-TEST(LineSourceTest, FailureThatTheMaskAsksForIsRaised) {
+TEST(LineSourceTest, FailureThatTheMaskIncludesIsThrown) {
   ScriptedBuffer buffer({"a\nb"}, FailToRead);
   std::istream stream(&buffer);
   stream.exceptions(std::ios::badbit);
@@ -235,7 +235,7 @@ TEST(LineSourceTest, FailureAtTheEndOfTheStreamIsIgnored) {
   EXPECT_FALSE(source.HasFailed());
 }
 
-TEST(LineSourceTest, StreamThatIsNoGoodGivesNoLine) {
+TEST(LineSourceTest, BadStreamYieldsNoLine) {
   std::istringstream stream("a\nb");
   stream.setstate(std::ios::badbit);
   CLineSource source(stream, "x.txt");
@@ -243,7 +243,7 @@ TEST(LineSourceTest, StreamThatIsNoGoodGivesNoLine) {
   EXPECT_TRUE(source.HasFailed());
 }
 
-TEST(LineSourceTest, StreamThatIsNoGoodIsAFailureThatTheMaskMayAskFor) {
+TEST(LineSourceTest, BadStreamIsAFailureThatTheMaskMayInclude) {
   std::istringstream stream("a\nb");
   stream.setstate(std::ios::badbit);
   EXPECT_THROW(stream.exceptions(std::ios::failbit | std::ios::badbit), std::ios_base::failure);
@@ -259,7 +259,7 @@ TEST(LineSourceTest, OtherExceptionsOfTheStreamPass) {
   EXPECT_THROW(LinesOf(stream), std::bad_alloc);
 }
 
-/// Hands out one character after the other and never has one ready.
+/// Returns one character after another and never has one ready.
 class UnbufferedBuffer : public std::streambuf {
  public:
   explicit UnbufferedBuffer(std::string content) : m_content(std::move(content)) {}

@@ -1,4 +1,4 @@
-// A stream buffer that delivers and fails just as a test wants it to.
+// A stream buffer that delivers and fails exactly as a test wants.
 #pragma once
 
 #include <functional>
@@ -9,8 +9,8 @@
 
 namespace testsupport {
 
-/// Delivers the given pieces, none of them empty, one by one, then does what the test asks for at the end, which
-/// may be to throw, and then is at its end.
+/// Delivers the given pieces, none of them empty, one by one. At their end it first runs an action of the test, which
+/// may throw, and then reports the end of the stream.
 class ScriptedBuffer : public std::streambuf {
  public:
   explicit ScriptedBuffer(

@@ -1,4 +1,4 @@
-// What an observer is told of the lines that loading passes over.
+// What observers learn of the lines that loading skips.
 #include "VIFTextCheck.h"
 
 #include "ScriptedBuffer.h"
@@ -66,7 +66,7 @@ std::vector<std::string> Check(const std::string& text, const std::vector<VifFie
   return Check(stream, table);
 }
 
-TEST(TextCheckTest, LinesThatAreInOrderAreNotReported) {
+TEST(TextCheckTest, ValidLinesAreNotReported) {
   EXPECT_THAT(Check("Src_PDO_Voltage2: 5000 ; 5 V\n$Vendor_Name: \"Acme\"\r\nCaptive_Cable: Yes\nPID: 0x1"), IsEmpty());
 }
 
@@ -74,18 +74,18 @@ TEST(TextCheckTest, BlankLinesAndCommentsAreNotReported) {
   EXPECT_THAT(Check("\n  \t \r\n; comment\n \t;; USB_VID = 5\n;\n"), IsEmpty());
 }
 
-TEST(TextCheckTest, LinesThatFitNeitherFormAreReported) {
+TEST(TextCheckTest, LinesThatMatchNeitherFormAreReported) {
   EXPECT_THAT(Check("USB_VID = 5\nPID: 1\nUSB_VID: -5\n$Vendor_Name: \"Acme\"; maker"),
               ElementsAre("1: not understood: USB_VID = 5", "3: not understood: USB_VID: -5",
                           "4: not understood: $Vendor_Name: \"Acme\"; maker"));
 }
 
-TEST(TextCheckTest, NamesThatNoDefinitionKnowsAreReported) {
+TEST(TextCheckTest, UnknownNamesAreReported) {
   EXPECT_THAT(Check("usb_vid: 5\nPID: 1\n$My_Own: \"x\""),
               ElementsAre("1: unknown name: usb_vid: 5", "3: unknown name: $My_Own: \"x\""));
 }
 
-TEST(TextCheckTest, LineOfAnUnknownNameYieldsItsFieldAllTheSame) {
+TEST(TextCheckTest, LineWithAnUnknownNameStillYieldsItsField) {
   std::istringstream stream("usb_vid: 5\nPID: 1");
   std::vector<CVIFField> fields;
   const auto keep = [&](std::size_t, const CVIFField& field) { fields.push_back(field); };
@@ -109,11 +109,11 @@ TEST(TextCheckTest, TextKeepsNulAndBytesThatAreNotUtf8) {
   EXPECT_THAT(Check("\0\xFF\n"s), ElementsAre("1: not understood: \0\xFF"s));
 }
 
-TEST(TextCheckTest, WhiteSpaceThatIsNoBlankIsReported) {
+TEST(TextCheckTest, WhiteSpaceOtherThanBlanksIsReported) {
   EXPECT_THAT(Check("\v\nPID: 1\f"), ElementsAre("1: not understood: \v", "2: not understood: PID: 1\f"));
 }
 
-TEST(TextCheckTest, OwnTableSaysWhatIsKnown) {
+TEST(TextCheckTest, OwnTableDefinesWhatIsKnown) {
   const std::vector<VifFieldDef> table = {
       {L"A", std::wregex(L"A[0-9]"), {}},
       {L"B", std::wregex(L"\\$B"), {}},
@@ -122,15 +122,15 @@ TEST(TextCheckTest, OwnTableSaysWhatIsKnown) {
               ElementsAre("4: unknown name: B: 1", "5: unknown name: PID: 1"));
 }
 
-TEST(TextCheckTest, NameKnownInNoGroupIsKnown) { EXPECT_THAT(Check("OptionalContent: 1"), IsEmpty()); }
+TEST(TextCheckTest, NameWithoutALocationIsKnown) { EXPECT_THAT(Check("OptionalContent: 1"), IsEmpty()); }
 
-TEST(TextCheckTest, ReadFailureIsReportedBehindTheLastWholeLine) {
+TEST(TextCheckTest, ReadFailureIsReportedAfterTheLastWholeLine) {
   testsupport::ScriptedBuffer buffer({"PID: 1\noops\nUSB_V"}, [] { throw std::ios_base::failure("gone"); });
   std::istream stream(&buffer);
   EXPECT_THAT(Check(stream), ElementsAre("2: not understood: oops", "3: read failed: "));
 }
 
-TEST(TextCheckTest, ReadFailureByExceptionIsRaised) {
+TEST(TextCheckTest, ReadFailureByExceptionIsThrown) {
   testsupport::ScriptedBuffer buffer({"oops\n"}, [] { throw std::ios_base::failure("gone"); });
   std::istream stream(&buffer);
   stream.exceptions(std::ios::badbit);
@@ -145,7 +145,7 @@ TEST(TextCheckTest, ChecksAFile) {
   EXPECT_THAT(reports.Texts(), ElementsAre("2: not understood: oops", "3: unknown name: my_own: 1"));
 }
 
-TEST(TextCheckTest, ChecksAFileByAnOwnTable) {
+TEST(TextCheckTest, ChecksAFileWithItsOwnTable) {
   const TempDir dir;
   const std::vector<VifFieldDef> table = {{L"my_own", std::wregex(L"my_own"), {}}};
   Reports reports;
@@ -153,7 +153,7 @@ TEST(TextCheckTest, ChecksAFileByAnOwnTable) {
   EXPECT_THAT(reports.Texts(), ElementsAre("1: unknown name: PID: 1"));
 }
 
-TEST(TextCheckTest, ChecksAFileWithNothingInIt) {
+TEST(TextCheckTest, ChecksAnEmptyFile) {
   const TempDir dir;
   Reports reports;
   CheckTextVif(dir.Write("x.txt", ""), reports.Observer());
@@ -180,7 +180,7 @@ TEST(TextCheckTest, UnknownLocationIsAnError) {
   EXPECT_THAT(reports.Texts(), ElementsAre("1: not understood: oops"));
 }
 
-TEST(TextCheckTest, WhatTheObserverThrowsEndsTheReading) {
+TEST(TextCheckTest, ExceptionOfTheObserverEndsTheReading) {
   const TempDir dir;
   int calls = 0;
   const auto observer = [&](const VifLineReport&) {
@@ -192,19 +192,19 @@ TEST(TextCheckTest, WhatTheObserverThrowsEndsTheReading) {
 }
 
 TEST(TextCheckTest, StringNameIsOnlyLookedUpWithoutItsMark) {
-  // Loading never sees "Bad", so its definition's location, which is none, is nobody's business here either.
+  // Loading never sees "Bad", so it does not matter that its definition has an invalid location.
   const std::vector<VifFieldDef> table = {{L"Bad", std::wregex(L"Bad"), {static_cast<EVifLocation>(13)}}};
   EXPECT_THAT(Check("$Bad: \"x\"\n", &table), IsEmpty());
 }
 
-TEST(TextCheckTest, RegexErrorOfTheObserverComesThrough) {
+TEST(TextCheckTest, RegexErrorOfTheObserverPasses) {
   std::istringstream stream("no declaration\n");
   const auto observer = [](const VifLineReport&) { throw std::regex_error(std::regex_constants::error_brace); };
   EXPECT_THROW(FollowTextVif(stream, "a.txt", nullptr, {observer, nullptr}), std::regex_error);
 }
 
-TEST(TextCheckTest, LookUpWithoutTheMarkCannotFailTheFile) {
-  // Reads on into the name only behind a letter, so the name with its mark is no trouble.
+TEST(TextCheckTest, LookupWithoutTheMarkCannotFailTheFile) {
+  // Reads on only after a letter, so the name with its mark is harmless.
   const std::vector<VifFieldDef> table = {{L"Long", std::wregex(L"(a|b)*c"), {}}};
   EXPECT_THAT(Check("$" + std::string(200'000, 'a') + ": \"x\"\n", &table), testing::SizeIs(1));
 }
@@ -236,7 +236,7 @@ TEST(TextCheckTest, AnUnknownNameIsReportedBeforeItsField) {
   EXPECT_THAT(calls, ElementsAre("line", "my_own", "PID"));
 }
 
-TEST(TextCheckTest, WhatTheFieldObserverThrowsEndsTheReading) {
+TEST(TextCheckTest, ExceptionOfTheFieldObserverEndsTheReading) {
   const TempDir dir;
   int calls = 0;
   const auto observer = [&](std::size_t, const CVIFField&) {

@@ -1,4 +1,4 @@
-// From the text of a file to its fields.
+// Reading the fields of a text file.
 #include "TextReader.h"
 
 #include "CustomCtype.h"
@@ -34,7 +34,7 @@ using testsupport::RunTimeErrorOf;
 using testsupport::ScriptedBuffer;
 using testsupport::TempDir;
 
-/// What a reader appends to.
+/// The state that a reader appends to.
 class Sink {
  public:
   void Read(std::istream& stream, const std::vector<VifFieldDef>* table = nullptr) {
@@ -85,7 +85,7 @@ TEST(TextReaderTest, WithoutACommentTheDescriptionIsEmpty) {
   EXPECT_THAT(Read("USB_VID: 5\n$A: \"x\""), ElementsAre("USB_VID=5 @6.1", "$A=\"x\""));
 }
 
-TEST(TextReaderTest, SemicolonRightBehindTheClosingQuoteMakesNoField) {
+TEST(TextReaderTest, SemicolonRightAfterTheClosingQuoteYieldsNoField) {
   EXPECT_THAT(Read("$Vendor_Name: \"Acme\"; maker"), IsEmpty());
 }
 
@@ -100,7 +100,7 @@ TEST(TextReaderTest, OtherSpellingsOfYesAndNoStayAsWritten) {
               ElementsAre("Captive_Cable=Yes @6.1", "Captive_Cable=nO ; open @6.1"));
 }
 
-TEST(TextReaderTest, OtherSpellingsOfYesAndNoAreNumbersAllTheSame) {
+TEST(TextReaderTest, OtherSpellingsOfYesAndNoAreStillNumbers) {
   Sink sink;
   sink.Read("Captive_Cable: yEs\nCaptive_Cable: No");
   ASSERT_EQ(sink.Fields().size(), 2U);
@@ -129,11 +129,11 @@ TEST(TextReaderTest, LinesThatDeclareNothingAreSkipped) {
               IsEmpty());
 }
 
-TEST(TextReaderTest, LinesBehindASkippedOneAreRead) {
+TEST(TextReaderTest, LinesAfterASkippedOneAreRead) {
   EXPECT_THAT(Read("USB_VID = 5\nUSB_VID: 6"), ElementsAre("USB_VID=6 @6.1"));
 }
 
-TEST(TextReaderTest, NameThatNoDefinitionKnowsStaysAsWritten) {
+TEST(TextReaderTest, UnknownNameStaysAsWritten) {
   EXPECT_THAT(Read("usb_vid: 5\nMy_Own_Field7: 1"), ElementsAre("usb_vid=5", "My_Own_Field7=1"));
 }
 
@@ -157,18 +157,18 @@ TEST(TextReaderTest, LastLineMayEndWithALineFeedOrNot) {
   EXPECT_THAT(Read("USB_VID: 1\nPID: 2\n"), ElementsAre("USB_VID=1 @6.1", "PID=2 @6.1"));
 }
 
-TEST(TextReaderTest, CrBesideALineFeedIsABlank) {
+TEST(TextReaderTest, CrNextToALineFeedIsABlank) {
   EXPECT_THAT(Read("USB_VID: 1 ; one\r\n$A: \"x\"\r\n"), ElementsAre("USB_VID=1 ; one @6.1", "$A=\"x\""));
   EXPECT_THAT(Read("USB_VID: 1 ; one\n\r$A: \"x\"\n\r"), ElementsAre("USB_VID=1 ; one @6.1", "$A=\"x\""));
 }
 
-TEST(TextReaderTest, CrAloneEndsNoLine) { EXPECT_THAT(Read("USB_VID: 1\rPID: 2\r"), IsEmpty()); }
+TEST(TextReaderTest, CrAloneDoesNotEndALine) { EXPECT_THAT(Read("USB_VID: 1\rPID: 2\r"), IsEmpty()); }
 
 TEST(TextReaderTest, CrWithinALineIsWhiteSpaceOutsideQuotes) {
   EXPECT_THAT(Read("USB_VID\r:\r5\n$A: \"x\ry\"\nPID: 1;a\rb"), ElementsAre("USB_VID=5 @6.1", "PID=1 ; a\rb @6.1"));
 }
 
-TEST(TextReaderTest, NulEndsWhatIsReadOfALine) {
+TEST(TextReaderTest, NulEndsContentAndComment) {
   EXPECT_THAT(Read("USB_VID: 5\0 junk ; five\nPID: 1 ; a\0b\n$A: \"x\0y\"\n\0BCD: 1\nXID: 2"s),
               ElementsAre("USB_VID=5 ; five @6.1", "PID=1 ; a @6.1", "XID=2 @6.1"));
 }
@@ -188,7 +188,7 @@ TEST(TextReaderTest, LongLinesAreReadWhole) {
               ElementsAre("$A=\"" + value + "\"", name + "=5", "USB_VID=1 @6.1"));
 }
 
-TEST(TextReaderTest, GlobalLocaleSaysWhatALetterIs) {
+TEST(TextReaderTest, GlobalLocaleDecidesWhatALetterIs) {
   testsupport::CustomCtype::Tables tables;
   tables.classes[0xE4] = std::ctype_base::alpha;
   const testsupport::CScopedGlobalLocale locale(LocaleWith(tables));
@@ -197,7 +197,7 @@ TEST(TextReaderTest, GlobalLocaleSaysWhatALetterIs) {
 
 // Components.
 
-TEST(TextReaderTest, FileIsOneComponentWhateverIsInIt) {
+TEST(TextReaderTest, FileIsOneComponentWhateverItContains) {
   for (const std::string& text : {""s, "\n"s, "nothing"s, "USB_VID: 1"s, "USB_VID: 1\nUSB_VID: 1"s}) {
     Sink sink;
     sink.Read(text);
@@ -205,7 +205,7 @@ TEST(TextReaderTest, FileIsOneComponentWhateverIsInIt) {
   }
 }
 
-TEST(TextReaderTest, NextFileIsTheNextComponentBehindTheFieldsBefore) {
+TEST(TextReaderTest, NextFileIsTheNextComponentAfterTheEarlierFields) {
   Sink sink;
   sink.Read("USB_VID: 1");
   sink.Read("");
@@ -230,7 +230,7 @@ TEST(TextReaderTest, EmptyTableKnowsNoName) {
   EXPECT_THAT(sink.Texts(), ElementsAre("Src_PDO_Voltage2=1"));
 }
 
-TEST(TextReaderTest, UnknownLocationEndsTheReadWithWhatCameBefore) {
+TEST(TextReaderTest, UnknownLocationEndsTheReadAndKeepsWhatCameBefore) {
   const std::vector<VifFieldDef> table = {
       {L"A", std::wregex(L"A"), {eVifLocComponent}},
       {L"B", std::wregex(L"B"), {eVifLocComponent, static_cast<EVifLocation>(13)}},
@@ -242,7 +242,7 @@ TEST(TextReaderTest, UnknownLocationEndsTheReadWithWhatCameBefore) {
   EXPECT_EQ(sink.ComponentCount(), 1U);
 }
 
-TEST(TextReaderTest, ErrorOfAnOwnPatternIsRaisedInItsOwnWordsWithWhatCameBefore) {
+TEST(TextReaderTest, ErrorOfAnOwnPatternIsThrownUnchangedAndKeepsWhatCameBefore) {
   const std::vector<VifFieldDef> table = {{L"Twice", std::wregex(L"(.)\\1.*"), {eVifLocComponent}}};
   Sink sink;
   const std::string text = "AA: 1\n" + std::string(1'000'000, 'B') + ": 2\nCC: 3";
@@ -263,7 +263,7 @@ TEST(TextReaderTest, ReadErrorWithoutAnExceptionEndsTheReadQuietly) {
   EXPECT_EQ(sink.ComponentCount(), 1U);
 }
 
-TEST(TextReaderTest, ReadErrorByExceptionIsRaisedWithWhatCameBefore) {
+TEST(TextReaderTest, ReadErrorByExceptionIsThrownAndKeepsWhatCameBefore) {
   ScriptedBuffer buffer({"USB_VID: 1\nPID: 2"}, [] { throw std::ios_base::failure("gone"); });
   std::istream stream(&buffer);
   stream.exceptions(std::ios::badbit);
@@ -274,7 +274,7 @@ TEST(TextReaderTest, ReadErrorByExceptionIsRaisedWithWhatCameBefore) {
   EXPECT_EQ(sink.ComponentCount(), 1U);
 }
 
-TEST(TextReaderTest, EndOfFileByExceptionIsAnEndLikeAnyOther) {
+TEST(TextReaderTest, EndOfFileByExceptionIsAnOrdinaryEnd) {
   std::istringstream stream("USB_VID: 1\nPID: 2");
   stream.exceptions(std::ios::eofbit | std::ios::failbit | std::ios::badbit);
   Sink sink;
@@ -282,7 +282,7 @@ TEST(TextReaderTest, EndOfFileByExceptionIsAnEndLikeAnyOther) {
   EXPECT_THAT(sink.Texts(), ElementsAre("USB_VID=1 @6.1", "PID=2 @6.1"));
 }
 
-TEST(TextReaderTest, MemoryThatRunsOutPassesOn) {
+TEST(TextReaderTest, OutOfMemoryPasses) {
   ScriptedBuffer buffer({"USB_VID: 1\nPID: 2"}, [] { throw std::bad_alloc(); });
   std::istream stream(&buffer);
   stream.exceptions(std::ios::badbit);
@@ -302,13 +302,13 @@ TEST(TextReaderTest, ReadsAFileWhateverItsName) {
   EXPECT_EQ(sink.ComponentCount(), 1U);
 }
 
-TEST(TextReaderTest, EmptyPathIsAnInternalErrorAndCountsNothing) {
+TEST(TextReaderTest, EmptyPathIsAnInternalErrorAndAddsNoComponent) {
   Sink sink;
   EXPECT_EQ(RunTimeErrorOf([&] { sink.ReadFile(""); }), "CVIFImpl::ReadTextFile: Internal error: NULL file name.");
   EXPECT_EQ(sink.ComponentCount(), 0U);
 }
 
-TEST(TextReaderTest, MissingFileCannotBeOpenedAndCountsNothing) {
+TEST(TextReaderTest, MissingFileCannotBeOpenedAndAddsNoComponent) {
   const TempDir dir;
   const std::filesystem::path path = dir.Path() / "%s missing.txt";
   Sink sink;
@@ -316,7 +316,7 @@ TEST(TextReaderTest, MissingFileCannotBeOpenedAndCountsNothing) {
   EXPECT_EQ(sink.ComponentCount(), 0U);
 }
 
-TEST(TextReaderTest, DirectoryCannotBeOpenedAndCountsNothing) {
+TEST(TextReaderTest, DirectoryCannotBeOpenedAndAddsNoComponent) {
   const TempDir dir;
   Sink sink;
   EXPECT_EQ(RunTimeErrorOf([&] { sink.ReadFile(dir.Path()); }),

@@ -1,4 +1,4 @@
-// Bases of fake XML objects: the calls that a fake leaves to them fail.
+// Bases of fake XML objects: the calls that a fake does not override fail.
 #pragma once
 
 #include "msxml/ComTypes.h"
@@ -11,7 +11,7 @@ namespace vif {
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 #endif
 
-/// Objects that live as long as the test; counting references is of no use to them.
+/// Objects that live as long as the test, so that they need not count references.
 template <typename Interface>
 class Uncounted : public Interface {
  public:

@@ -1,4 +1,4 @@
-// What an observer is told of the elements of an XML VIF.
+// What observers learn of the elements of an XML VIF.
 #include "VIFXmlCheck.h"
 
 #include "BaseUtilities/Exceptions.h"
@@ -32,7 +32,7 @@ const char* FateText(EVifElementFate fate) {
   }
 }
 
-/// Reports as "line:column path: field", or with the element's fate where there is no field.
+/// Reports as "line:column path: field", or with the element's fate if there is no field.
 std::vector<std::string> Check(const std::string& content) {
   const TempDir dir;
   std::vector<std::string> reports;
@@ -43,7 +43,7 @@ std::vector<std::string> Check(const std::string& content) {
   return reports;
 }
 
-TEST(XmlCheckTest, FieldsAreReportedInTheirOrderAndPlaces) {
+TEST(XmlCheckTest, FieldsAreReportedInTheirOrderWithTheirPositions) {
   EXPECT_THAT(Check("<vif:TID>7</vif:TID>\n<vif:Component>\n  <vif:SrcPdoList><vif:SrcPDO>"
                     "<vif:A value=\"1\"/></vif:SrcPDO>\n<vif:SrcPDO><vif:A value=\"2\"/></vif:SrcPDO></vif:SrcPdoList>"
                     "<vif:B value=\"3\"/></vif:Component>"),
@@ -57,42 +57,42 @@ TEST(XmlCheckTest, ApplicationsNamesAreReportedTogether) {
               ElementsAre("3:1 VIF/VIF_App: VIF_Producer=\"V N --\" ; V N -- @1.0"));
 }
 
-TEST(XmlCheckTest, WhatGivesWayToADescriptionIsPassedOver) {
+TEST(XmlCheckTest, WhatADescriptionReplacesIsSkipped) {
   EXPECT_THAT(Check("<vif:VIF_App><vif:Description>D</vif:Description>\n<vif:Name>N</vif:Name></vif:VIF_App>"),
               ElementsAre("3:14 VIF/VIF_App/Description: Description=\"\" ; D", "4:1 VIF/VIF_App/Name: gives way"));
 }
 
-TEST(XmlCheckTest, ElementsThatAnApplicationDoesNotHaveArePassedOver) {
+TEST(XmlCheckTest, ElementsThatAnApplicationDoesNotHaveAreSkipped) {
   EXPECT_THAT(Check("<vif:VIF_App><vif:Vendor>V</vif:Vendor>\n<vif:TID>1</vif:TID></vif:VIF_App>"),
               ElementsAre("3:1 VIF/VIF_App: VIF_Producer=\"V -- --\" ; V -- -- @1.0", "4:1 VIF/VIF_App/TID: not read"));
 }
 
-TEST(XmlCheckTest, SecondElementOfAnApplicationIsPassedOver) {
+TEST(XmlCheckTest, SecondElementOfAnApplicationIsSkipped) {
   EXPECT_THAT(
       Check("<vif:VIF_App><vif:Description>D</vif:Description>\n<vif:Description>E</vif:Description>"
             "</vif:VIF_App>"),
       ElementsAre("3:14 VIF/VIF_App/Description[1]: Description=\"\" ; D", "4:1 VIF/VIF_App/Description[2]: not read"));
 }
 
-TEST(XmlCheckTest, ElementsThatTheRootDoesNotHaveArePassedOverWithWhatIsInThem) {
+TEST(XmlCheckTest, ElementsThatTheRootDoesNotHaveAreSkippedWithTheirContent) {
   EXPECT_THAT(Check("<vif:RP_Value value=\"1\"/>\n<vif:SrcPdoList><vif:SrcPDO><vif:A value=\"1\"/></vif:SrcPDO>"
                     "</vif:SrcPdoList>"),
               ElementsAre("3:1 VIF/RP_Value: not read", "4:1 VIF/SrcPdoList: not read"));
 }
 
-TEST(XmlCheckTest, SecondHeaderElementIsPassedOver) {
+TEST(XmlCheckTest, SecondHeaderElementIsSkipped) {
   EXPECT_THAT(Check("<vif:TID>1</vif:TID>\n<vif:TID>2</vif:TID>"),
               ElementsAre("3:1 VIF/TID[1]: TID=\"\" ; 1 @1.0", "4:1 VIF/TID[2]: not read"));
 }
 
-TEST(XmlCheckTest, EmptyItemsAndComponentsArePassedOver) {
+TEST(XmlCheckTest, EmptyItemsAndComponentsAreSkipped) {
   EXPECT_THAT(Check("<vif:Component/>\n<vif:Component><vif:SrcPdoList><vif:SrcPDO/><vif:SrcPDO><vif:A/></vif:SrcPDO>"
                     "</vif:SrcPdoList></vif:Component>"),
               ElementsAre("4:57 VIF/Component[2]/SrcPdoList/SrcPDO[2]/A: A=\"\" @6.2 @7.2",
                           "3:1 VIF/Component[1]: empty", "4:32 VIF/Component[2]/SrcPdoList/SrcPDO[1]: empty"));
 }
 
-TEST(XmlCheckTest, EmptyProductIsNothingUnusual) { EXPECT_THAT(Check("<vif:Product/>"), IsEmpty()); }
+TEST(XmlCheckTest, EmptyProductIsNotReported) { EXPECT_THAT(Check("<vif:Product/>"), IsEmpty()); }
 
 TEST(XmlCheckTest, OptionalContentIsNotReported) {
   EXPECT_THAT(Check("<opt:OptionalContent/><vif:Product><opt:OptionalContent><opt:A/></opt:OptionalContent>"
@@ -100,7 +100,7 @@ TEST(XmlCheckTest, OptionalContentIsNotReported) {
               IsEmpty());
 }
 
-TEST(XmlCheckTest, ElementsOfOtherNamespacesArePassedOverWithWhatIsInThem) {
+TEST(XmlCheckTest, ElementsOfOtherNamespacesAreSkippedWithTheirContent) {
   EXPECT_THAT(Check("<Component><TID>1</TID></Component>\n<vif:Component><vif:A value=\"1\"/><x:B xmlns:x=\"u\"/>"
                     "</vif:Component>\n<vif:VIF_App><Vendor>V</Vendor></vif:VIF_App>"),
               ElementsAre("4:16 VIF/Component/A: A=1 @6.1", "3:1 VIF/Component: foreign",
@@ -118,7 +118,7 @@ TEST(XmlCheckTest, GroupThatLoadingFailsOnIsReportedBeforeTheFailure) {
   EXPECT_THAT(paths, ElementsAre("VIF/Component/A?", "VIF/Component/Foonot understood"));
 }
 
-TEST(XmlCheckTest, ListThatIsNestedTooDeepIsReportedBeforeTheFailure) {
+TEST(XmlCheckTest, ListThatIsNestedTooDeeplyIsReportedBeforeTheFailure) {
   const TempDir dir;
   std::string last;
   EXPECT_THROW(
@@ -136,14 +136,14 @@ TEST(XmlCheckTest, LongNamesAreCutInPaths) {
   EXPECT_THAT(Check("<vif:" + name + "/>"), ElementsAre("3:1 VIF/" + std::string(100, 'n') + "...: not read"));
 }
 
-TEST(XmlCheckTest, NobodyNeedsToBeTold) {
+TEST(XmlCheckTest, ObserverIsOptional) {
   const TempDir dir;
   EXPECT_NO_THROW(CheckXmlVif(dir.Write("x.xml", XmlVif("<vif:TID>1</vif:TID>")), nullptr));
 }
 
-TEST(XmlCheckTest, InvalidFileIsRaised) { EXPECT_THROW(Check("text"), CVIFInvalidFile); }
+TEST(XmlCheckTest, InvalidFileThrows) { EXPECT_THROW(Check("text"), CVIFInvalidFile); }
 
-TEST(XmlCheckTest, WhatTheObserverThrowsEndsTheReading) {
+TEST(XmlCheckTest, ExceptionOfTheObserverEndsTheReading) {
   const TempDir dir;
   int calls = 0;
   EXPECT_THROW(CheckXmlVif(dir.Write("x.xml", XmlVif("<vif:TID>1</vif:TID><vif:Brand_New/>")),

@@ -1,4 +1,4 @@
-// What the reader makes of a document whose calls fail.
+// How the reader handles a document whose calls fail.
 #include "BaseUtilities/Exceptions.h"
 #include "FakeNode.h"
 #include "XmlReader.h"
@@ -19,7 +19,7 @@ namespace {
 
 using testing::IsEmpty;
 
-// What an error names that is not about a call on an interface.
+// What an error names if it does not concern a call on an interface.
 #ifdef _WIN32
 constexpr IID kNoInterface = {};
 #else
@@ -51,12 +51,12 @@ class XmlFailuresTest : public testing::Test {
   FakeNode& m_first = m_component.Add(L"Port_Label");
   FakeNode& m_list = m_component.Add(L"SrcPdoList");
   FakeNode& m_item = m_list.Add(L"SrcPDO");
-  FakeNode& m_leaf = m_item.Add(L"SnkPdoList");  // in which there is one more element
+  FakeNode& m_leaf = m_item.Add(L"SnkPdoList");  // contains one more element
   std::vector<CVIFField> m_fields;
   std::uint32_t m_componentCount = 0;
 };
 
-TEST_F(XmlFailuresTest, NothingFailsByItself) {
+TEST_F(XmlFailuresTest, NothingFailsOnItsOwn) {
   EXPECT_FALSE(Extract().has_value());
   EXPECT_EQ(m_fields.size(), 1u);
 }
@@ -131,7 +131,7 @@ TEST_F(XmlFailuresTest, ListWithoutANameIsADocumentError) {
   EXPECT_EQ(DomErrorOf(m_root), "ERROR:  Couldn't get node name.\r\n");
 }
 
-TEST_F(XmlFailuresTest, NameOfALeafListIsNeverAsked) {
+TEST_F(XmlFailuresTest, NameOfALeafListIsNeverRequested) {
   m_first.failing = Call::NodeName;
   EXPECT_FALSE(Extract().has_value());
 }

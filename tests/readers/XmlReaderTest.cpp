@@ -1,4 +1,4 @@
-// How an XML VIF becomes fields.
+// Reading the fields of an XML VIF.
 #include "XmlReader.h"
 
 #include "BaseUtilities/Exceptions.h"
@@ -88,7 +88,7 @@ TEST_F(XmlReaderTest, EmptyPartOfTheApplicationsNameIsEmptyText) {
               ElementsAre("VIF_Producer=\" N --\" ;  N -- @1.0"));
 }
 
-TEST_F(XmlReaderTest, ApplicationWithoutAnyNameMakesNoField) {
+TEST_F(XmlReaderTest, ApplicationWithoutAnyNameYieldsNoField) {
   EXPECT_THAT(Fields("<vif:VIF_App/>"), IsEmpty());
   EXPECT_THAT(Fields("<vif:VIF_App><vif:Other>x</vif:Other></vif:VIF_App>"), IsEmpty());
 }
@@ -107,7 +107,7 @@ TEST_F(XmlReaderTest, EmptySpecificationKeepsTheWordVersionWithItsBlank) {
   EXPECT_THAT(Fields("<vif:VIF_Specification/>"), ElementsAre("VIF_Specification=\"Version \" ; Version  @1.0"));
 }
 
-TEST_F(XmlReaderTest, HeaderComesInAnOrderOfItsOwn) {
+TEST_F(XmlReaderTest, HeaderHasAnOrderOfItsOwn) {
   EXPECT_THAT(Fields("<vif:Product><vif:USB4_Dock value=\"true\"/></vif:Product>"
                      "<vif:Certification_Type value=\"0\"/><vif:VIF_Product_Type value=\"1\"/><vif:TID>9</vif:TID>"
                      "<vif:Product_Revision>2</vif:Product_Revision><vif:Model_Part_Number>M</vif:Model_Part_Number>"
@@ -166,7 +166,7 @@ TEST_F(XmlReaderTest, TextIsPreferredToTheWord) {
               ElementsAre("Captive_Cable=1 ; Yes, it is @6.1", "Sends_Pings=0 ; never @6.1"));
 }
 
-TEST_F(XmlReaderTest, TextOfBlanksGivesWayToTheWord) {
+TEST_F(XmlReaderTest, WordReplacesABlankText) {
   EXPECT_THAT(Fields("<vif:Component><vif:Captive_Cable value=\"true\"> \n </vif:Captive_Cable></vif:Component>"),
               ElementsAre("Captive_Cable=1 ; YES @6.1"));
 }
@@ -185,20 +185,20 @@ TEST_F(XmlReaderTest, EmptyValueIsNumericWithoutANumber) {
   EXPECT_EQ(m_fields.front().GetULongNumericValue(), CVIFField::VIF_VALUE_UNSET_64);
 }
 
-TEST_F(XmlReaderTest, ValueOfAnotherNamespaceIsNoValue) {
+TEST_F(XmlReaderTest, ValueAttributeOfAnotherNamespaceIsIgnored) {
   EXPECT_THAT(Fields("<vif:Component><vif:RP_Value opt:value=\"2\">x</vif:RP_Value></vif:Component>"),
               ElementsAre("RP_Value=\"\" ; x @6.1"));
 }
 
 // The value is UTF-8 on every system; on Windows, names and texts are in the system's code page.
-TEST_F(XmlReaderTest, TextsMayBeOfAnyLanguage) {
+TEST_F(XmlReaderTest, TextsMayBeInAnyLanguage) {
   EXPECT_THAT(Fields("<vif:Component><vif:Port_Label>Type-C® 端口 &#x1F50C;</vif:Port_Label>"
                      "<vif:N\xC3\xA4me value=\"\xC3\xBC \xE7\xAB\xAF\"/></vif:Component>"),
               ElementsAre("Port_Label=\"\" ; " + SystemNarrow(L"Type-C\u00AE \u7AEF\u53E3 \U0001F50C") + " @6.1",
                           SystemNarrow(L"N\u00E4me") + "=\xC3\xBC \xE7\xAB\xAF @6.1"));
 }
 
-TEST_F(XmlReaderTest, HeaderMayBeOfAnyLanguage) {
+TEST_F(XmlReaderTest, HeaderMayBeInAnyLanguage) {
   EXPECT_THAT(Fields("<vif:VIF_App><vif:Vendor>\xC3\x84 \xE7\xAB\xAF</vif:Vendor></vif:VIF_App>"
                      "<vif:VIF_Specification>\xE2\x82\xAC</vif:VIF_Specification>"),
               ElementsAre("VIF_Producer=\"" + SystemNarrow(L"\u00C4 \u7AEF") + " -- --\" ; " +
@@ -247,7 +247,7 @@ TEST_F(XmlReaderTest, ComponentsAreNumberedFromOneAndTheirPdosToo) {
   EXPECT_EQ(m_componentCount, 2u);
 }
 
-TEST_F(XmlReaderTest, ComponentsAreNumberedOnOverFiles) {
+TEST_F(XmlReaderTest, ComponentsAreNumberedAcrossFiles) {
   Read("<vif:Component/><vif:Component/>");
   Read("<vif:Component><vif:RP_Value value=\"2\"/></vif:Component>");
   EXPECT_THAT(Fields(), ElementsAre("RP_Value=2 @6.3"));
@@ -279,20 +279,20 @@ TEST_F(XmlReaderTest, EveryListOfAComponentHasItsLocation) {
       ElementsAre("A=1 @6.1 @8.1", "B=1 @6.1 @9.1", "C=1 @6.1 @9.1 @10.1", "D=1 @6.1 @11.1", "E=1 @6.1 @11.1 @12.1"));
 }
 
-TEST_F(XmlReaderTest, LeavesComeBeforeListsWhereverTheyStand) {
+TEST_F(XmlReaderTest, LeavesComeBeforeListsWhateverTheirPosition) {
   EXPECT_THAT(Fields("<vif:Component><vif:SnkPdoList><vif:SnkPDO><vif:A value=\"1\"/></vif:SnkPDO></vif:SnkPdoList>"
                      "<vif:B value=\"1\"/><vif:SrcPdoList><vif:SrcPDO><vif:C value=\"1\"/></vif:SrcPDO>"
                      "</vif:SrcPdoList><vif:D value=\"1\"/></vif:Component>"),
               ElementsAre("B=1 @6.1", "D=1 @6.1", "A=1 @6.1 @8.1", "C=1 @6.1 @7.1"));
 }
 
-TEST_F(XmlReaderTest, TwoListsOfOneKindAreNumberedEachOnItsOwn) {
+TEST_F(XmlReaderTest, TwoListsOfOneKindAreNumberedSeparately) {
   EXPECT_THAT(Fields("<vif:Component><vif:SrcPdoList><vif:SrcPDO><vif:A value=\"1\"/></vif:SrcPDO></vif:SrcPdoList>"
                      "<vif:SrcPdoList><vif:SrcPDO><vif:A value=\"2\"/></vif:SrcPDO></vif:SrcPdoList></vif:Component>"),
               ElementsAre("A=1 @6.1 @7.1", "A=2 @6.1 @7.1"));
 }
 
-TEST_F(XmlReaderTest, SlotsOfInnerGroupsAreEmptyAgainBehindThem) {
+TEST_F(XmlReaderTest, SlotsOfInnerGroupsAreEmptyAgainAfterThem) {
   EXPECT_THAT(Fields("<vif:Component><vif:SOPSVIDList>"
                      "<vif:SOPSVID><vif:SOPSVIDModeList><vif:SOPSVIDMode><vif:A value=\"1\"/></vif:SOPSVIDMode>"
                      "</vif:SOPSVIDModeList></vif:SOPSVID><vif:SOPSVID><vif:B value=\"1\"/></vif:SOPSVID>"
@@ -300,7 +300,7 @@ TEST_F(XmlReaderTest, SlotsOfInnerGroupsAreEmptyAgainBehindThem) {
               ElementsAre("A=1 @6.1 @9.1 @10.1", "B=1 @6.1 @9.2", "C=1 @6.2"));
 }
 
-TEST_F(XmlReaderTest, ItemsOfAListMayBeCalledAnything) {
+TEST_F(XmlReaderTest, ItemsOfAListMayHaveAnyName) {
   EXPECT_THAT(Fields("<vif:Component><vif:SrcPdoList><vif:Whatever><vif:A value=\"1\"/></vif:Whatever>"
                      "<vif:CableSVID><vif:A value=\"2\"/></vif:CableSVID></vif:SrcPdoList></vif:Component>"),
               ElementsAre("A=1 @6.1 @7.1", "A=2 @6.1 @7.2"));
@@ -328,12 +328,12 @@ constexpr const char* kTooDeep =
     "<vif:SrcPdoList><vif:SrcPDO/></vif:SrcPdoList>"
     "</vif:SOPSVIDMode></vif:SOPSVIDModeList></vif:SOPSVID></vif:SOPSVIDList>";
 
-TEST_F(XmlReaderTest, ListInAModeIsNestedTooDeep) {
+TEST_F(XmlReaderTest, ListInAModeIsNestedTooDeeply) {
   EXPECT_EQ(RunTimeErrorOf([&] { Read("<vif:Component>" + std::string(kTooDeep) + "</vif:Component>"); }),
             "Invalid node depth: groupLists should only be nested 3 levels deep.");
 }
 
-TEST_F(XmlReaderTest, FailureInAComponentLeavesWhatWasReadBefore) {
+TEST_F(XmlReaderTest, FailureInAComponentKeepsWhatWasReadBefore) {
   EXPECT_NE(RunTimeErrorOf([&] {
               Read(
                   "<vif:TID>7</vif:TID><vif:Component><vif:B value=\"1\"/></vif:Component>"
@@ -345,7 +345,7 @@ TEST_F(XmlReaderTest, FailureInAComponentLeavesWhatWasReadBefore) {
   EXPECT_EQ(m_componentCount, 2u);
 }
 
-TEST_F(XmlReaderTest, FailureInTheProductLeavesNothing) {
+TEST_F(XmlReaderTest, FailureInTheProductKeepsNothing) {
   m_fields.emplace_back(true, "Before", "1", std::array<VifIndex, 3>{});
   EXPECT_NE(RunTimeErrorOf([&] {
               Read("<vif:TID>7</vif:TID><vif:Product><vif:B value=\"1\"/>" + std::string(kTooDeep) +
@@ -367,35 +367,35 @@ TEST_F(XmlReaderTest, UnexpectedNameIsComparedExactly) {
             "Unexpected list element name: SrcPDOList");
 }
 
-TEST_F(XmlReaderTest, UnexpectedNameMayBeOfAnyLanguage) {
+TEST_F(XmlReaderTest, UnexpectedNameMayBeInAnyLanguage) {
   EXPECT_EQ(DomErrorOf("<vif:Component><vif:\xE7\xAB\xAF><vif:A/></vif:\xE7\xAB\xAF></vif:Component>"),
             "Unexpected list element name: \xE7\xAB\xAF");
 }
 
-TEST_F(XmlReaderTest, UnexpectedNameLeavesTheLeavesAroundIt) {
+TEST_F(XmlReaderTest, UnexpectedNameKeepsTheLeavesAroundIt) {
   DomErrorOf("<vif:Component><vif:FooList><vif:Foo/></vif:FooList><vif:B value=\"1\"/></vif:Component>");
   EXPECT_THAT(Fields(), ElementsAre("B=1 @6.1"));
   EXPECT_EQ(m_componentCount, 1u);
 }
 
-TEST_F(XmlReaderTest, UnexpectedNameIsFoundBeforeTheDepth) {
+TEST_F(XmlReaderTest, UnexpectedNameIsReportedBeforeTheDepth) {
   EXPECT_EQ(DomErrorOf("<vif:Component><vif:SOPSVIDList><vif:SOPSVID><vif:SOPSVIDModeList><vif:SOPSVIDMode>"
                        "<vif:FooList><vif:Foo/></vif:FooList>"
                        "</vif:SOPSVIDMode></vif:SOPSVIDModeList></vif:SOPSVID></vif:SOPSVIDList></vif:Component>"),
             "Unexpected list element name: FooList");
 }
 
-TEST_F(XmlReaderTest, InvalidFileLeavesNothingAndSaysWhy) {
+TEST_F(XmlReaderTest, InvalidFileAddsNothingAndSaysWhy) {
   const std::filesystem::path path =
       m_dir.Write("bad.xml", XmlVif("<vif:TID>7</vif:TID>\n<vif:USB_VID_SOP value=\"18d1\"/>"));
   try {
     ReadXmlVif(path, {m_fields, m_componentCount});
-    FAIL() << "it was read";
+    FAIL() << "the file was read";
   } catch (const CVIFInvalidFile& error) {
     EXPECT_EQ(error.what(), path.string() + " is not a valid Vendor Info File.");
     ASSERT_EQ(error.Problems().size(), 1u);
     EXPECT_NE(error.Problems()[0].reason, "");
-#ifndef _WIN32  // where it is up to MSXML what it says
+#ifndef _WIN32  // there MSXML decides what to report
     EXPECT_EQ(error.Problems()[0].line, 4u);
     EXPECT_EQ(error.Problems()[0].column, 1u);
     EXPECT_EQ(error.Problems()[0].element, "vif:USB_VID_SOP");

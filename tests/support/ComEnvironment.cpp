@@ -1,4 +1,4 @@
-// Lets the tests of a program use COM.
+// Lets test programs use COM.
 #include "msxml/ComApartment.h"
 
 #include <gtest/gtest.h>

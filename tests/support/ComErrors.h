@@ -1,4 +1,4 @@
-// What an error of COM says, where the systems say it differently.
+// COM error details that differ between systems.
 #pragma once
 
 #include "msxml/ComTypes.h"

@@ -1,21 +1,21 @@
-// What the replacements of the allocating functions tell of themselves, and are told.
+// What the replaced allocation functions report and ask.
 #pragma once
 
 #include "support/FailingMemory.h"
 
 namespace testsupport {
 
-/// Whether this allocation is one that has to fail.
-/// \param kind which it is, not `Any`
+/// Whether this allocation has to fail.
+/// \param kind its kind, not `Any`
 bool MustFail(Memory kind);
 
-/// Takes note of a piece of memory that has been allocated; null is none.
+/// Records that a block of memory has been allocated; null is ignored.
 void* CountHeld(void* memory);
 
-/// Takes note of a piece of memory that is released; null is none.
+/// Records that a block of memory is released; null is ignored.
 void CountReleased(const void* memory);
 
-/// Takes note of a call of `new`.
+/// Records a call of `new`.
 void CountNew();
 
 }  // namespace testsupport

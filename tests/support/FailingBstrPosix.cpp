@@ -1,4 +1,4 @@
-// The allocation and release of BSTRs. They are found before the library's own, which they call.
+// Allocates and frees BSTRs. Found before the library's own functions, which these call.
 #include "msxml/ComTypes.h"
 #include "support/CountedMemory.h"
 
@@ -20,7 +20,7 @@ void zocom::SysFreeString(BSTR text) {
   real(text);
 }
 
-// The library's own may have the release within it, where it would not be counted.
+// The library's own may inline the release, which would then go uncounted.
 HRESULT zocom::VariantClear(VARIANT* variant) {
   if (variant->vt == VT_BSTR) SysFreeString(variant->bstrVal);
   VariantInit(variant);

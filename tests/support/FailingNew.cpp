@@ -1,5 +1,5 @@
-// The replacements of the global operator new. In a file of its own, so that the compiler does not see half of a pair
-// of allocation and release where it inlines.
+// Replaces the global operator new. In a file of its own, so that inlining never shows the compiler only half of a
+// new/delete pair.
 #include "support/CountedMemory.h"
 
 #include <cstdlib>

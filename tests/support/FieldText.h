@@ -10,8 +10,7 @@
 namespace testsupport {
 
 /// A field as `name=value ; description @6.1 @7.2`: the value in double quotes unless the field is numeric, the
-/// description only if there is one, and each slot in use with its location and number, which is `-` when the
-/// group has none.
+/// description only if there is one, and each slot in use with its location and number, `-` if the group has none.
 inline std::string FieldText(const CVIFField& field) {
   std::string text = field.MakeOutputString().get();
   if (*field.Description() != '\0') text += std::string(" ; ") + field.Description();

@@ -21,11 +21,11 @@ constexpr std::size_t kNever = ~std::size_t{0};
 std::string AttemptText(std::size_t k, Failing howMany) {
   if (k == kNever) return "no allocation fails";
   std::string text = "allocation ";
-  text.append(std::to_string(k)).append(howMany == Failing::Once ? " fails" : " and all behind it fail");
+  text.append(std::to_string(k)).append(howMany == Failing::Once ? " fails" : " and all after it fail");
   return text;
 }
 
-/// Makes an attempt on a thread of its own; whatever is wrong with it fails the test.
+/// Makes an attempt on a thread of its own. Anything that goes wrong fails the test.
 bool MakeAttempt(const Attempt& attempt, std::size_t k, Failing howMany) {
   bool hasFailed = false;
   const auto make = [&] {
@@ -35,24 +35,24 @@ bool MakeAttempt(const Attempt& attempt, std::size_t k, Failing howMany) {
     } catch (const std::exception& error) {
       ADD_FAILURE() << "outside the operation: " << error.what();
     } catch (...) {
-      ADD_FAILURE() << "outside the operation: no std::exception";
+      ADD_FAILURE() << "outside the operation: not a std::exception";
     }
   };
 #ifdef _WIN32
-  make();  // with MinGW-w64, memory that runs out on one thread after many others ends the process
+  make();  // with MinGW-w64, running out of memory on one thread after many others ends the process
 #else
   std::thread(make).join();
 #endif
   return hasFailed;
 }
 
-/// The same, and nothing of it may be held behind it. On Windows there are objects that a DLL allocates, where it is
-/// not seen, and that are released here.
+/// The same, and must not leak. On Windows a DLL allocates some of the objects released here, and those allocations are
+/// not seen.
 bool MakeBalancedAttempt(const Attempt& attempt, std::size_t k, Failing howMany) {
   [[maybe_unused]] const std::size_t before = HeldMemory();
   const bool hasFailed = MakeAttempt(attempt, k, howMany);
 #ifndef _WIN32
-  // A failure that has been found is kept.
+  // Keep a failure that has been found.
   if (!testing::Test::HasFailure()) {
     EXPECT_EQ(HeldMemory(), before) << AttemptText(k, howMany) << " and leaks";
   }
@@ -64,7 +64,7 @@ std::size_t RunWithEveryFailure(const Attempt& attempt, Failing howMany, std::si
   std::mt19937_64 generator = SeededGenerator();
   std::size_t points = 0;
   for (std::size_t k = 1; MakeBalancedAttempt(attempt, k, howMany); ++points) {
-    if (testing::Test::HasFailure()) return points;  // one is enough, and thousands are no easier to read
+    if (testing::Test::HasFailure()) return points;  // one is enough; thousands would be no easier to read
     k += k < everyUpTo ? 1 : 1 + RandomBelow(generator, 8 * k / everyUpTo);
   }
   return points;
@@ -91,14 +91,14 @@ bool IsDone(const std::function<void()>& action) {
   } catch (const std::exception& error) {
     ADD_FAILURE() << error.what() << " instead of std::bad_alloc";
   } catch (...) {
-    ADD_FAILURE() << "something that is no std::exception instead of std::bad_alloc";
+    ADD_FAILURE() << "something other than a std::exception instead of std::bad_alloc";
   }
   return false;
 }
 
 void RunWithEveryFailure(const Attempt& attempt, std::size_t everyUpTo) {
   SCOPED_TRACE(SeedMessage());
-  MakeAttempt(attempt, kNever, Failing::Once);  // makes what lives as long as the process
+  MakeAttempt(attempt, kNever, Failing::Once);  // creates what lives as long as the process
   if (testing::Test::HasFailure()) return;
   std::size_t points = 0;
   for (const Failing howMany : {Failing::Once, Failing::FromThenOn}) {

@@ -1,4 +1,4 @@
-// Has memory run out at every allocation of an operation, one after the other.
+// Makes every allocation of an operation fail, one after another.
 #pragma once
 
 #include "support/FailingMemory.h"
@@ -11,28 +11,27 @@
 
 namespace testsupport {
 
-/// One try of an operation.
-/// \return whether the allocation that had to fail was asked for
+/// One run of an operation.
+/// \return whether the allocation that had to fail was requested
 using Attempt = std::function<bool(std::size_t k, Failing howMany)>;
 
-/// Up to which allocation every one is made to fail. Behind it they are at seeded distances: four times their number,
-/// divided by this, on the average.
+/// Up to this number, every allocation is made to fail; beyond it only some are, at seeded random distances that are on
+/// average 4 k / kEveryUpTo at the k-th.
 constexpr std::size_t kEveryUpTo = 2000;
 
-/// Has attempts made with the first, the second, ... allocation failing until that is not asked for, once with the one
-/// allocation failing and once with all behind it, too. Except on Windows, each attempt has a thread of its own, on
-/// which nothing has been made that lives as long as the thread, and leaves no memory behind. How many failed is
+/// Makes attempts in which the first, the second, ... allocation fails until that one is no longer requested: once with
+/// that allocation alone failing, once with all after it failing too. Except on Windows, each attempt runs on a thread
+/// of its own, where nothing with the lifetime of the thread exists yet, and must not leak. The number of failures is
 /// recorded as the test's property "failurePoints".
 void RunWithEveryFailure(const Attempt& attempt, std::size_t everyUpTo);
 
-/// Whether the action comes to its end. Anything but `std::bad_alloc` that it ends with fails the test.
+/// Whether the action completes. If it throws anything but `std::bad_alloc`, the test fails.
 bool IsDone(const std::function<void()>& action);
 
-/// Tries an operation on an object with every allocation of it failing in turn.
-/// \param begin makes the object anew for each try
-/// \param operation is what memory runs out in: it ends with `std::bad_alloc`, or comes to its end although one
-///   allocation has failed
-/// \param check gets the object and whether the operation has come to its end, and sees whether all is well
+/// Tries an operation on an object with each of its allocations failing in turn.
+/// \param begin creates the object for each try
+/// \param operation runs out of memory: it throws `std::bad_alloc`, or completes although an allocation failed
+/// \param check gets the object and whether the operation has completed, and expects everything to be in order
 template <typename Begin, typename Operation, typename Check>
 void ForEveryFailingAllocation(const Begin& begin, const Operation& operation, const Check& check,
                                std::size_t everyUpTo = kEveryUpTo) {
@@ -46,7 +45,7 @@ void ForEveryFailingAllocation(const Begin& begin, const Operation& operation, c
       isDone = IsDone(action);
       hasFailed = memory.HasFailed();
     }
-    if (!isDone && !hasFailed) throw std::bad_alloc();  // for another reason than the one meant
+    if (!isDone && !hasFailed) throw std::bad_alloc();  // not for the intended reason
     check(object, isDone);
     return hasFailed;
   };

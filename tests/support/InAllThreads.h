@@ -1,4 +1,4 @@
-// The same done by several threads at once.
+// Does the same in several threads at once.
 #pragma once
 
 #include <array>
@@ -12,7 +12,7 @@ namespace testsupport {
 
 constexpr std::size_t kThreads = 8;
 
-/// Runs the action, which is told the thread's number, in all threads at once and returns what each came to.
+/// Runs the action, which gets the number of its thread, in all threads at once and returns the result of each.
 template <typename Action>
 auto InAllThreads(const Action& action) {
   std::array<decltype(action(std::size_t{})), kThreads> results;

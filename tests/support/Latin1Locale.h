@@ -1,11 +1,11 @@
-// A locale that knows the letter case of more bytes than ASCII has letters.
+// A locale with letter case for bytes beyond ASCII.
 #pragma once
 
 #include <locale>
 
 namespace testsupport {
 
-/// Pairs the bytes 0xC0 to 0xDE with 0xE0 to 0xFE, as ISO 8859-1 does but for the two that are no letters there.
+/// Pairs the bytes 0xC0 to 0xDE with 0xE0 to 0xFE, as ISO 8859-1 does except for the two that are not letters there.
 class Latin1Ctype : public std::ctype<char> {
  protected:
   char do_tolower(char c) const override {
@@ -33,7 +33,7 @@ class Latin1Ctype : public std::ctype<char> {
 /// The classic locale with that letter case.
 inline std::locale Latin1Locale() { return {std::locale::classic(), new Latin1Ctype}; }
 
-/// Makes a locale the global one as long as it lives.
+/// Replaces the global locale while it lives.
 class CScopedGlobalLocale {
  public:
   explicit CScopedGlobalLocale(const std::locale& locale) : m_before(std::locale::global(locale)) {}

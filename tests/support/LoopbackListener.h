@@ -1,4 +1,4 @@
-// Something on the network that must not be called.
+// A server that nobody may call.
 #pragma once
 
 #ifdef _WIN32
@@ -19,7 +19,7 @@
 
 namespace testsupport {
 
-/// What the systems call differently in their sockets.
+/// What each system's sockets name differently.
 namespace sockets {
 
 #ifdef _WIN32
@@ -59,7 +59,7 @@ using Polled = pollfd;
 
 }  // namespace sockets
 
-/// Listens on a free port of this machine as long as it lives.
+/// Listens on a free port of this machine while it lives.
 class CLoopbackListener {
  public:
   CLoopbackListener() : m_socket(sockets::Open()) {
@@ -67,7 +67,7 @@ class CLoopbackListener {
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     sockets::AddressSize size = sizeof address;
-    // The socket interface asks for addresses of every family as one general type.
+    // The socket interface takes addresses of every family as one generic type.
     auto* general = reinterpret_cast<sockaddr*>(&address);
     if (bind(m_socket, general, size) != 0 || listen(m_socket, 8) != 0 || getsockname(m_socket, general, &size) != 0) {
       throw sockets::LastError("listening");

@@ -1,4 +1,4 @@
-// A locale that takes characters for the same that no language does.
+// A locale that equates characters that no language does.
 #pragma once
 
 #include <locale>
@@ -6,7 +6,7 @@
 namespace testsupport {
 
 /// Makes "1" the lower case of "2", "a" that of the byte 0x80, and NUL that of "q". Converts single characters only:
-/// whole ranges stay as they are.
+/// ranges stay as they are.
 class COddCtype : public std::ctype<char> {
  protected:
   char do_tolower(char c) const override {

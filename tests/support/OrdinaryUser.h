@@ -1,4 +1,4 @@
-// Tests of permissions, which the superuser does not notice.
+// For tests of permissions, which do not bind the superuser.
 #pragma once
 
 #include <unistd.h>
@@ -8,7 +8,7 @@
 
 namespace testsupport {
 
-/// Takes the rights of the superuser away for a while; nothing happens to any other user.
+/// Drops superuser rights while it lives; does nothing for any other user.
 class OrdinaryUser {
  public:
   OrdinaryUser() {

@@ -9,8 +9,8 @@
 #include <string>
 
 namespace testsupport {
-/// The seed of every generated test: VIF_TEST_SEED of the environment (decimal, or hexadecimal after 0x), or a
-/// constant when that is missing or is not a number, so that a run without it always repeats the one before.
+/// The seed of every generated test: VIF_TEST_SEED of the environment (decimal, or hexadecimal after 0x), or a constant
+/// if that is missing or not a number, so that a run without it always repeats the previous one.
 inline std::uint64_t Seed() {
   constexpr std::uint64_t defaultSeed = 20240521;
   const char* text = std::getenv("VIF_TEST_SEED");
@@ -28,7 +28,7 @@ inline std::mt19937_64 SeededGenerator() { return std::mt19937_64{Seed()}; }
 /// Says how to repeat the run; meant for SCOPED_TRACE.
 inline std::string SeedMessage() { return "repeat with VIF_TEST_SEED=" + std::to_string(Seed()); }
 
-/// A number from 0 to @p bound - 1 that is the same with every standard library; @p bound must not be 0.
+/// A number from 0 to @p bound - 1, the same with every standard library; @p bound must not be 0.
 inline std::size_t RandomBelow(std::mt19937_64& generator, std::size_t bound) {
   return static_cast<std::size_t>(generator() % bound);
 }

@@ -16,7 +16,7 @@ namespace {
 /// Both ends of a pipe.
 struct Pipe {
   Pipe() {
-    if (pipe(ends) != 0) throw std::runtime_error("no pipe");
+    if (pipe(ends) != 0) throw std::runtime_error("cannot create a pipe");
   }
 
   int ends[2];
@@ -32,10 +32,10 @@ std::string ReadAll(int descriptor) {
   return text;
 }
 
-/// Writes what fits at once.
+/// Writes text that fits into the pipe at once.
 void WriteShortText(int descriptor, const std::string& text) {
   if (write(descriptor, text.data(), text.size()) != static_cast<ssize_t>(text.size())) {
-    throw std::runtime_error("the text is too long to be typed");
+    throw std::runtime_error("the text is too long to write at once");
   }
 }
 
@@ -66,7 +66,7 @@ int AwaitExit(pid_t child) {
   return WIFEXITED(state) ? WEXITSTATUS(state) : 128 + WTERMSIG(state);
 }
 
-/// Runs a program on a terminal. The keys are there before the program asks; the terminal keeps them for it.
+/// Runs a program on a terminal. The keys are typed before the program reads; the terminal buffers them.
 ProgramResult RunWithKeys(const std::vector<std::string>& command, unsigned short columns, const std::string& keys) {
   winsize size = {};
   size.ws_row = 50;
@@ -88,7 +88,7 @@ ProgramResult RunWithKeys(const std::vector<std::string>& command, unsigned shor
 ProgramResult RunProgram(const std::vector<std::string>& command, const ProgramSetting& setting) {
   const Pipe pipes[3];
   const auto& [input, output, error] = pipes;
-  WriteShortText(input.ends[1], setting.input);  // before there is a reader that could go without reading it
+  WriteShortText(input.ends[1], setting.input);  // before a reader exists, which could exit without reading it
   const pid_t child = fork();
   if (child < 0) throw std::runtime_error("no process");
   if (child == 0) ExecuteIn(setting, pipes, command);

@@ -18,7 +18,7 @@ namespace {
   throw std::system_error(static_cast<int>(GetLastError()), std::system_category(), what);
 }
 
-/// A handle that is closed when the object goes.
+/// Closes the handle when destroyed.
 class CHandle {
  public:
   CHandle() = default;
@@ -41,7 +41,7 @@ class CHandle {
   HANDLE m_handle = nullptr;
 };
 
-/// The new process inherits handles that were made with these.
+/// The new process inherits handles created with these.
 SECURITY_ATTRIBUTES Inherited() { return {sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE}; }
 
 /// Both ends of a pipe; the new process inherits one of them.
@@ -52,7 +52,8 @@ struct Pipe {
     SECURITY_ATTRIBUTES attributes = Inherited();
     HANDLE readingEnd = nullptr;
     HANDLE writingEnd = nullptr;
-    if (CreatePipe(&readingEnd, &writingEnd, &attributes, static_cast<DWORD>(size)) == 0) ThrowLastError("no pipe");
+    if (CreatePipe(&readingEnd, &writingEnd, &attributes, static_cast<DWORD>(size)) == 0)
+      ThrowLastError("cannot create a pipe");
     reading = CHandle(readingEnd);
     writing = CHandle(writingEnd);
     SetHandleInformation(inherited == End::Reading ? writingEnd : readingEnd, HANDLE_FLAG_INHERIT, 0);
@@ -62,7 +63,7 @@ struct Pipe {
   CHandle writing;
 };
 
-/// What can be opened and not be written to.
+/// Can be opened but not written to.
 CHandle OpenUnwritable() {
   SECURITY_ATTRIBUTES attributes = Inherited();
   const HANDLE handle = CreateFileW(L"NUL", GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, &attributes,
@@ -84,11 +85,11 @@ std::string ReadAll(const CHandle& handle) {
 void WriteShortText(const CHandle& handle, const std::string& text) {
   DWORD count = 0;
   if (WriteFile(handle.get(), text.data(), static_cast<DWORD>(text.size()), &count, nullptr) == 0) {
-    ThrowLastError("the text cannot be typed");
+    ThrowLastError("cannot write the input");
   }
 }
 
-/// An argument as programs take their command lines apart: a backslash counts only before a double quote.
+/// Quotes an argument the way programs parse their command lines: a backslash is special only before a double quote.
 std::wstring Quoted(const std::wstring& argument) {
   std::wstring quoted = L"\"";
   std::size_t backslashes = 0;
@@ -122,7 +123,7 @@ CHandle Start(const std::vector<std::string>& command, const ProgramSetting& set
   PROCESS_INFORMATION process = {};
   if (CreateProcessW(Utf8ToUtf16(command.front()).c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr, directory,
                      &startup, &process) == 0) {
-    ThrowLastError("no process");
+    ThrowLastError("cannot start the program");
   }
   CloseHandle(process.hThread);
   return CHandle(process.hProcess);
@@ -131,7 +132,7 @@ CHandle Start(const std::vector<std::string>& command, const ProgramSetting& set
 int AwaitExit(const CHandle& process) {
   DWORD status = 0;
   WaitForSingleObject(process.get(), INFINITE);
-  if (GetExitCodeProcess(process.get(), &status) == 0) ThrowLastError("no exit status");
+  if (GetExitCodeProcess(process.get(), &status) == 0) ThrowLastError("cannot get the exit status");
   return static_cast<int>(status);
 }
 
@@ -142,7 +143,7 @@ ProgramResult RunProgram(const std::vector<std::string>& command, const ProgramS
   Pipe output(Pipe::End::Writing, 0);
   Pipe error(Pipe::End::Writing, 0);
   if (!setting.canWrite) output.writing = OpenUnwritable();
-  WriteShortText(input.writing, setting.input);  // before there is a reader that could go without reading it
+  WriteShortText(input.writing, setting.input);  // before a reader exists, which could exit without reading it
   const CHandle process = Start(command, setting, input.reading.get(), output.writing.get(), error.writing.get());
   for (CHandle* end : {&input.reading, &input.writing, &output.writing, &error.writing}) end->Close();
   ProgramResult result;
@@ -153,7 +154,7 @@ ProgramResult RunProgram(const std::vector<std::string>& command, const ProgramS
   return result;
 }
 
-// Windows has pseudo-consoles, but a program on one is not shown its output as bytes.
+// Windows has pseudo-consoles, but they do not pass on the output of a program as bytes.
 bool HasTerminals() { return false; }
 
 ProgramResult RunOnTerminal(const std::vector<std::string>&, unsigned short) { throw std::logic_error(kNoTerminals); }

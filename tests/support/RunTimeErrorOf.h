@@ -1,4 +1,4 @@
-// The message of a failure.
+// The message of an expected exception.
 #pragma once
 
 #include "BaseUtilities/Exceptions.h"
@@ -7,8 +7,8 @@
 
 namespace testsupport {
 
-/// Runs the action and returns the message of the CZoRunTimeException that it must end with; a text that is no
-/// message of the library when it ends without one. Other exceptions pass.
+/// Runs the action, which must throw a CZoRunTimeException, and returns its message; if nothing is thrown, a text that
+/// is not a message of the library. Other exceptions pass.
 template <typename Action>
 std::string RunTimeErrorOf(const Action& action) {
   try {

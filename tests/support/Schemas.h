@@ -1,4 +1,4 @@
-// Small schemas and documents that are validated against them.
+// Small schemas, and documents validated against them.
 #pragma once
 
 #include "support/XmlDocument.h"
@@ -12,7 +12,7 @@
 namespace testsupport {
 
 /// A schema for a namespace.
-/// \param content its declarations, with the prefix `xs` for the schema language; the namespace is the default one
+/// \param content its declarations; the prefix `xs` stands for the schema language, no prefix for the namespace
 inline std::string Schema(std::string_view targetNamespace, std::string_view content) {
   const std::string uri(targetNamespace);
   return "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' targetNamespace='" + uri + "' xmlns='" + uri +

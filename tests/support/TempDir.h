@@ -11,7 +11,7 @@
 
 namespace testsupport {
 
-/// A new, empty directory, removed with all that is in it when the object goes.
+/// A new, empty directory, removed with all its contents on destruction.
 class TempDir {
  public:
   TempDir() {

@@ -1,4 +1,4 @@
-// Runs the `vif` command that is under test.
+// Runs the `vif` command under test.
 #pragma once
 
 #include "support/RunProgram.h"

@@ -1,4 +1,4 @@
-// An end for tests that are afraid of having none.
+// A time limit for tests that might never end.
 #pragma once
 
 #include <chrono>
@@ -10,7 +10,7 @@
 
 namespace testsupport {
 
-/// Ends the program when it lives longer than the limit.
+/// Ends the program if it lives longer than the limit.
 class CWatchdog {
  public:
   explicit CWatchdog(std::chrono::seconds limit) : m_thread([this, limit] { Watch(limit); }) {}

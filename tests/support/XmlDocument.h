@@ -1,4 +1,4 @@
-// XML documents made from texts, and calls on them that read well in expectations.
+// XML documents built from text, and calls on them that read well in expectations.
 #pragma once
 
 #include "BaseUtilities/StringConvert.h"
@@ -15,7 +15,7 @@
 
 namespace testsupport {
 
-/// A document without schemas that lets its interface be used.
+/// A document without schemas that exposes its interface.
 class CPlainDocument : public CDOMDoc {
  public:
   CPlainDocument() : CDOMDoc({}) {}
@@ -23,14 +23,14 @@ class CPlainDocument : public CDOMDoc {
   using CDOMDoc::Document;
 };
 
-/// Such a document, loaded from a text.
+/// Such a document, loaded from text.
 class CTextDocument : public CPlainDocument {
  public:
   explicit CTextDocument(std::string_view xml) : m_isLoaded(ValidateDoc(m_dir.Write("document.xml", xml))) {}
 
   bool IsLoaded() const { return m_isLoaded; }
 
-  /// \throws _com_error when the text was not loaded
+  /// \throws _com_error if the text was not loaded
   IXMLDOMElement& Root() {
     if (m_root == nullptr) m_root = GetRootElement();
     return *m_root;
@@ -72,7 +72,7 @@ inline std::string NodeName(IXMLDOMNode& node) {
   return Utf16ToUtf8(name.View());
 }
 
-/// Empty when nothing is found.
+/// Null if nothing is found.
 inline DOMNodePtr SelectOne(IXMLDOMNode& node, std::wstring_view xpath) {
   DOMNodePtr found;
   Require(node.selectSingleNode(CBstr(xpath).get(), found.Receive()));
@@ -115,7 +115,7 @@ inline std::wstring SelectionNamespaces(IXMLDOMDocument2& document) {
   return std::wstring(value.Text());
 }
 
-/// Where a node stands, as "line:column"; "nowhere" when that is not known.
+/// The position of a node, as "line:column"; "nowhere" if unknown.
 inline std::string PlaceOf(const CDOMDoc& document, IXMLDOMNode& node) {
   std::size_t line = 0;
   std::size_t column = 0;

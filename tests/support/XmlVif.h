@@ -1,11 +1,11 @@
-// XML VIFs as short texts.
+// XML VIFs as short text.
 #pragma once
 
 #include <string>
 
 namespace testsupport {
 
-/// An XML VIF with that content in its root element, with the prefixes `vif` and `opt`.
+/// An XML VIF with that content in its root element and the prefixes `vif` and `opt`.
 inline std::string XmlVif(const std::string& content) {
   return "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n"
          "<vif:VIF xmlns:vif=\"http://usb.org/VendorInfoFile.xsd\""

@@ -1,5 +1,5 @@
-// What the hooks do when memory runs out. Needs a program of its own, because it is linked with an operator new and an
-// allocation of BSTRs that fail.
+// The hooks when memory runs out. A program of its own, because it links an operator new and a BSTR allocation that
+// fail.
 #include "RecordingHost.h"
 #include "TestSuiteVIF.h"
 #include "VendorInfoFile.h"
@@ -48,7 +48,7 @@ TEST_P(HooksMemoryTest, InitializePublishesTheWholeFileOrNothing) {
                             [](const HostPointer& host, bool isDone) {
                               const CVendorInfoFile* vif = CAppState::TestSuiteVIF();
                               EXPECT_TRUE(vif == nullptr || vif->Count() == kFieldCount);
-                              // A third line says why there is none.
+                              // A third line says why nothing is published.
                               if (isDone) {
                                 EXPECT_EQ(host->log.Lines().size(), vif != nullptr ? 2U : 3U);
                               }

@@ -29,17 +29,17 @@ class CRecordingLog : public CTULog {
     return status;
   }
 
-  /// Is called with the number of each line, from 1, before it is recorded.
+  /// Called with the number of each line, from 1, before the line is recorded.
   std::function<void(std::size_t)> onLine;
 
   const std::vector<std::string>& Lines() const { return m_lines; }
 
-  /// Whether every line came with the default verbosity of its status and without a format.
+  /// Whether every line had the default verbosity of its status and no format.
   bool AreAllPlain() const { return m_areAllPlain; }
 
  private:
   void Record(TEST_STATUS status, eZoLogVerbosity verbosity, const CFormatInfo* format, const std::string& text) {
-    const std::function<void(std::size_t)> callback = onLine;  // which may be changed by what it calls
+    const std::function<void(std::size_t)> callback = onLine;  // a copy, because the callback may replace it
     if (callback) callback(m_lines.size() + 1);
     std::ostringstream line;
     line << std::hex << status << ' ' << text;
@@ -67,7 +67,7 @@ class CScriptedInput : public CTUUserInput {
   bool wasPlain = false;
 };
 
-/// Sets up the application state as a host does, and leaves nothing of it behind.
+/// Sets up the application state as a host does, and clears it again.
 class CRecordingHost {
  public:
   CRecordingHost() {

@@ -1,4 +1,4 @@
-// The two hooks, from the host's side.
+// The two hooks from the host's side.
 #include "TestSuiteVIF.h"
 
 #include "RecordingHost.h"
@@ -29,7 +29,7 @@ using testsupport::TempDir;
 constexpr TEST_STATUS kDone = 1;
 constexpr TEST_STATUS kRefused = 0x40000000;
 
-/// A host's exception whose text is null, which nothing forbids.
+/// A host exception whose text is null, which is allowed.
 class WordlessError : public std::exception {
  public:
   const char* what() const noexcept override { return nullptr; }
@@ -73,7 +73,7 @@ TEST_F(TestSuiteVifTest, InitializeLoadsXml) {
   EXPECT_STREQ(Only(*CAppState::TestSuiteVIF(), "TID").Description(), "12");
 }
 
-TEST_F(TestSuiteVifTest, LinesComeWithTheDefaultVerbosityAndWithoutAFormat) {
+TEST_F(TestSuiteVifTest, LinesHaveTheDefaultVerbosityAndNoFormat) {
   Choose("a.json", "");
   m_host.Initialize();
   m_host.Cleanup();
@@ -124,7 +124,7 @@ TEST_F(TestSuiteVifTest, MissingSuiteLogIsAnInternalError) {
   EXPECT_EQ(m_host.input.question, L"");
 }
 
-TEST_F(TestSuiteVifTest, OperatorWhoCancelsIsTakenAtHisWord) {
+TEST_F(TestSuiteVifTest, CancellingIsRespected) {
   Choose("a.txt", "PID: 7\n");
   m_host.input.chooses = false;
   EXPECT_EQ(m_host.Initialize(), kRefused);
@@ -167,7 +167,7 @@ TEST_F(TestSuiteVifTest, EmptyFileNamePublishesAnEmptyVif) {
   EXPECT_EQ(CAppState::TestSuiteVIF()->Count(), 0u);
 }
 
-TEST_F(TestSuiteVifTest, FileNamesAreNoFormats) {
+TEST_F(TestSuiteVifTest, FileNamesAreNotFormats) {
   const std::string path = Choose("%s %n %ls.json", "");
   EXPECT_EQ(m_host.Initialize(), kDone);
   EXPECT_THAT(m_host.log.Lines(),
@@ -176,12 +176,12 @@ TEST_F(TestSuiteVifTest, FileNamesAreNoFormats) {
                               ": Invalid file type for VIF!  Must be text (*.txt) or XML (*.xml)."));
 }
 
-TEST_F(TestSuiteVifTest, FileNamesMayBeOfAnyLanguage) {
+TEST_F(TestSuiteVifTest, FileNamesMayBeInAnyLanguage) {
   const std::string path = Choose(u8"\u7AEF\u53E3 \u00FC.json", "");
   m_host.Initialize();
   ASSERT_EQ(m_host.log.Lines().size(), 3u);
   EXPECT_EQ(m_host.log.Lines()[0], "4000000 Selected VIF: " + path + ".");
-  // A wide line takes what is narrow for UTF-8, on Windows, too, where it may be none.
+  // A wide line treats narrow text as UTF-8, even on Windows, where it may not be UTF-8.
   const std::string shown = Utf16ToUtf8(Utf8ToUtf16(path));
   EXPECT_THAT(m_host.log.Lines()[2], StartsWith("4000000 L Unexpected error creating " + shown + ": "));
 }
@@ -208,7 +208,7 @@ TEST_F(TestSuiteVifTest, SecondInitializeReplacesTheVifAndDeletesNothing) {
   EXPECT_NE(CAppState::TestSuiteVIF(), first);
   EXPECT_EQ(Only(*CAppState::TestSuiteVIF(), "PID").GetNumericValue(), 2u);
   EXPECT_EQ(Only(*first, "PID").GetNumericValue(), 1u);
-  delete first;  // nobody else will
+  delete first;  // nobody else does
 }
 
 TEST_F(TestSuiteVifTest, FailedInitializeLeavesTheVifPublishedBefore) {
@@ -220,7 +220,7 @@ TEST_F(TestSuiteVifTest, FailedInitializeLeavesTheVifPublishedBefore) {
   EXPECT_EQ(CAppState::TestSuiteVIF(), first);
 }
 
-// What the host's own modules throw.
+// Exceptions from the host's own modules.
 
 TEST_F(TestSuiteVifTest, LogThatThrowsWhileLoadingIsAFailureToLoad) {
   const std::string path = Choose("a.txt", "PID: 1\n");
@@ -229,7 +229,7 @@ TEST_F(TestSuiteVifTest, LogThatThrowsWhileLoadingIsAFailureToLoad) {
   };
   EXPECT_EQ(m_host.Initialize(), kDone);
   EXPECT_EQ(CAppState::TestSuiteVIF(), nullptr);
-  // The line that failed is not there; what came of it took its number and failed too.
+  // The failed line is missing; the line that reports the failure took its number and failed too.
   EXPECT_THAT(m_host.log.Lines(), ElementsAre("4000000 Selected VIF: " + path + "."));
 }
 
@@ -255,7 +255,7 @@ TEST_F(TestSuiteVifTest, ComErrorIsLoggedByItsText) {
   EXPECT_EQ(m_host.Initialize(), kDone);
   ASSERT_EQ(m_host.log.Lines().size(), 2u);
 #ifdef _WIN32
-  const std::string text = Utf16ToUtf8(_com_error(E_FAIL).ErrorMessage());  // in the system's own words
+  const std::string text = Utf16ToUtf8(_com_error(E_FAIL).ErrorMessage());  // the system chooses the words
 #else
   const std::string text = "Unspecified error";
 #endif
@@ -272,7 +272,7 @@ TEST_F(TestSuiteVifTest, ComErrorThatTheSystemDoesNotKnowIsUnknown) {
   EXPECT_EQ(m_host.Initialize(), kDone);
   ASSERT_EQ(m_host.log.Lines().size(), 2u);
 #ifdef _WIN32
-  // There, an error that the system does not know has a text, too.
+  // Here even an error that the system does not know has a text.
   const std::string text = "COM Exception - Unknown error 0x8BADF00D";
 #else
   const std::string text = "[Unknown COM Exception]";
@@ -280,7 +280,7 @@ TEST_F(TestSuiteVifTest, ComErrorThatTheSystemDoesNotKnowIsUnknown) {
   EXPECT_EQ(m_host.log.Lines()[1], "40000000 L Attempt to load valid VIF did not succeed: " + text);
 }
 
-TEST_F(TestSuiteVifTest, AnythingElseIsAnUnknownError) {
+TEST_F(TestSuiteVifTest, AnyOtherExceptionIsAnUnknownError) {
   const std::string path = Choose("a.txt", "PID: 1\n");
   m_host.log.onLine = [&](std::size_t line) {
     if (line != 2) return;
@@ -314,7 +314,7 @@ TEST_F(TestSuiteVifTest, OutOfMemoryReachesTheHost) {
   EXPECT_EQ(CAppState::TestSuiteVIF(), nullptr);
 }
 
-TEST_F(TestSuiteVifTest, LogThatAlwaysThrowsLetsNothingOut) {
+TEST_F(TestSuiteVifTest, LogThatAlwaysThrowsLetsNoExceptionOut) {
   m_host.log.onLine = [](std::size_t) { throw std::runtime_error("disk full"); };
   Choose("a.txt", "PID: 1\n");
   EXPECT_EQ(m_host.Initialize(), kDone);
@@ -355,7 +355,7 @@ TEST_F(TestSuiteVifTest, CleanupWithNothingPublishedWritesNothing) {
   EXPECT_THAT(m_host.log.Lines(), IsEmpty());
 }
 
-TEST_F(TestSuiteVifTest, CleanupWithoutAContextOrALogDeletesAllTheSame) {
+TEST_F(TestSuiteVifTest, CleanupWithoutAContextOrALogStillDeletes) {
   CAppState::TestSuiteVIF(new CVendorInfoFile);
   EXPECT_EQ(TestSuiteVIF_Cleanup(nullptr), kDone);
   EXPECT_EQ(CAppState::TestSuiteVIF(), nullptr);
@@ -381,7 +381,7 @@ TEST_F(TestSuiteVifTest, VifIsWithdrawnBeforeTheLogIsWritten) {
   EXPECT_TRUE(wasWithdrawn);
 }
 
-TEST_F(TestSuiteVifTest, LogThatThrowsDoesNotKeepTheVif) {
+TEST_F(TestSuiteVifTest, LogThatThrowsDoesNotPreventTheDeletion) {
   const std::string path = Choose("a.txt", "PID: 1\n");
   m_host.Initialize();
   m_host.log.onLine = [&](std::size_t) {
@@ -406,7 +406,7 @@ TEST_F(TestSuiteVifTest, CleanupLogsAnExceptionWithoutATextAsUnknown) {
   EXPECT_EQ(m_host.log.Lines()[2], "4000000 L Unexpected error deleting " + path + ": <unknown>.");
 }
 
-TEST_F(TestSuiteVifTest, AnythingElseThatCleanupMeetsIsUnknown) {
+TEST_F(TestSuiteVifTest, AnyOtherExceptionInCleanupIsUnknown) {
   const std::string path = Choose("a.txt", "PID: 1\n");
   m_host.Initialize();
   m_host.log.onLine = [&](std::size_t) {
@@ -418,14 +418,14 @@ TEST_F(TestSuiteVifTest, AnythingElseThatCleanupMeetsIsUnknown) {
   EXPECT_EQ(m_host.log.Lines()[2], "4000000 L Unexpected error deleting " + path + ": <unknown>.");
 }
 
-TEST_F(TestSuiteVifTest, CleanupLetsOutOfMemoryOutButKeepsNothing) {
+TEST_F(TestSuiteVifTest, CleanupPassesOutOfMemoryButStillDeletes) {
   CAppState::TestSuiteVIF(new CVendorInfoFile);
   m_host.log.onLine = [](std::size_t) { throw std::bad_alloc(); };
   EXPECT_THROW(m_host.Cleanup(), std::bad_alloc);
   EXPECT_EQ(CAppState::TestSuiteVIF(), nullptr);
 }
 
-TEST_F(TestSuiteVifTest, LogThatAlwaysThrowsLetsNothingOutOfCleanup) {
+TEST_F(TestSuiteVifTest, LogThatAlwaysThrowsLetsNoExceptionOutOfCleanup) {
   CAppState::TestSuiteVIF(new CVendorInfoFile);
   m_host.log.onLine = [](std::size_t) { throw std::runtime_error("disk full"); };
   EXPECT_EQ(m_host.Cleanup(), kDone);

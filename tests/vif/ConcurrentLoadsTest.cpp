@@ -1,6 +1,6 @@
-// Threads that load files at once, each into an object of its own. Of most use under ThreadSanitizer, and with each
-// test in a process of its own, so that its threads are the first to compile the schemas, the expressions and whatever
-// else is made once.
+// Threads that load files at once, each into its own object. Most useful under ThreadSanitizer, with each test in a
+// process of its own, so that its threads are the first to compile the schemas and expressions and to create everything
+// else that is created only once.
 #include "BaseUtilities/Exceptions.h"
 #include "VIFInvalidFile.h"
 #include "VendorInfoFile.h"
@@ -32,7 +32,7 @@ std::string Joined(const std::vector<std::string>& texts) {
   return joined;
 }
 
-/// The fields that loading comes to, or the failure it ends with.
+/// The fields loaded, or the failure.
 std::string LoadOutcome(const std::filesystem::path& path) {
   try {
     return Joined(testsupport::FieldTexts(*CVendorInfoFile(path).GetFields()));
@@ -45,8 +45,8 @@ std::string LoadOutcome(const std::filesystem::path& path) {
   }
 }
 
-/// Loads one file again and again in each thread. The outcomes are asked for only afterwards, so that the threads come
-/// first to what is made once.
+/// Loads one file repeatedly in each thread. Outcomes are checked only afterwards, so that the threads are the first to
+/// need what is created only once.
 void ExpectOwnOutcomes(const std::vector<std::filesystem::path>& files) {
   const auto outcomes = InAllThreads([&](std::size_t thread) {
     std::vector<std::string> mine;
@@ -58,7 +58,7 @@ void ExpectOwnOutcomes(const std::vector<std::filesystem::path>& files) {
   }
 }
 
-/// A VIF of one component, whose source PDO is of that number.
+/// A VIF of one component, whose source PDO has that number.
 std::string Component(std::size_t number) {
   const std::string digits = std::to_string(number);
   return XmlVif("<vif:Component><vif:PD_Power_As_Source value=\"" + digits + "\"/><vif:SrcPdoList><vif:SrcPDO>" +
@@ -73,7 +73,7 @@ TEST(ConcurrentLoads, CompileTheSchemasAtOnceForDifferentFiles) {
   EXPECT_EQ(LoadOutcome(files[3]), "PD_Power_As_Source=3 @6.1\nSrc_PDO_Voltage=3 @6.1 @7.1\n");
 }
 
-TEST(ConcurrentLoads, FailAndSucceedBesideEachOther) {
+TEST(ConcurrentLoads, FailAndSucceedSideBySide) {
   const TempDir dir;
   const std::vector<std::filesystem::path> files = {
       dir.Write("a.xml", Component(1)),

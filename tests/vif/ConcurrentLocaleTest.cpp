@@ -1,5 +1,5 @@
-// Threads that query at once after the host has set a global locale. Of use under ThreadSanitizer: each round has a
-// locale of its own, whose character tables nobody has filled yet.
+// Threads that query at once after the host has set a global locale. Useful under ThreadSanitizer: each round has a
+// locale of its own, whose character tables are still unfilled.
 #include "VendorInfoFile.h"
 
 #include "support/InAllThreads.h"
@@ -38,7 +38,7 @@ TEST(ConcurrentQueriesInALocale, OfTheSystemCompileTheirFirstExpressionsAtOnce) 
     try {
       const std::locale available(name);
     } catch (const std::runtime_error&) {
-      continue;  // "C" there is everywhere
+      continue;  // only "C" exists everywhere
     }
     ExpectAnswersInFreshLocales([=] { return std::locale(name); });
   }

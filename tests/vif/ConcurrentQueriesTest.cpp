@@ -1,5 +1,5 @@
-// Threads that query one object at once. Of most use under ThreadSanitizer, and with each test in a process of its own,
-// so that its threads are the first to meet regular expressions.
+// Threads that query one object at once. Most useful under ThreadSanitizer, with each test in a process of its own, so
+// that its threads are the first to use regular expressions.
 #include "QueryOutcome.h"
 #include "support/InAllThreads.h"
 #include "support/TempDir.h"
@@ -35,7 +35,7 @@ CVIFField Field(const std::string& name, const std::string& value, std::uint64_t
   return {true, name, value, "", Component(component), kUnused, kUnused};
 }
 
-/// For each thread t a field Own_t; two fields Twin; a field that is not numeric. No file name.
+/// A field Own_t for each thread t; two fields Twin; a field that is not numeric. No file name.
 CVendorInfoFile Subject() {
   std::vector<CVIFField> fields;
   for (std::size_t thread = 0; thread < kThreads; ++thread) {
@@ -47,7 +47,7 @@ CVendorInfoFile Subject() {
   return CVendorInfoFile(fields);
 }
 
-/// Asks the query again and again and returns all its outcomes.
+/// Asks the query repeatedly and returns all its outcomes.
 template <typename Query>
 std::vector<std::string> Repeated(const Query& query) {
   std::vector<std::string> outcomes;
@@ -55,7 +55,7 @@ std::vector<std::string> Repeated(const Query& query) {
   return outcomes;
 }
 
-// The first tests have hardly anything in common but that an expression is compiled at the same time in all threads.
+// What the first tests have in common is only that all threads compile an expression at the same time.
 
 TEST(ConcurrentQueries, CompileTheirFirstExpressionsAtOnce) {
   const CVendorInfoFile vif = Subject();
@@ -80,7 +80,7 @@ TEST(ConcurrentQueries, FailToCompileTheirFirstExpressionsAtOnce) {
   EXPECT_THAT(outcomes, Each(testing::StartsWith("std::regex_error")));
 }
 
-TEST(ConcurrentQueries, AskLongNamesAtOnce) {
+TEST(ConcurrentQueries, MatchLongNamesAtOnce) {
   const CVendorInfoFile vif({Field(std::string(3000, 'a'), "1", 0)});
   const auto outcomes = InAllThreads([&](std::size_t) {
     return std::vector{OutcomeOf([&] { return vif.Count("(a|b)*", kAnywhere); }),
@@ -90,7 +90,7 @@ TEST(ConcurrentQueries, AskLongNamesAtOnce) {
   EXPECT_EQ(outcomes[0][0], "1");
 }
 
-TEST(ConcurrentQueries, GetAnswersOfTheirOwn) {
+TEST(ConcurrentQueries, GetTheirOwnAnswers) {
   const CVendorInfoFile vif = Subject();
   const auto plain = InAllThreads([&](std::size_t thread) {
     const std::string pattern = "own_" + std::to_string(thread);
@@ -107,7 +107,7 @@ TEST(ConcurrentQueries, GetAnswersOfTheirOwn) {
   }
 }
 
-TEST(ConcurrentQueries, FailWithMessagesOfTheirOwnWhenNothingMatches) {
+TEST(ConcurrentQueries, FailWithTheirOwnMessagesWhenNothingMatches) {
   const CVendorInfoFile vif = Subject();
   const auto outcomes = InAllThreads([&](std::size_t thread) {
     const std::string pattern = std::string(1 + thread * 100, 'x') + std::to_string(thread);
@@ -120,7 +120,7 @@ TEST(ConcurrentQueries, FailWithMessagesOfTheirOwnWhenNothingMatches) {
   }
 }
 
-TEST(ConcurrentQueries, FailWithMessagesOfTheirOwnWhenSeveralMatch) {
+TEST(ConcurrentQueries, FailWithTheirOwnMessagesWhenSeveralMatch) {
   const CVendorInfoFile vif = Subject();
   const auto outcomes = InAllThreads([&](std::size_t thread) {
     const std::string pattern = "Tw(in){1," + std::to_string(thread + 1) + "}";
@@ -132,7 +132,7 @@ TEST(ConcurrentQueries, FailWithMessagesOfTheirOwnWhenSeveralMatch) {
   }
 }
 
-TEST(ConcurrentQueries, FailWithMessagesOfTheirOwnOnFieldsThatAreNotNumeric) {
+TEST(ConcurrentQueries, FailWithTheirOwnMessagesOnFieldsThatAreNotNumeric) {
   const auto outcomes = InAllThreads([&](std::size_t thread) {
     const CVIFField field(false, "Name_" + std::to_string(thread), "ABC", kUnused, kUnused, kUnused);
     return Repeated([&] { return static_cast<std::size_t>(field.GetULongNumericValue()); });
@@ -177,7 +177,7 @@ std::vector<std::string> EveryQuery(const CVendorInfoFile& vif, std::size_t thre
   };
 }
 
-TEST(ConcurrentQueries, OfEveryKindComeToTheSameAsOneAfterTheOther) {
+TEST(ConcurrentQueries, OfEveryKindGiveTheSameResultsAsSequentialOnes) {
   const TempDir dir;
   CVendorInfoFile changing = Subject();
   testsupport::AppendEmptyComponents(changing, 2, dir.Write("empty.txt", "").string());
@@ -193,11 +193,11 @@ TEST(ConcurrentQueries, OfEveryKindComeToTheSameAsOneAfterTheOther) {
   EXPECT_EQ(FieldTexts(*vif.GetFields()), FieldTexts(*Subject().GetFields()));
 }
 
-TEST(ConcurrentQueries, MayAskCopiesAndTheirResultsInOtherThreads) {
+TEST(ConcurrentQueries, MayUseCopiesAndResultsInOtherThreads) {
   const CVendorInfoFile vif = Subject();
   const VifFieldList all = vif.GetFields();
   const auto texts = InAllThreads([&](std::size_t) {
-    const CVendorInfoFile copy(vif);  // NOLINT(performance-unnecessary-copy-initialization): copying is a reading too.
+    const CVendorInfoFile copy(vif);  // NOLINT(performance-unnecessary-copy-initialization): copying reads, too.
     return std::vector{FieldTexts(*copy.GetFields()), FieldTexts(*all)};
   });
   EXPECT_THAT(texts, Each(Each(FieldTexts(*all))));

@@ -1,4 +1,4 @@
-// Needs a program of its own, because it is linked with a global operator new that counts.
+// A program of its own, because it links a global operator new that counts.
 #include "VendorInfoFile.h"
 #include "support/FailingMemory.h"
 
@@ -16,7 +16,7 @@ constexpr VifIndex kUnused = CVIFField::UNSPECIFIED_INDEX;
 constexpr Slots kAnywhere = {kUnused, kUnused, kUnused};
 constexpr VifIndex kEverySecond = {eVifLocComponent, 1};
 
-/// 1,000 fields of one name, in components 0 and 1 by turns.
+/// 1,000 fields of one name, alternately in components 0 and 1.
 CVendorInfoFile ThousandFields() {
   std::vector<CVIFField> fields;
   for (std::size_t i = 0; i < 1000; ++i) {
@@ -26,7 +26,7 @@ CVendorInfoFile ThousandFields() {
   return CVendorInfoFile(fields);
 }
 
-/// How often memory is allocated while the query is asked, which must count that many fields.
+/// How many allocations the query makes, which must count that many fields.
 template <typename Query>
 std::size_t AllocationsOf(std::size_t expectedCount, const Query& query) {
   const std::size_t before = testsupport::AllocationCount();
@@ -62,12 +62,12 @@ TEST(CountAllocatesNothing, ByLocationWithAPlainPattern) {
       AllocationsOf(500, [&] { return vif.Count("Src_PDO_Voltage_Of_A_Supply", kEverySecond, kUnused, kUnused); }), 0U);
 }
 
-TEST(CountAllocatesNothing, WithAnExpressionThatNoFieldsLocationsComeTo) {
+TEST(CountAllocatesNothing, WithAnExpressionThatNoFieldReaches) {
   const CVendorInfoFile vif = ThousandFields();
   EXPECT_EQ(AllocationsOf(0, [&] { return vif.Count(".*", VifIndex{eVifLocSrcPdo, 1}, kUnused, kUnused); }), 0U);
 }
 
-// That the counter sees what the library allocates.
+// Checks that the counter sees the library's allocations.
 
 TEST(AllocationCounter, SeesTheCopiesOfOtherQueries) {
   const CVendorInfoFile vif = ThousandFields();

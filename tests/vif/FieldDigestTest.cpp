@@ -1,4 +1,4 @@
-// Digests of fields and the filters that look at them. Against the objects, because they are no part of the public
+// Digests of fields and the filters that compare them. Against the objects, because they are not part of the public
 // interface.
 #include "FieldDigest.h"
 
@@ -52,7 +52,7 @@ bool MayHaveSlot(const VifIndex& asked, const QuerySlots& slots) {
   return filter.MayPass(DigestOf(Field("Name", slots)));
 }
 
-TEST(FieldDigests, CoverWhatIsAppended) {
+TEST(FieldDigests, CoverAppendedFields) {
   std::vector<CVIFField> fields = {Field("A")};
   CFieldDigests digests;
   digests.Cover(fields);
@@ -68,14 +68,14 @@ TEST(FieldDigests, DoNotDependOnLetterCase) {
   EXPECT_EQ(DigestOf(Field("PDO")), DigestOf(Field("pdo")));
 }
 
-TEST(DigestFilter, PassesEverythingUntilItAsksForSomething) {
+TEST(DigestFilter, PassesEverythingWithoutConditions) {
   const CDigestFilter filter;
   EXPECT_FALSE(filter.AsksForAnything());
   EXPECT_TRUE(filter.MayPass(DigestOf(Field("Name"))));
   EXPECT_TRUE(filter.MayPass(DigestOf(Field("", {VifIndex{eVifLocComponent, 1}, kUnused, kUnused}))));
 }
 
-TEST(DigestFilter, TellsNamesApart) {
+TEST(DigestFilter, DistinguishesNames) {
   EXPECT_TRUE(MayHaveName("src_pdo_voltage", "Src_PDO_Voltage"));
   EXPECT_TRUE(MayHaveName("PDO", "pdo"));
   EXPECT_FALSE(MayHaveName("Src_PDO_Voltage", "Snk_PDO_Voltage"));
@@ -85,7 +85,7 @@ TEST(DigestFilter, TellsNamesApart) {
   EXPECT_FALSE(MayHaveName("PDO", ""));
 }
 
-TEST(DigestFilter, TellsNamesApartWhereverTheyDiffer) {
+TEST(DigestFilter, DistinguishesNamesWhereverTheyDiffer) {
   for (std::size_t size = 1; size < 40; ++size) {
     const std::string name(size, 'a');
     EXPECT_TRUE(MayHaveName(std::string(size, 'A').c_str(), name.c_str()));
@@ -103,7 +103,7 @@ TEST(DigestFilter, FollowsTheLetterCaseOfTheLocale) {
   EXPECT_FALSE(MayHaveName("\xC9", "\xE8"));
 }
 
-TEST(DigestFilter, DoesNotAskForANameInALocaleThatDigestsDoNotFollow) {
+TEST(DigestFilter, IgnoresNamesInALocaleThatDigestsDoNotFollow) {
   const CScopedGlobalLocale odd(testsupport::OddCaseLocale());
   for (const char* pattern : {"1", "2", "Name_1", "a", "A", "\x80"}) {
     CDigestFilter filter;
@@ -113,7 +113,7 @@ TEST(DigestFilter, DoesNotAskForANameInALocaleThatDigestsDoNotFollow) {
   EXPECT_FALSE(MayHaveName("b", "c"));
 }
 
-TEST(DigestFilter, TellsSlotsApart) {
+TEST(DigestFilter, DistinguishesSlots) {
   const VifIndex component = {eVifLocComponent, 1};
   const VifIndex pdo = {eVifLocSrcPdo, 2};
   for (const QuerySlots& slots : {QuerySlots{component, pdo, kUnused}, QuerySlots{kUnused, component, pdo},
@@ -127,7 +127,7 @@ TEST(DigestFilter, TellsSlotsApart) {
   }
 }
 
-/// A slot of few kinds, some of which digests cannot tell apart.
+/// A slot from a small set, some of which digests cannot distinguish.
 VifIndex RandomSlot(std::mt19937_64& random) {
   constexpr EVifLocation locations[] = {eVifLocUnset,
                                         eVifLocComponent,
@@ -139,7 +139,7 @@ VifIndex RandomSlot(std::mt19937_64& random) {
   return {locations[RandomBelow(random, std::size(locations))], numbers[RandomBelow(random, std::size(numbers))]};
 }
 
-TEST(DigestFilter, PassesEveryFieldThatPasses) {
+TEST(DigestFilter, PassesEveryFieldThatMatches) {
   SCOPED_TRACE(testsupport::SeedMessage());
   std::mt19937_64 random = testsupport::SeededGenerator();
   std::size_t passing = 0;
@@ -162,7 +162,7 @@ TEST(DigestFilter, PassesEveryFieldThatPasses) {
   EXPECT_GT(told, 40'000U);
 }
 
-/// Fields of which the query below finds every third, in a list that it searches by digests.
+/// Fields of which the query below finds every third, in a list long enough to be searched by digests.
 std::vector<CVIFField> ManyFields() {
   std::vector<CVIFField> fields;
   for (std::size_t i = 0; i < 2000; ++i) fields.push_back(Field("Name_" + std::to_string(i % 3)));

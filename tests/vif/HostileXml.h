@@ -1,4 +1,4 @@
-// XML files that nobody writes by accident, or only a broken program does.
+// XML files that nobody writes by accident, except a broken program.
 #pragma once
 
 #include "VIFInvalidFile.h"
@@ -22,13 +22,13 @@ namespace testsupport {
 inline const std::string kBegin = "<VIF xmlns='http://usb.org/VendorInfoFile.xsd'>";
 inline const std::string kEnd = "</VIF>";
 
-/// Appends files to an object that holds fields already.
+/// Appends files to an object that already holds fields.
 class HostileXmlTest : public testing::Test {
  protected:
   HostileXmlTest() : m_vif(m_dir.Write("held.txt", "USB_VID: 1")), m_held(FieldTexts(*m_vif.GetFields())) {}
 
-  /// Appends a file. Either it is loaded, or the error has its form and reasons that can be printed, and the object is
-  /// as it was.
+  /// Appends a file. Either it is loaded, or the error has the expected form and printable reasons and the object is
+  /// unchanged.
   /// \return whether it was loaded, and the reasons if not
   testing::AssertionResult AppendFile(const std::filesystem::path& path) {
     m_reasons.clear();
@@ -58,7 +58,7 @@ class HostileXmlTest : public testing::Test {
   const std::vector<std::string>& Reasons() const { return m_reasons; }
   const TempDir& Dir() const { return m_dir; }
 
-  /// The fields that the last file appended.
+  /// The fields from the last appended file.
   std::vector<std::string> NewFields() const {
     std::vector<std::string> fields = FieldTexts(*m_vif.GetFields());
     fields.erase(fields.begin(), fields.begin() + static_cast<std::ptrdiff_t>(m_held.size()));

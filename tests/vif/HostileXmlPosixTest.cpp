@@ -1,4 +1,4 @@
-// What only POSIX systems have in their directories, named like XML VIFs.
+// Things with the names of XML VIFs that only POSIX systems have in their directories.
 #include "HostileXml.h"
 #include "support/OrdinaryUser.h"
 
@@ -30,7 +30,7 @@ TEST_F(HostileXmlPosixTest, PipeIsNotWaitedFor) {
   EXPECT_THAT(Reasons(), ElementsAre("The file is not a regular file."));
 }
 
-TEST_F(HostileXmlPosixTest, DeviceWithoutEndIsNotRead) {
+TEST_F(HostileXmlPosixTest, EndlessDeviceIsNotRead) {
   const fs::path path = Dir().Path() / "z.xml";
   fs::create_symlink("/dev/zero", path);
   EXPECT_FALSE(AppendFile(path));
@@ -43,7 +43,7 @@ TEST_F(HostileXmlPosixTest, SocketCannotBeOpened) {
   sockaddr_un address{};
   address.sun_family = AF_UNIX;
   path.native().copy(address.sun_path, sizeof address.sun_path - 1);
-  // The socket interface asks for addresses of every family as one general type.
+  // The socket interface takes addresses of every family as one generic type.
   ASSERT_EQ(bind(bound, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
   EXPECT_FALSE(AppendFile(path));
   EXPECT_THAT(Reasons(), ElementsAre(StartsWith("The file cannot be opened: ")));
@@ -60,7 +60,7 @@ TEST_F(HostileXmlPosixTest, FileThatMayNotBeReadSaysWhy) {
 
 TEST_F(HostileXmlPosixTest, ReadErrorSaysWhy) {
   const fs::path path = Dir().Path() / "x.xml";
-  fs::create_symlink("/proc/self/mem", path);  // a regular file, whose first byte is never readable
+  fs::create_symlink("/proc/self/mem", path);  // a regular file whose first byte is never readable
   if (!fs::is_regular_file(path)) GTEST_SKIP() << "only Linux has this file";
   EXPECT_FALSE(AppendFile(path));
   EXPECT_THAT(Reasons(), testing::Contains(StartsWith("The file cannot be read: ")));

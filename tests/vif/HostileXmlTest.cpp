@@ -1,4 +1,4 @@
-// XML files that nobody writes by accident, or only a broken program does.
+// XML files that nobody writes by accident, except a broken program.
 #include "HostileXml.h"
 
 #include "BaseUtilities/Exceptions.h"
@@ -26,7 +26,7 @@ using testsupport::RandomBelow;
 
 namespace fs = std::filesystem;
 
-// Not every MSXML takes more; what Wine has is bounded just above.
+// Not every MSXML accepts more; Wine's limit is just above.
 #ifdef _WIN32
 constexpr std::size_t kLongAttribute = 9'000'000;
 constexpr std::size_t kLongName = 49'000;
@@ -44,7 +44,7 @@ std::string Repeated(std::string_view text, std::size_t count) {
   return all;
 }
 
-// Document types and what they could bring.
+// Document types and what they could contain.
 
 TEST_F(HostileXmlTest, AnyDocumentTypeIsRefused) {
   for (const char* type : {"<!DOCTYPE VIF>", "<!DOCTYPE VIF []>", "<!DOCTYPE VIF SYSTEM 'vif.dtd'>",
@@ -54,7 +54,7 @@ TEST_F(HostileXmlTest, AnyDocumentTypeIsRefused) {
   }
 }
 
-TEST_F(HostileXmlTest, EntitiesThatMultiplyAreNotExpanded) {
+TEST_F(HostileXmlTest, MultiplyingEntitiesAreNotExpanded) {
   std::string entities = "<!ENTITY e0 'lol'>";
   for (int i = 1; i <= 20; ++i) {
     entities += "<!ENTITY e" + std::to_string(i) + " '" + Repeated("&e" + std::to_string(i - 1) + ";", 10) + "'>";
@@ -120,7 +120,7 @@ TEST_F(HostileXmlTest, ElementsNestedDeeperAreRefused) {
   }
 }
 
-TEST_F(HostileXmlTest, StartTagsWithoutEndAreRefused) { EXPECT_FALSE(Append(kBegin + Repeated("<a>", 1'000'000))); }
+TEST_F(HostileXmlTest, UnclosedStartTagsAreRefused) { EXPECT_FALSE(Append(kBegin + Repeated("<a>", 1'000'000))); }
 
 // Size.
 
@@ -156,7 +156,7 @@ TEST_F(HostileXmlTest, ManyPiecesOfOneTextAreLoaded) {
   EXPECT_TRUE(AppendVif("<TID>" + Repeated("<![CDATA[x]]>", 20'000) + "</TID>"));
 }
 
-// Validating them would take time and memory that grow with the square of their number.
+// Validating these would take time and memory quadratic in the number of pieces.
 TEST_F(HostileXmlTest, VeryManyPiecesOfOneTextAreRefused) {
   const std::string reason =
       "A text is in too many pieces between comments, processing instructions and CDATA sections.";
@@ -178,10 +178,10 @@ TEST_F(HostileXmlTest, HundredThousandAttributesAreRefused) {
   EXPECT_FALSE(AppendVif("<Component" + attributes + "/>"));
 }
 
-TEST_F(HostileXmlTest, ManyReasonsAreListedUpToABound) {
+TEST_F(HostileXmlTest, ReasonsAreListedUpToALimit) {
   EXPECT_FALSE(AppendVif(Repeated("<TID a='1'/>", 200'000)));
 #ifdef _WIN32
-  EXPECT_EQ(Reasons().size(), 1U);  // MSXML says the first only
+  EXPECT_EQ(Reasons().size(), 1U);  // MSXML reports only the first
 #else
   EXPECT_EQ(Reasons().size(), 10'001U);
   EXPECT_EQ(Reasons().back(), "and 190000 more");
@@ -190,7 +190,7 @@ TEST_F(HostileXmlTest, ManyReasonsAreListedUpToABound) {
 
 // Broken files.
 
-TEST_F(HostileXmlTest, OnlyTheWholeOfAFileIsValid) {
+TEST_F(HostileXmlTest, OnlyTheWholeFileIsValid) {
   const std::string whole =
       "<?xml version='1.0' encoding='utf-8'?>\n<v:VIF xmlns:v='http://usb.org/VendorInfoFile.xsd'>"
       "<!--\u00E4--><v:Component><v:TID value='1'>\u20AC</v:TID></v:Component></v:VIF>";
@@ -223,14 +223,14 @@ TEST_F(HostileXmlTest, ChangedBytesNeverCrash) {
     try {
       if (Append(changed)) ++loaded;
     } catch (const CZoDOMDocException&) {
-      ++loaded;  // valid by the schemas, but no list of the format
+      ++loaded;  // valid by the schemas, but the format has no such list
     }
   }
   EXPECT_GT(loaded, 0U);
   EXPECT_LT(loaded, runs);
 }
 
-TEST_F(HostileXmlTest, WhatIsNotWellFormedIsNotValid) {
+TEST_F(HostileXmlTest, MalformedXmlIsNotValid) {
   for (const char* content :
        {"<TID a='1' a='2'/>", "<TID p:a='1'/>", "<TID a=1/>", "<TID>]]></TID>", "<TID/",
         "<TID xmlns:p='u' xmlns:q='u' p:a='1' q:a='1'/>", "<TID><!-- -- --></TID>", "<1/>", "<TID>&#0;</TID>",
@@ -239,19 +239,19 @@ TEST_F(HostileXmlTest, WhatIsNotWellFormedIsNotValid) {
   }
 }
 
-TEST_F(HostileXmlTest, PrefixThatIsNotDeclaredIsNotValid) {
+TEST_F(HostileXmlTest, UndeclaredPrefixIsNotValid) {
   EXPECT_FALSE(AppendVif("<p:TID/>"));
   EXPECT_FALSE(AppendVif("<TID xmlns:p='u'/><p:TID/>"));
   EXPECT_FALSE(AppendVif("<TID xmlns:p='u' q:a=''/>"));
 }
 
-TEST_F(HostileXmlTest, PrefixIsDeclaredInItsTagOrAround) {
+TEST_F(HostileXmlTest, PrefixIsDeclaredInItsTagOrAnAncestors) {
   EXPECT_TRUE(AppendVif("<p:TID q:a='1' xmlns:q='v' xmlns:p='http://usb.org/VendorInfoFile.xsd'/>"));
   EXPECT_TRUE(
       AppendVif("<Component xmlns:p='u'><p:x><p:y xmlns='' p:a=''><z xml:space='default'/></p:y></p:x></Component>"));
 }
 
-TEST_F(HostileXmlTest, PrefixDeclaredForWhatItMayNotStandForIsNotValid) {
+TEST_F(HostileXmlTest, PrefixDeclaredForAForbiddenNamespaceIsNotValid) {
   for (const char* content :
        {"<TID xmlns:p=''/>", "<TID xmlns:xml='u'/>", "<TID xmlns:a:b='u'/>", "<?a:b c?>", "<TID xmlns:xmlns='u'/>",
         "<TID xmlns:p='http://www.w3.org/XML/1998/namespace'/>", "<TID xmlns:p='http://www.w3.org/2000/xmlns/'/>"}) {
@@ -266,13 +266,13 @@ TEST_F(HostileXmlTest, NamesWithOddColonsAreNotValid) {
   }
 }
 
-TEST_F(HostileXmlTest, ContentBehindTheRootIsNotValid) {
+TEST_F(HostileXmlTest, ContentAfterTheRootIsNotValid) {
   EXPECT_FALSE(Append(kBegin + kEnd + "text"));
   EXPECT_FALSE(Append(kBegin + kEnd + kBegin + kEnd));
   EXPECT_TRUE(Append(kBegin + kEnd + "\n<!--c-->\n"));
 }
 
-TEST_F(HostileXmlTest, NulBehindTheRootIsNotValid) {
+TEST_F(HostileXmlTest, NulAfterTheRootIsNotValid) {
   EXPECT_FALSE(Append(kBegin + kEnd + std::string(1, '\0')));
   EXPECT_FALSE(Append(kBegin + kEnd + std::string(1, '\0') + "<TID>"));
 }
@@ -301,19 +301,19 @@ TEST_F(HostileXmlTest, Utf8IsLoadedHoweverItIsDeclared) {
   }
 }
 
-// Editors of VIFs write it so.
-TEST_F(HostileXmlTest, Utf8MisspelledIsLoaded) {
+// Some editors of VIFs write this.
+TEST_F(HostileXmlTest, MisspelledUtf8IsLoaded) {
   for (const char* name : {"utf8", "UTF8", "Utf8"}) {
     EXPECT_TRUE(Append("<?xml version='1.0' encoding='" + std::string(name) + "'?>" + kField)) << name;
   }
 }
 
-TEST_F(HostileXmlTest, InstructionThatBeginsLikeADeclarationDeclaresNoEncoding) {
+TEST_F(HostileXmlTest, InstructionThatBeginsLikeADeclarationDoesNotDeclareAnEncoding) {
   EXPECT_TRUE(Append("<?xml-stylesheet href='x' encoding='EBCDIC'?>" + kField));
 }
 
-// Attributes could hide in them from the guard that counts them.
-TEST_F(HostileXmlTest, EncodingsInWhichAsciiIsNotItselfAreRefused) {
+// In these encodings attributes could hide from the guard that counts them.
+TEST_F(HostileXmlTest, EncodingsThatDoNotPreserveAsciiAreRefused) {
   for (const char* name : {"UTF-7", "ISO-2022-JP", "UTF-32", "UTF-16LE", "IBM037"}) {
     EXPECT_FALSE(Append("<?xml version='1.0' encoding='" + std::string(name) + "'?>" + kField)) << name;
   }
@@ -329,12 +329,12 @@ TEST_F(HostileXmlTest, Utf16IsLoaded) {
   }
 }
 
-TEST_F(HostileXmlTest, Utf16WithoutAnySignIsRefused) {
+TEST_F(HostileXmlTest, Utf16WithoutMarkOrDeclarationIsRefused) {
   EXPECT_FALSE(Append(Utf16(kField, false)));
   EXPECT_FALSE(Append(Utf16(kField, true)));
 }
 
-TEST_F(HostileXmlTest, Utf16CutInACharacterIsNotValid) {
+TEST_F(HostileXmlTest, Utf16CutWithinACharacterIsNotValid) {
   const std::string file = "\xFF\xFE" + Utf16(kField, false);
   EXPECT_FALSE(Append(std::string_view(file).substr(0, file.size() - 1)));
 }
@@ -376,9 +376,9 @@ TEST_F(HostileXmlTest, ControlCharactersOfTheFileAreNotInReasons) {
   EXPECT_FALSE(AppendVif("<Connector_Type value='&#9;&#10;&#13;x'/>"));
 }
 
-// What is no regular file.
+// Not regular files.
 
-TEST_F(HostileXmlTest, DirectoryIsNoFile) {
+TEST_F(HostileXmlTest, DirectoryIsNotAFile) {
   fs::create_directory(Dir().Path() / "d.xml");
   EXPECT_FALSE(AppendFile(Dir().Path() / "d.xml"));
   EXPECT_THAT(Reasons(), ElementsAre("The file is not a regular file."));

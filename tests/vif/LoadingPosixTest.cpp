@@ -1,4 +1,4 @@
-// Loading what only POSIX systems have in their directories.
+// Loading things that only POSIX systems have in their directories.
 #include "BaseUtilities/Exceptions.h"
 #include "VIFTextCheck.h"
 #include "VendorInfoFile.h"
@@ -33,12 +33,12 @@ using testsupport::TempDir;
 namespace fs = std::filesystem;
 using testsupport::OrdinaryUser;
 
-/// Reading what has no end is what these tests are afraid of.
+/// Guards against endless reading.
 class Alarm {
   testsupport::CWatchdog m_watchdog{std::chrono::seconds(20)};
 };
 
-/// The rights of a file or directory, changed for a while.
+/// Changes the permissions of a file or directory while it lives.
 class Permissions {
  public:
   Permissions(const fs::path& path, fs::perms permissions) : m_path(path), m_former(fs::status(path).permissions()) {
@@ -57,14 +57,14 @@ class Permissions {
 
 constexpr fs::perms kOpenToAll = fs::perms::owner_all | fs::perms::group_exec | fs::perms::others_exec;
 
-/// A socket with a name.
+/// A named socket.
 class Socket {
  public:
   explicit Socket(const fs::path& path) : m_socket(socket(AF_UNIX, SOCK_STREAM, 0)) {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     path.native().copy(address.sun_path, sizeof address.sun_path - 1);
-    // The socket interface asks for addresses of every family as one general type.
+    // The socket interface takes addresses of every family as one generic type.
     if (bind(m_socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0) {
       throw std::system_error(errno, std::generic_category(), "bind");
     }
@@ -85,7 +85,7 @@ std::string LoadError(const fs::path& path) {
 
 std::string CannotOpenText(const fs::path& path) { return "Couldn't open Vendor Info File: " + path.string() + "."; }
 
-/// The file system's error that loading the file ends with, or one without a code when there is none.
+/// The filesystem error that loading the file throws, or one without a code if it throws none.
 fs::filesystem_error LoadFileSystemError(const fs::path& path) {
   try {
     CVendorInfoFile vif(path);
@@ -95,7 +95,7 @@ fs::filesystem_error LoadFileSystemError(const fs::path& path) {
   return {"<no exception>", std::error_code()};
 }
 
-// What is no regular file.
+// Not regular files.
 
 TEST(LoadingPosixTest, PipeNamedLikeATextVifCannotBeOpened) {
   const TempDir dir;
@@ -113,7 +113,7 @@ TEST(LoadingPosixTest, SocketNamedLikeATextVifCannotBeOpened) {
   EXPECT_EQ(LoadError(path), CannotOpenText(path));
 }
 
-TEST(LoadingPosixTest, LinkToADeviceWithoutEndCannotBeOpened) {
+TEST(LoadingPosixTest, LinkToAnEndlessDeviceCannotBeOpened) {
   const TempDir dir;
   const fs::path path = dir.Path() / "x.txt";
   fs::create_symlink("/dev/zero", path);
@@ -121,7 +121,7 @@ TEST(LoadingPosixTest, LinkToADeviceWithoutEndCannotBeOpened) {
   EXPECT_EQ(LoadError(path), CannotOpenText(path));
 }
 
-TEST(LoadingPosixTest, WhatCannotBeOpenedIsNoComponent) {
+TEST(LoadingPosixTest, FileThatCannotBeOpenedAddsNoComponent) {
   const TempDir dir;
   const fs::path path = dir.Path() / "x.txt";
   ASSERT_EQ(mkfifo(path.c_str(), S_IRUSR | S_IWUSR), 0);
@@ -134,7 +134,7 @@ TEST(LoadingPosixTest, WhatCannotBeOpenedIsNoComponent) {
 
 // Links.
 
-TEST(LoadingPosixTest, LinkToATextVifIsLoadedByTheNameOfTheLink) {
+TEST(LoadingPosixTest, LinkToATextVifIsLoadedUnderTheNameOfTheLink) {
   const TempDir dir;
   const fs::path link = dir.Path() / "x.txt";
   fs::create_symlink(dir.Write("vif.doc", "USB_VID: 1"), link);
@@ -150,7 +150,7 @@ TEST(LoadingPosixTest, LinkToNowhereDoesNotExist) {
   EXPECT_EQ(LoadError(path), "VIF Does not exist. (name: " + path.string() + ")");
 }
 
-TEST(LoadingPosixTest, LinkToItselfIsTheErrorOfTheExistenceTest) {
+TEST(LoadingPosixTest, LinkToItselfFailsTheExistenceTest) {
   const TempDir dir;
   const fs::path path = dir.Path() / "x.txt";
   fs::create_symlink(path, path);
@@ -196,9 +196,9 @@ TEST(LoadingPosixTest, NamesWithPlaceholdersAndLineFeedsAreLoaded) {
   EXPECT_EQ(vif.FileName(), path.wstring());
 }
 
-// Rights.
+// Permissions.
 
-TEST(LoadingPosixTest, StatusThatMayNotBeAskedForIsTheErrorOfTheExistenceTest) {
+TEST(LoadingPosixTest, ForbiddenStatusIsTheErrorOfTheExistenceTest) {
   const TempDir dir;
   fs::create_directory(dir.Path() / "closed");
   const fs::path path = dir.Write("closed/x.txt", "USB_VID: 1");
@@ -226,7 +226,7 @@ TEST(LoadingPosixTest, FileThatMayNotBeReadCannotBeOpened) {
 TEST(LoadingPosixTest, ReadErrorEndsTheReadQuietly) {
   const TempDir dir;
   const fs::path path = dir.Path() / "x.txt";
-  fs::create_symlink("/proc/self/mem", path);  // a regular file, whose first byte is never readable
+  fs::create_symlink("/proc/self/mem", path);  // a regular file whose first byte is never readable
   const Alarm alarm;
   const CVendorInfoFile vif(path);
   EXPECT_EQ(vif.Count(), 0U);

@@ -45,12 +45,12 @@ std::vector<std::string> Load(std::string_view content) {
   return Texts(CVendorInfoFile(dir.Write("x.txt", content)));
 }
 
-/// What loading the file into a new object fails with.
+/// The error of loading the file into a new object.
 std::string LoadError(const std::filesystem::path& path) {
   return RunTimeErrorOf([&] { CVendorInfoFile vif(path); });
 }
 
-/// What appending the file to an object fails with.
+/// The error of appending the file to an object.
 std::string AppendError(const std::filesystem::path& path) {
   CVendorInfoFile vif;
   return RunTimeErrorOf([&] { AppendFile(vif, path); });
@@ -87,7 +87,7 @@ TEST(LoadingTest, OtherExtensionsAreOfTheWrongType) {
   }
 }
 
-TEST(LoadingTest, NameThatIsAllExtensionHasNone) {
+TEST(LoadingTest, NameThatIsOnlyAnExtensionHasNone) {
   const TempDir dir;
   EXPECT_EQ(LoadError(dir.Write(".txt", "USB_VID: 1")), kWrongType);
 }
@@ -98,7 +98,7 @@ TEST(LoadingTest, ExtensionOfTheDirectoryDoesNotCount) {
   EXPECT_EQ(LoadError(dir.Write("d.txt/vif", "USB_VID: 1")), kWrongType);
 }
 
-TEST(LoadingTest, XmlIsNoWrongType) {
+TEST(LoadingTest, XmlIsNotAWrongType) {
   const TempDir dir;
   for (const char* name : {"a.xml", "b.XML"}) {
     EXPECT_NE(LoadError(dir.Write(name, "no document")), kWrongType) << name;
@@ -128,7 +128,7 @@ TEST(LoadingTest, FileBelowAFileIsMissing) {
   EXPECT_EQ(LoadError(path), MissingText(path));
 }
 
-// On Windows no file can have these names, which is another error than that there is none.
+// On Windows no file can have these names, which is not the same error as a missing file.
 TEST(LoadingTest, FileWhoseNameIsNotAllowedEverywhereIsMissing) {
   const TempDir dir;
   for (const char* name : {"a<b?.txt", "a<b?.xml", "*.txt", "a|b.json"}) {
@@ -137,8 +137,8 @@ TEST(LoadingTest, FileWhoseNameIsNotAllowedEverywhereIsMissing) {
   }
 }
 
-// What means another machine or another disk on Windows is a directory like any other elsewhere.
-TEST(LoadingTest, FileInANetworkOrOnADriveThatIsNotThereIsMissing) {
+// What means another machine or drive on Windows is an ordinary directory elsewhere.
+TEST(LoadingTest, FileOnAMissingNetworkOrDriveIsMissing) {
   for (const char* name :
        {"//no-such-host.invalid/share/x.txt", "//no-such-host.invalid/x.xml", "Q:/x.txt", "Q:x.xml"}) {
     EXPECT_EQ(LoadError(name), MissingText(name));
@@ -146,16 +146,16 @@ TEST(LoadingTest, FileInANetworkOrOnADriveThatIsNotThereIsMissing) {
   }
 }
 
-TEST(LoadingTest, NameTooLongForTheSystemIsAFailureOfTheExistenceTest) {
+TEST(LoadingTest, NameTooLongForTheSystemFailsTheExistenceTest) {
   const TempDir dir;
   const std::filesystem::path path = dir.Path() / (std::string(5000, 'x') + ".txt");
 #ifdef _WIN32
-  // Windows says of such a name that there is no such file.
+  // Windows reports such a name as a missing file.
   EXPECT_EQ(LoadError(path), MissingText(path));
 #else
   try {
     const CVendorInfoFile vif(path);
-    FAIL() << "nothing was thrown";
+    FAIL() << "no exception";
   } catch (const std::filesystem::filesystem_error& error) {
     EXPECT_EQ(error.code(), std::errc::filename_too_long);
     EXPECT_THAT(error.what(), testing::HasSubstr("exists"));
@@ -171,7 +171,7 @@ TEST(LoadingTest, DirectoryNamedLikeATextVifCannotBeOpened) {
   EXPECT_EQ(AppendError(path), CannotOpenText(path));
 }
 
-TEST(LoadingTest, WhatCannotBeOpenedIsNoComponent) {
+TEST(LoadingTest, FileThatCannotBeOpenedAddsNoComponent) {
   const TempDir dir;
   std::filesystem::create_directory(dir.Path() / "x.txt");
   CVendorInfoFile vif;
@@ -180,12 +180,12 @@ TEST(LoadingTest, WhatCannotBeOpenedIsNoComponent) {
   EXPECT_STREQ(vif.FileName(), L"");
 }
 
-TEST(LoadingTest, DirectoryNamedOtherwiseIsOfTheWrongType) {
+TEST(LoadingTest, DirectoryWithAnotherExtensionIsOfTheWrongType) {
   const TempDir dir;
   EXPECT_EQ(LoadError(dir.Path()), kWrongType);
 }
 
-TEST(LoadingTest, MessagesQuoteTheNameAsItIs) {
+TEST(LoadingTest, MessagesQuoteTheNameUnchanged) {
   const TempDir dir;
   const std::filesystem::path path = dir.Path() / "%s%n %S 100%.txt";
   EXPECT_EQ(LoadError(path), MissingText(path));
@@ -194,7 +194,7 @@ TEST(LoadingTest, MessagesQuoteTheNameAsItIs) {
 }
 
 // On Windows in the code page of file functions, which may lack some of the characters.
-TEST(LoadingTest, MessagesQuoteNamesOfAnyLanguage) {
+TEST(LoadingTest, MessagesQuoteNamesInAnyLanguage) {
   const TempDir dir;
   const std::filesystem::path path = dir.Path() / u8"Ger\u00E4t \u4E2D \U0001F50C.txt";
   EXPECT_EQ(LoadError(path), MissingText(path));
@@ -232,7 +232,7 @@ TEST(LoadingTest, FailureIsCatchableAsEachOfItsBases) {
   EXPECT_THROW(load(), std::exception);
 }
 
-TEST(LoadingTest, FailureSaysTheSameAsEachOfItsBases) {
+TEST(LoadingTest, FailureHasTheSameMessageAsEachOfItsBases) {
   const TempDir dir;
   const std::filesystem::path path = dir.Path() / "x.txt";
   std::string asZoException;
@@ -251,11 +251,11 @@ TEST(LoadingTest, FailureSaysTheSameAsEachOfItsBases) {
   EXPECT_EQ(asStandardException, MissingText(path));
 }
 
-TEST(LoadingTest, FailureKeepsItsTextWhenAnotherFollows) {
+TEST(LoadingTest, FailureKeepsItsMessageWhenAnotherFollows) {
   const TempDir dir;
   try {
     CVendorInfoFile vif(dir.Path() / "first.txt");
-    FAIL() << "nothing was thrown";
+    FAIL() << "no exception";
   } catch (const CZoRunTimeException& error) {
     EXPECT_EQ(LoadError(dir.Path() / "second.txt"), MissingText(dir.Path() / "second.txt"));
     EXPECT_EQ(error.what(), MissingText(dir.Path() / "first.txt"));
@@ -280,7 +280,7 @@ TEST(LoadingTest, FieldsAreThoseOfTheLines) {
                           "Src_PDO_Voltage=5000 ; 5 V @6.1 @7.2", "USB_VID=0X1A2B @6.1"));
 }
 
-TEST(LoadingTest, StringWithASemicolonRightBehindItIsSkipped) {
+TEST(LoadingTest, StringFollowedDirectlyByASemicolonIsSkipped) {
   EXPECT_THAT(Load("$Vendor_Name: \"Acme\"; maker\n"), IsEmpty());
 }
 
@@ -293,26 +293,26 @@ TEST(LoadingTest, FileWithNoDeclarationIsAComponentWithoutFields) {
   }
 }
 
-TEST(LoadingTest, NulEndsWhatIsReadOfALine) {
+TEST(LoadingTest, NulEndsContentAndComment) {
   EXPECT_THAT(Load("USB_VID: 5\0 junk\n$A: \"x\0y\"\n\0\nPID: 1 ; a\0b\n"sv),
               ElementsAre("USB_VID=5 @6.1", "PID=1 ; a @6.1"));
 }
 
-TEST(LoadingTest, CrEndsNoLine) {
+TEST(LoadingTest, CrDoesNotEndALine) {
   EXPECT_THAT(Load("USB_VID: 1\rPID: 2\r\nUSB_VID\r: 3\n$A: \"x\ry\"\n"), ElementsAre("USB_VID=3 @6.1"));
 }
 
-TEST(LoadingTest, CtrlZIsAnEndOnWindowsOnly) {
+TEST(LoadingTest, CtrlZEndsTheFileOnWindowsOnly) {
   const std::vector<std::string> fields = Load("USB_VID: 1\nPID: 2\x1A\nUSB_VID: 3\n\x1A\nPID: 4");
 #ifdef _WIN32
-  // A file read as text ends there.
+  // Text mode ends the file there.
   EXPECT_THAT(fields, ElementsAre("USB_VID=1 @6.1", "PID=2 @6.1"));
 #else
   EXPECT_THAT(fields, ElementsAre("USB_VID=1 @6.1", "USB_VID=3 @6.1", "PID=4 @6.1"));
 #endif
 }
 
-TEST(LoadingTest, LfCrLineEndsAreAsGoodAsCrLf) {
+TEST(LoadingTest, LfCrLineEndsWorkLikeCrLf) {
   EXPECT_THAT(Load("USB_VID: 1\n\rPID: 2\n\r"), ElementsAre("USB_VID=1 @6.1", "PID=2 @6.1"));
 }
 
@@ -366,14 +366,14 @@ TEST(OwnTableTest, IsTriedInItsOwnOrder) {
   EXPECT_THAT(Texts(vif), ElementsAre("First=1 @1.0", "Second=2 @3.0", "EF=3", "ABC=4"));
 }
 
-TEST(OwnTableTest, TakesThePlaceOfTheBuiltInOne) {
+TEST(OwnTableTest, ReplacesTheBuiltInOne) {
   const TempDir dir;
   std::vector<VifFieldDef> table;
   const CVendorInfoFile vif(dir.Write("x.txt", "Src_PDO_Voltage2: 1"), &table);
   EXPECT_THAT(Texts(vif), ElementsAre("Src_PDO_Voltage2=1"));
 }
 
-TEST(OwnTableTest, CopyOfTheBuiltInTableDoesAsTheBuiltInOne) {
+TEST(OwnTableTest, CopyOfTheBuiltInTableBehavesLikeTheBuiltInOne) {
   const TempDir dir;
   const std::filesystem::path path = dir.Write(
       "x.txt",
@@ -409,7 +409,7 @@ TEST(OwnTableTest, PatternMayHaveTooFewGroups) {
   EXPECT_THAT(Texts(vif), ElementsAre("A=1 @6.1 @7.-", "B=2 @6.1 @9.7 @10.-"));
 }
 
-TEST(OwnTableTest, UnknownLocationFailsAtTheFirstNameThatFitsAndNotBefore) {
+TEST(OwnTableTest, UnknownLocationFailsAtTheFirstNameThatMatchesAndNotBefore) {
   const TempDir dir;
   std::vector<VifFieldDef> table = {
       {L"Bad", std::wregex(L"B"), {static_cast<EVifLocation>(13)}},
@@ -433,7 +433,7 @@ TEST(OwnTableTest, FailureInTheMiddleOfAnAppendKeepsWhatCameBefore) {
   EXPECT_EQ(vif.ComponentCount(), 3U);
 }
 
-TEST(OwnTableTest, ErrorOfAPatternIsRaisedInItsOwnWords) {
+TEST(OwnTableTest, ErrorOfAPatternIsThrownUnchanged) {
   const TempDir dir;
   std::vector<VifFieldDef> table = {{L"Twice", std::wregex(L"(.)\\1.*"), {eVifLocComponent}}};
   CVendorInfoFile vif(nullptr, &table);

@@ -1,4 +1,4 @@
-// Loading what only Windows has.
+// Loading things that only Windows has.
 #include "BaseUtilities/Exceptions.h"
 #include "VIFInvalidFile.h"
 #include "VendorInfoFile.h"
@@ -33,7 +33,7 @@ using testsupport::TempDir;
 
 namespace fs = std::filesystem;
 
-/// A handle of the system.
+/// A system handle.
 class CHandle {
  public:
   CHandle(HANDLE handle, const char* what) : m_handle(handle) {
@@ -58,7 +58,7 @@ class CExclusiveUse : CHandle {
                 "file") {}
 };
 
-/// Somebody who goes on writing to the file, and has nothing against readers.
+/// Keeps the file open for writing and allows readers.
 class CSharedUse : CHandle {
  public:
   explicit CSharedUse(const fs::path& path)
@@ -78,7 +78,7 @@ fs::path PipePath(const std::string& extension) {
   return R"(\\.\pipe\vif-test-)" + std::to_string(GetCurrentProcessId()) + extension;
 }
 
-/// While it lives, narrow names are in the code page of the console.
+/// While it lives, narrow names are in the OEM code page.
 class COemFileNames {
  public:
   COemFileNames() { SetFileApisToOEM(); }
@@ -87,7 +87,7 @@ class COemFileNames {
   ~COemFileNames() { SetFileApisToANSI(); }
 };
 
-/// While it lives, this process cannot use COM, which the environment of the tests has made usable.
+/// While it lives, this process cannot use COM, which the test environment has initialised.
 class CWithoutCom {
  public:
   CWithoutCom() { CoUninitialize(); }
@@ -110,7 +110,7 @@ std::vector<std::string> InvalidReasons(const fs::path& path) {
   return reasons;
 }
 
-// What is no regular file.
+// Not regular files.
 
 TEST(LoadingWindowsTest, PipeNamedLikeAVifIsNotWaitedFor) {
   const testsupport::CWatchdog watchdog(std::chrono::seconds(20));
@@ -128,16 +128,16 @@ TEST(LoadingWindowsTest, DeviceWithAnExtensionIsNotRead) {
   }
 }
 
-// Rights.
+// Access.
 
-TEST(LoadingWindowsTest, TextFileThatAnotherHasForItselfCannotBeOpened) {
+TEST(LoadingWindowsTest, TextFileThatAnotherHasOpenExclusivelyCannotBeOpened) {
   const TempDir dir;
   const fs::path path = dir.Write("x.txt", "USB_VID: 1");
   const CExclusiveUse use(path);
   EXPECT_EQ(LoadError(path), "Couldn't open Vendor Info File: " + QuotedPath(path) + ".");
 }
 
-TEST(LoadingWindowsTest, XmlFileThatAnotherHasForItselfSaysWhy) {
+TEST(LoadingWindowsTest, XmlFileThatAnotherHasOpenExclusivelySaysWhy) {
   const TempDir dir;
   const fs::path path = dir.Write("x.xml", testsupport::XmlVif(""));
   const CExclusiveUse use(path);
@@ -155,7 +155,7 @@ TEST(LoadingWindowsTest, FileThatAnotherIsWritingIsRead) {
 
 // Names.
 
-TEST(LoadingWindowsTest, NameMayBeNoValidUtf16) {
+TEST(LoadingWindowsTest, NameNeedNotBeValidUtf16) {
   const TempDir dir;
   for (const wchar_t* name : {L"\xD83D.txt", L"\xDE00\xD83D.xml"}) {
     const fs::path path = dir.Path() / name;
@@ -163,7 +163,7 @@ TEST(LoadingWindowsTest, NameMayBeNoValidUtf16) {
     try {
       dir.Write(name, path.extension() == ".xml" ? testsupport::XmlVif("") : "");
     } catch (const std::ios_base::failure&) {
-      GTEST_SKIP() << "this system has no files with such names";
+      GTEST_SKIP() << "this system does not allow such names";
     }
     EXPECT_EQ(CVendorInfoFile(path).FileName(), path.native());
   }
@@ -193,27 +193,27 @@ TEST(LoadingWindowsTest, MessagesAreInTheCodePageOfFileFunctions) {
 
 // COM.
 
-TEST(LoadingWindowsTest, XmlFileWithoutComIsAnErrorOfTheObjectsCreation) {
+TEST(LoadingWindowsTest, XmlFileWithoutComFailsToCreateTheObject) {
   const TempDir dir;
   const fs::path path = dir.Write("a %s.xml", testsupport::XmlVif(""));
   const CWithoutCom noCom;
   try {
     const CVendorInfoFile vif(path);
-    FAIL() << "it was loaded";
+    FAIL() << "the file was loaded";
   } catch (const CZoDOMDocException& error) {
     EXPECT_THAT(error.what(),
                 StartsWith("Vendor Info File Create Exception (file name: \"" + path.string() + "\") - "));
   }
 }
 
-TEST(LoadingWindowsTest, AppendLetsTheErrorOfComThrough) {
+TEST(LoadingWindowsTest, AppendPassesTheErrorOfCom) {
   const TempDir dir;
   const fs::path path = dir.Write("a.xml", testsupport::XmlVif(""));
   const CWithoutCom noCom;
   CVendorInfoFile vif;
   try {
     AppendFile(vif, path);
-    FAIL() << "it was loaded";
+    FAIL() << "the file was loaded";
   } catch (const _com_error& error) {
     EXPECT_EQ(error.Error(), CO_E_NOTINITIALIZED);
   }

@@ -46,7 +46,7 @@ TEST(LoadingXmlTest, FileNameIsKept) {
   EXPECT_EQ(CVendorInfoFile(path).FileName(), path.wstring());
 }
 
-TEST(LoadingXmlTest, TextAndXmlFilesAreNumberedOn) {
+TEST(LoadingXmlTest, TextAndXmlFilesAreNumberedConsecutively) {
   const TempDir dir;
   const std::filesystem::path first = dir.Write("a.txt", "PID: 1\n");
   CVendorInfoFile vif;
@@ -58,7 +58,7 @@ TEST(LoadingXmlTest, TextAndXmlFilesAreNumberedOn) {
   EXPECT_EQ(vif.FileName(), first.wstring());
 }
 
-TEST(LoadingXmlTest, ListOfAFileThatIsMostlyBlankTakesNoMoreMemoryThanItNeeds) {
+TEST(LoadingXmlTest, MostlyBlankFileAllocatesNoMoreThanItsFieldsNeed) {
   const TempDir dir;
   const std::string component = "<vif:Component><vif:PD_Power_As_Source value=\"7\"/></vif:Component>";
   const CVendorInfoFile vif(dir.Write("x.xml", XmlVif(component + std::string(100'000, ' '))));
@@ -73,14 +73,14 @@ TEST(LoadingXmlTest, OwnDefinitionsAreNotUsed) {
               ElementsAre("PD_Power_As_Source=7 @6.1"));
 }
 
-TEST(LoadingXmlTest, InvalidFileMakesNoObject) {
+TEST(LoadingXmlTest, InvalidFileCreatesNoObject) {
   const TempDir dir;
   const std::filesystem::path path = dir.Write("a.xml", XmlVif("<vif:USB_VID_SOP value=\"18d1\"/>"));
   EXPECT_EQ(RunTimeErrorOf([&] { CVendorInfoFile vif(path); }), path.string() + " is not a valid Vendor Info File.");
   EXPECT_THROW(CVendorInfoFile{path}, CVIFInvalidFile);
 }
 
-TEST(LoadingXmlTest, InvalidFileLeavesTheObjectAsItWas) {
+TEST(LoadingXmlTest, InvalidFileLeavesTheObjectUnchanged) {
   const TempDir dir;
   CVendorInfoFile vif(dir.Write("a.xml", Component(7)));
   const std::filesystem::path path = dir.Write("b.xml", "<VIF/>");
@@ -96,7 +96,7 @@ TEST(LoadingXmlTest, InvalidFirstFileLeavesTheObjectWithoutAName) {
   EXPECT_STREQ(vif.FileName(), L"");
 }
 
-TEST(LoadingXmlTest, FailureInAComponentLeavesWhatCameBefore) {
+TEST(LoadingXmlTest, FailureInAComponentKeepsWhatCameBefore) {
   const TempDir dir;
   CVendorInfoFile vif(dir.Write("a.xml", Component(7)));
   const std::filesystem::path path =

@@ -1,5 +1,5 @@
-// Queries by location compared with `CVIFField::Match`, over generated fields and queries: each of the two holds the
-// same rule in its own way.
+// Queries by location against `CVIFField::Match`, over generated fields and queries: each implements the same rule in
+// its own way.
 #include "VendorInfoFile.h"
 #include "support/FieldText.h"
 #include "support/Random.h"
@@ -26,7 +26,7 @@ constexpr VifIndexNumber kAny = CVIFField::INDEX_NOT_SPECIFIED;
 
 class CGenerator {
  public:
-  /// So few locations that a field often has one twice, and some that no file has.
+  /// From so few locations that a field often has one twice, and including some that no file has.
   VifIndex Slot() {
     using Limits = std::numeric_limits<std::int32_t>;
     constexpr EVifLocation locations[] = {eVifLocUnset,
@@ -47,7 +47,7 @@ class CGenerator {
 
   Slots AnySlots() { return {Slot(), Slot(), Slot()}; }
 
-  /// Slots that many fields pass: some of them unused, with any number.
+  /// Slots that many fields match: some of them unused, with any number.
   Slots QuerySlots() {
     Slots slots = AnySlots();
     for (VifIndex& slot : slots) {
@@ -81,7 +81,7 @@ std::vector<CVIFField> Matching(const std::vector<CVIFField>& fields, const char
   return matching;
 }
 
-/// \param pattern one that fits every field's name
+/// \param pattern matches every field's name
 void ExpectAgreementWithMatch(const char* pattern) {
   SCOPED_TRACE(testsupport::SeedMessage());
   CGenerator generator;
@@ -103,7 +103,7 @@ TEST(LocationQueryDifferential, AgreesWithMatchOnAnyName) { ExpectAgreementWithM
 
 TEST(LocationQueryDifferential, AgreesWithMatchOnAName) { ExpectAgreementWithMatch("name"); }
 
-TEST(LocationQueryDifferential, TakesTheFirstOfTwoSlotsWithOneLocation) {
+TEST(LocationQueryDifferential, UsesTheFirstOfTwoSlotsWithOneLocation) {
   const EVifLocation odd = static_cast<EVifLocation>(70);
   const VifIndex unused = CVIFField::UNSPECIFIED_INDEX;
   const CVendorInfoFile vif(

@@ -1,5 +1,5 @@
-// Queries by plain names compared with `CVIFField::Match` and with `std::regex`, over generated names and in several
-// locales. The lists are long, because queries search those in a way of their own.
+// Queries by plain names against `CVIFField::Match` and `std::regex`, over generated names and in several locales. The
+// lists are long, because queries search long lists differently.
 #include "VendorInfoFile.h"
 #include "support/FieldText.h"
 #include "support/Latin1Locale.h"
@@ -30,7 +30,7 @@ constexpr VifIndex kUnused = CVIFField::UNSPECIFIED_INDEX;
 constexpr Slots kAnywhere = {kUnused, kUnused, kUnused};
 constexpr std::size_t kManyFields = 3000;
 
-/// Generates names that are hard to tell apart.
+/// Generates names that are hard to distinguish.
 class CGenerator {
  public:
   /// Parts of names, often the beginning or the end of another, in any letter case and with any bytes.
@@ -56,7 +56,7 @@ class CGenerator {
     return fields;
   }
 
-  /// The name of one of the fields, often in other letter case, or any other name.
+  /// The name of one of the fields, often in different letter case, or any other name.
   std::string Pattern(const std::vector<CVIFField>& fields) {
     std::string pattern = RandomBelow(m_random, 5) == 0 ? Name() : fields[RandomBelow(m_random, fields.size())].Name();
     for (char& c : pattern) {
@@ -77,7 +77,7 @@ class CGenerator {
   std::mt19937_64 m_random = testsupport::SeededGenerator();
 };
 
-/// The fields that pass, according to `Match`, which must agree with `std::regex`.
+/// The fields that match according to `Match`, which must agree with `std::regex`.
 std::vector<CVIFField> Matching(const std::vector<CVIFField>& fields, const std::string& pattern, const Slots& query) {
   const std::regex expression(pattern, std::regex_constants::ECMAScript | std::regex_constants::icase);
   std::vector<CVIFField> matching;
@@ -115,7 +115,7 @@ TEST(NameQueryDifferential, AgreesInAUtf8Locale) {
   try {
     utf8 = std::locale("C.UTF-8");
   } catch (const std::runtime_error&) {
-    GTEST_SKIP() << "There is no such locale here.";
+    GTEST_SKIP() << "this system has no such locale";
   }
   const CScopedGlobalLocale scoped(utf8);
   ExpectAgreement();
@@ -126,7 +126,7 @@ TEST(NameQueryDifferential, AgreesInALatin1Locale) {
   ExpectAgreement();
 }
 
-TEST(NameQueryDifferential, AgreesInALocaleOfOddLetterCase) {
+TEST(NameQueryDifferential, AgreesInALocaleWithOddLetterCase) {
   const CScopedGlobalLocale odd(testsupport::OddCaseLocale());
   ExpectAgreement();
 }
@@ -143,7 +143,7 @@ TEST(NameQueryDifferential, TakesTheLetterCaseFromTheLocaleOfTheQuery) {
   EXPECT_EQ(vif.Count("name_1", kAnywhere), 0U);
 }
 
-TEST(NameQueryDifferential, TellsAllNamesThatBeginAlikeApart) {
+TEST(NameQueryDifferential, DistinguishesAllNamesThatBeginAlike) {
   std::vector<CVIFField> fields;
   for (std::size_t i = 0; i < kManyFields; ++i) {
     fields.emplace_back(true, "Src_PDO_Field_" + std::to_string(i), std::to_string(i), kUnused, kUnused, kUnused);

@@ -70,7 +70,7 @@ CVendorInfoFile Charger() {
                           Field("Src_PDO_Voltage", "400", Component(1), SrcPdo(1))});
 }
 
-/// An object with `componentCount` components that have no fields of their own, and these fields.
+/// An object with `componentCount` components without fields of their own, and these fields.
 CVendorInfoFile WithComponents(std::size_t componentCount, const std::vector<CVIFField>& fields) {
   const TempDir dir;
   CVendorInfoFile vif;
@@ -81,14 +81,14 @@ CVendorInfoFile WithComponents(std::size_t componentCount, const std::vector<CVI
 
 std::vector<std::string> Texts(const VifFieldList& list) { return FieldTexts(*list); }
 
-/// The values of the fields, which tell them apart in most tests.
+/// The values of the fields, which identify them in most tests.
 std::vector<std::string> Values(const VifFieldList& list) {
   std::vector<std::string> values;
   for (const CVIFField& field : *list) values.emplace_back(field.Value());
   return values;
 }
 
-/// The outcomes of a query for any name and the slots, in every way to say "any name" with that query.
+/// The outcomes of a query for any name and the slots, in every way that the query can say "any name".
 template <typename Ask>
 std::vector<std::string> OutcomesForAnyName(const Slots& slots, const Ask& ask) {
   const auto ofPattern = [&](const auto& pattern) {
@@ -134,7 +134,7 @@ TEST(Count, ForTheEmptyQueryIsTheNumberOfFields) {
   EXPECT_THAT(OutcomesForAnyName(kAnywhere, Count(vif)), Each("7"));
 }
 
-TEST(Count, TakesALiteralNull) {
+TEST(Count, AcceptsALiteralNull) {
   EXPECT_EQ(Charger().Count(nullptr, kAnywhere), 7U);
   EXPECT_EQ(Charger().Count(nullptr, Component(1), kUnused, kUnused), 1U);
 }
@@ -164,24 +164,24 @@ TEST(GetFields, WithoutAMatchIsAnEmptyList) {
   EXPECT_THAT(OutcomesForAnyName({Component(7), kUnused, kUnused}, GetFields(vif)), Each(""));
 }
 
-TEST(GetFields, WithoutArgumentsGivesAllFieldsInTheOrderOfTheFile) {
+TEST(GetFields, WithoutArgumentsReturnsAllFieldsInTheOrderOfTheFile) {
   EXPECT_THAT(Texts(Charger().GetFields()),
               ElementsAre("VIF_Specification=3", "Port_Label=0 @6.0", "Src_PDO_Voltage=100 @6.0 @7.1",
                           "Src_PDO_Voltage=180 @6.0 @7.2", "Src_PDO_Voltage=240 @6.0 @7.3",
                           "Snk_PDO_Voltage=100 @6.0 @8.1", "Src_PDO_Voltage=400 @6.1 @7.1"));
 }
 
-TEST(GetFields, ForTheEmptyQueryGivesAllFields) {
+TEST(GetFields, ForTheEmptyQueryReturnsAllFields) {
   const CVendorInfoFile vif = Charger();
   EXPECT_THAT(OutcomesForAnyName(kAnywhere, GetFields(vif)), Each(OutcomeOf([&] { return vif.GetFields(); })));
 }
 
-TEST(GetFields, TakesALiteralNull) {
+TEST(GetFields, AcceptsALiteralNull) {
   EXPECT_THAT(Values(Charger().GetFields(nullptr, SrcPdo(1), kUnused, kUnused)), ElementsAre("100", "400"));
   EXPECT_THAT(Values(Charger().GetFields(nullptr, Slots{SrcPdo(1), kUnused, kUnused})), ElementsAre("100", "400"));
 }
 
-TEST(GetFields, GivesTheMatchingFieldsInTheOrderOfTheFileInEveryForm) {
+TEST(GetFields, ReturnsTheMatchingFieldsInTheOrderOfTheFileInEveryForm) {
   const CVendorInfoFile vif = Charger();
   EXPECT_THAT(OutcomesOfAllForms("Src_PDO_Voltage", {SrcPdo(1), kUnused, kUnused}, GetFields(vif)),
               Each("[Src_PDO_Voltage=100 @6.0 @7.1][Src_PDO_Voltage=400 @6.1 @7.1]"));
@@ -202,19 +202,19 @@ TEST(GetFields, ComparesSlotsByLocationAndNotByPosition) {
   }
 }
 
-TEST(GetFields, TakesASlotWithoutNumberForAnyNumber) {
+TEST(GetFields, TreatsASlotWithoutNumberAsAnyNumber) {
   const CVendorInfoFile vif = Charger();
   EXPECT_THAT(Values(vif.GetFields(nullptr, SrcPdo(kAny), kUnused, kUnused)), ElementsAre("100", "180", "240", "400"));
   EXPECT_THAT(Values(vif.GetFields(nullptr, Component(kAny), SnkPdo(kAny), kUnused)), ElementsAre("100"));
   EXPECT_EQ(vif.Count(nullptr, Component(kAny), kUnused, kUnused), 6U);
 }
 
-TEST(GetFields, TakesASlotWithoutLocationForAWildcardWhateverItsNumber) {
+TEST(GetFields, TreatsASlotWithoutLocationAsAWildcardWhateverItsNumber) {
   const VifIndex wildcard = {eVifLocUnset, 5};
   EXPECT_EQ(Charger().GetFields(nullptr, wildcard, wildcard, wildcard)->size(), 7U);
 }
 
-TEST(GetFields, FindsAnEmptyNameByPatternsThatFitIt) {
+TEST(GetFields, FindsAnEmptyNameByPatternsThatMatchIt) {
   const CVendorInfoFile vif(std::vector<CVIFField>{Field("", "nameless"), Field("a", "named")});
   EXPECT_THAT(Values(vif.GetFields("a*", kAnywhere)), ElementsAre("nameless", "named"));
   EXPECT_THAT(Values(vif.GetFields("^$", kAnywhere)), ElementsAre("nameless"));
@@ -278,7 +278,7 @@ TEST(QueryResults, CopyEveryMemberOfAField) {
   EXPECT_EQ(vif.GetFields("Number", kAnywhere)->front().GetULongNumericValue(), 4294967301U);
 }
 
-TEST(QueryResults, TravelWithTheFunctionThatReleasesThem) {
+TEST(QueryResults, CarryTheirDeleter) {
   VifFieldList list = Charger().GetFields();
   const VifFieldList::deleter_type release = list.get_deleter();
   ASSERT_TRUE(release);
@@ -309,7 +309,7 @@ TEST(QueryResults, HoldAListInEveryCase) {
 
 // GetUniqueField
 
-TEST(GetUniqueField, GivesTheOneMatchingFieldInEveryForm) {
+TEST(GetUniqueField, ReturnsTheOneMatchingFieldInEveryForm) {
   const CVendorInfoFile vif = Charger();
   EXPECT_THAT(OutcomesOfAllForms("Port_Label", kAnywhere, GetUniqueField(vif)), Each("Port_Label=0 @6.0"));
   EXPECT_THAT(OutcomesOfAllForms("s.*", {SrcPdo(3), kUnused, kUnused}, GetUniqueField(vif)),
@@ -318,7 +318,7 @@ TEST(GetUniqueField, GivesTheOneMatchingFieldInEveryForm) {
               Each("Src_PDO_Voltage=400 @6.1 @7.1"));
 }
 
-TEST(GetUniqueField, TakesALiteralNull) {
+TEST(GetUniqueField, AcceptsALiteralNull) {
   EXPECT_EQ(FieldText(Charger().GetUniqueField(nullptr, SnkPdo(1), kUnused, kUnused)), "Snk_PDO_Voltage=100 @6.0 @8.1");
   EXPECT_EQ(FieldText(Charger().GetUniqueField(nullptr, Slots{SnkPdo(1), kUnused, kUnused})),
             "Snk_PDO_Voltage=100 @6.0 @8.1");
@@ -376,7 +376,7 @@ TEST(GetUniqueField, PrintsANullPatternAsTheHostDoes) {
 
 // GetSingleField
 
-TEST(GetSingleField, GivesTheOneMatchingFieldInEveryForm) {
+TEST(GetSingleField, ReturnsTheOneMatchingFieldInEveryForm) {
   const CVendorInfoFile vif = Charger();
   EXPECT_THAT(OutcomesOfAllForms("Port_Label", kAnywhere, GetSingleField(vif)), Each("true Port_Label=0 @6.0"));
   EXPECT_THAT(OutcomesOfAllForms("s.*", {SrcPdo(3), kUnused, kUnused}, GetSingleField(vif)),
@@ -385,12 +385,12 @@ TEST(GetSingleField, GivesTheOneMatchingFieldInEveryForm) {
               Each("true Src_PDO_Voltage=400 @6.1 @7.1"));
 }
 
-TEST(GetSingleField, TakesALiteralNull) {
+TEST(GetSingleField, AcceptsALiteralNull) {
   EXPECT_TRUE(std::get<bool>(Charger().GetSingleField(nullptr, SnkPdo(1), kUnused, kUnused)));
   EXPECT_FALSE(std::get<bool>(Charger().GetSingleField(nullptr, Slots{SnkPdo(2), kUnused, kUnused})));
 }
 
-TEST(GetSingleField, GivesTheEmptyFieldWithoutAMatchInEveryForm) {
+TEST(GetSingleField, ReturnsTheEmptyFieldWithoutAMatchInEveryForm) {
   const CVendorInfoFile vif = Charger();
   EXPECT_THAT(OutcomesOfAllForms("None", kAnywhere, GetSingleField(vif)), Each("false ="));
   EXPECT_THAT(OutcomesForAnyName({Component(9), kUnused, kUnused}, GetSingleField(vif)), Each("false ="));
@@ -398,7 +398,7 @@ TEST(GetSingleField, GivesTheEmptyFieldWithoutAMatchInEveryForm) {
   EXPECT_THAT(OutcomesOfAllForms(".*", kAnywhere, GetSingleField(none)), Each("false ="));
 }
 
-TEST(GetSingleField, GivesADefaultFieldWithoutAMatch) {
+TEST(GetSingleField, ReturnsADefaultFieldWithoutAMatch) {
   const auto [field, found] = Charger().GetSingleField("None", kAnywhere);
   EXPECT_FALSE(found);
   EXPECT_STREQ(field.Name(), "");
@@ -424,9 +424,9 @@ TEST(GetSingleField, PrintsAnAbsentPatternAsGetUniqueFieldDoes) {
               Each(HasSubstr("7 fields in \"this VIF\" matched with \"")));
 }
 
-// What messages call the object and the pattern.
+// How messages name the object and the pattern.
 
-/// Expects the messages of both failures on an object loaded from a file of that name.
+/// Expects both failures on an object loaded from a file of that name to name the file.
 void ExpectMessagesToName(const std::filesystem::path& name) {
   const TempDir dir;
   const std::filesystem::path path = dir.Write(name, "Src_PDO_Voltage1: 1\nSrc_PDO_Voltage2: 2\n");
@@ -483,7 +483,7 @@ TEST(QueryMessages, QuoteAPatternOfAnyLength) {
             "Couldn't find field in \"this VIF\" that matched with \"" + pattern + "\".");
 }
 
-TEST(QueryMessages, BelongToTheExceptionAndNotToTheNextFailure) {
+TEST(QueryMessages, AreKeptWhenAnotherFailureFollows) {
   const CVendorInfoFile vif = Charger();
   try {
     vif.GetUniqueField("First", kAnywhere);
@@ -515,7 +515,7 @@ TEST(GetFirstFields, IsEmptyWithAComponentCountOfZeroEvenIfFieldsHaveComponents)
   EXPECT_THAT(OutcomesOfFirstForms(".*", kUnused, kUnused, GetFirstFields(vif)), Each(""));
 }
 
-TEST(GetFirstFields, GivesTheFieldsOfTheLowestComponentThatHasAny) {
+TEST(GetFirstFields, ReturnsTheFieldsOfTheLowestComponentThatHasAny) {
   const CVendorInfoFile vif = WithComponents(2, {Field("a", "1", Component(1)), Field("a", "2", Component(0)),
                                                  Field("a", "3", Component(1)), Field("a", "4", Component(0))});
   EXPECT_THAT(Values(vif.GetFirstFields("a", kUnused, kUnused)), ElementsAre("2", "4"));
@@ -524,7 +524,7 @@ TEST(GetFirstFields, GivesTheFieldsOfTheLowestComponentThatHasAny) {
   EXPECT_THAT(FirstOutcomesForAnyName(kUnused, kUnused, GetFirstFields(vif)), Each("[a=2 @6.0][a=4 @6.0]"));
 }
 
-TEST(GetFirstFields, TakesALiteralNull) {
+TEST(GetFirstFields, AcceptsALiteralNull) {
   const CVendorInfoFile vif = WithComponents(1, {Field("a", "1", Component(0))});
   EXPECT_THAT(Values(vif.GetFirstFields(nullptr, kUnused, kUnused)), ElementsAre("1"));
 }
@@ -563,7 +563,7 @@ TEST(GetFirstFields, DoesNotSearchTheLastLoadedComponent) {
   EXPECT_THAT(Values(vif.GetFirstFields("Src_PDO_Voltage", kUnused, kUnused)), ElementsAre("100"));
 }
 
-TEST(GetFirstFields, GoesOnToTheNextComponentUntilOneMatches) {
+TEST(GetFirstFields, TriesTheNextComponentUntilOneMatches) {
   const CVendorInfoFile vif =
       WithComponents(4, {Field("a", "0", Component(0)), Field("b", "1", Component(1)),
                          Field("a", "2", Component(2), SrcPdo(1)), Field("a", "3", Component(3), SrcPdo(1))});
@@ -574,7 +574,7 @@ TEST(GetFirstFields, GoesOnToTheNextComponentUntilOneMatches) {
   EXPECT_THAT(*vif.GetFirstFields("b", SrcPdo(1), kUnused), IsEmpty());
 }
 
-TEST(GetFirstFields, NeverGivesFieldsOutsideAnyComponent) {
+TEST(GetFirstFields, NeverReturnsFieldsOutsideAnyComponent) {
   const CVendorInfoFile vif = WithComponents(
       3, {Field("a", "1"), Field("a", "2", Product(0)), Field("a", "3", SrcPdo(0)), Field("a", "4", Component(kAny))});
   EXPECT_THAT(*vif.GetFirstFields("a", kUnused, kUnused), IsEmpty());
@@ -587,20 +587,20 @@ TEST(GetFirstFields, FindsTheComponentInAnySlot) {
   EXPECT_THAT(Values(vif.GetFirstFields("a", SrcPdo(1), kUnused)), ElementsAre("2"));
 }
 
-TEST(GetFirstFields, LooksAtTheFirstOfSeveralComponentSlots) {
+TEST(GetFirstFields, UsesTheFirstOfSeveralComponentSlots) {
   const CVendorInfoFile vif =
       WithComponents(2, {Field("a", "1", Component(1), Component(0)), Field("a", "2", Component(9), Component(0))});
   EXPECT_THAT(Values(vif.GetFirstFields("a", kUnused, kUnused)), ElementsAre("1"));
 }
 
-TEST(GetFirstFields, TakesAComponentOfTheCallersForAFurtherCondition) {
+TEST(GetFirstFields, TreatsTheCallersComponentAsAFurtherCondition) {
   const CVendorInfoFile vif = WithComponents(3, {Field("a", "0", Component(0)), Field("a", "1", Component(1))});
   EXPECT_THAT(Values(vif.GetFirstFields("a", Component(1), kUnused)), ElementsAre("1"));
   EXPECT_THAT(Values(vif.GetFirstFields("a", kUnused, Component(kAny))), ElementsAre("0"));
   EXPECT_THAT(*vif.GetFirstFields("a", Component(0), Component(1)), IsEmpty());
 }
 
-TEST(GetFirstFields, GivesCopiesThatOutliveTheObject) {
+TEST(GetFirstFields, ReturnsCopiesThatOutliveTheObject) {
   auto vif = std::make_optional<CVendorInfoFile>(WithComponents(1, {Field("a", "1", Component(0))}));
   const VifFieldList first = vif->GetFirstFields("a", kUnused, kUnused);
   const CVIFField unique = vif->GetFirstUniqueField("a", kUnused, kUnused);
@@ -613,7 +613,7 @@ TEST(GetFirstFields, GivesCopiesThatOutliveTheObject) {
 
 // GetFirstUniqueField
 
-TEST(GetFirstUniqueField, GivesTheOneFieldThatGetFirstFieldsFinds) {
+TEST(GetFirstUniqueField, ReturnsTheOneFieldThatGetFirstFieldsFinds) {
   const CVendorInfoFile vif =
       WithComponents(3, {Field("a", "2", Component(2)), Field("a", "1", Component(1)), Field("b", "3", Component(1))});
   EXPECT_THAT(OutcomesOfFirstForms("a", kUnused, kUnused, GetFirstUniqueField(vif)), Each("a=1 @6.1"));
@@ -640,7 +640,7 @@ TEST(GetFirstUniqueField, PrintsAnAbsentPatternInBothPlaces) {
               ElementsAre(null, null, empty, empty, empty));
 }
 
-TEST(GetFirstUniqueField, RaisesOutOfRangeWithoutAMatch) {
+TEST(GetFirstUniqueField, ThrowsOutOfRangeWithoutAMatch) {
   const std::string outOfRange = "std::out_of_range: invalid vector subscript";
   const CVendorInfoFile noComponents = Charger();
   const CVendorInfoFile twoComponents = WithComponents(2, {Field("a", "1", Component(2)), Field("a", "2")});
@@ -651,7 +651,7 @@ TEST(GetFirstUniqueField, RaisesOutOfRangeWithoutAMatch) {
   }
 }
 
-TEST(GetFirstUniqueField, RaisesNoExceptionOfTheHostWithoutAMatch) {
+TEST(GetFirstUniqueField, ThrowsNoHostExceptionWithoutAMatch) {
   try {
     Charger().GetFirstUniqueField("None", kUnused, kUnused);
     FAIL() << "no exception";
@@ -675,23 +675,23 @@ TEST(ComponentCount, IsTheNumberOfComponentsReadFromAllFiles) {
   EXPECT_EQ(vif.GetFields()->back().Index(eVifLocComponent), 2U);
 }
 
-TEST(ComponentCount, DoesNotLookAtFieldsThatAreAppended) {
+TEST(ComponentCount, IgnoresAppendedFields) {
   CVendorInfoFile vif = Charger();
   EXPECT_EQ(vif.ComponentCount(), 0U);
   vif.Append({Field("a", "1", Component(41))});
   EXPECT_EQ(vif.ComponentCount(), 0U);
 }
 
-TEST(ComponentCount, TravelsWithACopy) {
+TEST(ComponentCount, IsCopied) {
   const CVendorInfoFile vif = WithComponents(3, {});
   EXPECT_EQ(CVendorInfoFile(vif).ComponentCount(), 3U);
 }
 
-// The getters of groups. Every field's value says where it stands.
+// The getters of groups. Every field's value says where the field belongs.
 
 constexpr EVifLocation kInComponent[] = {eVifLocSrcPdo, eVifLocSnkPdo, eVifLocSopSvid, eVifLocCableSvid};
 
-/// Two components with fields of their own and two groups of every kind, their SVIDs with two modes; two products
+/// Two components, each with fields of its own and two groups of every kind, their SVIDs with two modes; two products
 /// with two routers with two endpoints; a field outside any group.
 CVendorInfoFile Groups() {
   std::vector<CVIFField> fields = {Field("Top", "top")};
@@ -727,7 +727,7 @@ CVendorInfoFile Groups() {
   return CVendorInfoFile(fields);
 }
 
-TEST(GetComponent, GivesAllFieldsOfTheComponentAndOfTheGroupsInIt) {
+TEST(GetComponent, ReturnsAllFieldsOfTheComponentAndOfTheGroupsInIt) {
   const CVendorInfoFile vif = Groups();
   const VifFieldList component = vif.GetComponent(2);
   EXPECT_THAT(Values(component), Each(testing::StartsWith("C2")));
@@ -736,25 +736,25 @@ TEST(GetComponent, GivesAllFieldsOfTheComponentAndOfTheGroupsInIt) {
   EXPECT_THAT(Values(Charger().GetComponent(0)), ElementsAre("0", "100", "180", "240", "100"));
 }
 
-TEST(GetComponent, GivesAllComponentsForAnyNumber) {
+TEST(GetComponent, ReturnsAllComponentsForAnyNumber) {
   const VifFieldList components = Groups().GetComponent(kAny);
   EXPECT_THAT(Values(components), Each(testing::StartsWith("C")));
   EXPECT_EQ(components->size(), 34U);
 }
 
-TEST(GetRouter, GivesTheRouterOfProductZeroWithItsEndpoints) {
+TEST(GetRouter, ReturnsTheRouterOfProductZeroWithItsEndpoints) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetRouter(0)), ElementsAre("P0 R0", "P0 R0 E1", "P0 R0 E2"));
   EXPECT_THAT(Values(vif.GetRouter(1)), ElementsAre("P0 R1", "P0 R1 E1", "P0 R1 E2"));
   EXPECT_THAT(Values(vif.GetRouter(2)), IsEmpty());
 }
 
-TEST(GetRouter, GivesAllRoutersOfProductZeroForAnyNumber) {
+TEST(GetRouter, ReturnsAllRoutersOfProductZeroForAnyNumber) {
   EXPECT_THAT(Values(Groups().GetRouter(kAny)),
               ElementsAre("P0 R0", "P0 R0 E1", "P0 R0 E2", "P0 R1", "P0 R1 E1", "P0 R1 E2"));
 }
 
-TEST(GetRouter, AsksForProductZero) {
+TEST(GetRouter, SearchesProductZeroOnly) {
   const CVendorInfoFile vif(std::vector<CVIFField>{Field("a", "other product", Product(1), Router(0)),
                                                    Field("a", "no product", Router(0)),
                                                    Field("a", "any product", Product(kAny), Router(0))});
@@ -762,7 +762,7 @@ TEST(GetRouter, AsksForProductZero) {
   EXPECT_THAT(Values(vif.GetRouter(kAny)), IsEmpty());
 }
 
-TEST(GetPcieEndpointIds, GivesTheEndpointOfARouterOfProductZero) {
+TEST(GetPcieEndpointIds, ReturnsTheEndpointOfARouterOfProductZero) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetPcieEndpointIds(0, 1)), ElementsAre("P0 R0 E1"));
   EXPECT_THAT(Values(vif.GetPcieEndpointIds(1, 2)), ElementsAre("P0 R1 E2"));
@@ -770,21 +770,21 @@ TEST(GetPcieEndpointIds, GivesTheEndpointOfARouterOfProductZero) {
   EXPECT_THAT(Values(vif.GetPcieEndpointIds(2, 1)), IsEmpty());
 }
 
-TEST(GetPcieEndpointIds, TakesAnyNumber) {
+TEST(GetPcieEndpointIds, AcceptsAnyNumber) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetPcieEndpointIds(0, kAny)), ElementsAre("P0 R0 E1", "P0 R0 E2"));
   EXPECT_THAT(Values(vif.GetPcieEndpointIds(kAny, 1)), ElementsAre("P0 R0 E1", "P0 R1 E1"));
   EXPECT_THAT(Values(vif.GetPcieEndpointIds(kAny, kAny)), ElementsAre("P0 R0 E1", "P0 R0 E2", "P0 R1 E1", "P0 R1 E2"));
 }
 
-TEST(GetPcieEndpointIds, AsksForProductZero) {
+TEST(GetPcieEndpointIds, SearchesProductZeroOnly) {
   const CVendorInfoFile vif(std::vector<CVIFField>{Field("a", "1", Product(1), Router(0), Endpoint(1)),
                                                    Field("a", "2", Router(0), Endpoint(1))});
   EXPECT_THAT(Values(vif.GetPcieEndpointIds(0, 1)), IsEmpty());
   EXPECT_THAT(Values(vif.GetPcieEndpointIds(kAny, kAny)), IsEmpty());
 }
 
-TEST(GetSrcPdo, GivesTheFieldsOfThePdo) {
+TEST(GetSrcPdo, ReturnsTheFieldsOfThePdo) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetSrcPdo(1, 2)), ElementsAre("C1 SrcPdo2"));
   EXPECT_THAT(Values(vif.GetSrcPdo(2, 1)), ElementsAre("C2 SrcPdo1"));
@@ -792,14 +792,14 @@ TEST(GetSrcPdo, GivesTheFieldsOfThePdo) {
   EXPECT_THAT(Values(vif.GetSrcPdo(3, 1)), IsEmpty());
 }
 
-TEST(GetSrcPdo, TakesAnyNumber) {
+TEST(GetSrcPdo, AcceptsAnyNumber) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetSrcPdo(kAny, 1)), ElementsAre("C1 SrcPdo1", "C2 SrcPdo1"));
   EXPECT_THAT(Values(vif.GetSrcPdo(2, kAny)), ElementsAre("C2 SrcPdo1", "C2 SrcPdo2"));
   EXPECT_THAT(Values(vif.GetSrcPdo(kAny, kAny)), ElementsAre("C1 SrcPdo1", "C1 SrcPdo2", "C2 SrcPdo1", "C2 SrcPdo2"));
 }
 
-TEST(GetSnkPdo, GivesTheFieldsOfThePdo) {
+TEST(GetSnkPdo, ReturnsTheFieldsOfThePdo) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetSnkPdo(1, 2)), ElementsAre("C1 SnkPdo2"));
   EXPECT_THAT(Values(vif.GetSnkPdo(2, 1)), ElementsAre("C2 SnkPdo1"));
@@ -807,21 +807,21 @@ TEST(GetSnkPdo, GivesTheFieldsOfThePdo) {
   EXPECT_THAT(Values(vif.GetSnkPdo(3, 1)), IsEmpty());
 }
 
-TEST(GetSnkPdo, TakesAnyNumber) {
+TEST(GetSnkPdo, AcceptsAnyNumber) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetSnkPdo(kAny, 2)), ElementsAre("C1 SnkPdo2", "C2 SnkPdo2"));
   EXPECT_THAT(Values(vif.GetSnkPdo(1, kAny)), ElementsAre("C1 SnkPdo1", "C1 SnkPdo2"));
   EXPECT_THAT(Values(vif.GetSnkPdo(kAny, kAny)), ElementsAre("C1 SnkPdo1", "C1 SnkPdo2", "C2 SnkPdo1", "C2 SnkPdo2"));
 }
 
-TEST(GetSopSvid, GivesTheFieldsOfTheSvidAndItsModes) {
+TEST(GetSopSvid, ReturnsTheFieldsOfTheSvidAndItsModes) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetSopSvid(1, 2)), ElementsAre("C1 SopSvid2", "C1 SopSvid2 Mode1", "C1 SopSvid2 Mode2"));
   EXPECT_THAT(Values(vif.GetSopSvid(1, 3)), IsEmpty());
   EXPECT_THAT(Values(vif.GetSopSvid(3, 1)), IsEmpty());
 }
 
-TEST(GetSopSvid, TakesAnyNumber) {
+TEST(GetSopSvid, AcceptsAnyNumber) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetSopSvid(kAny, 1)), ElementsAre("C1 SopSvid1", "C1 SopSvid1 Mode1", "C1 SopSvid1 Mode2",
                                                            "C2 SopSvid1", "C2 SopSvid1 Mode1", "C2 SopSvid1 Mode2"));
@@ -830,7 +830,7 @@ TEST(GetSopSvid, TakesAnyNumber) {
   EXPECT_EQ(vif.GetSopSvid(kAny, kAny)->size(), 12U);
 }
 
-TEST(GetSopSvidMode, GivesTheFieldsOfTheMode) {
+TEST(GetSopSvidMode, ReturnsTheFieldsOfTheMode) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetSopSvidMode(1, 2, 1)), ElementsAre("C1 SopSvid2 Mode1"));
   EXPECT_THAT(Values(vif.GetSopSvidMode(2, 1, 2)), ElementsAre("C2 SopSvid1 Mode2"));
@@ -839,7 +839,7 @@ TEST(GetSopSvidMode, GivesTheFieldsOfTheMode) {
   EXPECT_THAT(Values(vif.GetSopSvidMode(3, 2, 1)), IsEmpty());
 }
 
-TEST(GetSopSvidMode, TakesAnyNumber) {
+TEST(GetSopSvidMode, AcceptsAnyNumber) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetSopSvidMode(kAny, 2, 1)), ElementsAre("C1 SopSvid2 Mode1", "C2 SopSvid2 Mode1"));
   EXPECT_THAT(Values(vif.GetSopSvidMode(1, kAny, 2)), ElementsAre("C1 SopSvid1 Mode2", "C1 SopSvid2 Mode2"));
@@ -847,7 +847,7 @@ TEST(GetSopSvidMode, TakesAnyNumber) {
   EXPECT_EQ(vif.GetSopSvidMode(kAny, kAny, kAny)->size(), 8U);
 }
 
-TEST(GetCableSvid, GivesTheFieldsOfTheSvidAndItsModes) {
+TEST(GetCableSvid, ReturnsTheFieldsOfTheSvidAndItsModes) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetCableSvid(2, 1)),
               ElementsAre("C2 CableSvid1", "C2 CableSvid1 Mode1", "C2 CableSvid1 Mode2"));
@@ -855,7 +855,7 @@ TEST(GetCableSvid, GivesTheFieldsOfTheSvidAndItsModes) {
   EXPECT_THAT(Values(vif.GetCableSvid(3, 1)), IsEmpty());
 }
 
-TEST(GetCableSvid, TakesAnyNumber) {
+TEST(GetCableSvid, AcceptsAnyNumber) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetCableSvid(kAny, 2)),
               ElementsAre("C1 CableSvid2", "C1 CableSvid2 Mode1", "C1 CableSvid2 Mode2", "C2 CableSvid2",
@@ -866,7 +866,7 @@ TEST(GetCableSvid, TakesAnyNumber) {
   EXPECT_EQ(vif.GetCableSvid(kAny, kAny)->size(), 12U);
 }
 
-TEST(GetCableSvidMode, GivesTheFieldsOfTheMode) {
+TEST(GetCableSvidMode, ReturnsTheFieldsOfTheMode) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetCableSvidMode(1, 2, 1)), ElementsAre("C1 CableSvid2 Mode1"));
   EXPECT_THAT(Values(vif.GetCableSvidMode(2, 1, 2)), ElementsAre("C2 CableSvid1 Mode2"));
@@ -875,7 +875,7 @@ TEST(GetCableSvidMode, GivesTheFieldsOfTheMode) {
   EXPECT_THAT(Values(vif.GetCableSvidMode(3, 2, 1)), IsEmpty());
 }
 
-TEST(GetCableSvidMode, TakesAnyNumber) {
+TEST(GetCableSvidMode, AcceptsAnyNumber) {
   const CVendorInfoFile vif = Groups();
   EXPECT_THAT(Values(vif.GetCableSvidMode(kAny, 1, 2)), ElementsAre("C1 CableSvid1 Mode2", "C2 CableSvid1 Mode2"));
   EXPECT_THAT(Values(vif.GetCableSvidMode(2, kAny, 1)), ElementsAre("C2 CableSvid1 Mode1", "C2 CableSvid2 Mode1"));
@@ -893,7 +893,7 @@ TEST(GroupGetters, ComparesAllBitsOfANumber) {
 
 // Invalid patterns
 
-/// Every query with a pattern and, where it takes three slots, the given ones; the first queries get two of them.
+/// Every query with a pattern and the given three slots; GetFirstFields and GetFirstUniqueField get the last two.
 std::vector<std::string> OutcomesOfAllQueries(const CVendorInfoFile& vif, const std::string& pattern,
                                               const Slots& slots) {
   std::vector<std::string> all;
@@ -914,7 +914,7 @@ std::string ErrorOf(const std::string& pattern) {
   });
 }
 
-TEST(InvalidPattern, RaisesItsErrorInEveryQueryWhenAFieldsLocationsPass) {
+TEST(InvalidPattern, ThrowsInEveryQueryWhenAFieldsLocationsMatch) {
   const CVendorInfoFile vif = WithComponents(1, {Field("a", "1", Component(0), SrcPdo(1))});
   for (const char* pattern : {"(", ")", "[", "[b-a]", "*", "a{", "a{2,1}", "\\", "(?", "[[:none:]]"}) {
     const std::string error = ErrorOf(pattern);
@@ -924,7 +924,7 @@ TEST(InvalidPattern, RaisesItsErrorInEveryQueryWhenAFieldsLocationsPass) {
   }
 }
 
-TEST(InvalidPattern, IsNotLookedAtInAnyQueryWhenNoFieldsLocationsPass) {
+TEST(InvalidPattern, IsIgnoredInEveryQueryWhenNoFieldsLocationsMatch) {
   const CVendorInfoFile vif = WithComponents(1, {Field("a", "1", Component(0), SrcPdo(1)), Field("b", "2")});
   const Slots elsewhere = {Component(0), SrcPdo(2), kUnused};
   const auto noSuchFieldOf = [&](const char* pattern) {
@@ -940,7 +940,7 @@ TEST(InvalidPattern, IsNotLookedAtInAnyQueryWhenNoFieldsLocationsPass) {
               Each("std::out_of_range: invalid vector subscript"));
 }
 
-TEST(InvalidPattern, IsNotLookedAtInAnEmptyObject) {
+TEST(InvalidPattern, IsIgnoredInAnEmptyObject) {
   const CVendorInfoFile vif;
   EXPECT_EQ(vif.Count("(", kAnywhere), 0U);
   EXPECT_THAT(*vif.GetFields("(", kAnywhere), IsEmpty());
@@ -948,19 +948,19 @@ TEST(InvalidPattern, IsNotLookedAtInAnEmptyObject) {
   EXPECT_FALSE(std::get<bool>(vif.GetSingleField("(", kAnywhere)));
 }
 
-TEST(InvalidPattern, IsNotLookedAtInComponentsThatAreNotSearched) {
+TEST(InvalidPattern, IsIgnoredInComponentsThatAreNotSearched) {
   const CVendorInfoFile vif = WithComponents(1, {Field("a", "1", Component(1)), Field("a", "2")});
   EXPECT_THAT(OutcomesOfFirstForms("(", kUnused, kUnused, GetFirstFields(vif)), Each(""));
   const CVendorInfoFile searched = WithComponents(2, {Field("a", "1", Component(1)), Field("a", "2")});
   EXPECT_THAT(OutcomesOfFirstForms("(", kUnused, kUnused, GetFirstFields(searched)), Each(ErrorOf("(")));
 }
 
-TEST(InvalidPattern, RaisesItsErrorAtALaterFieldToo) {
+TEST(InvalidPattern, ThrowsAtALaterFieldToo) {
   const CVendorInfoFile vif(std::vector<CVIFField>{Field("a", "1"), Field("a", "2"), Field("a", "3", Component(1))});
   EXPECT_THAT(OutcomesOfAllForms("[", {Component(kAny), kUnused, kUnused}, GetFields(vif)), Each(ErrorOf("[")));
 }
 
-TEST(InvalidPattern, LeavesTheObjectAsItWas) {
+TEST(InvalidPattern, LeavesTheObjectUnchanged) {
   const CVendorInfoFile vif = Charger();
   EXPECT_THROW(vif.GetFields("(", kAnywhere), std::regex_error);
   EXPECT_EQ(Texts(vif.GetFields()), Texts(Charger().GetFields()));
@@ -969,7 +969,7 @@ TEST(InvalidPattern, LeavesTheObjectAsItWas) {
 
 // Long names
 
-TEST(LongName, EndsInTheAnswerOrTheErrorOfTheExpression) {
+TEST(LongName, IsAnsweredOrThrowsTheErrorOfTheExpression) {
   const CVendorInfoFile vif(
       std::vector<CVIFField>{Field(std::string(200'000, 'a'), "1"), Field("x", "2"), Field("b", "3")});
   const auto isRegexErrorOr = [](const char* answer) {
@@ -1012,7 +1012,7 @@ TEST(Queries, LeaveTheObjectUnchanged) {
   EXPECT_EQ(vif.ComponentCount(), 2U);
 }
 
-TEST(Queries, AnswerTheSameWhenTheyAreAskedAgain) {
+TEST(Queries, AnswerTheSameWhenRepeated) {
   const CVendorInfoFile vif = WithComponents(2, {Field("a", "1", Component(0)), Field("b", "2", Component(1))});
   for (const char* pattern : {"", "a", "b", ".*", "None", "("}) {
     EXPECT_EQ(OutcomesOfAllQueries(vif, pattern, kAnywhere), OutcomesOfAllQueries(vif, pattern, kAnywhere)) << pattern;
@@ -1027,7 +1027,7 @@ TEST(Queries, SeeFieldsThatAreAppendedLater) {
   EXPECT_STREQ(vif.GetComponent(0)->back().Name(), "Late");
 }
 
-TEST(Queries, TakeAMovedFromObjectForAnEmptyOne) {
+TEST(Queries, TreatAMovedFromObjectAsEmpty) {
   CVendorInfoFile source = WithComponents(2, {Field("a", "1", Component(0))});
   const CVendorInfoFile target(std::move(source));
   // NOLINTBEGIN(bugprone-use-after-move,clang-analyzer-cplusplus.Move): a moved-from object is an empty one.

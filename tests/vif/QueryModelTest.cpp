@@ -1,4 +1,4 @@
-// Every query compared with a slow and obvious model of it, over generated objects and queries.
+// Every query against a slow and obvious model of it, over generated objects and queries.
 #include "QueryOutcome.h"
 #include "support/Random.h"
 #include "support/TempDir.h"
@@ -31,7 +31,8 @@ constexpr VifIndex kUnused = CVIFField::UNSPECIFIED_INDEX;
 constexpr VifIndexNumber kAny = CVIFField::INDEX_NOT_SPECIFIED;
 constexpr const char* kAnyName = nullptr;
 
-/// The queries, word for word: every field is asked with `CVIFField::Match`, and every component is a pass of its own.
+/// The queries by their definition: every field goes through `CVIFField::Match`, and every component is a separate
+/// pass.
 class CQueryModel {
  public:
   CQueryModel(std::vector<CVIFField> fields, std::uint32_t componentCount, std::string where)
@@ -92,7 +93,7 @@ class CQueryModel {
   std::string m_where;
 };
 
-/// A name pattern, where nothing stands for a null one, and three slots.
+/// A name pattern, where no value stands for null, and three slots.
 struct Query {
   std::optional<std::string> pattern;
   Slots slots;
@@ -112,7 +113,7 @@ std::string Shown(const Query& query) {
   return text;
 }
 
-/// The fields' texts, of long ones only the end.
+/// The fields' texts, shortened to the end if long.
 std::string Shown(const CVendorInfoFile& vif) {
   constexpr std::size_t longest = 80;
   std::string text = std::to_string(vif.ComponentCount()) + " components, fields:";
@@ -123,7 +124,7 @@ std::string Shown(const CVendorInfoFile& vif) {
   return text;
 }
 
-/// Asks a query in all its forms. The slots of the first queries are the query's last two.
+/// Asks a query in all its forms. Those that take two slots get the last two.
 struct AllForms {
   template <typename Ask>
   static std::vector<std::string> Outcomes(const Query& query, const Ask& ask) {
@@ -177,7 +178,7 @@ void ExpectAgreement(const Subject& subject, const Query& query) {
               all([&] { return model.GetFirstUniqueField(pattern, slots[1], slots[2]); }));
 }
 
-/// The group getters with these three numbers, of which most take fewer.
+/// The group getters with these three numbers; most take fewer.
 void ExpectAgreementOfGetters(const Subject& subject, VifIndexNumber first, VifIndexNumber second,
                               VifIndexNumber third) {
   const CVendorInfoFile& vif = subject.vif;
@@ -208,7 +209,7 @@ constexpr const char* kNames[] = {
     "Src_PDO_Voltage", "src_pdo_VOLTAGE", "Src_PDO", "Snk_PDO_Voltage", "a", "A", "aa", "ab", "", "a.b",
     "$Vendor_Name",    "Ger\xC3\xA4t"};
 
-// Plain, expressions, and some that are none.
+// Plain names, expressions, and invalid ones.
 constexpr const char* kPatterns[] = {"",
                                      "Src_PDO_Voltage",
                                      "SRC_pdo_voltage",
@@ -250,7 +251,7 @@ class CGenerator {
     return {locations[Below(std::size(locations))], Number()};
   }
 
-  /// Slots of any kind, or those of a group that a field may really stand in.
+  /// Slots of any kind, or those of a group that a field can really belong to.
   Slots AnySlots() {
     const VifIndex component = {eVifLocComponent, Number()};
     switch (Below(6)) {
@@ -262,7 +263,7 @@ class CGenerator {
     }
   }
 
-  /// Slots that fields are likely to pass.
+  /// Slots that fields are likely to match.
   Slots QuerySlots() {
     Slots slots = {kUnused, kUnused, kUnused};
     for (VifIndex& slot : slots) {
@@ -277,7 +278,7 @@ class CGenerator {
   }
 
   CVIFField Field(const std::string& name) {
-    // The description tells the field from all others.
+    // The description distinguishes the field from all others.
     return {OneIn(2), name, std::to_string(Below(100)), std::to_string(++m_lastField), AnySlots()};
   }
 
@@ -287,7 +288,7 @@ class CGenerator {
     return fields;
   }
 
-  /// An object with these fields and up to four components that have none, or no file at all.
+  /// An object with these fields and up to four components without fields, or no file at all.
   Subject Object(const std::vector<CVIFField>& fields) {
     CVendorInfoFile vif;
     const std::string path = (m_dir.Path() / "empty.txt").string();
@@ -337,7 +338,7 @@ void ExpectAgreementWithDifficultName(const std::string& name, const std::vector
     fields.insert(fields.begin() + static_cast<std::ptrdiff_t>(generator.Below(fields.size())), difficult);
     const Subject subject = generator.Object(fields);
     for (const char* pattern : patterns) {
-      // The first object is asked for the field in any case.
+      // The first object is always asked about the field.
       const Query query = {pattern, object == 0 ? Slots{kUnused, kUnused, kUnused} : generator.QuerySlots()};
       const std::string outcome = OutcomeOf([&] { return subject.vif.Count(pattern, query.slots); });
       ++(outcome.starts_with("std::regex_error") ? raised : answered);
@@ -346,7 +347,7 @@ void ExpectAgreementWithDifficultName(const std::string& name, const std::vector
   }
   EXPECT_GT(answered, 0U);
 #if defined(__GLIBCXX__)
-  EXPECT_GT(raised, 0U);  // other standard libraries may be up to these names
+  EXPECT_GT(raised, 0U);  // other standard libraries may handle these names
 #endif
 }
 

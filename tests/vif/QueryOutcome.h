@@ -1,4 +1,4 @@
-// What queries end in, as short texts that read well in expectations.
+// Outcomes of queries, as short texts that read well in expectations.
 #pragma once
 
 #include "BaseUtilities/Exceptions.h"
@@ -33,7 +33,7 @@ inline std::string ResultText(const VifFieldList& list) {
   return text;
 }
 
-/// The result of a query, or the exception that it ends with.
+/// The result of a query, or the exception that it throws.
 template <typename Query>
 std::string OutcomeOf(const Query& query) {
   try {
@@ -47,9 +47,9 @@ std::string OutcomeOf(const Query& query) {
   }
 }
 
-/// The outcomes of a query in its four forms: with a narrow and a wide pattern, each with the slots one by one and
-/// as an array.
-/// \param ask takes the arguments of any form and asks the query
+/// The outcomes of a query in its four forms: with a narrow and a wide pattern, each with separate slots and with an
+/// array of slots.
+/// \param ask runs the query with the arguments of any form
 template <typename Ask>
 std::vector<std::string> OutcomesOfAllForms(const std::string& pattern, const Slots& slots, const Ask& ask) {
   const char* narrow = pattern.c_str();
@@ -92,7 +92,7 @@ inline auto GetFirstUniqueField(const CVendorInfoFile& vif) {
   return [&vif](const auto&... arguments) { return vif.GetFirstUniqueField(arguments...); };
 }
 
-/// Loads that many text files without a declaration, each of which is a component.
+/// Loads that many text files without declarations; each is a component.
 inline void AppendEmptyComponents(CVendorInfoFile& vif, std::size_t count, const std::string& emptyTextFile) {
   for (; count > 0; --count) vif.Append(emptyTextFile.c_str());
 }

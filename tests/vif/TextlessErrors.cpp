@@ -16,5 +16,5 @@ CTextlessErrors::~CTextlessErrors() { g_areTextless = false; }
 
 }  // namespace testsupport
 
-// Stands in front of the library's own.
+// Overrides the library's own.
 const wchar_t* _com_error::ErrorMessage() const noexcept { return g_areTextless ? nullptr : L"some text"; }

@@ -1,4 +1,4 @@
-// COM errors for which the system has no text.
+// COM errors without a text from the system.
 #pragma once
 
 namespace testsupport {

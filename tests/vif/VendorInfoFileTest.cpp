@@ -1,4 +1,4 @@
-// The object that holds the fields of one or more files: making, copying, moving, appending.
+// The object that holds the fields of one or more files: construction, copying, moving, appending.
 #include "VendorInfoFile.h"
 
 #include "BaseUtilities/Exceptions.h"
@@ -93,7 +93,7 @@ TEST_F(VendorInfoFileTest, FromNoFieldsIsEmpty) { ExpectEmpty(CVendorInfoFile(st
 
 // Appending files.
 
-TEST_F(VendorInfoFileTest, AppendedFileIsTheNextComponentBehindTheFieldsHeld) {
+TEST_F(VendorInfoFileTest, AppendedFileIsTheNextComponentAfterTheFieldsHeld) {
   CVendorInfoFile vif(m_first);
   AppendFile(vif, m_second);
   EXPECT_THAT(Texts(vif), ElementsAre("USB_VID=1 @6.1", "A=2", "PID=3 @6.2", "A=4"));
@@ -128,7 +128,7 @@ TEST_F(VendorInfoFileTest, AppendingNullOrTheEmptyNameToAnEmptyObjectLeavesItEmp
   ExpectEmpty(vif);
 }
 
-TEST_F(VendorInfoFileTest, FileThatCannotBeLoadedIsNoComponent) {
+TEST_F(VendorInfoFileTest, FileThatCannotBeLoadedAddsNoComponent) {
   CVendorInfoFile vif(m_first);
   EXPECT_THROW(AppendFile(vif, m_dir.Path() / "missing.txt"), CZoRunTimeException);
   EXPECT_THROW(AppendFile(vif, m_dir.Write("vif.json", "")), CZoRunTimeException);
@@ -138,13 +138,13 @@ TEST_F(VendorInfoFileTest, FileThatCannotBeLoadedIsNoComponent) {
 
 // The file name.
 
-TEST_F(VendorInfoFileTest, FirstFileAppendedGivesTheName) {
+TEST_F(VendorInfoFileTest, FirstAppendedFileSetsTheName) {
   CVendorInfoFile vif;
   AppendFile(vif, m_first);
   EXPECT_EQ(vif.FileName(), m_first.wstring());
 }
 
-TEST_F(VendorInfoFileTest, NameOnceGivenStays) {
+TEST_F(VendorInfoFileTest, NameIsSetOnlyOnce) {
   CVendorInfoFile vif(m_first);
   AppendFile(vif, m_second);
   EXPECT_EQ(vif.FileName(), m_first.wstring());
@@ -154,7 +154,7 @@ TEST_F(VendorInfoFileTest, NameOnceGivenStays) {
   EXPECT_EQ(appended.FileName(), m_second.wstring());
 }
 
-TEST_F(VendorInfoFileTest, FileThatCannotBeLoadedGivesNoName) {
+TEST_F(VendorInfoFileTest, FileThatCannotBeLoadedSetsNoName) {
   CVendorInfoFile vif;
   EXPECT_THROW(AppendFile(vif, m_dir.Path() / "missing.txt"), CZoRunTimeException);
   EXPECT_STREQ(vif.FileName(), L"");
@@ -173,7 +173,7 @@ TEST_F(VendorInfoFileTest, NamesAreUtf8) {
 
 // Appending fields.
 
-TEST_F(VendorInfoFileTest, AppendedFieldsComeBehindTheFieldsHeld) {
+TEST_F(VendorInfoFileTest, AppendedFieldsFollowTheFieldsHeld) {
   CVendorInfoFile vif(m_first);
   vif.Append(std::vector<CVIFField>{Field("X"), Field("Y")});
   EXPECT_THAT(Texts(vif), ElementsAre("USB_VID=1 @6.1", "A=2", "X=1", "Y=1"));
@@ -181,7 +181,7 @@ TEST_F(VendorInfoFileTest, AppendedFieldsComeBehindTheFieldsHeld) {
   EXPECT_EQ(vif.FileName(), m_first.wstring());
 }
 
-TEST_F(VendorInfoFileTest, AppendedFieldsAreCopiesInFull) {
+TEST_F(VendorInfoFileTest, AppendedFieldsAreFullCopies) {
   const CVIFField field(false, "N", "V", "D", VifIndex(eVifLocComponent, 7), VifIndex(eVifLocSrcPdo, 2),
                         VifIndex(eVifLocVif, 0));
   CVendorInfoFile vif;
@@ -219,7 +219,7 @@ TEST_F(VendorInfoFileTest, EmptyObjectMayBeAppendedItsOwnList) {
   EXPECT_EQ(vif.Count(), 0U);
 }
 
-TEST_F(VendorInfoFileTest, AppendedFieldsGiveNoNameAndNoComponent) {
+TEST_F(VendorInfoFileTest, AppendedFieldsSetNoNameAndAddNoComponent) {
   CVendorInfoFile vif(std::vector<CVIFField>{Field("X")});
   AppendFile(vif, m_first);
   EXPECT_THAT(Texts(vif), ElementsAre("X=1", "USB_VID=1 @6.1", "A=2"));
@@ -235,9 +235,9 @@ TEST_F(VendorInfoFileTest, FieldListOutlivesTheObject) {
   EXPECT_THAT(FieldTexts(*fields), ElementsAre("USB_VID=1 @6.1", "A=2"));
 }
 
-// The fields themselves.
+// Access to the fields.
 
-TEST_F(VendorInfoFileTest, FieldsAreThoseThatAListOfAllHas) {
+TEST_F(VendorInfoFileTest, FieldsAreThoseOfTheListOfAll) {
   CVendorInfoFile vif(m_first);
   AppendFile(vif, m_second);
   vif.Append({Field("X")});
@@ -253,7 +253,7 @@ TEST_F(VendorInfoFileTest, FieldsAreNotCopied) {
   static_assert(noexcept(vif.Fields()));
 }
 
-TEST_F(VendorInfoFileTest, FieldsAreNoneWhenTheObjectIsEmpty) {
+TEST_F(VendorInfoFileTest, FieldsOfAnEmptyObjectAreEmpty) {
   EXPECT_THAT(CVendorInfoFile().Fields(), IsEmpty());
   EXPECT_THAT(CVendorInfoFile(nullptr).Fields(), IsEmpty());
   EXPECT_THAT(CVendorInfoFile(std::vector<CVIFField>()).Fields(), IsEmpty());
@@ -287,7 +287,7 @@ TEST_F(VendorInfoFileTest, CopyHoldsTheSame) {
   EXPECT_EQ(copy.FileName(), m_first.wstring());
 }
 
-TEST_F(VendorInfoFileTest, CopyGoesOnOnItsOwn) {
+TEST_F(VendorInfoFileTest, CopyIsIndependentOfTheOriginal) {
   CVendorInfoFile vif(m_first);
   CVendorInfoFile copy(vif);
   AppendFile(copy, m_second);
@@ -296,7 +296,7 @@ TEST_F(VendorInfoFileTest, CopyGoesOnOnItsOwn) {
   EXPECT_EQ(vif.ComponentCount(), 1U);
 }
 
-TEST_F(VendorInfoFileTest, OriginalGoesOnWithoutTheCopy) {
+TEST_F(VendorInfoFileTest, OriginalIsIndependentOfTheCopy) {
   CVendorInfoFile vif(m_first);
   const CVendorInfoFile copy(vif);
   AppendFile(vif, m_second);
@@ -336,7 +336,7 @@ TEST_F(VendorInfoFileTest, CopyAssignmentReplacesEverything) {
   EXPECT_EQ(Texts(other), Texts(vif));
 }
 
-TEST_F(VendorInfoFileTest, CopyAssignmentTakesTheTableOver) {
+TEST_F(VendorInfoFileTest, CopyAssignmentCopiesTheTable) {
   CVendorInfoFile vif;
   const CVendorInfoFile other(nullptr, &m_table);
   vif = other;
@@ -344,7 +344,7 @@ TEST_F(VendorInfoFileTest, CopyAssignmentTakesTheTableOver) {
   EXPECT_THAT(Texts(vif), ElementsAre("USB_VID=1", "Known=2 @6.1"));
 }
 
-TEST_F(VendorInfoFileTest, CopyAssignmentTakesTheMissingTableOverToo) {
+TEST_F(VendorInfoFileTest, CopyAssignmentCopiesTheNullTableToo) {
   CVendorInfoFile vif(nullptr, &m_table);
   const CVendorInfoFile other;
   vif = other;
@@ -352,7 +352,7 @@ TEST_F(VendorInfoFileTest, CopyAssignmentTakesTheMissingTableOverToo) {
   EXPECT_THAT(Texts(vif), ElementsAre("USB_VID=1 @6.1", "A=2"));
 }
 
-TEST_F(VendorInfoFileTest, AssignedCopyGoesOnOnItsOwn) {
+TEST_F(VendorInfoFileTest, AssignedCopyIsIndependent) {
   const CVendorInfoFile other(m_first);
   CVendorInfoFile vif;
   vif = other;
@@ -488,7 +488,7 @@ TEST_F(VendorInfoFileTest, MoveAssignmentToItselfChangesNothing) {
   EXPECT_EQ(vif.FileName(), m_first.wstring());
 }
 
-TEST_F(VendorInfoFileTest, MovesThrowNothing) {
+TEST_F(VendorInfoFileTest, MovesAreNoexcept) {
   EXPECT_TRUE(std::is_nothrow_move_constructible_v<CVendorInfoFile>);
   EXPECT_TRUE(std::is_nothrow_move_assignable_v<CVendorInfoFile>);
 }

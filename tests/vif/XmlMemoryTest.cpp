@@ -1,5 +1,5 @@
-// What becomes of an object when memory runs out while it loads an XML VIF. Needs a program of its own, because it is
-// linked with an operator new and an allocation of BSTRs that fail.
+// The state of an object when memory runs out while it loads an XML VIF. A program of its own, because it links an
+// operator new and a BSTR allocation that fail.
 #include "VendorInfoFile.h"
 #include "msxml/ComTypes.h"
 #include "support/AppendFile.h"
@@ -31,7 +31,7 @@ using testsupport::AppendFile;
 using testsupport::CFailingMemory;
 using testsupport::Memory;
 
-/// A header and a product of 12 fields and two components with 6.
+/// A header, a product with 12 fields and two components with 6.
 std::string Document() {
   std::string routers;
   for (int i = 0; i < 8; ++i) routers += "<vif:Usb4Router><vif:USB4_Router_ID value=\"9\"/></vif:Usb4Router>";
@@ -85,7 +85,7 @@ class XmlMemoryTest : public testing::TestWithParam<Memory> {
   std::vector<CVIFField> m_whole;
 };
 
-/// Whether the action ended because memory ran out.
+/// Whether the action ran out of memory.
 template <typename Action>
 bool RanOutOfMemory(const Action& action) {
   try {
@@ -99,7 +99,7 @@ bool RanOutOfMemory(const Action& action) {
   return false;
 }
 
-TEST_P(XmlMemoryTest, AppendLosesNothingAndAddsTheHeaderWhollyOrNotAtAll) {
+TEST_P(XmlMemoryTest, AppendLosesNothingAndAddsTheWholeHeaderOrNoneOfIt) {
   std::size_t failures = 0;
   for (bool hasFailed = true; hasFailed; failures += hasFailed ? 1 : 0) {
     CVendorInfoFile vif = Begun();
@@ -113,7 +113,7 @@ TEST_P(XmlMemoryTest, AppendLosesNothingAndAddsTheHeaderWhollyOrNotAtAll) {
     const std::size_t count = vif.Count();
     EXPECT_TRUE(count == before || count >= before + kHeaderSize) << "allocation " << failures + 1;
     EXPECT_EQ(testsupport::FieldTexts(*vif.GetFields()), First(count));
-    AppendFile(vif, m_text);  // the object is of use as before
+    AppendFile(vif, m_text);  // the object remains usable
     EXPECT_EQ(vif.Count(), count + before);
   }
   EXPECT_GT(failures, kFewestFailures);
@@ -122,7 +122,7 @@ TEST_P(XmlMemoryTest, AppendLosesNothingAndAddsTheHeaderWhollyOrNotAtAll) {
 INSTANTIATE_TEST_SUITE_P(Memory, XmlMemoryTest, testing::Values(Memory::OperatorNew, Memory::Bstr),
                          [](const auto& kind) { return kind.param == Memory::Bstr ? "OfBstrs" : "OfObjects"; });
 
-/// What the constructor throws when a BSTR cannot be had.
+/// What the constructor throws when a BSTR cannot be allocated.
 std::string CreateError(const std::filesystem::path& path) {
   const CFailingMemory memory(Memory::Bstr, 5);
   try {
@@ -133,7 +133,7 @@ std::string CreateError(const std::filesystem::path& path) {
   return "<no exception>";
 }
 
-TEST(XmlMemory, ConstructorReportsACallThatFailsByTheFilesName) {
+TEST(XmlMemory, ConstructorReportsAFailedCallWithTheFilesName) {
   const testsupport::TempDir dir;
   const std::filesystem::path path = dir.Write("b %s.xml", Document());
 #ifdef _WIN32
@@ -144,7 +144,7 @@ TEST(XmlMemory, ConstructorReportsACallThatFailsByTheFilesName) {
   EXPECT_EQ(CreateError(path), "Vendor Info File Create Exception (file name: \"" + path.string() + "\") - " + reason);
 }
 
-TEST(XmlMemory, ConstructorReportsACallThatFailsWithoutATextByItsCode) {
+TEST(XmlMemory, ConstructorReportsAFailedCallWithoutATextByItsCode) {
 #ifdef _WIN32
   GTEST_SKIP() << "on Windows, every error of COM has a text";
 #else
@@ -156,7 +156,7 @@ TEST(XmlMemory, ConstructorReportsACallThatFailsWithoutATextByItsCode) {
 #endif
 }
 
-TEST(XmlMemory, ConstructorPassesMemoryThatRunsOutInTheLibrary) {
+TEST(XmlMemory, ConstructorPassesOutOfMemoryInTheLibrary) {
   const testsupport::TempDir dir;
   const std::filesystem::path path = dir.Write("b.xml", Document());
   const CFailingMemory memory(Memory::OperatorNew, 20);

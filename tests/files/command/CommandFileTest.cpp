@@ -54,10 +54,10 @@ class CommandFileTest : public testing::Test {
   fs::path WriteText() const { return Write("x.txt", kText); }
   fs::path WriteXml() const { return Write("x.xml", kXml); }
 
-  /// Runs the command while the variables control the calls on the file.
+  /// Runs the command while the environment variables control the calls on the file.
   static ProgramResult Run(std::vector<std::string> command, const fs::path& file, const Variables& variables,
                            const fs::path& watched = {}) {
-    // A sanitizer in a library of its own insists on being loaded first.
+    // A sanitizer in a shared library insists on being loaded first.
     std::vector<std::string> line = {"/usr/bin/env",
                                      std::string("LD_PRELOAD=") + SCRIPTED_CALLS,
                                      "ASAN_OPTIONS=verify_asan_link_order=0",
@@ -122,7 +122,7 @@ TEST_F(CommandFileTest, FileThatCannotBeExamined) {
   }
 }
 
-TEST_F(CommandFileTest, TextThatCannotBeReadToItsEndIsNotHalfAnAnswer) {
+TEST_F(CommandFileTest, TextThatCannotBeReadToItsEndGivesNoPartialAnswer) {
   const fs::path file = WriteText();
   for (std::size_t readable = 0; readable <= kText.size(); readable += 7) {
     const std::string before = kText.substr(0, readable);
@@ -158,7 +158,7 @@ TEST_F(CommandFileTest, XmlThatCannotBeReadToItsEnd) {
   }
 }
 
-TEST_F(CommandFileTest, FilesAreReadInPiecesAsAtOnce) {
+TEST_F(CommandFileTest, FilesReadInPiecesGiveTheSame) {
   for (const fs::path& file : {WriteText(), WriteXml()}) {
     for (const std::vector<std::string>& reader : {std::vector<std::string>{"list"}, {"show"}, {"get"}, {"check"}}) {
       const ProgramResult whole = Run(reader, file, {});
@@ -175,14 +175,14 @@ TEST_F(CommandFileTest, FileThatTurnsIntoAPipeIsNotWaitedFor) {
     for (const std::vector<std::string>& reader : {std::vector<std::string>{"list"}, {"check"}}) {
       for (const fs::path& file : {WriteText(), WriteXml()}) {
         const ProgramResult result = Run(reader, file, {std::string("VIF_TEST_PIPE=") + opening});
-        EXPECT_LE(result.status, 2) << result.error;  // not that of a timeout
+        EXPECT_LE(result.status, 2) << result.error;  // not the status of a timeout
         fs::remove(file);
       }
     }
   }
 }
 
-TEST_F(CommandFileTest, CheckOfXmlThatCannotBeReadDoesNotWaitForWhatHasItsName) {
+TEST_F(CommandFileTest, CheckOfXmlThatCannotBeReadDoesNotWaitForAPipeOfThatName) {
   const fs::path file = WriteXml();
   Variables variables = Fails("status", EIO);
   variables.emplace_back("VIF_TEST_PIPE=2");

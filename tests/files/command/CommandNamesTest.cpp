@@ -1,4 +1,4 @@
-// How the command prints odd file names and odd texts in files.
+// How the command prints odd file names and odd text in files.
 #include "support/TempDir.h"
 #include "support/VifCommand.h"
 #include "support/XmlVif.h"
@@ -38,7 +38,7 @@ std::string Printed(unsigned char byte) {
   return {static_cast<char>(byte)};
 }
 
-/// A byte that can be in a name.
+/// A byte that a name can contain.
 struct NameByte {
   std::string text;
   std::string printed;
@@ -105,7 +105,7 @@ TEST_F(CommandNamesTest, AnyByteMayBeInAName) {
   for (std::size_t i = 0; i < printed.size(); ++i) EXPECT_TRUE(lines[i].starts_with(printed[i])) << lines[i];
 }
 
-TEST_F(CommandNamesTest, AnyByteMayBeInTheNameOfAFileThatIsLoaded) {
+TEST_F(CommandNamesTest, AnyByteMayBeInTheNameOfALoadedFile) {
   std::vector<std::string> arguments = {"list", "--format=csv"};
   std::size_t count = 0;
   for (const NameByte& byte : NameBytes()) {
@@ -118,16 +118,16 @@ TEST_F(CommandNamesTest, AnyByteMayBeInTheNameOfAFileThatIsLoaded) {
   EXPECT_EQ(Lines(result.output).size(), count + 1);
 }
 
-TEST_F(CommandNamesTest, AnyByteMayBeInTheNameOfAFileThatIsNotThere) {
+TEST_F(CommandNamesTest, AnyByteMayBeInTheNameOfAMissingFile) {
   for (const NameByte& byte : NameBytes()) {
-    // One of the bytes beyond ASCII stands for all of them, and letters need no test.
+    // One byte beyond ASCII stands for all of them, and letters need no test.
     const bool isSeldom = byte.printed.size() > 1 || std::ispunct(static_cast<unsigned char>(byte.text[0])) != 0;
     if (!isSeldom || (byte.printed == "\uFFFD" && byte.text != "\xFF")) continue;
     ExpectRefusal({"list", "x" + byte.text + ".txt"}, "VIF Does not exist. (name: x" + byte.printed + ".txt)");
   }
 }
 
-TEST_F(CommandNamesTest, RefusalNamesTheFileHoweverItIsCalled) {
+TEST_F(CommandNamesTest, RefusalQuotesAnyName) {
   constexpr const char* library = "Invalid file type for VIF!  Must be text (*.txt) or XML (*.xml)";
   constexpr const char* check = "a VIF is a text (*.txt) or XML (*.xml) file";
   for (const char* name : {"-", ".txt", ".xml", "VIF", "text", "a", "file", "x.txt.", "x.txt ", "x.txt\n", "%s%n",
@@ -141,7 +141,7 @@ TEST_F(CommandNamesTest, RefusalNamesTheFileHoweverItIsCalled) {
   }
 }
 
-TEST_F(CommandNamesTest, RefusalNamesTheMissingFileHoweverItIsCalled) {
+TEST_F(CommandNamesTest, RefusalQuotesAnyNameOfAMissingFile) {
   for (const std::string name : {"-", "VIF", "such", "a", "file", "%s%n%1$s", "{}", "{0}.txt"}) {
     ExpectRefusal({"list", "--", name}, "VIF Does not exist. (name: " + name + ")");
     ExpectRefusal({"check", "--", name}, name + ": there is no such file");
@@ -160,7 +160,7 @@ TEST_F(CommandNamesTest, NamesThatBeginLikeOptionsFollowTwoDashes) {
   }
 }
 
-TEST_F(CommandNamesTest, NamesThatMeanSomethingElsewhereMeanNothingHere) {
+TEST_F(CommandNamesTest, NamesThatAreSpecialElsewhereAreOrdinaryHere) {
   for (const std::string name :
        {"*.txt",  "?.txt",  "[a].txt",   "[a,b].txt", "{a,b}.txt",  "%%.txt",    "%s%n.txt", "a,b.txt",
         "@a.txt", "~.txt",  "$HOME.txt", "`id`.txt",  "\"a\".txt",  "'a'.txt",   "..txt",    "...txt",
@@ -207,11 +207,11 @@ TEST_F(CommandNamesTest, LongPathsAreRead) {
   ExpectRefusal({"check", beyond}, beyond + ": " + std::make_error_code(std::errc::filename_too_long).message());
 }
 
-// Texts.
+// Text.
 
 constexpr const char* kFormats = "%s%n%1$s%d{}{0}%";
 
-TEST_F(CommandNamesTest, PlaceholdersInLinesAreQuotedAsTheyAre) {
+TEST_F(CommandNamesTest, PlaceholdersInLinesAreQuotedUnchanged) {
   ASSERT_TRUE(Write("x.txt", "PID: " + std::string(kFormats) + "\n" + kFormats + ": 1\n" + kFormats + "\n"));
   const std::vector<std::string> lines = Lines(Run({"check", "x.txt"}).output);
   ASSERT_EQ(lines.size(), 4U);
@@ -220,7 +220,7 @@ TEST_F(CommandNamesTest, PlaceholdersInLinesAreQuotedAsTheyAre) {
   EXPECT_THAT(lines[2], HasSubstr(std::string("'") + kFormats + "' yields no field"));
 }
 
-TEST_F(CommandNamesTest, PlaceholdersInXmlAreQuotedAsTheyAre) {
+TEST_F(CommandNamesTest, PlaceholdersInXmlAreQuotedUnchanged) {
   const std::string value = kFormats;
   ASSERT_TRUE(
       Write("x.xml", testsupport::XmlVif("<vif:Component><vif:PID_SOP value=\"" + value + "\"/></vif:Component>")));
@@ -228,7 +228,7 @@ TEST_F(CommandNamesTest, PlaceholdersInXmlAreQuotedAsTheyAre) {
   EXPECT_THAT(Run({"list", "x.xml"}).error, HasSubstr("'" + value + "' is not a valid value"));
 }
 
-TEST_F(CommandNamesTest, PlaceholdersInFieldsArePrintedAsTheyAre) {
+TEST_F(CommandNamesTest, PlaceholdersInFieldsArePrintedUnchanged) {
   const std::string value = kFormats;
   ASSERT_TRUE(Write("x.txt", "$A: \"" + value + "\" ; " + value + "\n"));
   ASSERT_TRUE(Write("x.xml", testsupport::XmlVif("<vif:Vendor_Name>" + value + "</vif:Vendor_Name>")));
@@ -241,7 +241,7 @@ TEST_F(CommandNamesTest, PlaceholdersInFieldsArePrintedAsTheyAre) {
   }
 }
 
-TEST_F(CommandNamesTest, PlaceholdersInNamesAndPatternsAreQuotedAsTheyAre) {
+TEST_F(CommandNamesTest, PlaceholdersInNamesAndPatternsAreQuotedUnchanged) {
   ASSERT_TRUE(Write("%s%n.txt", "PID: 1\nPID: 2\n"));
   for (const auto& [pattern, count] :
        {std::pair("%s%n", "Couldn't find field in"), std::pair("P.D|%s", "2 fields in")}) {

@@ -1,7 +1,8 @@
 // Loaded into a program with LD_PRELOAD, makes calls on one file fail. The environment controls it: VIF_TEST_FILE is
 // the name of the file. Calls of the kind VIF_TEST_CALL ("stat", "open", "status" or "read") fail with the error number
-// VIF_TEST_ERROR, from the VIF_TEST_FROM-th call on, counted from 1; reading fails after VIF_TEST_READABLE bytes. A
-// read returns at most VIF_TEST_PIECE bytes. Just before its VIF_TEST_PIPE-th opening, the file becomes a pipe.
+// VIF_TEST_ERROR from the VIF_TEST_FROM-th call on, counted from 1; reads fail after VIF_TEST_READABLE bytes. A read
+// returns at most VIF_TEST_PIECE bytes. Just before it is opened for the VIF_TEST_PIPE-th time, the file becomes a
+// pipe.
 #include "files/FileCalls.h"
 
 #include <sys/stat.h>

@@ -1,5 +1,5 @@
-// The command with memory running out, as a process whose malloc fails: the C library's and libxml2's own allocations
-// fail with it, and so do those that a process makes only once.
+// The command with memory running out, as a process whose malloc fails, which includes the C library's and libxml2's
+// own allocations and those that a process makes only once.
 #include "support/Random.h"
 #include "support/TempDir.h"
 #include "support/VifCommand.h"
@@ -19,7 +19,7 @@ namespace {
 using testsupport::Example;
 using testsupport::ProgramResult;
 
-/// Up to which allocation every one fails, and how many of those behind it do, at random.
+/// Up to this number every allocation fails; this many of the later ones do, at random.
 constexpr std::size_t kEveryUpTo = 60;
 constexpr std::size_t kMore = 60;
 
@@ -30,11 +30,11 @@ class CommandMemoryTest : public testing::Test {
     GTEST_SKIP() << "the sanitizer's malloc cannot be replaced";
 #endif
 #ifndef __GLIBC__
-    GTEST_SKIP() << "only the GNU C library's malloc can be called from what stands in front of it";
+    GTEST_SKIP() << "only the GNU C library's malloc can be called from its replacement";
 #endif
   }
 
-  /// Runs the command with further variables of the environment.
+  /// Runs the command with additional environment variables.
   static ProgramResult Run(const std::vector<std::string>& variables, const std::vector<std::string>& arguments) {
     std::vector<std::string> command = {"/usr/bin/env", std::string("LD_PRELOAD=") + FAILING_MALLOC};
     command.insert(command.end(), variables.begin(), variables.end());
@@ -51,7 +51,7 @@ class CommandMemoryTest : public testing::Test {
     return count;
   }
 
-  /// It ends as it does with memory enough, or with status 2, a line that says why, and no more.
+  /// Expects the same as with enough memory, or status 2 and a single line with the reason.
   static void ExpectEndsWell(const ProgramResult& result, const ProgramResult& whole) {
     if (result.status == whole.status && result.error == whole.error) {
       EXPECT_EQ(result.output, whole.output);
@@ -62,7 +62,7 @@ class CommandMemoryTest : public testing::Test {
     EXPECT_TRUE(result.error.starts_with("vif: ")) << result.error;
   }
 
-  void ExpectBearsFailures(const std::vector<std::string>& arguments) const {
+  void ExpectSurvivesFailures(const std::vector<std::string>& arguments) const {
     const ProgramResult whole = Run({}, arguments);
     const std::size_t count = CountAllocations(arguments);
     ASSERT_GT(count, 20U);
@@ -74,7 +74,7 @@ class CommandMemoryTest : public testing::Test {
       for (const bool failsOn : {false, true}) {
         std::vector<std::string> variables = {"VIF_TEST_FAILS_AT=" + std::to_string(k)};
         if (failsOn) variables.emplace_back("VIF_TEST_FAILS_ON=1");
-        SCOPED_TRACE(testing::Message() << "allocation " << k << (failsOn ? " and all behind it fail" : " fails"));
+        SCOPED_TRACE(testing::Message() << "allocation " << k << (failsOn ? " and all after it fail" : " fails"));
         ExpectEndsWell(Run(variables, arguments), whole);
         if (HasFailure()) return;  // one is enough
         ++points;
@@ -88,24 +88,26 @@ class CommandMemoryTest : public testing::Test {
   testsupport::TempDir m_dir;
 };
 
-TEST_F(CommandMemoryTest, List) { ExpectBearsFailures({"list", Example("gan-charger-65w.txt")}); }
+TEST_F(CommandMemoryTest, List) { ExpectSurvivesFailures({"list", Example("gan-charger-65w.txt")}); }
 
-TEST_F(CommandMemoryTest, ListAsJson) { ExpectBearsFailures({"list", "--format=json", Example("active-cable.txt")}); }
+TEST_F(CommandMemoryTest, ListAsJson) {
+  ExpectSurvivesFailures({"list", "--format=json", Example("active-cable.txt")});
+}
 
-TEST_F(CommandMemoryTest, Get) { ExpectBearsFailures({"get", Example("gan-charger-65w.txt"), "Src_PDO_.*"}); }
+TEST_F(CommandMemoryTest, Get) { ExpectSurvivesFailures({"get", Example("gan-charger-65w.txt"), "Src_PDO_.*"}); }
 
-TEST_F(CommandMemoryTest, Show) { ExpectBearsFailures({"show", Example("gan-charger-65w.txt")}); }
+TEST_F(CommandMemoryTest, Show) { ExpectSurvivesFailures({"show", Example("gan-charger-65w.txt")}); }
 
-TEST_F(CommandMemoryTest, Check) { ExpectBearsFailures({"check", Example("gan-charger-65w.txt")}); }
+TEST_F(CommandMemoryTest, Check) { ExpectSurvivesFailures({"check", Example("gan-charger-65w.txt")}); }
 
-TEST_F(CommandMemoryTest, ListOfAnXmlFile) { ExpectBearsFailures({"list", Example("gan-charger-65w.xml")}); }
+TEST_F(CommandMemoryTest, ListOfAnXmlFile) { ExpectSurvivesFailures({"list", Example("gan-charger-65w.xml")}); }
 
-TEST_F(CommandMemoryTest, CheckOfAnXmlFile) { ExpectBearsFailures({"check", Example("gan-charger-65w.xml")}); }
+TEST_F(CommandMemoryTest, CheckOfAnXmlFile) { ExpectSurvivesFailures({"check", Example("gan-charger-65w.xml")}); }
 
-TEST_F(CommandMemoryTest, FileThatDoesNotExist) { ExpectBearsFailures({"list", "no file of that name.txt"}); }
+TEST_F(CommandMemoryTest, FileThatDoesNotExist) { ExpectSurvivesFailures({"list", "no file of that name.txt"}); }
 
-TEST_F(CommandMemoryTest, Help) { ExpectBearsFailures({"--help"}); }
+TEST_F(CommandMemoryTest, Help) { ExpectSurvivesFailures({"--help"}); }
 
-TEST_F(CommandMemoryTest, WrongUsage) { ExpectBearsFailures({"unknown-command-with-a-long-name"}); }
+TEST_F(CommandMemoryTest, WrongUsage) { ExpectSurvivesFailures({"unknown-command-with-a-long-name"}); }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// A program that knows the library only as it is installed: prints the number of fields and the value of the last.
+// A program built against the installed library only: prints the number of fields and the value of the last.
 #include <BaseUtilities/Exceptions.h>
 #include <VendorInfoFile.h>
 

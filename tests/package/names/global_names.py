@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Lists what headers declare in the global namespace, and their macros.
+"""Lists the names that headers declare in the global namespace, and their macros.
 
-Reads the output of `c++ -E -dD` for a source that includes them, and looks only at what comes from files under
-DIRECTORY. Prints one name a line, sorted: "macro NAME" or "NAME".
+Reads the output of `c++ -E -dD` for a source that includes them, and considers only files under DIRECTORY. Prints one
+name per line, sorted: "macro NAME" or "NAME".
 
     global_names.py DIRECTORY <preprocessed
 """
@@ -25,7 +25,7 @@ def lines_of(directory, preprocessed):
 
 
 def flattened(tokens):
-    """The tokens outside all brackets; a pair of brackets and what is in it is one token, such as "()"."""
+    """The tokens outside all brackets; a pair of brackets with its content is one token, such as "()"."""
     closing = []
     for token in tokens:
         if closing and token == closing[-1]:
@@ -83,7 +83,7 @@ def declared_name(declaration):
 
 
 def enumerators(code):
-    """The names of the values of unscoped enumerations."""
+    """The names of the enumerators of unscoped enumerations."""
     for body in re.findall(r"\benum\s+(?!class\b)\w*[^{};]*\{([^}]*)\}", code):
         yield from re.findall(r"(?:^|,)\s*(\w+)", body)
 

@@ -1,4 +1,4 @@
-// What a program that was ported from Windows may define itself, as macros.
+// Macros that a program ported from Windows may define itself.
 #pragma once
 
 #define LONG long

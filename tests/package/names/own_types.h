@@ -1,4 +1,4 @@
-// What a program that was ported from Windows may declare itself, as types, constants and functions.
+// Types, constants and functions that a program ported from Windows may declare itself.
 #pragma once
 
 typedef long LONG;
