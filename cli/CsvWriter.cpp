@@ -38,7 +38,8 @@ std::string Line(const CVIFField& field) {
 void WriteCsv(const CVendorInfoFile& vif) {
   std::string header = "name,value,description,numeric,number";
   for (size_t slot = 1; slot <= CVIFField::MAX_INDEX_DEPTH; ++slot) {
-    header += ",location" + std::to_string(slot) + ",index" + std::to_string(slot);
+    const std::string number = std::to_string(slot);
+    header.append(",location").append(number).append(",index").append(number);
   }
   Write(header.append(kLineEnd));
   for (const CVIFField& field : vif.Fields()) Write(Line(field));

@@ -11,6 +11,9 @@ constexpr std::size_t kEnough = std::size_t{1} << 30;  // counting stops here, s
 
 std::size_t Sum(std::size_t a, std::size_t b) { return std::min(kEnough, a + b); }
 
+// The product itself would not fit where std::size_t has 32 bits.
+std::size_t Product(std::size_t a, std::size_t b) { return a > 0 && b > kEnough / a ? kEnough : a * b; }
+
 /// An open group; the whole pattern is the outermost.
 struct OpenGroup {
   std::size_t deepest = 0;         // of the complete alternatives
@@ -47,7 +50,7 @@ std::size_t Copies(std::string_view text) {
   std::size_t number = 0;
   for (const char c : text) {
     const bool isDigit = c >= '0' && c <= '9';
-    number = isDigit ? std::min(kEnough, number * 10 + static_cast<std::size_t>(c - '0')) : 0;
+    number = isDigit ? Sum(Product(number, 10), static_cast<std::size_t>(c - '0')) : 0;
     largest = std::max(largest, number);
   }
   return largest + 1;
@@ -103,7 +106,7 @@ class CPatternReader {
     const std::size_t end = std::min(m_pattern.find('}', m_position), m_pattern.size());
     const std::size_t copies = Copies(m_pattern.substr(m_position, end - m_position));
     m_repetitions = std::max(m_repetitions, copies - 1);
-    group.lastTermJoints = Sum(2, std::min(kEnough, group.lastTermJoints * copies));
+    group.lastTermJoints = Sum(2, Product(group.lastTermJoints, copies));
     m_position = end + 1;
   }
 

@@ -88,7 +88,7 @@ copy_repository() {
 # A count from the report, such as "failures"; - if there is none.
 count() { grep -o " $1=\"[0-9]*\"" "$2" 2>/dev/null | head -n 1 | grep -o '[0-9]*' || echo -; }
 
-print_row() { printf '%-16s %-34s %-9s %7s %7s %8s %8s  %s\n' "$@"; }
+print_row() { printf '%-16s %-14s %-9s %7s %7s %8s %8s  %s\n' "$@"; }
 
 # Tests one system and prints its row; its output goes to its log.
 test_system() {
@@ -109,8 +109,8 @@ test_system() {
   failed=$(count failures "$report")
   skipped=$(count skipped "$report")
   [ "$all" = - ] || passed=$((all - failed - skipped))
-  compiler=$(sed -n 's/^CMAKE_CXX_COMPILER:[A-Z]*=//p' "$root/$copy"/build/*/CMakeCache.txt 2>/dev/null | head -n 1)
-  [ -z "$compiler" ] || compiler=$(inside "$root" "$compiler" --version | head -n 1)
+  compiler=$(cat "$root/$copy"/build/*/CMakeFiles/*/CMakeCXXCompiler.cmake 2>/dev/null |
+    sed -n 's/^set(CMAKE_CXX_COMPILER_\(ID\|VERSION\) "\(.*\)")$/\2/p' | head -n 2 | paste -sd ' ')
   libxml2=$(sed -n 's/^#define LIBXML_DOTTED_VERSION "\(.*\)"/\1/p' "$root/usr/include/libxml2/libxml/xmlversion.h" || true)
   print_row "$name" "${compiler:--}" "${libxml2:--}" "$passed" "$failed" "$skipped" "$((SECONDS - begin)) s" "$outcome"
   [ "$outcome" = ok ] || status=1

@@ -49,8 +49,8 @@ std::optional<std::uint64_t> Number(const Fields& fields, const char* name, cons
 }
 
 // The numbers of the groups at a location within the given group.
-std::set<std::size_t> Groups(const Fields& fields, EVifLocation location, const VifIndex& place = kAny) {
-  std::set<std::size_t> groups;
+std::set<VifIndexNumber> Groups(const Fields& fields, EVifLocation location, const VifIndex& place = kAny) {
+  std::set<VifIndexNumber> groups;
   for (const CVIFField& field : fields) {
     if (field.HasIndex(location) && field.Match(nullptr, place, kAny, kAny)) groups.insert(field.Index(location));
   }
@@ -58,8 +58,8 @@ std::set<std::size_t> Groups(const Fields& fields, EVifLocation location, const 
 }
 
 // The numbers from 1 to the number of a field.
-std::set<std::size_t> UpTo(std::optional<std::uint64_t> count) {
-  std::set<std::size_t> numbers;
+std::set<VifIndexNumber> UpTo(std::optional<std::uint64_t> count) {
+  std::set<VifIndexNumber> numbers;
   for (std::size_t i = 1; i <= count.value_or(0); ++i) numbers.insert(i);
   return numbers;
 }
@@ -146,7 +146,7 @@ TEST_P(ExampleFile, HasAsManyPcieEndpointsAsItsRoutersState) {
 }
 
 TEST_P(ExampleFile, HasTheRoutersThatItsPortsBelongTo) {
-  const std::set<std::size_t> routers = Groups(*m_vif.GetFields(), eVifLocRouter);
+  const std::set<VifIndexNumber> routers = Groups(*m_vif.GetFields(), eVifLocRouter);
   for (const Fields& component : Components()) {
     const std::optional<std::uint64_t> router = Number(component, "USB4_Router_Index");
     if (!router) continue;

@@ -181,7 +181,7 @@ TEST(NamePatternDifferential, AgreesWithThePlainEngineOnNamesThatAreTooLongForIt
   });
   EXPECT_GT(fitting, 50U);
 #if defined(__GLIBCXX__)
-  EXPECT_GT(tooLong, 100U);
+  EXPECT_GT(tooLong, 50U);  // half as many where pointers, and so the frames on the stack, are half as large
 #endif
 }
 

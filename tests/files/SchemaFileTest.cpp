@@ -111,7 +111,7 @@ class SchemaFileTest : public testsupport::CFileTest {
     UseNewSchemas();
   }
 
-  std::size_t SizeOf(const char* name) const { return fs::file_size(SchemaPath(name)); }
+  std::size_t SizeOf(const char* name) const { return static_cast<std::size_t>(fs::file_size(SchemaPath(name))); }
 
  private:
   ReadOutcome m_whole;

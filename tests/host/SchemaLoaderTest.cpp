@@ -55,13 +55,12 @@ class SchemaLoaderTest : public testing::Test {
     g_before = xmlGetExternalEntityLoader();
     g_action = std::move(action);
     xmlFreeFunc free = nullptr;
-    xmlMallocFunc allocateAtomic = nullptr;
     xmlReallocFunc reallocate = nullptr;
     xmlStrdupFunc duplicate = nullptr;
-    xmlGcMemGet(&free, &g_allocate, &allocateAtomic, &reallocate, &duplicate);
-    xmlGcMemSetup(free, Allocate, allocateAtomic, reallocate, duplicate);
+    xmlMemGet(&free, &g_allocate, &reallocate, &duplicate);
+    xmlMemSetup(free, Allocate, reallocate, duplicate);
     EXPECT_TRUE(CSchemaDocument({{schema, "urn:t"}}).ValidateDoc(file));
-    xmlGcMemSetup(free, g_allocate, allocateAtomic, reallocate, duplicate);
+    xmlMemSetup(free, g_allocate, reallocate, duplicate);
     EXPECT_FALSE(g_action) << "it has not been done";
   }
 

@@ -114,10 +114,10 @@ EOF
     while IFS= read -r header; do
       count=$((count + 1))
       printf '#include "%s"\n' "$header" >"$work/$count.cpp"
-    done < <(cd "$PREFIX/include/vendorinfofile" && find . -name '*.h')
+    done < <(cd "$headers" && find . -name '*.h')
     [ "$count" -ge 9 ] || fail "only $count headers are installed"
     printf '%s\0' "$work"/*.cpp | xargs -0 -P "$(nproc)" -n 1 \
-      "$CXX" -std=c++20 "${flags[@]}" -Wall -Wextra -Werror -I"$PREFIX/include/vendorinfofile" -fsyntax-only ||
+      "$CXX" -std=c++20 "${flags[@]}" -Wall -Wextra -Werror -I"$headers" -fsyntax-only ||
       fail 'the headers above do not compile on their own'
     ;;
   NamesLeftToPrograms)

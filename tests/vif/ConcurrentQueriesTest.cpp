@@ -135,7 +135,7 @@ TEST(ConcurrentQueries, FailWithTheirOwnMessagesWhenSeveralMatch) {
 TEST(ConcurrentQueries, FailWithTheirOwnMessagesOnFieldsThatAreNotNumeric) {
   const auto outcomes = InAllThreads([&](std::size_t thread) {
     const CVIFField field(false, "Name_" + std::to_string(thread), "ABC", kUnused, kUnused, kUnused);
-    return Repeated([&] { return std::size_t{field.GetULongNumericValue()}; });
+    return Repeated([&] { return static_cast<std::size_t>(field.GetULongNumericValue()); });
   });
   for (std::size_t thread = 0; thread < kThreads; ++thread) {
     EXPECT_THAT(outcomes[thread],
@@ -167,7 +167,9 @@ std::vector<std::string> EveryQuery(const CVendorInfoFile& vif, std::size_t thre
       OutcomeOf([&] { return vif.GetFirstUniqueField("own_.", kUnused, kUnused); }),
       OutcomeOf([&] { return vif.GetFields("(", kAnywhere); }),
       OutcomeOf([&] { return vif.GetUniqueField("[b-a]", kAnywhere); }),
-      OutcomeOf([&] { return std::size_t{vif.GetUniqueField("Vendor_Name", kAnywhere).GetULongNumericValue()}; }),
+      OutcomeOf([&] {
+        return static_cast<std::size_t>(vif.GetUniqueField("Vendor_Name", kAnywhere).GetULongNumericValue());
+      }),
       OutcomeOf([&] { return vif.GetComponent(thread % 3); }),
       OutcomeOf([&] { return vif.GetRouter(thread); }),
       OutcomeOf([&] { return vif.GetSrcPdo(1, thread); }),

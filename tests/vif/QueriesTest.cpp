@@ -215,7 +215,7 @@ TEST(GetFields, TreatsASlotWithoutLocationAsAWildcardWhateverItsNumber) {
 }
 
 TEST(GetFields, FindsAnEmptyNameByPatternsThatMatchIt) {
-  const CVendorInfoFile vif({Field("", "nameless"), Field("a", "named")});
+  const CVendorInfoFile vif(std::vector<CVIFField>{Field("", "nameless"), Field("a", "named")});
   EXPECT_THAT(Values(vif.GetFields("a*", kAnywhere)), ElementsAre("nameless", "named"));
   EXPECT_THAT(Values(vif.GetFields("^$", kAnywhere)), ElementsAre("nameless"));
   EXPECT_THAT(Values(vif.GetFields("", kAnywhere)), ElementsAre("nameless", "named"));
@@ -266,7 +266,8 @@ TEST(QueryResults, AreIndependentCopies) {
 }
 
 TEST(QueryResults, CopyEveryMemberOfAField) {
-  const CVendorInfoFile vif({CVIFField(false, "Name", "12", "what it is", Component(1), SrcPdo(2), kUnused),
+  const CVendorInfoFile vif(
+      std::vector<CVIFField>{CVIFField(false, "Name", "12", "what it is", Component(1), SrcPdo(2), kUnused),
                              CVIFField(true, "Number", "0x100000005", "", kUnused, kUnused, kUnused)});
   const CVIFField text = vif.GetUniqueField("Name", kAnywhere);
   EXPECT_STREQ(text.Name(), "Name");
@@ -754,8 +755,9 @@ TEST(GetRouter, ReturnsAllRoutersOfProductZeroForAnyNumber) {
 }
 
 TEST(GetRouter, SearchesProductZeroOnly) {
-  const CVendorInfoFile vif({Field("a", "other product", Product(1), Router(0)), Field("a", "no product", Router(0)),
-                             Field("a", "any product", Product(kAny), Router(0))});
+  const CVendorInfoFile vif(std::vector<CVIFField>{Field("a", "other product", Product(1), Router(0)),
+                                                   Field("a", "no product", Router(0)),
+                                                   Field("a", "any product", Product(kAny), Router(0))});
   EXPECT_THAT(Values(vif.GetRouter(0)), IsEmpty());
   EXPECT_THAT(Values(vif.GetRouter(kAny)), IsEmpty());
 }
@@ -776,8 +778,8 @@ TEST(GetPcieEndpointIds, AcceptsAnyNumber) {
 }
 
 TEST(GetPcieEndpointIds, SearchesProductZeroOnly) {
-  const CVendorInfoFile vif(
-      {Field("a", "1", Product(1), Router(0), Endpoint(1)), Field("a", "2", Router(0), Endpoint(1))});
+  const CVendorInfoFile vif(std::vector<CVIFField>{Field("a", "1", Product(1), Router(0), Endpoint(1)),
+                                                   Field("a", "2", Router(0), Endpoint(1))});
   EXPECT_THAT(Values(vif.GetPcieEndpointIds(0, 1)), IsEmpty());
   EXPECT_THAT(Values(vif.GetPcieEndpointIds(kAny, kAny)), IsEmpty());
 }
@@ -883,7 +885,8 @@ TEST(GetCableSvidMode, AcceptsAnyNumber) {
 
 TEST(GroupGetters, ComparesAllBitsOfANumber) {
   const std::uint64_t large = 0x1'0000'0001;
-  const CVendorInfoFile vif({Field("a", "small", Component(1)), Field("a", "large", Component(large))});
+  const CVendorInfoFile vif(
+      std::vector<CVIFField>{Field("a", "small", Component(1)), Field("a", "large", Component(large))});
   EXPECT_THAT(Values(vif.GetComponent(large)), ElementsAre("large"));
   EXPECT_THAT(Values(vif.GetComponent(1)), ElementsAre("small"));
 }
@@ -953,7 +956,7 @@ TEST(InvalidPattern, IsIgnoredInComponentsThatAreNotSearched) {
 }
 
 TEST(InvalidPattern, ThrowsAtALaterFieldToo) {
-  const CVendorInfoFile vif({Field("a", "1"), Field("a", "2"), Field("a", "3", Component(1))});
+  const CVendorInfoFile vif(std::vector<CVIFField>{Field("a", "1"), Field("a", "2"), Field("a", "3", Component(1))});
   EXPECT_THAT(OutcomesOfAllForms("[", {Component(kAny), kUnused, kUnused}, GetFields(vif)), Each(ErrorOf("[")));
 }
 
@@ -967,7 +970,8 @@ TEST(InvalidPattern, LeavesTheObjectUnchanged) {
 // Long names
 
 TEST(LongName, IsAnsweredOrThrowsTheErrorOfTheExpression) {
-  const CVendorInfoFile vif({Field(std::string(200'000, 'a'), "1"), Field("x", "2"), Field("b", "3")});
+  const CVendorInfoFile vif(
+      std::vector<CVIFField>{Field(std::string(200'000, 'a'), "1"), Field("x", "2"), Field("b", "3")});
   const auto isRegexErrorOr = [](const char* answer) {
     return testing::AnyOf(answer, testing::StartsWith("std::regex_error"));
   };
@@ -985,7 +989,7 @@ TEST(LongName, DoesNotFailAQueryThatFindsOthers) {
 
 TEST(LongName, IsFoundByItself) {
   const std::string name(200'000, 'a');
-  const CVendorInfoFile vif({Field(name, "1"), Field(name + "a", "2")});
+  const CVendorInfoFile vif(std::vector<CVIFField>{Field(name, "1"), Field(name + "a", "2")});
   EXPECT_STREQ(vif.GetUniqueField(name.c_str(), kAnywhere).Value(), "1");
 }
 
