@@ -1,15 +1,21 @@
 #include "Command.h"
+#include "FieldSource.h"
+#include "FindingWriters.h"
 #include "SchemasOption.h"
-#include "check/CheckFile.h"
-#include "check/Codes.h"
-#include "check/FindingWriters.h"
 
+#include <analysis/Check.h>
+#include <analysis/Rules.h>
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <memory>
+#include <string_view>
 
 namespace cli {
+
+using vifanalysis::RuleInfo;
+using vifanalysis::Severity;
+using vifanalysis::SeverityName;
 
 namespace {
 
@@ -43,21 +49,27 @@ constexpr const char* kRestOfFooter =
 /// The help's list of codes.
 std::string CodeList() {
   std::size_t width = 0;
-  for (const FindingCode* code : code::kAll) width = std::max(width, code->name.size());
+  for (const RuleInfo& rule : vifanalysis::Rules()) width = std::max(width, std::string_view(rule.code).size());
   std::string list;
-  for (const FindingCode* code : code::kAll) {
+  for (const RuleInfo& rule : vifanalysis::Rules()) {
     std::string line = "  ";
-    line.append(SeverityName(code->severity)).resize(11, ' ');
-    line.append(code->name).resize(11 + width + 2, ' ');
-    list.append(line).append(code->meaning).append("\n");
+    line.append(SeverityName(rule.severity)).resize(11, ' ');
+    line.append(rule.code).resize(11 + width + 2, ' ');
+    list.append(line).append(rule.what).append("\n");
   }
   return list;
+}
+
+CheckedFile Check(const std::string& fileName) {
+  CheckedFile checked = {fileName, {}};
+  ReadFile(fileName, [&] { checked.findings = vifanalysis::CheckFile(PathOf(fileName)); });
+  return checked;
 }
 
 Status RunCheck(const CheckOptions& options) {
   std::vector<CheckedFile> files;
   files.reserve(options.files.size());
-  for (const std::string& file : options.files) files.push_back(CheckFile(file));
+  for (const std::string& file : options.files) files.push_back(Check(file));
   if (options.format == "json") {
     WriteFindingsAsJson(files);
   } else {

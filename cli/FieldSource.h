@@ -3,12 +3,9 @@
 
 #include <VendorInfoFile.h>
 
-#include <cstddef>
 #include <filesystem>
 #include <functional>
-#include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace cli {
@@ -23,13 +20,5 @@ void ReadFile(const std::string& fileName, const std::function<void()>& read);
 
 /// The path that a UTF-8 name stands for; outside Windows its bytes are taken as they are.
 std::filesystem::path PathOf(const std::string& fileName);
-
-/// The line from which on a file cannot be read, whatever it holds; nothing when all of it can be. Nothing but a
-/// regular file is opened, whatever has the name by now, and nothing is waited for. \throws CZoRunTimeException when it
-/// cannot be opened
-std::optional<std::size_t> FirstUnreadableLine(const std::filesystem::path& path);
-
-/// Whether a path has that extension, which is given in small letters, in any letter case.
-bool HasExtension(const std::filesystem::path& path, std::string_view extension);
 
 }  // namespace cli

@@ -1,8 +1,8 @@
 // The command that makes the library visible.
 #include "Command.h"
 #include "Output.h"
-#include "Text.h"
 
+#include <analysis/Text.h>
 #include <msxml/ComApartment.h>
 
 #include <CLI/CLI.hpp>
@@ -32,7 +32,7 @@ constexpr const char* kFooter =
     "standard error that says why.";
 
 Status Fail(std::string_view reason, Status status = kFailed) {
-  std::fprintf(stderr, "vif: %s\n", cli::Printable(reason).c_str());
+  std::fprintf(stderr, "vif: %s\n", vifanalysis::Printable(reason).c_str());
   return status;
 }
 

@@ -1,0 +1,76 @@
+#include "FileReaders.h"
+#include "FormRules.h"
+#include "rules/Rule.h"
+
+#include <analysis/Check.h>
+#include <analysis/Files.h>
+
+#include <algorithm>
+#include <system_error>
+#include <tuple>
+
+namespace vifanalysis {
+
+namespace {
+
+Findings CheckText(const std::filesystem::path& path) {
+  auto [fields, findings] = ReadTextFile(path);
+  FindBadNumbering(fields, findings);
+  FindTextsForGroups(fields, findings);
+  FindDuplicates(fields, findings);
+  FindBadNumbers(fields, findings);
+  FindWrongCounts(fields, findings);
+  FindNothing(fields, findings);
+  FindContradictions(fields, findings);
+  return findings;
+}
+
+Findings CheckXml(const std::filesystem::path& path) {
+  auto [fields, findings] = ReadXmlFile(path);
+  FindUnknownNames(fields, findings);
+  FindMisplaced(fields, findings);
+  FindDuplicates(fields, findings);
+  FindBadNumbers(fields, findings);
+  FindMissingValues(fields, findings);
+  FindWrongCounts(fields, findings);
+  FindNothing(fields, findings);
+  FindContradictions(fields, findings);
+  return findings;
+}
+
+Findings CheckPath(const std::filesystem::path& path) {
+  std::error_code error;
+  const std::filesystem::file_status status = std::filesystem::status(path, error);
+  if (status.type() == std::filesystem::file_type::not_found) throw CCheckError("there is no such file");
+  if (!std::filesystem::status_known(status)) throw CCheckError(error.message());
+  const bool isText = HasExtension(path, ".txt");
+  if (!isText && !HasExtension(path, ".xml")) throw CCheckError("a VIF is a text (*.txt) or XML (*.xml) file");
+  if (!std::filesystem::is_regular_file(status)) throw CCheckError("only a regular file can be read");
+  return isText ? CheckText(path) : CheckXml(path);
+}
+
+bool Contains(const std::vector<std::string>& codes, const std::string& code) {
+  return std::find(codes.begin(), codes.end(), code) != codes.end();
+}
+
+bool IsWanted(const Finding& finding, const CheckOptions& options) {
+  if (finding.severity == Severity::Note && !options.notes) return false;
+  if (!options.only.empty() && !Contains(options.only, finding.code)) return false;
+  return !Contains(options.except, finding.code);
+}
+
+}  // namespace
+
+CCheckError::~CCheckError() = default;
+
+std::vector<Finding> CheckFile(const std::filesystem::path& path, const CheckOptions& options) {
+  Findings findings = CheckPath(path);
+  std::erase_if(findings, [&](const Finding& finding) { return !IsWanted(finding, options); });
+  std::stable_sort(findings.begin(), findings.end(), [](const Finding& a, const Finding& b) {
+    // What is at no place is about the whole file, and comes last.
+    return std::make_tuple(a.line == 0, a.line, a.column) < std::make_tuple(b.line == 0, b.line, b.column);
+  });
+  return findings;
+}
+
+}  // namespace vifanalysis

@@ -1,0 +1,38 @@
+// Fields with the places where a file declares them, and findings about them.
+#pragma once
+
+#include "Codes.h"
+
+#include <VIFField.h>
+#include <analysis/Finding.h>
+
+#include <cstddef>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace vifanalysis {
+
+/// One field of a checked file and where it is declared. For the rules, the two forms of a file are a list of these.
+struct FoundField {
+  CVIFField field;
+  std::size_t line = 0;    ///< from 1; 0 when not known
+  std::size_t column = 0;  ///< from 1; 0 when not known, which it never is for a text file
+  std::string element;     ///< what a finding about it names: the field in a text file, the path in an XML file
+};
+
+using FoundFields = std::vector<FoundField>;
+using Findings = std::vector<Finding>;
+
+/// A finding at a place of the file.
+inline Finding FindingAt(const FindingCode& code, std::size_t line, std::size_t column, std::string element,
+                         std::string message) {
+  return {code.severity, std::string(code.name), line, column, std::move(element), std::move(message)};
+}
+
+/// A finding about one field.
+inline Finding About(const FoundField& found, const FindingCode& code, std::string message) {
+  return FindingAt(code, found.line, found.column, found.element, std::move(message));
+}
+
+}  // namespace vifanalysis

@@ -1,0 +1,29 @@
+// The forms in which findings can be printed.
+#pragma once
+
+#include <analysis/Finding.h>
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace cli {
+
+/// One file and all that was found in it, in the order of the file.
+struct CheckedFile {
+  std::string name;
+  std::vector<vifanalysis::Finding> findings;
+
+  std::size_t Count(vifanalysis::Severity severity) const;
+};
+
+/// One finding a line, as compilers print theirs, and a last line that counts them.
+void WriteFindingsAsText(const std::vector<CheckedFile>& files);
+
+/// One JSON object with the files, their findings, and the counts; each finding on a line of its own.
+void WriteFindingsAsJson(const std::vector<CheckedFile>& files);
+
+/// The number of findings of all files.
+std::size_t CountFindings(const std::vector<CheckedFile>& files, vifanalysis::Severity severity);
+
+}  // namespace cli
