@@ -10,12 +10,13 @@
 
 namespace vifanalysis {
 
-/// The line from which on a file cannot be read, whatever it holds; nothing when all of it can be. Nothing but a
-/// regular file is opened, whatever has the name by now, and nothing is waited for. \throws CZoRunTimeException when it
-/// cannot be opened
+/// The number of the line where reading the file fails, whatever the file holds; nothing when all of it can be read.
+/// Opens nothing but a regular file and waits for nothing, even if a pipe has taken the file's name.
+/// \throws CZoRunTimeException when it cannot be opened
 VIF_ANALYSIS_API std::optional<std::size_t> FirstUnreadableLine(const std::filesystem::path& path);
 
-/// Whether a path has that extension, which is given in small letters, in any letter case.
+/// Whether a path has that extension in any letter case.
+/// \param extension in lower case, with its dot
 VIF_ANALYSIS_API bool HasExtension(const std::filesystem::path& path, std::string_view extension);
 
 }  // namespace vifanalysis

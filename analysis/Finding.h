@@ -10,11 +10,11 @@ namespace vifanalysis {
 /// How much a finding matters, least first.
 enum class Severity : std::uint8_t {
   Note,     ///< worth knowing, and often as it should be
-  Warning,  ///< worth a look, but may be meant so
-  Error,    ///< something is lost, or cannot be what was meant
+  Warning,  ///< worth a look, but may be intended
+  Error,    ///< something is lost or cannot be intended
 };
 
-/// One thing found. What the file holds appears in the message printable and shortened, in the element as it is.
+/// One finding. Text from the file is printable and shortened in the message, but unchanged in the element.
 struct Finding {
   Severity severity;
   std::string code;     ///< the rule's, such as "declared-twice"; see `FindRule`

@@ -1,6 +1,7 @@
 #include "Command.h"
 #include "FieldSource.h"
 #include "FindingWriters.h"
+#include "HelpFormatter.h"
 #include "SchemasOption.h"
 
 #include <analysis/Check.h>
@@ -24,29 +25,29 @@ struct CheckOptions {
   std::vector<std::string> files;
 };
 
-constexpr const char* kDescription = "Say what is wrong with Vendor Info Files";
+constexpr const char* kDescription = "Find mistakes";
 
 constexpr const char* kFooter =
-    "Each file is checked on its own, and all findings are printed: errors, where something is\n"
-    "lost or cannot be what was meant, and warnings, which are worth a look. Findings:\n";
+    "Checks each file on its own and prints all findings: errors, where something is lost or\n"
+    "cannot be intended, and warnings, which are worth a look. Findings:\n";
 
 constexpr const char* kRestOfFooter =
     "\n"
     "Formats:\n"
-    "  text  FILE:LINE:COLUMN: error: what is wrong [code], one finding a line, with a last line\n"
-    "        that counts them; the line or column is left out where there is none\n"
-    "  json  one object with \"files\", \"errors\" and \"warnings\" (how many); each file has \"file\",\n"
-    "        \"valid\" (no errors) and \"findings\", and each of those \"severity\", \"code\", \"line\",\n"
-    "        \"column\" and \"element\" (null when there is none) and \"message\"\n"
+    "  text  one finding a line, FILE:LINE:COLUMN: error: MESSAGE [CODE], without a line or\n"
+    "        column that is not known, and a last line that counts the findings\n"
+    "  json  one object with \"files\" and the counts \"errors\" and \"warnings\"; each file has\n"
+    "        \"file\", \"valid\" (it has no errors) and \"findings\"; each finding has \"severity\",\n"
+    "        \"code\", \"line\", \"column\" and \"element\" (null if not known) and \"message\"\n"
     "\n"
     "Examples:\n"
     "  vif check charger.txt\n"
     "  vif check --format json port0.xml port1.xml\n"
     "\n"
-    "Exit status: 0 when no file has an error, whatever the warnings; 1 when one has; 2 when one\n"
-    "could not be checked, and then no findings are printed.";
+    "Exit status: 0 if no file has errors, whatever the warnings; 1 if one has; 2, without\n"
+    "findings, if one cannot be checked.";
 
-/// The help's list of codes.
+/// The list of codes in the help.
 std::string CodeList() {
   std::size_t width = 0;
   for (const RuleInfo& rule : vifanalysis::Rules()) width = std::max(width, std::string_view(rule.code).size());
@@ -55,7 +56,7 @@ std::string CodeList() {
     std::string line = "  ";
     line.append(SeverityName(rule.severity)).resize(11, ' ');
     line.append(rule.code).resize(11 + width + 2, ' ');
-    list.append(line).append(rule.what).append("\n");
+    list.append(line).append(WrapHelp(rule.what, line.size())).append("\n");
   }
   return list;
 }
@@ -75,7 +76,7 @@ Status RunCheck(const CheckOptions& options) {
   } else {
     WriteFindingsAsText(files);
   }
-  return CountFindings(files, Severity::Error) == 0 ? kDone : kWanting;
+  return CountFindings(files, Severity::Error) == 0 ? kDone : kNegative;
 }
 
 }  // namespace
@@ -85,7 +86,7 @@ void AddCheckCommand(CLI::App& app, Status& status) {
   command->footer(kFooter + CodeList() + kRestOfFooter);
   command->group("Commands");
   const auto options = std::make_shared<CheckOptions>();
-  command->add_option("--format", options->format, "How to print the findings: text (the default) or json")
+  command->add_option("--format", options->format, "The output format: text (the default) or json")
       ->check(CLI::IsMember({"text", "json"}).description(""))
       ->option_text("FORMAT");
   AddSchemasOption(*command);

@@ -17,11 +17,11 @@ namespace {
 
 constexpr std::size_t kGap = 2;
 
-/// In a pipe longer cells are not cut, but they do not widen the column for all the others either.
+/// In a pipe, longer cells are not cut, but stick out instead of widening the column.
 constexpr std::size_t kWidestColumn = 60;
 constexpr std::size_t kNarrowestColumn = 6;
 
-/// Takes from the widest columns until the line fits, or all are as narrow as can be read.
+/// Narrows the widest columns until the line fits or all have the least readable width.
 void Fit(std::vector<std::size_t>& widths, std::size_t lineWidth) {
   const std::size_t gaps = kGap * (widths.size() - 1);
   while (std::accumulate(widths.begin(), widths.end(), gaps) > lineWidth) {
@@ -53,7 +53,7 @@ std::vector<std::size_t> CColumns::NaturalWidths(std::size_t widest) const {
 
 void CColumns::WriteRow(const std::vector<std::string>& row, const std::vector<std::size_t>& widths, bool cut) const {
   std::string line;
-  std::size_t pending = m_indent;  // blanks owed before the next cell that is not empty
+  std::size_t pending = m_indent;  // blanks before the next cell that is not empty
   for (std::size_t i = 0; i < row.size(); ++i) {
     const std::string cell = cut ? CutToWidth(row[i], widths[i]) : row[i];
     const std::size_t width = DisplayWidth(cell);

@@ -7,14 +7,14 @@
 
 namespace cli {
 
-/// Collects rows of printable cells and writes them in aligned columns. On a terminal the lines are cut to its width;
-/// in a pipe nothing is cut.
+/// Collects rows of printable cells and writes them in aligned columns. Lines are cut to the width of a terminal, but
+/// not in a pipe.
 class CColumns {
  public:
-  /// \param indent blanks before each line
+  /// \param indent the number of blanks before each line
   explicit CColumns(std::size_t indent = 0) : m_indent(indent) {}
 
-  /// Every row must have as many cells as the first.
+  /// All rows must have the same number of cells.
   void Add(std::vector<std::string> row) { m_rows.push_back(std::move(row)); }
 
   /// Writes all rows to standard output.

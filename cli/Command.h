@@ -1,4 +1,4 @@
-// What the commands of `vif` have in common.
+// What the commands of `vif` share.
 #pragma once
 
 #include <stdexcept>
@@ -14,31 +14,32 @@ namespace cli {
 /// The exit statuses.
 enum Status : int {
   kDone = 0,
-  kWanting = 1,  // looked and found wanting: no match, problems, differences
-  kFailed = 2,   // could not do it: usage, unreadable, not a VIF
+  kNegative = 1,  // ran, but found no match or found problems
+  kFailed = 2,    // wrong usage, or a file that cannot be read or is not a VIF
 };
 
-/// The command has looked and found wanting; the text says what.
-class Wanting : public std::runtime_error {
+/// The command ran, but found no match or found problems; the text says what.
+class NegativeResult : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-/// The command cannot do what it was asked to; the text says what, where and why.
+/// The command cannot do what was asked; the text says what failed, where and why.
 class Failure : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-// Each of these adds one command to the application. When the command has run, it leaves its exit status in
-// `status`, which must outlive the application.
+// Each of these adds one command to the application. The command stores its exit status in `status`, which must
+// outlive the application.
 void AddListCommand(CLI::App& app, Status& status);
 void AddGetCommand(CLI::App& app, Status& status);
 void AddShowCommand(CLI::App& app, Status& status);
 void AddCheckCommand(CLI::App& app, Status& status);
 
-/// Makes up for what CLI11 cannot know: a location option of `vif get` may stand without a number. Gives each such
-/// option its number, or "any", with an equals sign.
+/// Joins each location option of `vif get` with its number, or "any" where it has none, by an equals sign: CLI11 cannot
+/// tell whether the number that is optional follows.
+/// \throws Failure for an option that ends in an equals sign
 std::vector<std::string> CompleteLocationOptions(std::vector<std::string> arguments);
 
 }  // namespace cli

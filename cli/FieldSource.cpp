@@ -5,6 +5,7 @@
 #include <BaseUtilities/SimpleBuffer.h>
 #include <VIFInvalidFile.h>
 #include <analysis/Check.h>
+#include <analysis/FileForm.h>
 #include <analysis/Files.h>
 #include <msxml/ComPointer.h>
 
@@ -12,12 +13,13 @@
 
 namespace cli {
 
+using vifanalysis::AdviceOnExtension;
 using vifanalysis::FirstUnreadableLine;
 using vifanalysis::HasExtension;
 
 namespace {
 
-/// The first reason why a file is not valid, and how many more there are.
+/// The first reason why a file is not valid, and the number of further ones.
 std::string ReasonText(const std::vector<DOMDocProblem>& problems) {
   const DOMDocProblem& first = problems.front();
   std::string text;
@@ -29,16 +31,33 @@ std::string ReasonText(const std::vector<DOMDocProblem>& problems) {
   return text;
 }
 
-/// Whether the library's message says which file it is about. The one about extensions does not, although it may quote
-/// what is all of a name.
+/// Whether the library's message names the file. The message about extensions does not, although a short file name may
+/// occur in it.
 bool IsNamed(const std::string& fileName, const std::string& reason) {
   return !reason.starts_with("Invalid file type") && reason.find(fileName) != std::string::npos;
 }
 
-/// A text file that cannot be read to its end is loaded as far as it can be, and nobody is told; here somebody is.
+/// The library loads a text file up to a read error and does not report the error.
 void RequireReadable(const std::string& fileName) {
   const std::optional<std::size_t> line = FirstUnreadableLine(PathOf(fileName));
-  if (line) throw Failure(std::string("the file could not be read on from line ").append(std::to_string(*line)));
+  if (line) throw Failure(std::string("reading the file failed in line ").append(std::to_string(*line)));
+}
+
+/// XML that is named as text loads without an error, although next to nothing of it is read.
+void RequireItsOwnExtension(const std::string& fileName) {
+  if (const std::optional<std::string> advice = AdviceOnExtension(PathOf(fileName))) throw Failure(*advice);
+}
+
+void LoadFile(const std::string& fileName, CVendorInfoFile& vif) {
+  try {
+    vif.Append(fileName.c_str());
+  } catch (const CVIFInvalidFile&) {
+    RequireItsOwnExtension(fileName);
+    throw;
+  }
+  if (!HasExtension(PathOf(fileName), ".txt")) return;
+  RequireReadable(fileName);
+  RequireItsOwnExtension(fileName);
 }
 
 }  // namespace
@@ -46,10 +65,7 @@ void RequireReadable(const std::string& fileName) {
 CVendorInfoFile LoadFiles(const std::vector<std::string>& fileNames) {
   CVendorInfoFile vif;
   for (const std::string& fileName : fileNames) {
-    ReadFile(fileName, [&] {
-      vif.Append(fileName.c_str());
-      if (HasExtension(PathOf(fileName), ".txt")) RequireReadable(fileName);
-    });
+    ReadFile(fileName, [&] { LoadFile(fileName, vif); });
   }
   return vif;
 }

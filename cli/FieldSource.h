@@ -1,4 +1,4 @@
-// Loads the files that a command is given.
+// Loads the files named on the command line.
 #pragma once
 
 #include <VendorInfoFile.h>
@@ -11,14 +11,14 @@
 namespace cli {
 
 /// One object with the fields of all files, in the order given.
-/// \throws Failure that names the file which could not be loaded, and why
+/// \throws Failure with the name of the file that cannot be loaded and the reason
 CVendorInfoFile LoadFiles(const std::vector<std::string>& fileNames);
 
-/// Runs what reads one file.
-/// \throws Failure that names the file, and why it could not be read
+/// Calls `read`, which reads that file.
+/// \throws Failure with the name of the file and the reason why it cannot be read
 void ReadFile(const std::string& fileName, const std::function<void()>& read);
 
-/// The path that a UTF-8 name stands for; outside Windows its bytes are taken as they are.
+/// The path of a file whose name is UTF-8 on Windows, and any bytes elsewhere.
 std::filesystem::path PathOf(const std::string& fileName);
 
 }  // namespace cli

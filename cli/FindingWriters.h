@@ -1,4 +1,4 @@
-// The forms in which findings can be printed.
+// Prints findings.
 #pragma once
 
 #include <analysis/Finding.h>
@@ -9,7 +9,7 @@
 
 namespace cli {
 
-/// One file and all that was found in it, in the order of the file.
+/// One file and its findings, in the order of the file.
 struct CheckedFile {
   std::string name;
   std::vector<vifanalysis::Finding> findings;
@@ -17,13 +17,13 @@ struct CheckedFile {
   std::size_t Count(vifanalysis::Severity severity) const;
 };
 
-/// One finding a line, as compilers print theirs, and a last line that counts them.
+/// One finding a line, like a compiler, and a last line that counts them.
 void WriteFindingsAsText(const std::vector<CheckedFile>& files);
 
-/// One JSON object with the files, their findings, and the counts; each finding on a line of its own.
+/// One JSON object with the files, their findings and the counts, each finding on a line of its own.
 void WriteFindingsAsJson(const std::vector<CheckedFile>& files);
 
-/// The number of findings of all files.
+/// The number of findings of that severity in all files.
 std::size_t CountFindings(const std::vector<CheckedFile>& files, vifanalysis::Severity severity);
 
 }  // namespace cli

@@ -56,23 +56,24 @@ struct GetOptions {
   std::string pattern;
 };
 
-constexpr const char* kDescription = "Print the values of the fields that match a name and a place";
+constexpr const char* kDescription = "Print the values of fields by name and place";
 
 constexpr const char* kFooter =
-    "PATTERN is a regular expression (ECMAScript) that must fit the whole name, in any letter\n"
-    "case; without it, or when it is empty, any name will do. The location options say where\n"
-    "the field must stand, at most three of them; each takes a number, or 'any' or nothing\n"
-    "when any number will do ('--' ends the options before a FILE named 1). Components, PDOs, SVIDs, modes and "
-    "endpoints are numbered from 1,\n"
-    "routers from 0.\n"
+    "PATTERN is a regular expression (ECMAScript) that must match the whole name, in any letter\n"
+    "case. Without it, or if it is empty, all names match.\n"
+    "\n"
+    "Up to three location options select the groups that the field is in. Each takes a number;\n"
+    "without one, or with 'any', all numbers match. Components, PDOs, SVIDs, modes and\n"
+    "endpoints are numbered from 1, routers from 0. Put '--' before a FILE whose name is a\n"
+    "number.\n"
     "\n"
     "Examples:\n"
     "  vif get --component 1 --src-pdo 2 --number charger.txt Src_PDO_Voltage\n"
     "  vif get --snk-pdo any --with-name tablet.txt 'Snk_PDO_.*'\n"
     "  vif get --unique tablet.txt '.*Vendor_Name'\n"
     "\n"
-    "Exit status: 0 when a field matches; 1 when none does, when --unique finds several, or\n"
-    "when --number meets a field without a number, for which it prints '-'; 2 on failure.";
+    "Exit status: 0 if a field matches; 1 if none does, if --unique finds several, or if\n"
+    "--number finds a field without a number, for which it prints '-'; 2 on failure.";
 
 std::optional<std::uint64_t> ParseNumber(std::string_view text) {
   std::uint64_t number = 0;
@@ -100,7 +101,7 @@ Query MakeQuery(const GetOptions& options) {
   return query;
 }
 
-/// The library compiles a pattern only when a field's place fits; a user wants to know in any case.
+/// The library compiles a pattern only if a field is in the right place; here a bad one is an error in any case.
 void RequireSoundPattern(const std::string& pattern) {
   try {
     CVIFField().Match(pattern.c_str(),
@@ -115,8 +116,8 @@ VifFieldList Find(const CVendorInfoFile& vif, const GetOptions& options, const Q
   try {
     const std::vector<CVIFField> one = {vif.GetUniqueField(options.pattern.c_str(), query)};
     return CVendorInfoFile(one).GetFields();
-  } catch (const CZoRunTimeException& finding) {
-    throw Wanting(finding.what());
+  } catch (const CZoRunTimeException& error) {
+    throw NegativeResult(error.what());
   }
 }
 
@@ -130,14 +131,14 @@ Status RunGet(const GetOptions& options) {
   RequireSoundPattern(options.pattern);
   const CVendorInfoFile vif = LoadFiles({options.file});
   const VifFieldList fields = Find(vif, options, query);
-  if (fields->empty()) throw Wanting("no field in \"" + options.file + "\" matches");
+  if (fields->empty()) throw NegativeResult("no field in \"" + options.file + "\" matches");
   bool complete = true;
   for (const CVIFField& field : *fields) {
     if (options.withName) Write(Printable(field.Name()) + '\t' + LocationText(field) + '\t');
     Write(ValueText(field, options.asNumber) + '\n');
     complete = complete && (!options.asNumber || HasNumber(field));
   }
-  return complete ? kDone : kWanting;
+  return complete ? kDone : kNegative;
 }
 
 bool IsLocationOption(std::string_view argument) {
@@ -178,12 +179,12 @@ void AddGetCommand(CLI::App& app, Status& status) {
         ->option_text("[N]")
         ->group("Location options");
   }
-  command->add_flag("--number", options->asNumber, "Print the number that each value stands for");
+  command->add_flag("--number", options->asNumber, "Print each value as a decimal number");
   command->add_flag("--with-name", options->withName, "Print name, place and value, separated by tabs");
-  command->add_flag("--unique", options->unique, "Insist on exactly one matching field");
+  command->add_flag("--unique", options->unique, "Require exactly one matching field");
   AddSchemasOption(*command);
   command->add_option("FILE", options->file, "The file, text (.txt) or XML (.xml)")->required()->option_text(" ");
-  command->add_option("PATTERN", options->pattern, "The names wanted")->option_text(" ");
+  command->add_option("PATTERN", options->pattern, "The names to match")->option_text(" ");
   command->callback([options, &status] { status = RunGet(*options); });
 }
 

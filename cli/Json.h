@@ -7,10 +7,10 @@
 
 namespace cli {
 
-/// Members keep the order in which they are added.
+/// Keeps its members in the order in which they were added.
 using Json = nlohmann::ordered_json;
 
-/// On one line; bytes that are not UTF-8 become U+FFFD.
+/// The text on one line. Bytes that are not UTF-8 become U+FFFD.
 inline std::string Dump(const Json& json) { return json.dump(-1, ' ', false, Json::error_handler_t::replace); }
 
 }  // namespace cli

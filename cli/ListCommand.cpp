@@ -16,16 +16,16 @@ struct ListOptions {
   std::vector<std::string> files;
 };
 
-constexpr const char* kDescription = "Print the fields of one or more Vendor Info Files";
+constexpr const char* kDescription = "List all fields";
 
 constexpr const char* kFooter =
-    "The files are loaded into one object, in the order given: components are numbered on from\n"
-    "file to file, and the fields appear in the order in which they stand in the files.\n"
+    "Loads all files together, in the order given: component numbers continue from file to\n"
+    "file. Prints the fields in the order of the files.\n"
     "\n"
     "Formats:\n"
-    "  table  one field a line, in aligned columns, cut to the width of a terminal; text\n"
-    "         values stand in double quotes, numeric ones do not; '?' is an index that the\n"
-    "         file does not give\n"
+    "  table  aligned columns, one field a line, cut to the width of a terminal; text values\n"
+    "         are in double quotes, numeric ones are not; '?' is an index that the file does\n"
+    "         not give\n"
     "  json   one object with \"files\", \"componentCount\" and \"fields\"; each field has \"name\",\n"
     "         \"value\", \"description\", \"numeric\", \"number\" (null when the value is not a number)\n"
     "         and \"indexes\", a list of \"location\" and \"index\", outermost group first\n"
@@ -36,7 +36,7 @@ constexpr const char* kFooter =
     "  vif list charger.txt\n"
     "  vif list --format json port0.txt port1.txt\n"
     "\n"
-    "Exit status: 0 when all files were loaded, 2 when one could not be.";
+    "Exit status: 0 if all files load, 2 if one does not.";
 
 void RunList(const ListOptions& options) {
   const CVendorInfoFile vif = LoadFiles(options.files);
@@ -56,7 +56,7 @@ void AddListCommand(CLI::App& app, Status& status) {
   command->footer(kFooter);
   command->group("Commands");
   const auto options = std::make_shared<ListOptions>();
-  command->add_option("--format", options->format, "How to print them: table (the default), json or csv")
+  command->add_option("--format", options->format, "The output format: table (the default), json or csv")
       ->check(CLI::IsMember({"table", "json", "csv"}).description(""))
       ->option_text("FORMAT");
   AddSchemasOption(*command);

@@ -1,5 +1,6 @@
-// The command that makes the library visible.
+// The `vif` command.
 #include "Command.h"
+#include "HelpFormatter.h"
 #include "Output.h"
 
 #include <analysis/Text.h>
@@ -13,6 +14,7 @@
 #include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <memory>
 #include <new>
 
 namespace {
@@ -22,14 +24,14 @@ using cli::kFailed;
 using cli::Status;
 
 constexpr const char* kDescription =
-    "Reads Vendor Info Files (VIFs): the declaration of a USB Type-C, USB Power Delivery or USB4\n"
-    "product's capabilities that its vendor hands in for compliance testing.";
+    "Reads Vendor Info Files (VIFs), in which the vendor of a USB Type-C, USB Power Delivery or\n"
+    "USB4 product declares its capabilities for compliance testing.";
 
 constexpr const char* kFooter =
-    "'vif COMMAND --help' says more about a command, with examples.\n"
+    "'vif COMMAND --help' describes a command, with examples.\n"
     "\n"
-    "Exit status: 0 done; 1 looked and found wanting; 2 could not do it, with one line on\n"
-    "standard error that says why.";
+    "Exit status: 0 done; 1 ran, but found no match or found problems; 2 failed, with one line\n"
+    "on standard error that says why.";
 
 Status Fail(std::string_view reason, Status status = kFailed) {
   std::fprintf(stderr, "vif: %s\n", vifanalysis::Printable(reason).c_str());
@@ -39,25 +41,25 @@ Status Fail(std::string_view reason, Status status = kFailed) {
 std::string UsageProblem(const CLI::App& app, const CLI::ParseError& error) {
   if (!app.get_subcommands().empty()) return error.what();
   const std::vector<std::string> unknown = app.remaining();
-  return unknown.empty() ? "no command given" : "there is no command or option '" + unknown.front() + "'";
+  return unknown.empty() ? "no command given" : "unknown command or option '" + unknown.front() + "'";
 }
 
 Status Run(int argc, char** argv) {
   Status status = kFailed;
   CLI::App app(kDescription, "vif");
+  app.formatter(std::make_shared<cli::CHelpFormatter>());
   app.footer(kFooter);
   app.set_version_flag("--version", "vif " VIF_VERSION, "Print the version and exit");
   app.set_help_flag("-h,--help", "Print this help and exit");
-  app.allow_windows_style_options(false);  // a path may begin with a slash on any system
+  app.allow_windows_style_options(false);  // a path may begin with a slash
   app.require_subcommand(1);
-  app.get_formatter()->label("SUBCOMMAND", "COMMAND ...");
   cli::AddListCommand(app, status);
   cli::AddGetCommand(app, status);
   cli::AddShowCommand(app, status);
   cli::AddCheckCommand(app, status);
   try {
     std::vector<std::string> arguments = cli::CompleteLocationOptions({argv + 1, argv + argc});
-    std::reverse(arguments.begin(), arguments.end());  // as CLI11 wants them
+    std::reverse(arguments.begin(), arguments.end());  // CLI11 takes them from the end
     app.parse(std::move(arguments));
   } catch (const CLI::ParseError& error) {
     if (error.get_exit_code() != 0) return Fail(UsageProblem(app, error) + " (see 'vif --help')");
@@ -69,28 +71,28 @@ Status Run(int argc, char** argv) {
   return status;
 }
 
-/// As it stands: there is no memory to make anything of it.
+/// Builds no text, as there is no memory for it.
 Status FailWithoutMemory() {
   std::fputs("vif: out of memory\n", stderr);
   return kFailed;
 }
 
-/// Ends the process where memory runs out. An exception would not always come through: streams keep it to themselves
-/// and are cut, and CLI11 copies texts in functions that must not throw.
+/// Ends the process when memory runs out. An exception might get lost: streams swallow it and cut their text, and CLI11
+/// copies texts in functions that must not throw.
 [[noreturn]] void EndWithoutMemory() { std::_Exit(FailWithoutMemory()); }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   std::set_new_handler(EndWithoutMemory);
-  std::setlocale(LC_CTYPE, "C.UTF-8");  // for the width of characters; the library asks the C++ locale, not this one
+  std::setlocale(LC_CTYPE, "C.UTF-8");  // for CharacterWidth; the library uses the C++ locale, not this one
   try {
     cli::PrepareOutput();
     const CComApartment apartment;
     return Run(argc, argv);
-  } catch (const cli::Wanting& finding) {
-    return Fail(finding.what(), cli::kWanting);
-  } catch (const std::bad_alloc&) {  // from what does not allocate by `new`
+  } catch (const cli::NegativeResult& result) {
+    return Fail(result.what(), cli::kNegative);
+  } catch (const std::bad_alloc&) {  // from code that does not allocate with `new`
     return FailWithoutMemory();
   } catch (const std::exception& error) {
     return Fail(error.what());

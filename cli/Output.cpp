@@ -27,7 +27,7 @@ namespace {
 }
 
 #ifdef _WIN32
-/// How the console that standard output is treats what it gets; nothing when it is no console.
+/// The console mode of standard output; nothing when it is not a console.
 std::optional<DWORD> ConsoleMode() {
   DWORD mode = 0;
   if (GetConsoleMode(GetStdHandle(STD_OUTPUT_HANDLE), &mode) == 0) return std::nullopt;
@@ -38,7 +38,7 @@ void PrepareConsole() {
   SetConsoleOutputCP(CP_UTF8);
   for (FILE* stream : {stdout, stderr}) {
     _setmode(_fileno(stream), _O_BINARY);
-    std::setvbuf(stream, nullptr, _IOFBF, 1 << 16);  // a console must not get the bytes of a character one by one
+    std::setvbuf(stream, nullptr, _IOFBF, 1 << 16);  // a console must get all bytes of a character at once
   }
   const std::optional<DWORD> mode = ConsoleMode();
   if (mode) SetConsoleMode(GetStdHandle(STD_OUTPUT_HANDLE), *mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
@@ -46,22 +46,22 @@ void PrepareConsole() {
 
 bool IsTerminal() { return ConsoleMode().has_value(); }
 
-// Consoles before those of Windows 10 show them as characters.
+// Consoles before Windows 10 print the sequences.
 bool DoesTerminalHeedEscapes() { return (ConsoleMode().value_or(0) & ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0; }
 
-size_t AskedWidth() {
+size_t ConsoleWidth() {
   CONSOLE_SCREEN_BUFFER_INFO info;
   if (GetConsoleScreenBufferInfo(GetStdHandle(STD_OUTPUT_HANDLE), &info) == 0) return 0;
   return static_cast<size_t>(info.srWindow.Right - info.srWindow.Left + 1);
 }
 #else
-void PrepareConsole() {}  // bytes are what this system always writes
+void PrepareConsole() {}
 
 bool IsTerminal() { return isatty(STDOUT_FILENO) != 0; }
 
 bool DoesTerminalHeedEscapes() { return IsTerminal(); }
 
-size_t AskedWidth() {
+size_t ConsoleWidth() {
   winsize size = {};
   return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
 }
@@ -89,7 +89,7 @@ void Flush() {
 std::optional<size_t> TerminalWidth() {
   if (!IsTerminal()) return std::nullopt;
   constexpr size_t usualWidth = 80;
-  for (const size_t width : {AskedWidth(), WidthFromEnvironment()}) {
+  for (const size_t width : {ConsoleWidth(), WidthFromEnvironment()}) {
     if (width > 0) return width;
   }
   return usualWidth;

@@ -1,4 +1,4 @@
-// Standard output, as a stream whose failures are noticed.
+// Standard output, with errors reported.
 #pragma once
 
 #include <cstddef>
@@ -7,22 +7,22 @@
 
 namespace cli {
 
-/// To be called once before anything is written: what is written comes out byte for byte, and a console takes it for
-/// UTF-8.
+/// Prepares standard output and standard error to pass on all bytes unchanged, and a console to read them as UTF-8. To
+/// be called once, before anything is written.
 void PrepareOutput();
 
 /// Writes to standard output, buffered.
-/// \throws Failure when the text cannot be written
+/// \throws Failure when that fails
 void Write(std::string_view text);
 
-/// Writes out what is buffered; to be called once at the end.
-/// \throws Failure when it cannot be written
+/// Writes the buffered text; to be called once, at the end.
+/// \throws Failure when that fails
 void Flush();
 
-/// The columns of the terminal that standard output is; nothing when it is none.
+/// The width of the terminal; nothing when standard output is not a terminal.
 std::optional<size_t> TerminalWidth();
 
-/// Whether standard output is a terminal that takes escape sequences for commands.
+/// Whether standard output is a terminal that obeys escape sequences.
 bool HeedsEscapes();
 
 }  // namespace cli

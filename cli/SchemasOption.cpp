@@ -18,10 +18,10 @@ namespace {
 void UseSchemas(const std::string& name) {
   const std::filesystem::path directory = PathOf(name);
   std::error_code error;
-  if (!std::filesystem::is_directory(directory, error)) throw Failure("--schemas: \"" + name + "\" is no directory");
+  if (!std::filesystem::is_directory(directory, error)) throw Failure("--schemas: \"" + name + "\" is not a directory");
   const bool hasAny = std::filesystem::exists(directory / "VendorInfoFile.xsd", error) ||
                       std::filesystem::exists(directory / "VendorInfoFileOptionalContent.xsd", error);
-  if (!hasAny) throw Failure("--schemas: there is none of the two schemas in \"" + name + "\"");
+  if (!hasAny) throw Failure("--schemas: neither schema is in \"" + name + "\"");
   CDOMDoc::SetSchemaDirectory(directory);
 }
 
@@ -30,7 +30,7 @@ void UseSchemas(const std::string& name) {
 void AddSchemasOption(CLI::App& command) {
   command
       .add_option_function<std::string>("--schemas", UseSchemas,
-                                        "Where the schemas for XML files are, instead of where they are installed")
+                                        "Use the schemas for XML files in this directory, not the installed ones")
       ->option_text("DIR");
 }
 

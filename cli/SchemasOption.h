@@ -1,4 +1,4 @@
-// Where the schemas are that XML files are held against.
+// The option for the schemas of XML files.
 #pragma once
 
 namespace CLI {
@@ -7,7 +7,7 @@ class App;
 
 namespace cli {
 
-/// Adds `--schemas DIR` to a command that reads files. It takes effect before the command runs.
+/// Adds `--schemas DIR` to a command. It takes effect before the command runs.
 void AddSchemasOption(CLI::App& command);
 
 }  // namespace cli

@@ -24,21 +24,21 @@ using vifanalysis::Printable;
 
 namespace {
 
-constexpr const char* kDescription = "Show Vendor Info Files the way a person thinks of them";
+constexpr const char* kDescription = "Show a readable summary";
 
 constexpr const char* kFooter =
-    "Shows what the file says of itself, the product with its USB4 routers and their PCIe\n"
-    "endpoints, and each component with its general fields, its source and sink PDOs in volts,\n"
-    "amperes and watts, and its SVIDs and modes. '?' stands for what the file does not settle,\n"
-    "such as the voltage of a PDO whose supply type is not known.\n"
+    "Shows the header, the product with its USB4 routers and their PCIe endpoints, and each\n"
+    "component with its own fields, its source and sink PDOs in volts, amperes and watts, and\n"
+    "its SVIDs and modes. '?' stands for what the file leaves open, such as the voltage of a\n"
+    "PDO without a supply type.\n"
     "\n"
-    "Output is coloured on a terminal only, and not when NO_COLOR is set.\n"
+    "Headings are bold on a terminal, unless NO_COLOR is set.\n"
     "\n"
     "Examples:\n"
     "  vif show charger.txt\n"
     "  vif show port0.txt port1.txt | less\n"
     "\n"
-    "Exit status: 0 when all files were loaded, 2 when one could not be.";
+    "Exit status: 0 if all files load, 2 if one does not.";
 
 using FieldPointers = std::vector<const CVIFField*>;
 
@@ -48,7 +48,7 @@ struct Group {
   std::map<VifIndex, Group> inner;
 };
 
-/// The file as a tree of groups, as the location slots have it. The tree borrows the fields.
+/// The tree of groups that the location slots describe. It borrows the fields.
 Group MakeTree(const std::vector<CVIFField>& fields) {
   Group root;
   for (const CVIFField& field : fields) {
@@ -67,7 +67,7 @@ void WriteHeading(size_t depth, const std::string& text) {
   Write(std::string(depth * kIndent, ' ') + Heading(text) + '\n');
 }
 
-/// Name, value and, where it says more than the value, the description.
+/// Name, value and, if it differs from the value, the description.
 void WriteFields(size_t depth, const FieldPointers& fields) {
   CColumns columns(depth * kIndent);
   for (const CVIFField* field : fields) {
@@ -111,7 +111,7 @@ void WritePdos(const std::string& heading, const Numbered& pdos) {
   table.Write();
 }
 
-/// A group with all that is in it, each group under a heading of its kind and number.
+/// A group and all groups in it, each under a heading with its kind and number.
 void WriteGroup(size_t depth, const VifIndex& slot, const Group& group) {
   WriteHeading(depth, LocationName(slot) + ' ' + NumberText(slot));
   WriteFields(depth + 1, group.fields);

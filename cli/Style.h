@@ -1,4 +1,4 @@
-// Emphasis for people, on a terminal only.
+// Emphasis, on a terminal only.
 #pragma once
 
 #include <string>
@@ -6,10 +6,10 @@
 
 namespace cli {
 
-/// Whether output may be coloured: standard output is a terminal, and NO_COLOR is unset or empty.
+/// Whether output may have colours: standard output is a terminal, and NO_COLOR is unset or empty.
 bool MayColour();
 
-/// A heading, in bold where output may be coloured.
+/// A heading, in bold if output may have colours.
 std::string Heading(std::string_view text);
 
 }  // namespace cli

@@ -1,4 +1,4 @@
-// The forms in which a list of fields can be printed.
+// Prints a list of fields.
 #pragma once
 
 #include <VendorInfoFile.h>
@@ -8,13 +8,13 @@
 
 namespace cli {
 
-/// A table for people: one field a line, in aligned columns. On a terminal the lines are cut to its width.
+/// A table with one field a line. Lines are cut to the width of a terminal.
 void WriteTable(const CVendorInfoFile& vif);
 
 /// One JSON object: the file names, the component count and the fields, each on a line of its own.
 void WriteJson(const std::vector<std::string>& fileNames, const CVendorInfoFile& vif);
 
-/// Comma-separated values with a header line, as RFC 4180 has them.
+/// Comma-separated values with a header line (RFC 4180).
 void WriteCsv(const CVendorInfoFile& vif);
 
 }  // namespace cli

@@ -3,9 +3,11 @@
 #include "rules/Rule.h"
 
 #include <analysis/Check.h>
+#include <analysis/FileForm.h>
 #include <analysis/Files.h>
 
 #include <algorithm>
+#include <optional>
 #include <system_error>
 #include <tuple>
 
@@ -46,7 +48,10 @@ Findings CheckPath(const std::filesystem::path& path) {
   const bool isText = HasExtension(path, ".txt");
   if (!isText && !HasExtension(path, ".xml")) throw CCheckError("a VIF is a text (*.txt) or XML (*.xml) file");
   if (!std::filesystem::is_regular_file(status)) throw CCheckError("only a regular file can be read");
-  return isText ? CheckText(path) : CheckXml(path);
+  Findings findings = isText ? CheckText(path) : CheckXml(path);
+  if (findings.empty()) return findings;
+  const std::optional<std::string> advice = AdviceOnExtension(path);
+  return advice ? Findings{FindingAt(code::kWrongExtension, 0, 0, {}, *advice)} : findings;
 }
 
 bool Contains(const std::vector<std::string>& codes, const std::string& code) {
@@ -67,7 +72,7 @@ std::vector<Finding> CheckFile(const std::filesystem::path& path, const CheckOpt
   Findings findings = CheckPath(path);
   std::erase_if(findings, [&](const Finding& finding) { return !IsWanted(finding, options); });
   std::stable_sort(findings.begin(), findings.end(), [](const Finding& a, const Finding& b) {
-    // What is at no place is about the whole file, and comes last.
+    // Findings without a line are about the whole file and come last.
     return std::make_tuple(a.line == 0, a.line, a.column) < std::make_tuple(b.line == 0, b.line, b.column);
   });
   return findings;

@@ -11,7 +11,7 @@ namespace vifanalysis {
 
 namespace {
 
-/// A field that says how many groups of a kind stand beside it.
+/// A field with the number of the groups of a kind that are in the same group as the field.
 struct ExactCount {
   const char* field;
   EVifLocation parent;
@@ -24,7 +24,7 @@ constexpr ExactCount kExactCounts[] = {
     {"USB4_Num_PCIe_Endpoints", eVifLocRouter, eVifLocRouterPcie},
 };
 
-/// Two fields that say so together.
+/// Two fields with the minimum and maximum of that number.
 struct CountRange {
   const char* least;
   const char* most;
@@ -32,8 +32,8 @@ struct CountRange {
   EVifLocation counted;
 };
 
-// A range says how many SVIDs or modes the product answers with when it is asked. It need not describe each of them:
-// there are files that say "1 to 1" and describe none. So what does not fit is a warning only.
+// A range says how many SVIDs or modes the product reports when asked. The file need not describe them: some files say
+// "1 to 1" and describe none. So a mismatch is only a warning.
 constexpr CountRange kCountRanges[] = {
     {"Num_SVIDs_Min_SOP", "Num_SVIDs_Max_SOP", eVifLocComponent, eVifLocSopSvid},
     {"Cable_Num_SVIDs_Min", "Cable_Num_SVIDs_Max", eVifLocComponent, eVifLocCableSvid},
@@ -41,7 +41,7 @@ constexpr CountRange kCountRanges[] = {
     {"SVID_Num_Modes_Min", "SVID_Num_Modes_Max", eVifLocCableSvid, eVifLocCableSvidMode},
 };
 
-/// What kind of group a place is; `eVifLocUnset` for the file as a whole.
+/// The kind of the group at a place; `eVifLocUnset` for the file as a whole.
 EVifLocation Kind(const GroupPlace& place) {
   EVifLocation kind = eVifLocUnset;
   for (const VifIndex& slot : place) {
@@ -50,7 +50,7 @@ EVifLocation Kind(const GroupPlace& place) {
   return kind;
 }
 
-/// One group, asked for its counts.
+/// The counts of one group.
 class CCountedGroup {
  public:
   explicit CCountedGroup(const GroupContent& content) : m_content(content) {}
@@ -60,7 +60,7 @@ class CCountedGroup {
     return found != m_content.groups.end() ? found->second.size() : 0;
   }
 
-  /// The field if it is there and has a number.
+  /// The field if it exists and has a number, else null.
   const FoundField* Count(const char* name) const {
     const auto found = m_content.fields.find(name);
     return found != m_content.fields.end() && HasNumber(found->second->field) ? found->second : nullptr;

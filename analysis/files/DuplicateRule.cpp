@@ -15,9 +15,10 @@ void FindDuplicates(const FoundFields& fields, Findings& findings) {
     const auto [first, isFirst] = firsts.try_emplace({found.field.Name(), found.field.Indexes()}, &found);
     if (isFirst) continue;
     const std::size_t line = first->second->line;
-    const std::string where = line != 0 ? " is declared on line " + std::to_string(line) : " is declared before";
-    findings.push_back(About(found, code::kDeclaredTwice,
-                             NameAndPlace(found.field) + where + " already, so that GetUniqueField fails for it"));
+    const std::string where = line != 0 ? " on line " + std::to_string(line) : "";
+    findings.push_back(
+        About(found, code::kDeclaredTwice,
+              NameAndPlace(found.field) + " is already declared" + where + ", so GetUniqueField fails for it"));
   }
 }
 

@@ -7,7 +7,7 @@
 
 namespace vifanalysis {
 
-/// What reading a file gives: its fields, and what is found on the way.
+/// The fields of a file, and the findings of reading it.
 struct FileContent {
   FoundFields fields;
   Findings findings;
@@ -18,7 +18,7 @@ struct FileContent {
 FileContent ReadTextFile(const std::filesystem::path& path);
 
 /// Reads an XML file. The reasons why it is not valid are findings.
-/// \throws CCheckError when it is not the file's fault that it cannot be read, and what `CheckXmlVif` throws then
+/// \throws CCheckError, or what `CheckXmlVif` throws, when it cannot be read for a reason that is not in the file
 FileContent ReadXmlFile(const std::filesystem::path& path);
 
 }  // namespace vifanalysis

@@ -1,48 +1,49 @@
-// What is looked for in the fields of a file.
+// The rules that the fields of a file are checked against.
 #pragma once
 
 #include "FoundField.h"
+#include "KnownNames.h"
 
 #include <string>
 #include <string_view>
 
 namespace vifanalysis {
 
-// Each rule adds what it finds to the list. It takes all fields of one file, in the order of the file, and time that
-// grows with their number.
+// Each rule takes all fields of one file, in the order of the file, and adds its findings to the list. The time it
+// takes is linear in the number of fields, but for a logarithm.
 
-/// A field that its group has already.
+/// Fields that their group already has.
 void FindDuplicates(const FoundFields& fields, Findings& findings);
 
-/// Numeric values that give no number, or not all of what they say.
+/// Numeric values that are not valid numbers, or not entirely.
 void FindBadNumbers(const FoundFields& fields, Findings& findings);
 
-/// A file that yields no field at all and about which nothing else is found that would be an error.
+/// A file that yields no field and has no other error.
 void FindNothing(const FoundFields& fields, Findings& findings);
 
-/// Counts, such as Num_Src_PDOs, that disagree with the groups that are there.
+/// Counts, such as Num_Src_PDOs, that differ from the number of groups.
 void FindWrongCounts(const FoundFields& fields, Findings& findings);
 
-// The place of a field of a text file follows from its name.
+// In a text file, the name of a field decides its place.
 
-/// Groups without a number, and groups that are not numbered through.
+/// Groups without a number, and gaps in their numbers.
 void FindBadNumbering(const FoundFields& fields, Findings& findings);
 
-/// Texts that have the name of a field in a numbered group.
+/// Texts with the name of a field in a numbered group.
 void FindTextsForGroups(const FoundFields& fields, Findings& findings);
 
-// A field of an XML file has any name in any place.
+// In an XML file, a field of any name can be in any place.
 
-/// Names that no definition knows.
+/// Names without a definition.
 void FindUnknownNames(const FoundFields& fields, Findings& findings);
 
-/// Fields that are known to be numeric or boolean, but have no value.
+/// Numeric or boolean fields without a value.
 void FindMissingValues(const FoundFields& fields, Findings& findings);
 
 /// Fields in another place than their definition says.
 void FindMisplaced(const FoundFields& fields, Findings& findings);
 
-/// "no definition knows this name", with the nearest one.
-std::string UnknownNameMessage(std::string_view name);
+/// "unknown name", with similar names that are known.
+std::string UnknownNameMessage(std::string_view name, NameStyle style);
 
 }  // namespace vifanalysis

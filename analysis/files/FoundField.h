@@ -13,12 +13,12 @@
 
 namespace vifanalysis {
 
-/// One field of a checked file and where it is declared. For the rules, the two forms of a file are a list of these.
+/// One field of a checked file and where it is declared. To the rules, a file of either form is a list of these.
 struct FoundField {
   CVIFField field;
   std::size_t line = 0;    ///< from 1; 0 when not known
-  std::size_t column = 0;  ///< from 1; 0 when not known, which it never is for a text file
-  std::string element;     ///< what a finding about it names: the field in a text file, the path in an XML file
+  std::size_t column = 0;  ///< from 1; 0 when not known, as in all text files
+  std::string element;     ///< the field's name in a text file, the element's path in an XML file
 };
 
 using FoundFields = std::vector<FoundField>;

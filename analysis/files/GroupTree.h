@@ -1,4 +1,4 @@
-// The groups of a file, as the places of its fields have them.
+// The groups of a file, derived from the places of its fields.
 #pragma once
 
 #include "FoundField.h"
@@ -14,18 +14,18 @@ namespace vifanalysis {
 /// A group's slots, outermost first, the rest unused.
 using GroupPlace = std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>;
 
-/// What stands directly in one group. It borrows the fields.
+/// The direct content of one group. It borrows the fields.
 struct GroupContent {
   std::map<std::string_view, const FoundField*> fields;  ///< by name; the first of each name
 
-  /// The groups inside, by kind and then by number, which may be `INDEX_NOT_SPECIFIED`, with the first field of each.
+  /// The first field of each inner group, by the group's kind and its number, which may be `INDEX_NOT_SPECIFIED`.
   std::map<EVifLocation, std::map<std::uint64_t, const FoundField*>> groups;
 };
 
-/// All groups that have a field in them or in a group inside them; the file as a whole is the one without a slot.
+/// All groups with a field in them or in an inner group. The file as a whole is the group without slots.
 std::map<GroupPlace, GroupContent> MakeGroupTree(const std::vector<FoundField>& fields);
 
-/// Whether the groups of that kind get their numbers, in a text file, from the names of the fields in them.
+/// Whether a text file numbers the groups of that kind in the names of their fields.
 bool IsNumberedByNames(EVifLocation kind);
 
 }  // namespace vifanalysis

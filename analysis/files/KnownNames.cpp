@@ -1,17 +1,18 @@
 #include "KnownNames.h"
 
+#include "Spelling.h"
+
 #include <analysis/Text.h>
 
 #include <BaseUtilities/StringConvert.h>
 
 #include <algorithm>
-#include <bit>
 #include <cstddef>
-#include <cstdint>
 #include <iterator>
+#include <limits>
 #include <map>
+#include <optional>
 #include <regex>
-#include <vector>
 
 namespace vifanalysis {
 
@@ -19,10 +20,8 @@ namespace {
 
 using NameTable = std::map<std::string, const VifFieldDef*, std::less<>>;
 
-/// Names longer than this are none of the format's, with indexes or without.
+/// No name of the format is longer, with its indexes or without.
 constexpr std::size_t kLongestName = 100;
-
-char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 std::string WithoutDigits(std::string_view name) {
   std::string rest;
@@ -41,7 +40,7 @@ const NameTable& CanonicalNames() {
   return table;
 }
 
-/// The definitions by what a written name has in common with them whatever its indexes: all but the digits.
+/// The definitions by their names without digits, which a written name shares whatever its indexes are.
 const std::multimap<std::string, const VifFieldDef*, std::less<>>& NamesWithoutDigits() {
   static const std::multimap<std::string, const VifFieldDef*, std::less<>> table = [] {
     std::multimap<std::string, const VifFieldDef*, std::less<>> names;
@@ -51,67 +50,19 @@ const std::multimap<std::string, const VifFieldDef*, std::less<>>& NamesWithoutD
   return table;
 }
 
-// What it takes to make one name of another.
-constexpr unsigned kEdit = 8;    // a character more, less or other
-constexpr unsigned kSlight = 1;  // another letter case, or a digit too much, which is often an index
-
-unsigned CostOfLeavingOut(char c) { return IsDigit(c) ? kSlight : kEdit; }
-
-unsigned CostOfChanging(char from, char to) {
-  if (from == to) return 0;
-  return Lower(from) == Lower(to) ? kSlight : kEdit;
-}
-
-/// The edit distance of two names by the costs above; anything above the limit when it is above the limit.
-unsigned Distance(std::string_view written, std::string_view known, unsigned limit, std::vector<unsigned>& row) {
-  row.resize(known.size() + 1);
-  for (std::size_t j = 0; j <= known.size(); ++j) row[j] = static_cast<unsigned>(j) * kEdit;
-  for (const char c : written) {
-    unsigned diagonal = row[0];
-    row[0] += CostOfLeavingOut(c);
-    unsigned least = row[0];
-    for (std::size_t j = 0; j < known.size(); ++j) {
-      const unsigned changed = diagonal + CostOfChanging(c, known[j]);
-      diagonal = row[j + 1];
-      row[j + 1] = std::min({changed, diagonal + CostOfLeavingOut(c), row[j] + kEdit});
-      least = std::min(least, row[j + 1]);
-    }
-    if (least > limit) return least;
-  }
-  return row[known.size()];
-}
-
-/// Which letters and marks a name has, a bit each. A bit that only one of two names has costs an edit, which rules out
-/// most names without a look at their order.
-std::uint32_t Letters(std::string_view name) {
-  std::uint32_t letters = 0;
-  for (const char c : name) {
-    const char lower = Lower(c);
-    if (lower >= 'a' && lower <= 'z') {
-      letters |= 1U << static_cast<unsigned>(lower - 'a');
-    } else if (!IsDigit(c)) {
-      letters |= 1U << 26U;
-    }
-  }
-  return letters;
-}
-
-unsigned LeastEdits(std::uint32_t written, std::uint32_t known) {
-  return static_cast<unsigned>(std::max(std::popcount(written & ~known), std::popcount(known & ~written)));
-}
-
-struct Candidate {
-  std::string_view name;
-  std::uint32_t letters;
-};
-
-const std::vector<Candidate>& Candidates() {
-  static const std::vector<Candidate> candidates = [] {
-    std::vector<Candidate> all;
-    for (const auto& [name, definition] : CanonicalNames()) all.push_back({name, Letters(name)});
+/// The spellings of all definitions, in alphabetical order of the names.
+const std::vector<std::string>& Spellings() {
+  static const std::vector<std::string> spellings = [] {
+    std::vector<std::string> all;
+    for (const auto& [name, definition] : CanonicalNames()) all.push_back(SpellingOf(*definition));
     return all;
   }();
-  return candidates;
+  return spellings;
+}
+
+std::string WithoutMarks(std::string spelling) {
+  std::erase(spelling, kIndexMark);
+  return spelling;
 }
 
 }  // namespace
@@ -130,23 +81,30 @@ const VifFieldDef* FindDefinitionOfWritten(std::string_view writtenName) {
   return found != end ? found->second : nullptr;
 }
 
-std::optional<std::string> NearestName(std::string_view name) {
-  const std::string mark = name.starts_with('$') ? "$" : "";
-  const std::string_view written = name.substr(mark.size());
-  if (written.size() > kLongestName) return std::nullopt;
-  const std::uint32_t letters = Letters(written);
-  unsigned limit = kEdit * (1 + static_cast<unsigned>(written.size()) / 8);  // an edit more for every eight characters
-  std::string_view nearest;
-  std::vector<unsigned> row;
-  for (const Candidate& candidate : Candidates()) {
-    if (LeastEdits(letters, candidate.letters) * kEdit > limit) continue;
-    const unsigned distance = Distance(written, candidate.name, limit, row);
-    if (distance > limit || (distance == limit && !nearest.empty())) continue;
-    limit = distance;
-    nearest = candidate.name;
+std::string SpellingOf(const VifFieldDef& definition) {
+  std::string spelling = Utf16ToUtf8(definition.name);
+  std::wcmatch match;
+  std::regex_match(definition.name, match, definition.pattern);  // finds empty indexes where they belong
+  for (std::size_t i = match.size(); i > 1; --i) {
+    if (match[i - 1].matched) spelling.insert(static_cast<std::size_t>(match.position(i - 1)), 1, kIndexMark);
   }
-  if (nearest.empty()) return std::nullopt;
-  return mark + std::string(nearest);
+  return spelling;
+}
+
+std::vector<std::string> NearestNames(std::string_view writtenName, NameStyle style) {
+  const std::string dollar = writtenName.starts_with('$') ? "$" : "";
+  const std::string_view written = writtenName.substr(dollar.size());
+  std::vector<std::string> nearest;
+  if (written.size() > kLongestName) return nearest;
+  unsigned fewest = std::numeric_limits<unsigned>::max();
+  for (const std::string& spelling : Spellings()) {
+    const std::optional<Respelling> respelling = Respell(written, spelling);
+    if (!respelling || respelling->typos > fewest) continue;
+    if (respelling->typos < fewest) nearest.clear();
+    fewest = respelling->typos;
+    nearest.push_back(dollar + (style == NameStyle::Text ? respelling->name : WithoutMarks(spelling)));
+  }
+  return nearest;
 }
 
 std::string PlaceText(const VifFieldDef& definition) {

@@ -11,7 +11,7 @@ namespace vifanalysis {
 
 namespace {
 
-/// The known names of elements that have a text and no value, and of those of which it is not settled what they have.
+/// The known names of elements that have a text and no value, or that may have either.
 constexpr std::string_view kTextNames[] = {"VIF_Specification",
                                            "VIF_Producer",
                                            "Description",
@@ -42,7 +42,7 @@ void FindMissingValues(const FoundFields& fields, Findings& findings) {
     const CVIFField& field = found.field;
     if (field.IsNumeric() || HasText(field.Name()) || FindDefinition(field.Name()) == nullptr) continue;
     findings.push_back(
-        About(found, code::kNoValue, NameAndPlace(field) + " has no value: the attribute of that name is missing"));
+        About(found, code::kNoValue, NameAndPlace(field) + " has no number: the attribute 'value' is missing"));
   }
 }
 
@@ -50,7 +50,7 @@ void FindNothing(const FoundFields& fields, Findings& findings) {
   const bool hasError = std::any_of(findings.begin(), findings.end(),
                                     [](const Finding& finding) { return finding.severity == Severity::Error; });
   if (fields.empty() && !hasError)
-    findings.push_back(FindingAt(code::kNothingRead, 0, 0, {}, "the file yields no field at all"));
+    findings.push_back(FindingAt(code::kNothingRead, 0, 0, {}, "the file yields no field"));
 }
 
 }  // namespace vifanalysis

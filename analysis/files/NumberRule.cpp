@@ -12,13 +12,13 @@ namespace {
 
 bool IsHexadecimal(std::string_view value) { return value.starts_with("0x") || value.starts_with("0X"); }
 
-/// How much of a numeric value's beginning is read as a number, its "0x" included.
+/// The length of the number that a value begins with, its "0x" included.
 std::size_t ReadLength(std::string_view value) {
   const std::string_view digits = IsHexadecimal(value) ? "0123456789abcdefABCDEF" : "0123456789";
   return std::min(value.find_first_not_of(digits, IsHexadecimal(value) ? 2 : 0), value.size());
 }
 
-/// Whether the number, which is all digits behind its "0x", is the greatest of 64 bits.
+/// Whether a number, all of it digits after the "0x", is the greatest of 64 bits.
 bool IsGreatest(std::string_view number) {
   const std::string_view digits = number.substr(IsHexadecimal(number) ? 2 : 0);
   const std::string_view significant = digits.substr(std::min(digits.find_first_not_of('0'), digits.size()));
@@ -33,7 +33,7 @@ std::string WhyNoNumber(std::string_view value) {
   if (std::string_view(" \t\r\n\v\f").find(value.front()) != std::string_view::npos) return "begins with a blank";
   const std::size_t length = ReadLength(value);
   if (length <= (IsHexadecimal(value) ? 2U : 0U)) return "does not begin with a number";
-  return IsGreatest(value.substr(0, length)) ? "is the number that stands for none" : "has more than 64 bits";
+  return IsGreatest(value.substr(0, length)) ? "is reserved to mean no number" : "has more than 64 bits";
 }
 
 bool IsTruthValue(const CVIFField& field) { return !IsDigit(*field.Value()); }
@@ -51,8 +51,8 @@ void FindBadNumbers(const FoundFields& fields, Findings& findings) {
                 NameAndPlace(field) + " has no number: its value " + Quoted(value) + ' ' + WhyNoNumber(value)));
     } else if (const std::size_t length = ReadLength(value); length < value.size() && !IsTruthValue(field)) {
       findings.push_back(About(found, code::kNumberPartlyRead,
-                               "of the value " + Quoted(value) + " of " + NameAndPlace(field) + " only " +
-                                   Quoted(value.substr(0, length)) + " is read as its number"));
+                               NameAndPlace(field) + ": only " + Quoted(value.substr(0, length)) + " of the value " +
+                                   Quoted(value) + " is read"));
     }
   }
 }

@@ -9,14 +9,14 @@ namespace vifanalysis {
 
 namespace {
 
-/// Such as "SrcPdo 2 is" and "SrcPdo 2 to 5 are".
+/// "SrcPdo 2 is" or "SrcPdo 2 to 5 are".
 std::string Missing(const std::string& kind, std::uint64_t first, std::uint64_t last) {
   const std::string text = kind + ' ' + std::to_string(first);
   if (first == last) return text + " is";
   return text + (last - first == 1 ? " and " : " to ") + std::to_string(last) + " are";
 }
 
-/// \param groups the groups of one kind in one group, by number
+/// \param groups all groups of that kind in one group, by number
 void CheckNumbers(EVifLocation kind, const std::map<std::uint64_t, const FoundField*>& groups, Findings& findings) {
   const std::string name = GetVifLocInfo(kind).name;
   std::uint64_t expected = GetVifLocFirstIndex(kind);
@@ -36,7 +36,7 @@ void CheckNumbers(EVifLocation kind, const std::map<std::uint64_t, const FoundFi
   }
 }
 
-/// The innermost group of the field that has no number, `eVifLocUnset` when all have one.
+/// The field's innermost group without a number, `eVifLocUnset` when all have one.
 EVifLocation GroupWithoutNumber(const CVIFField& field) {
   EVifLocation group = eVifLocUnset;
   for (const VifIndex& slot : field.Indexes()) {
@@ -51,9 +51,9 @@ void FindBadNumbering(const FoundFields& fields, Findings& findings) {
   for (const FoundField& found : fields) {
     const EVifLocation group = GroupWithoutNumber(found.field);
     if (group == eVifLocUnset) continue;
-    findings.push_back(
-        About(found, code::kNoIndex,
-              NameAndPlace(found.field) + ": the name gives no usable number of its " + GetVifLocInfo(group).name));
+    findings.push_back(About(
+        found, code::kNoIndex,
+        NameAndPlace(found.field) + ": the name has no valid " + std::string(GetVifLocInfo(group).name) + " number"));
   }
   for (const auto& [place, content] : MakeGroupTree(fields)) {
     for (const auto& [kind, groups] : content.groups) {

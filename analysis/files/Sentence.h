@@ -1,4 +1,4 @@
-// Pieces of the sentences in findings.
+// Parts of the messages of findings.
 #pragma once
 
 #include <VIFField.h>
@@ -8,7 +8,7 @@
 
 namespace vifanalysis {
 
-/// A piece of a file in single quotes, printable, and shortened when it is long.
+/// Text from a file in single quotes, printable, and shortened if it is long.
 std::string Quoted(std::string_view text);
 
 /// A field by its name and, if it has one, its place: 'Src_PDO_Voltage' (Component 1 · SrcPdo 2).

@@ -14,7 +14,7 @@ namespace vifanalysis {
 
 namespace {
 
-/// The name that the line declares or seems to declare, empty when it has no colon to end one.
+/// What is before the colon of a line, empty when there is none.
 std::string WrittenName(std::string_view content) {
   const std::size_t colon = content.find(':');
   if (colon == std::string_view::npos) return {};
@@ -24,16 +24,16 @@ std::string WrittenName(std::string_view content) {
 
 Finding DescribeLine(const VifLineReport& report) {
   if (report.problem == eVifLineReadFailed) {
-    return FindingAt(code::kReadFailed, report.line, 0, {}, "the file could not be read on; what follows is not known");
+    return FindingAt(code::kReadFailed, report.line, 0, {}, "reading the file failed; the rest of it is not checked");
   }
   std::string name = WrittenName(report.content);
   if (report.problem == eVifLineUnknownName) {
-    std::string message = UnknownNameMessage(name);
+    std::string message = UnknownNameMessage(name, NameStyle::Text);
     return FindingAt(code::kUnknownName, report.line, 0, std::move(name), std::move(message));
   }
   if (report.content == kByteOrderMark) {
     return FindingAt(code::kByteOrderMark, report.line, 0, {},
-                     "there is a byte order mark in this line; nothing is lost to it");
+                     "the line begins with a byte order mark; nothing is lost");
   }
   std::string message =
       Quoted(name.empty() ? report.content : name) + " yields no field: " + DiagnoseLine(report.content);

@@ -21,7 +21,7 @@ std::string_view TrimLeft(std::string_view text) {
 
 std::string_view TrimRight(std::string_view text) { return text.substr(0, text.find_last_not_of(kSpaces) + 1); }
 
-/// The length of the text's beginning that is made of such characters.
+/// The number of such characters that the text begins with.
 std::size_t CountLeading(std::string_view text, std::string_view characters) {
   return std::min(text.find_first_not_of(characters), text.size());
 }
@@ -32,7 +32,7 @@ bool EqualsWord(std::string_view text, std::string_view lowerCaseWord) {
                     [&](char c, char wanted) { return lower(c) == wanted; });
 }
 
-/// The first character of the text, with all its bytes when it is UTF-8.
+/// The first character of the text, all its bytes if it is UTF-8.
 std::string_view FirstCharacter(std::string_view text) {
   std::size_t length = 1;
   while (length < std::min(text.size(), std::size_t{4}) && (static_cast<unsigned char>(text[length]) & 0xC0U) == 0x80) {
@@ -43,23 +43,23 @@ std::string_view FirstCharacter(std::string_view text) {
 
 std::string DiagnoseName(std::string_view name) {
   if (name.empty() || name == "$") return "there is no name before the colon";
-  const std::string_view behindMark = name.substr(name.front() == '$' ? 1 : 0);
-  const std::string_view wrong = behindMark.substr(CountLeading(behindMark, kNameCharacters));
+  name.remove_prefix(name.front() == '$' ? 1 : 0);
+  const std::string_view wrong = name.substr(CountLeading(name, kNameCharacters));
   if (wrong.empty()) return {};
-  if (wrong.front() == '$') return "a '$' may stand at the beginning of a name only";
-  if (kSpaces.find(wrong.front()) != std::string_view::npos) return "there is a blank in the name";
-  return Quoted(FirstCharacter(wrong)) + " may not stand in a name";
+  if (wrong.front() == '$') return "'$' is allowed only at the start of a name";
+  if (kSpaces.find(wrong.front()) != std::string_view::npos) return "the name contains a blank";
+  return Quoted(FirstCharacter(wrong)) + " is not allowed in a name";
 }
 
-std::string Behind(std::string_view rest, std::string_view number) {
-  return Quoted(rest) + " stands behind the number " + Quoted(number) + "; a comment begins with ';'";
+std::string SurplusText(std::string_view rest, std::string_view number) {
+  return Quoted(rest) + " follows the number " + Quoted(number) + "; a comment begins with ';'";
 }
 
 std::string DiagnoseHexNumber(std::string_view value) {
   const std::string_view digits = value.substr(2);
   const std::size_t length = CountLeading(digits, kHexDigits);
-  if (length == 0) return "'0x' has no hexadecimal digits behind it";
-  return Behind(digits.substr(length), value.substr(0, 2 + length));
+  if (length == 0) return "no hexadecimal digit follows '0x'";
+  return SurplusText(digits.substr(length), value.substr(0, 2 + length));
 }
 
 std::string DiagnoseDecimalNumber(std::string_view value) {
@@ -67,13 +67,13 @@ std::string DiagnoseDecimalNumber(std::string_view value) {
   const std::string_view rest = value.substr(length);
   if (rest.starts_with('.') || rest.starts_with(',')) return "the number " + Quoted(value) + " has a decimal point";
   if (CountLeading(value, kHexDigits) == value.size()) {
-    return "the hexadecimal number " + Quoted(value) + " lacks its '0x'";
+    return "the hexadecimal number " + Quoted(value) + " does not begin with '0x'";
   }
-  return Behind(rest, value.substr(0, length));
+  return SurplusText(rest, value.substr(0, length));
 }
 
 std::string DiagnoseNumericValue(std::string_view value) {
-  if (value.empty()) return "there is no value behind the colon";
+  if (value.empty()) return "there is no value after the colon";
   if (value.front() == '"') return "a text in double quotes needs a '$' before the name: $Name: \"value\"";
   if ((value.front() == '-' || value.front() == '+') && CountLeading(value.substr(1), kDigits) > 0) {
     return "the number " + Quoted(value) + " has a sign";
@@ -81,13 +81,13 @@ std::string DiagnoseNumericValue(std::string_view value) {
   if (value.size() >= 2 && EqualsWord(value.substr(0, 2), "0x")) return DiagnoseHexNumber(value);
   if (CountLeading(value, kDigits) > 0) return DiagnoseDecimalNumber(value);
   if (EqualsWord(value, "true") || EqualsWord(value, "false")) {
-    return Quoted(value) + " is written YES or NO in a text file";
+    return "a text file has YES or NO instead of " + Quoted(value);
   }
   for (const std::string_view word : {"yes", "no"}) {
     const std::string_view first = value.substr(0, word.size());
     if (value.size() > word.size() && EqualsWord(first, word) &&
         kNameCharacters.find(value[word.size()]) == std::string_view::npos) {
-      return Quoted(value.substr(word.size())) + " stands behind " + Quoted(first) + "; a comment begins with ';'";
+      return Quoted(value.substr(word.size())) + " follows " + Quoted(first) + "; a comment begins with ';'";
     }
   }
   return Quoted(value) +
@@ -95,7 +95,7 @@ std::string DiagnoseNumericValue(std::string_view value) {
 }
 
 std::string DiagnoseQuotedValue(std::string_view value) {
-  if (value.empty()) return "there is no value behind the colon";
+  if (value.empty()) return "there is no value after the colon";
   if (value.front() != '"') {
     return "the value " + Quoted(value) + " of a name with '$' does not begin with a double quote";
   }
@@ -103,9 +103,9 @@ std::string DiagnoseQuotedValue(std::string_view value) {
   if (closing == 0) return "the closing double quote is missing";
   const std::string_view rest = value.substr(closing + 1);
   if (rest.starts_with(';')) {
-    return "a ';' directly behind the closing double quote spoils the line; it needs a blank before it";
+    return "a blank is missing between the closing double quote and the ';'";
   }
-  if (!rest.empty()) return Quoted(rest) + " stands behind the closing double quote";
+  if (!rest.empty()) return Quoted(rest) + " follows the closing double quote";
   return "there is a line break inside the double quotes";
 }
 
@@ -129,7 +129,7 @@ std::string DiagnoseLine(std::string_view content) {
   if (content.starts_with(kByteOrderMark)) return "there is a byte order mark before the name";
   const std::size_t nul = content.find('\0');
   if (nul == std::string_view::npos) return DiagnoseText(content);
-  return "the line ends at the NUL character in it, and then " + DiagnoseText(content.substr(0, nul));
+  return "the line ends at its NUL character, and " + DiagnoseText(content.substr(0, nul));
 }
 
 }  // namespace vifanalysis

@@ -6,11 +6,11 @@
 
 namespace vifanalysis {
 
-/// What some editors put before the first line of a UTF-8 file. It is no blank.
+/// Some editors put it at the start of a UTF-8 file. It does not count as a blank.
 inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-/// What keeps a line from being a declaration, as a sentence.
-/// \param content the line without its comment, of which loading has made no field
+/// Why a line is not a declaration, without a full stop.
+/// \param content the line without its comment
 std::string DiagnoseLine(std::string_view content);
 
 }  // namespace vifanalysis

@@ -19,10 +19,10 @@ namespace {
 
 std::string_view WhyNoField(EVifElementFate fate) {
   switch (fate) {
-    case eVifElementNotRead: return "it is not read where it stands, nor is anything in it";
-    case eVifElementGivesWay: return "it gives way to the description beside it";
-    case eVifElementForeign: return "it is in another namespace than the VIF's elements, as is anything in it";
-    default: return "there is nothing in it";
+    case eVifElementNotRead: return "it is not read here, and neither is its content";
+    case eVifElementGivesWay: return "the description next to it is read instead";
+    case eVifElementForeign: return "it is not in the namespace of the VIF's elements; its content is lost, too";
+    default: return "it is empty";
   }
 }
 
@@ -33,7 +33,7 @@ Finding DescribePassedOver(const VifElementReport& report) {
 }
 
 Finding DescribeProblem(const DOMDocProblem& problem) {
-  // Of a qualified name, the reason may quote just the local part.
+  // The reason may quote only the local part of a qualified name.
   const std::string localName = problem.element.substr(problem.element.find(':') + 1);
   const bool isNamed = problem.reason.find(localName) != std::string::npos;
   return FindingAt(code::kNotValid, problem.line, problem.column, problem.element,
@@ -49,8 +49,8 @@ bool CanBeRead(const std::filesystem::path& path) {
 }
 
 Findings DescribeProblems(const std::vector<DOMDocProblem>& problems, const std::filesystem::path& path) {
-  if (problems.empty()) throw CCheckError("is not valid, and it is not known why");
-  // A reason without a place may be none of the file's doing; MSXML has no places for the schema's reasons, though.
+  if (problems.empty()) throw CCheckError("the file is not valid, but the reason is not known");
+  // A reason without a place may be a read error, but MSXML gives no place for what breaks the schema, either.
   const bool hasPlace =
       std::any_of(problems.begin(), problems.end(), [](const DOMDocProblem& problem) { return problem.line != 0; });
   if (!hasPlace && !CanBeRead(path)) throw CCheckError(problems.front().reason);
@@ -86,10 +86,10 @@ class CFollower {
     }
   }
 
-  /// Loading has failed: on a group of which it has told before, or for a reason that is none of the file's doing.
+  /// Loading failed, either at the group reported before or for a reason that is not in the file.
   void TakeFailure(const std::exception& error) {
     if (!m_failure) throw;
-    m_failure->message = Quoted(m_failure->element) + " is a group that loading fails on: " + Printable(error.what());
+    m_failure->message = "loading fails at the group " + Quoted(m_failure->element) + ": " + Printable(error.what());
     m_content.findings.push_back(*m_failure);
   }
 

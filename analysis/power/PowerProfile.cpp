@@ -15,7 +15,7 @@ namespace {
 
 constexpr const char* kUnknown = "?";
 
-/// What a unit of a PDO's numbers is worth, in thousandths of a volt, an ampere and a watt.
+/// A kind of supply and the units that its PDO counts in.
 struct Supply {
   const char* name;
   std::uint64_t milliVolt;
@@ -28,15 +28,15 @@ constexpr Supply kBattery = {"Battery", 50, 10, 250};
 constexpr Supply kVariable = {"Variable", 50, 10, 250};
 constexpr Supply kProgrammable = {"PPS", 100, 50, 250};
 
-/// Larger numbers are mistakes, and their products might overflow.
+/// Larger numbers are mistakes, and products of them might overflow.
 constexpr std::uint64_t kLargest = 1'000'000;
 
-/// The fields of one PDO, by what their names end in.
+/// The fields of one PDO by the ends of their names.
 class CPdoFields {
  public:
   explicit CPdoFields(const std::vector<const CVIFField*>& fields) : m_fields(fields) {}
 
-  /// The field whose name is "Src_PDO_" or "Snk_PDO_" and the ending; null when there is none.
+  /// The field whose name is "Src_PDO_" or "Snk_PDO_" and the ending, null when there is none.
   const CVIFField* Find(std::string_view ending) const {
     for (const CVIFField* field : m_fields) {
       const std::string_view name = field->Name();
@@ -57,6 +57,13 @@ std::optional<std::uint64_t> Number(const CVIFField* field) {
   return field->GetULongNumericValue();
 }
 
+/// Whether an augmented supply is a programmable one; the units of the others are not settled here. Up to edition 3.12
+/// there was no other, and no field to tell. A PDP rating is of an adjustable voltage supply.
+bool IsProgrammable(const CPdoFields& fields) {
+  const CVIFField* kind = fields.Find("APDO_Type");
+  return kind != nullptr ? Number(kind) == 0U : fields.Find("PDP_Rating") == nullptr;
+}
+
 const Supply* FindSupply(const CPdoFields& fields) {
   const std::optional<std::uint64_t> type = Number(fields.Find("Supply_Type"));
   if (!type) return nullptr;
@@ -64,13 +71,12 @@ const Supply* FindSupply(const CPdoFields& fields) {
     case 0: return &kFixed;
     case 1: return &kBattery;
     case 2: return &kVariable;
-    // Of the augmented supplies only the programmable one has units that are settled here.
-    case 3: return Number(fields.Find("APDO_Type")) == 0U ? &kProgrammable : nullptr;
+    case 3: return IsProgrammable(fields) ? &kProgrammable : nullptr;
     default: return nullptr;
   }
 }
 
-/// The first of the fields that is there, in units.
+/// The first field that exists, converted with what one of its units is worth.
 std::string Amount(std::initializer_list<const CVIFField*> candidates, std::uint64_t worth, bool unitIsKnown) {
   for (const CVIFField* field : candidates) {
     if (field == nullptr) continue;

@@ -1,12 +1,12 @@
-// How wide a terminal shows characters.
+// How many columns of a terminal a character takes up.
 #pragma once
 
 #include <cstddef>
 
 namespace vifanalysis {
 
-/// The columns that a character takes up: 2 for most of East Asia's, 0 for marks that join the character before them.
-/// What has no width, such as a control character, counts as 1.
+/// 2 for most characters of East Asia, 0 for marks that combine with the character before them, otherwise 1, also for
+/// control characters.
 std::size_t CharacterWidth(char32_t c);
 
 }  // namespace vifanalysis

@@ -7,13 +7,13 @@ namespace vifanalysis {
 
 namespace {
 
-/// Characters that follow one another, and what no character has been given to between them.
+/// Characters that follow one another, perhaps with unassigned code points between them.
 struct Range {
   char32_t first;
   char32_t last;
 };
 
-// As Unicode 15 has them, in ascending order.
+// From Unicode 15, in ascending order.
 
 constexpr Range kJoining[] = {
     {0x0300, 0x036F},   {0x0483, 0x0489},   {0x0591, 0x05BD},   {0x05BF, 0x05BF},   {0x05C1, 0x05C2},

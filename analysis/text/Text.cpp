@@ -10,8 +10,7 @@ namespace vifanalysis {
 
 namespace {
 
-/// The columns of what begins at an element of the text. Where a character is made of two elements, the second one
-/// takes up none.
+/// The columns of the character that begins at an element of the text; 0 for the second element of a surrogate pair.
 size_t WidthAt(std::wstring_view text, size_t i) {
   const auto c = static_cast<char32_t>(text[i]);
   if constexpr (sizeof(wchar_t) == 2) {
@@ -25,7 +24,7 @@ size_t WidthAt(std::wstring_view text, size_t i) {
 
 bool IsControl(wchar_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0) || c == 0x2028 || c == 0x2029; }
 
-/// Characters that change the direction of the text around them, and so what a reader believes to see.
+/// Characters that change the direction of text, and with it what a reader sees.
 bool IsDirectionMark(wchar_t c) {
   return (c >= 0x202A && c <= 0x202E) || (c >= 0x2066 && c <= 0x2069) || c == 0x200E || c == 0x200F;
 }
@@ -70,7 +69,7 @@ size_t DisplayWidth(std::string_view text) {
 std::string CutToWidth(std::string_view text, size_t width) {
   const std::wstring wide = Utf8ToUtf16(text);
   size_t used = 0;
-  size_t fits = 0;  // characters that leave a column for the ellipsis
+  size_t fits = 0;  // the characters that fit before the ellipsis
   for (size_t i = 0; i < wide.size(); ++i) {
     used += WidthAt(wide, i);
     if (used < width) fits = i + 1;

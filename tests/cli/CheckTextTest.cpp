@@ -42,42 +42,40 @@ INSTANTIATE_TEST_SUITE_P(
                              "there is no colon; a declaration is written \"Name: value\", without an equals sign"},
                     LostLine{"\v", "there is no colon"}, LostLine{": 5", "there is no name before the colon"},
                     LostLine{"$: \"x\"", "there is no name before the colon"},
-                    LostLine{"P-D: 5", "'-' may not stand in a name"},
-                    LostLine{"P\u00EFD: 5", "'\u00EF' may not stand in a name"},
-                    LostLine{"P\xFF: 5", "'\uFFFD' may not stand"}, LostLine{"P D: 5", "there is a blank in the name"},
-                    LostLine{"P$D: 5", "a '$' may stand at the beginning of a name only"},
-                    LostLine{"$$TID: \"x\"", "a '$' may stand at the beginning of a name only"}));
+                    LostLine{"P-D: 5", "'-' is not allowed in a name"},
+                    LostLine{"P\u00EFD: 5", "'\u00EF' is not allowed in a name"},
+                    LostLine{"P\xFF: 5", "'\uFFFD' is not allowed"}, LostLine{"P D: 5", "the name contains a blank"},
+                    LostLine{"P$D: 5", "'$' is allowed only at the start of a name"},
+                    LostLine{"$$TID: \"x\"", "'$' is allowed only at the start of a name"}));
 
 INSTANTIATE_TEST_SUITE_P(
     NumericValues, CheckLine,
     testing::Values(
-        LostLine{"PID:", "there is no value behind the colon"},
-        LostLine{"PID: ; 5", "there is no value behind the colon"}, LostLine{"PID: -5", "the number '-5' has a sign"},
+        LostLine{"PID:", "there is no value after the colon"},
+        LostLine{"PID: ; 5", "there is no value after the colon"}, LostLine{"PID: -5", "the number '-5' has a sign"},
         LostLine{"PID: +5", "the number '+5' has a sign"}, LostLine{"PID: 1.5", "the number '1.5' has a decimal point"},
         LostLine{"PID: 1,5", "the number '1,5' has a decimal point"},
-        LostLine{"PID: 5 V", "' V' stands behind the number '5'"},
-        LostLine{"PID: 5\f", "'\\x0c' stands behind the number '5'"},
-        LostLine{"PID: 18d1", "the hexadecimal number '18d1' lacks its '0x'"},
-        LostLine{"PID: 0x", "'0x' has no hexadecimal digits behind it"},
-        LostLine{"PID: 0x1G", "'G' stands behind the number '0x1'"},
-        LostLine{"PID: True", "'True' is written YES or NO in a text file"},
-        LostLine{"PID: Yes!", "'!' stands behind 'Yes'"},
+        LostLine{"PID: 5 V", "' V' follows the number '5'"}, LostLine{"PID: 5\f", "'\\x0c' follows the number '5'"},
+        LostLine{"PID: 18d1", "the hexadecimal number '18d1' does not begin with '0x'"},
+        LostLine{"PID: 0x", "no hexadecimal digit follows '0x'"}, LostLine{"PID: 0x1G", "'G' follows the number '0x1'"},
+        LostLine{"PID: True", "a text file has YES or NO instead of 'True'"},
+        LostLine{"PID: Yes!", "'!' follows 'Yes'"},
         LostLine{"PID: None", "'None' is neither a number (decimal, or hexadecimal with 0x) nor YES or NO"},
         LostLine{"PID: Acme",
                  "'Acme' is neither a number (decimal, or hexadecimal with 0x) nor YES or NO; text values "
                  "need $Name: \"value\""},
         LostLine{"PID: \"5\"", "a text in double quotes needs a '$' before the name: $Name: \"value\""},
-        LostLine{"PID: \0"s + "5", "the line ends at the NUL character in it, and then there is no value"}));
+        LostLine{"PID: \0"s + "5", "the line ends at its NUL character, and there is no value"}));
 
 INSTANTIATE_TEST_SUITE_P(
     QuotedValues, CheckLine,
-    testing::Values(LostLine{"$TID:", "there is no value behind the colon"},
+    testing::Values(LostLine{"$TID:", "there is no value after the colon"},
                     LostLine{"$TID: 5", "the value '5' of a name with '$' does not begin with a double quote"},
                     LostLine{"$TID: \"5", "the closing double quote is missing"},
                     LostLine{"$TID: \"5 ; comment", "the closing double quote is missing"},
-                    LostLine{"$TID: \"5\" 6", "' 6' stands behind the closing double quote"},
-                    LostLine{"$TID: \"5\"; comment", "a ';' directly behind the closing double quote spoils the line"},
-                    LostLine{"$TID: \"5\";", "a ';' directly behind the closing double quote spoils the line"},
+                    LostLine{"$TID: \"5\" 6", "' 6' follows the closing double quote"},
+                    LostLine{"$TID: \"5\"; comment", "a blank is missing between the closing double quote and the ';'"},
+                    LostLine{"$TID: \"5\";", "a blank is missing between the closing double quote and the ';'"},
                     LostLine{"$TID: \"5\r6\"", "there is a line break inside the double quotes"}));
 
 TEST(CheckLine, TheNameIsInTheMessage) {
@@ -95,11 +93,11 @@ TEST(CheckByteOrderMark, BeforeACommentIsAWarning) {
   EXPECT_THAT(Found("\xEF\xBB\xBF; comment\nPID: 5\n"), ElementsAre("1 warning byte-order-mark"));
 }
 
-TEST(CheckText, ReadsOnBehindALineThatYieldsNoField) {
+TEST(CheckText, ReadsOnAfterALineThatYieldsNoField) {
   EXPECT_THAT(Found("oops\nPID: 1\noops\n"), ElementsAre("1 error not-a-declaration", "3 error not-a-declaration"));
 }
 
-TEST(CheckText, AFileThatCannotBeReadOnIsAnError) {
+TEST(CheckText, AReadErrorIsAnError) {
 #ifdef __linux__
   const testsupport::TempDir dir;
   std::filesystem::create_symlink("/proc/self/mem", dir.Path() / "a.txt");  // regular, but its first byte is unreadable
@@ -110,27 +108,68 @@ TEST(CheckText, AFileThatCannotBeReadOnIsAnError) {
 #endif
 }
 
-TEST(CheckName, NamesTheNearestOne) {
-  EXPECT_THAT(Found("Src_PDO_Voltge2: 5\n"), ElementsAre("1 warning unknown-name"));
-  EXPECT_THAT(Messages("Src_PDO_Voltge2: 5\n"),
-              ElementsAre("no definition knows the name 'Src_PDO_Voltge2'; the nearest one is 'Src_PDO_Voltage'"));
+TEST(CheckName, ComesWithASuggestion) {
+  EXPECT_THAT(Found("Num_Scr_PDOs: 5\n"), ElementsAre("1 warning unknown-name"));
+  EXPECT_THAT(Messages("Num_Scr_PDOs: 5\n"), ElementsAre("unknown name 'Num_Scr_PDOs'; did you mean 'Num_Src_PDOs'?"));
 }
 
-TEST(CheckName, LetterCaseHardlyCounts) {
-  EXPECT_THAT(Messages("no_usb_suspend_may_be_set: 5\n"), ElementsAre(HasSubstr("is 'No_USB_Suspend_May_Be_Set'")));
+TEST(CheckName, TheSuggestionHasTheWrittenIndexes) {
+  EXPECT_THAT(Messages("Src_PDO_Voltge2: 5\n"), ElementsAre(HasSubstr("; did you mean 'Src_PDO_Voltage2'?")));
+  EXPECT_THAT(Messages("SVID1_num_modes_min_SOP: 5\n"),
+              ElementsAre(HasSubstr("; did you mean 'SVID1_Num_Modes_Min_SOP'?")));
+  EXPECT_THAT(Messages("SVID1_Mode12_Entr_SOP: 5\n"),
+              ElementsAre(HasSubstr("; did you mean 'SVID1_Mode12_Enter_SOP'?")));
 }
 
-TEST(CheckName, DigitsOfIndexesHardlyCount) {
-  EXPECT_THAT(Messages("SVID1_Mode12_Entr_SOP: 5\n"), ElementsAre(HasSubstr("nearest one is 'SVID_Mode_Enter_SOP'")));
+TEST(CheckName, LetterCaseDoesNotCount) {
+  EXPECT_THAT(Messages("no_usb_suspend_may_be_set: 5\n"), ElementsAre(HasSubstr("mean 'No_USB_Suspend_May_Be_Set'?")));
+}
+
+TEST(CheckName, MayHaveTwoSuggestions) {
+  EXPECT_THAT(Messages("Src_PDO_Mix_Voltage3: 5\n"),
+              ElementsAre(HasSubstr("; did you mean 'Src_PDO_Max_Voltage3' or 'Src_PDO_Min_Voltage3'?")));
 }
 
 TEST(CheckName, ATextKeepsItsMark) {
-  EXPECT_THAT(Messages("$Vendor_Nam: \"x\"\n"), ElementsAre(HasSubstr("nearest one is '$Vendor_Name'")));
+  EXPECT_THAT(Messages("$Vendor_Nam: \"x\"\n"), ElementsAre(HasSubstr("; did you mean '$Vendor_Name'?")));
 }
 
-TEST(CheckName, NamesNoneWhereNoneIsNear) {
-  EXPECT_THAT(Messages("Colour: 5\n"), ElementsAre("no definition knows the name 'Colour'"));
-  EXPECT_THAT(Messages(std::string(50'000, 'P') + ": 5\n"), ElementsAre(testing::Not(HasSubstr("nearest"))));
+TEST(CheckName, HasNoSuggestionWhereNoneIsSimilar) {
+  EXPECT_THAT(Messages("Colour: 5\n"), ElementsAre("unknown name 'Colour'"));
+  EXPECT_THAT(Messages(std::string(50'000, 'P') + ": 5\n"), ElementsAre(testing::Not(HasSubstr("did you mean"))));
+}
+
+// Fields of older editions, of newer ones and of optional content.
+TEST(CheckName, AFieldOfAnotherEditionIsNotAMisspelling) {
+  for (const char* name : {"Externally_Powered",
+                           "FR_Swap_Reqd_Type_C_Current",
+                           "FR_Swap_Supported_As_Source",
+                           "Product_Name",
+                           "Product_Type_SOP",
+                           "Responds_To_Discov_SOP",
+                           "Structured_VDM_Version_SOP",
+                           "Type_C_BC_1_2_Support",
+                           "Type_C_Battery_Powered",
+                           "Type_C_Device_Speed",
+                           "Type_C_Host_Speed",
+                           "Type_C_Is_Alt_Mode_Device",
+                           "UUT_Device_Type",
+                           "Version_Info",
+                           "Has_Invariant_PDOs",
+                           "PD_Power_As_Source_Guaranteed",
+                           "Port_Managed_Guaranteed_Type",
+                           "USB4_Asymmetric_3_Rx_Support",
+                           "USB4_Asymmetric_3_Tx_Support",
+                           "USB4_CL0s_State_Supported",
+                           "USB4_Max_USB3_Tunneling_Speed",
+                           "DP_Modes_Count",
+                           "DP_mode1_Port_Cap",
+                           "DP_mode2_Ufp_D_A_Supported",
+                           "DPAM_Version",
+                           "SOP_DP_Capability",
+                           "SOPP_DPAM_Version"}) {
+    EXPECT_THAT(Messages(std::string(name) + ": 5\n"), ElementsAre("unknown name '" + std::string(name) + "'"));
+  }
 }
 
 TEST(CheckDuplicate, NamesTheFirstLine) {
@@ -138,7 +177,7 @@ TEST(CheckDuplicate, NamesTheFirstLine) {
   EXPECT_THAT(FindingTexts(findings), ElementsAre("3 error declared-twice"));
   EXPECT_EQ(findings[0]["element"], "Src_PDO_Voltage");
   EXPECT_EQ(findings[0]["message"],
-            "'Src_PDO_Voltage' (Component 1 \u00B7 SrcPdo 1) is declared on line 1 already, so that GetUniqueField "
+            "'Src_PDO_Voltage' (Component 1 \u00B7 SrcPdo 1) is already declared on line 1, so GetUniqueField "
             "fails for it");
 }
 
@@ -156,7 +195,7 @@ TEST(CheckDuplicate, TextsAndUnknownNamesCountToo) {
               ElementsAre("1 warning unknown-name", "2 warning unknown-name", "2 error declared-twice"));
 }
 
-TEST(CheckDuplicate, TheSameNameInAnotherGroupIsNone) {
+TEST(CheckDuplicate, TheSameNameInAnotherGroupIsCorrect) {
   EXPECT_THAT(Found("Src_PDO_Voltage1: 5\nSrc_PDO_Voltage2: 5\n"), IsEmpty());
 }
 
@@ -177,10 +216,10 @@ TEST_P(CheckNumber, SaysWhyThereIsNone) {
 INSTANTIATE_TEST_SUITE_P(Values, CheckNumber,
                          testing::Values(Unreadable{"18446744073709551616", "has more than 64 bits"},
                                          Unreadable{"0x10000000000000000", "has more than 64 bits"},
-                                         Unreadable{"18446744073709551615", "is the number that stands for none"},
-                                         Unreadable{"0x0FFFFFFFFffffffff", "is the number that stands for none"}));
+                                         Unreadable{"18446744073709551615", "is reserved to mean no number"},
+                                         Unreadable{"0x0FFFFFFFFffffffff", "is reserved to mean no number"}));
 
-TEST(CheckNumber, NumbersThatAreReadAreInOrder) {
+TEST(CheckNumber, ValidNumbersAreCorrect) {
   EXPECT_THAT(Found("XID: 18446744073709551614\nPID: 0x0\nXID_SOP: Yes\nPID_SOP: 00000000000000000000000007\n"),
               IsEmpty());
 }
@@ -192,7 +231,7 @@ struct CountCase {
 
 class CheckCount : public testing::TestWithParam<CountCase> {};
 
-TEST_P(CheckCount, OfAnotherNumberThanGroupsIsAnError) {
+TEST_P(CheckCount, ThatDiffersFromTheNumberOfGroupsIsAnError) {
   const json findings = Check(GetParam().text);
   EXPECT_THAT(FindingTexts(findings), ElementsAre("1 error count-mismatch"));
   EXPECT_EQ(findings[0]["message"], GetParam().message);
@@ -210,7 +249,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 class CheckRange : public testing::TestWithParam<CountCase> {};
 
-TEST_P(CheckRange, ThatTheGroupsDoNotKeepIsAWarning) {
+TEST_P(CheckRange, ThatTheGroupsAreOutsideOfIsAWarning) {
   const json findings = Check(GetParam().text);
   EXPECT_THAT(FindingTexts(findings), ElementsAre("1 warning count-out-of-range"));
   EXPECT_EQ(findings[0]["message"], GetParam().message);
@@ -238,7 +277,7 @@ TEST(CheckRange, AMinimumAboveItsMaximumIsAnError) {
   EXPECT_EQ(findings[0]["message"], "'Num_SVIDs_Min_SOP' is 2, but 'Num_SVIDs_Max_SOP' is 1");
 }
 
-TEST(CheckRange, GroupsInsideItAreInOrder) {
+TEST(CheckRange, GroupsWithinItAreCorrect) {
   EXPECT_THAT(Found("Num_SVIDs_Min_SOP: 1\nNum_SVIDs_Max_SOP: 3\nSVID1_SOP: 5\nSVID2_SOP: 5\n"), IsEmpty());
 }
 
@@ -246,7 +285,7 @@ TEST(CheckCount, ACountWithoutANumberIsNotCompared) {
   EXPECT_THAT(Found("Num_Src_PDOs: 18446744073709551616\n"), ElementsAre("1 error no-number"));
 }
 
-TEST(CheckCount, GroupsWithoutACountAreInOrder) { EXPECT_THAT(Found("Src_PDO_Voltage1: 5\n"), IsEmpty()); }
+TEST(CheckCount, GroupsWithoutACountAreCorrect) { EXPECT_THAT(Found("Src_PDO_Voltage1: 5\n"), IsEmpty()); }
 
 struct NumberingCase {
   std::string text;
@@ -276,7 +315,7 @@ INSTANTIATE_TEST_SUITE_P(
         NumberingCase{"Src_PDO_Voltage1: 5\nSrc_PDO_Voltage0: 5\n",
                       "'Src_PDO_Voltage' (Component 1 \u00B7 SrcPdo 0): groups of this kind are numbered from 1"}));
 
-TEST(CheckNumbering, GroupsNumberedThroughAreInOrder) {
+TEST(CheckNumbering, WithoutGapsIsCorrect) {
   EXPECT_THAT(Found("Src_PDO_Voltage2: 5\nSrc_PDO_Voltage1: 5\nUSB4_Router_ID0: 5\nUSB4_Router_ID1: 5\n"
                     "USB4_PCIe_Endpoint0_Vendor_ID1: 5\n"),
               IsEmpty());
@@ -286,25 +325,25 @@ TEST(CheckIndex, ANameWithoutItsIndexIsAWarning) {
   const json findings = Check("Src_PDO_Voltage: 5\n");
   EXPECT_THAT(FindingTexts(findings), ElementsAre("1 warning no-index"));
   EXPECT_EQ(findings[0]["message"],
-            "'Src_PDO_Voltage' (Component 1 \u00B7 SrcPdo ?): the name gives no usable number of its SrcPdo");
+            "'Src_PDO_Voltage' (Component 1 \u00B7 SrcPdo ?): the name has no valid SrcPdo number");
 }
 
-TEST(CheckIndex, AnIndexOfMoreThan64BitsIsNone) {
+TEST(CheckIndex, OfMoreThan64BitsIsNotValid) {
   EXPECT_THAT(Found("Src_PDO_Voltage18446744073709551616: 5\n"), ElementsAre("1 warning no-index"));
 }
 
 TEST(CheckIndex, TheInnerOneMayBeMissingAlone) {
-  EXPECT_THAT(Messages("SVID1_Mode_Enter_SOP: 5\n"), ElementsAre(HasSubstr("no usable number of its SopSvidMode")));
+  EXPECT_THAT(Messages("SVID1_Mode_Enter_SOP: 5\n"), ElementsAre(HasSubstr("no valid SopSvidMode number")));
 }
 
 TEST(CheckTextInGroup, ATextWithTheNameOfANumberedGroupIsAWarning) {
   const json findings = Check("$Snk_PDO_Voltage2: \"100\"\n");
   EXPECT_THAT(FindingTexts(findings), ElementsAre("1 warning text-in-group"));
-  EXPECT_EQ(
-      findings[0]["message"],
-      "'$Snk_PDO_Voltage2' is a text and so in no group; without '$' and quotes it is in Component \u00B7 SnkPdo");
+  EXPECT_EQ(findings[0]["message"],
+            "'$Snk_PDO_Voltage2' is a text and so in no group; without '$' and quotes it would be in Component \u00B7 "
+            "SnkPdo");
 }
 
-TEST(CheckTextInGroup, OtherTextsAreInOrder) { EXPECT_THAT(Found("$Port_Label: \"0\"\n$TID: \"5\"\n"), IsEmpty()); }
+TEST(CheckTextInGroup, OtherTextsAreCorrect) { EXPECT_THAT(Found("$Port_Label: \"0\"\n$TID: \"5\"\n"), IsEmpty()); }
 
 }  // namespace

@@ -14,7 +14,7 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-/// The words between blanks, without the single quotes that hold some together.
+/// The words between blanks. Single quotes keep blanks in a word and are removed.
 Words SplitWords(const std::string& line) {
   Words words(1);
   bool isQuoted = false;
@@ -30,7 +30,7 @@ Words SplitWords(const std::string& line) {
   return words;
 }
 
-/// Takes the words up to a separator off the front, and the separator with them.
+/// Removes the words before a separator, and the separator, and returns these words.
 Words TakeUpTo(const std::string& separator, Words& words) {
   const auto end = std::find(words.begin(), words.end(), separator);
   Words taken(words.begin(), end);

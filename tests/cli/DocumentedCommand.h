@@ -6,11 +6,11 @@
 
 namespace testsupport {
 
-/// Runs a command line in the folder of the examples, with `vif` on the path, and gives back what it shows.
+/// Runs a command line in the folder of the examples, with `vif` on the path, and returns the lines of its output.
 ///
-/// It is taken apart here, as not every system has a shell. It may begin with `cd DIR &&`; then comes `vif` or
-/// `cat FILE`; and it may end with one of `| head -n N`, `| grep -e TEXT...` and `| sed -n '/TEXT/,$p'`. Texts are what
-/// they say, not patterns. Anything else is a `std::runtime_error`.
+/// Needs no shell, as not every system has one. The line may begin with `cd DIR &&`; then comes `vif` or `cat FILE`;
+/// and it may end with one of `| head -n N`, `| grep -e TEXT...` and `| sed -n '/TEXT/,$p'`. Texts are taken literally.
+/// \throws std::runtime_error for anything else
 std::vector<std::string> RunDocumented(const std::string& line);
 
 }  // namespace testsupport

@@ -1,4 +1,4 @@
-// What `vif check` finds in a file, as short texts that read well in expectations.
+// The findings of `vif check` as short texts for expectations.
 #pragma once
 
 #include "support/TempDir.h"
@@ -12,20 +12,19 @@
 
 namespace testsupport {
 
-/// The answer of `vif check --format json` for the files. An answer that is no JSON ends the test.
+/// The output of `vif check --format json` for the files. Throws when it is not JSON.
 inline nlohmann::json CheckJson(std::vector<std::string> files) {
   files.insert(files.begin(), {"check", "--format", "json"});
   return nlohmann::json::parse(Vif(files).output);
 }
 
-/// A finding as "3 error count-mismatch"; the line is "-" when there is none.
+/// A finding as "3 error count-mismatch", with "-" instead of a line that is not known.
 inline std::string FindingText(const nlohmann::json& finding) {
   const std::string line = finding["line"].is_null() ? "-" : std::to_string(finding["line"].get<std::size_t>());
   return line + ' ' + finding["severity"].get<std::string>() + ' ' + finding["code"].get<std::string>();
 }
 
-/// The findings in a file with that content.
-/// \param name says by its extension which form the file has
+/// The findings in a file of that name, whose extension gives the form, and content.
 inline nlohmann::json FindingsIn(const std::string& name, std::string_view content) {
   const TempDir dir;
   return CheckJson({dir.Write(name, content).string()})["files"][0]["findings"];

@@ -1,4 +1,4 @@
-// `vif get`, run as a user runs it.
+// `vif get` as a user runs it.
 #include "support/TempDir.h"
 #include "support/VifCommand.h"
 
@@ -27,17 +27,17 @@ TEST(Get, PrintsTheValuesOneALineInTheOrderOfTheFile) {
   ExpectOutput(Get({Example("gan-charger-65w.txt"), "Src_PDO_Voltage"}), "100\n180\n300\n400\n");
 }
 
-TEST(Get, ThePatternFitsWholeNamesInAnyLetterCase) {
+TEST(Get, ThePatternMatchesWholeNamesInAnyLetterCase) {
   ExpectOutput(Get({"--src-pdo", "2", Example("gan-charger-65w.txt"), "src_pdo_(max_current|voltage)"}), "180\n300\n");
 }
 
-TEST(Get, WithoutAPatternAnyNameWillDo) {
+TEST(Get, WithoutAPatternAllNamesMatch) {
   const ProgramResult all = Get({"--src-pdo", "6", Example("gan-charger-65w.txt")});
   ExpectOutput(Get({"--src-pdo", "6", Example("gan-charger-65w.txt"), ""}), all.output);
   EXPECT_THAT(all.output, HasSubstr("210\n"));
 }
 
-TEST(Get, NumberPrintsWhatTheValueStandsFor) {
+TEST(Get, NumberPrintsTheValueAsANumber) {
   const TempDir dir;
   ExpectOutput(Get({"--number", dir.Write("a.txt", "PID: 0x1F\nXID: Yes\n").string()}), "31\n1\n");
 }
@@ -98,7 +98,7 @@ TEST(Get, ALocationOptionWithoutANumberLeavesOutFieldsElsewhere) {
   ExpectOutput(Get({"--src-pdo", file}), "2\n");
 }
 
-TEST(Get, WhatFollowsADoubleDashIsNoOption) {
+TEST(Get, ADoubleDashEndsTheOptions) {
   const TempDir dir;
   const std::string file = dir.Write("a.txt", "PID: 1\n").string();
   ExpectOutput(Get({"--component", "1", "--", file, "PID"}), "1\n");

@@ -1,4 +1,4 @@
-// `vif list`, run as a user runs it.
+// `vif list` as a user runs it.
 #include "support/TempDir.h"
 #include "support/VifCommand.h"
 
@@ -87,7 +87,7 @@ TEST(ListJson, NumberIsNullWhenTheFieldIsNotNumeric) {
   EXPECT_TRUE(listed["fields"][0]["number"].is_null());
 }
 
-TEST(ListJson, NumberIsNullWhenTheValueGivesNone) {
+TEST(ListJson, NumberIsNullWhenTheValueIsNotValid) {
   const TempDir dir;
   const json listed = ListJson(dir.Write("a.txt", "PID: 18446744073709551616\n").string());
   EXPECT_EQ(listed["fields"][0]["numeric"], true);
@@ -100,7 +100,7 @@ TEST(ListJson, NumberKeepsAll64Bits) {
   EXPECT_EQ(listed["fields"][0]["number"].get<uint64_t>(), 0xFFFFFFFFFFFFFFFEU);
 }
 
-TEST(ListJson, IndexIsNullWhenTheNameGivesNone) {
+TEST(ListJson, IndexIsNullWhenTheNameHasNone) {
   const TempDir dir;
   const json listed = ListJson(dir.Write("a.txt", "Src_PDO_Voltage: 1\n").string());
   EXPECT_EQ(listed["fields"][0]["indexes"][1], json({{"location", "SrcPdo"}, {"index", nullptr}}));
@@ -114,7 +114,7 @@ TEST(ListJson, BytesThatAreNotUtf8BecomeReplacementCharacters) {
 
 TEST(ListJson, FileNamesThatAreNotUtf8AreListedToo) {
 #ifdef _WIN32
-  GTEST_SKIP() << "names are Unicode, and reach the command as UTF-8";
+  GTEST_SKIP() << "file names are Unicode, and the command gets them as UTF-8";
 #else
   const TempDir dir;
   const json listed = ListJson(dir.Write("n\xFF.txt", "PID: 1\n").string());
@@ -138,7 +138,7 @@ TEST(ListJson, AnEmptyFileIsAnEmptyList) {
   EXPECT_EQ(listed["componentCount"], 1);
 }
 
-TEST(List, SeveralFilesNumberTheirComponentsOn) {
+TEST(List, ComponentNumbersContinueFromFileToFile) {
   const TempDir dir;
   const std::string first = dir.Write("a.txt", "PID: 1\n").string();
   const std::string second = dir.Write("b.txt", "PID: 2\n").string();
@@ -202,7 +202,7 @@ TEST(ListTable, CharactersTakeUpAsManyColumnsAsTheyAreWide) {
   lines.erase(lines.begin());
   for (const std::string& line : lines) {
     const size_t gap = line.rfind('"') + 1;
-    EXPECT_EQ(line.find_first_not_of(' ', gap), gap + 2) << line;  // no value is wider than another
+    EXPECT_EQ(line.find_first_not_of(' ', gap), gap + 2) << line;  // all values have the same width
   }
 }
 
@@ -223,7 +223,7 @@ TEST_P(ListOnTerminalOf, EveryLineFitsAndNamesItsField) {
 
 INSTANTIATE_TEST_SUITE_P(Widths, ListOnTerminalOf, testing::Values(40, 60, 80, 132));
 
-TEST(ListTable, CutsNothingThatATerminalHasRoomFor) {
+TEST(ListTable, CutsNothingThatFitsATerminal) {
   if (!testsupport::HasTerminals()) GTEST_SKIP() << testsupport::kNoTerminals;
   const TempDir dir;
   const std::string value(90, 'v');
@@ -231,7 +231,7 @@ TEST(ListTable, CutsNothingThatATerminalHasRoomFor) {
   EXPECT_THAT(ListOnTerminal(file, 200).output, HasSubstr(value));
 }
 
-TEST(ListTable, ShowsInAnEllipsisThatATerminalWasTooNarrow) {
+TEST(ListTable, EndsLinesThatAreTooLongForATerminalInAnEllipsis) {
   if (!testsupport::HasTerminals()) GTEST_SKIP() << testsupport::kNoTerminals;
   const TempDir dir;
   const std::string file = dir.Write("a.txt", "PID: 1 ; " + std::string(100, 'd') + "\n").string();
@@ -284,7 +284,7 @@ TEST(List, AnEmptyFileNameIsRefused) {
   EXPECT_EQ(result.error, "vif: a file name is empty\n");
 }
 
-TEST(List, AFileNameIsNeverTakenForAFormat) {
+TEST(List, AFileNameIsNotAFormat) {
   const ProgramResult result = List({"/nonexistent/%s%n%d.txt"});
   EXPECT_EQ(result.error, "vif: VIF Does not exist. (name: /nonexistent/%s%n%d.txt)\n");
 }

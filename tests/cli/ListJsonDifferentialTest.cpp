@@ -1,4 +1,4 @@
-// What `vif list --format json` prints, held against the same document as a JSON library writes it.
+// Compares the output of `vif list --format json` with the same document written by a JSON library.
 #include "support/Random.h"
 #include "support/TempDir.h"
 #include "support/VifCommand.h"
@@ -42,7 +42,7 @@ ordered_json ToJson(const CVIFField& field) {
           {"numeric", field.IsNumeric()}, {"number", number},       {"indexes", indexes}};
 }
 
-/// Every field on a line of its own.
+/// The document that is expected for a file.
 std::string DocumentOf(const std::string& file, const CVendorInfoFile& vif) {
   std::string text = "{\"files\":" + Dump(ordered_json::array({file})) + ",\n\"componentCount\":";
   text.append(std::to_string(vif.ComponentCount())).append(",\n\"fields\":[");
@@ -55,7 +55,7 @@ std::string DocumentOf(const std::string& file, const CVendorInfoFile& vif) {
   return text + "\n]}\n";
 }
 
-/// Checks what is listed of a file with that content. \return how many fields there are
+/// Lists a file with that content and compares the output. \return the number of fields
 std::size_t CheckListed(const TempDir& dir, const std::string& name, const std::string& content) {
   const std::string file = dir.Write(name, content).string();
   const testsupport::ProgramResult result = testsupport::Vif({"list", "--format", "json", file});
@@ -68,7 +68,7 @@ std::size_t CheckListed(const TempDir& dir, const std::string& name, const std::
 
 constexpr char kCtrlZ = '\x1A';  // ends a text file on Windows
 
-/// Bytes of all kinds but Ctrl-Z, many of them such as need an escape or are no UTF-8.
+/// Random bytes except Ctrl-Z. Many need an escape or are not UTF-8.
 std::string RandomBytes(Generator& generator, std::size_t mostBytes) {
   std::string text;
   for (std::size_t i = RandomBelow(generator, mostBytes + 1); i > 0; --i) {
@@ -89,7 +89,7 @@ TEST(ListJsonDifferentialTest, EveryByteIsListedInEveryText) {
   std::string content;
   for (int byte = 1; byte < 256; ++byte) {
     const auto c = static_cast<char>(byte);
-    if (c == '\n' || c == kCtrlZ) continue;  // these end the line and, on Windows, the file
+    if (c == '\n' || c == kCtrlZ) continue;  // they end the line or, on Windows, the file
     content.append("$TID: \"a").append(1, c).append("z\" ; d").append(1, c).append("e\n");
   }
   EXPECT_GE(CheckListed(dir, "a.txt", content), 250U);
@@ -119,7 +119,7 @@ TEST(ListJsonDifferentialTest, NumbersAndPlacesAreListed) {
   EXPECT_EQ(CheckListed(dir, "a.txt", content), 10U);
 }
 
-TEST(ListJsonDifferentialTest, ListsOfManyBlocksAreWhole) {
+TEST(ListJsonDifferentialTest, ListsOfManyBlocksAreComplete) {
   SCOPED_TRACE(testsupport::SeedMessage());
   Generator generator = testsupport::SeededGenerator();
   const TempDir dir;
@@ -132,7 +132,7 @@ TEST(ListJsonDifferentialTest, ListsOfManyBlocksAreWhole) {
   EXPECT_EQ(CheckListed(dir, "a.txt", content), 4002U);
 }
 
-TEST(ListJsonDifferentialTest, NothingIsListedOfAnEmptyFile) {
+TEST(ListJsonDifferentialTest, AnEmptyFileHasNoFields) {
   const TempDir dir;
   EXPECT_EQ(CheckListed(dir, "a.txt", ""), 0U);
 }

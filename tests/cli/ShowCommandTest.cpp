@@ -1,4 +1,4 @@
-// `vif show`, run as a user runs it. What it shows of whole examples is held by the transcripts.
+// `vif show` as a user runs it. TranscriptsTest compares its output for whole examples.
 #include "support/TempDir.h"
 #include "support/VifCommand.h"
 
@@ -46,6 +46,10 @@ INSTANTIATE_TEST_SUITE_P(
             "    2    Variable  4.75 to 15 V  0.01 A"},
         PdoCase{"Src_PDO_Supply_Type2: 3\nSrc_PDO_APDO_Type2: 0\nSrc_PDO_Min_Voltage2: 33\nSrc_PDO_Max_Voltage2: 110\n"
                 "Src_PDO_Max_Current2: 61\n",
+                "    2    PPS     3.3 to 11 V  3.05 A"},
+        // Up to edition 3.12 there is no field for the kind of augmented supply: 3 is PPS.
+        PdoCase{"Src_PDO_Supply_Type2: 3\nSrc_PDO_Min_Voltage2: 33\nSrc_PDO_Max_Voltage2: 110\nSrc_PDO_Max_Current2: "
+                "61\n",
                 "    2    PPS     3.3 to 11 V  3.05 A"}));
 
 INSTANTIATE_TEST_SUITE_P(
@@ -58,7 +62,10 @@ INSTANTIATE_TEST_SUITE_P(
                 "    1    Battery  5 to 10 V           10 W"},
         PdoCase{"Snk_PDO_Supply_Type1: 3\nSnk_PDO_APDO_Type1: 0\nSnk_PDO_Min_Voltage1: 33\nSnk_PDO_Max_Voltage1: 59\n"
                 "Snk_PDO_Op_Current1: 20\n",
-                "    1    PPS     3.3 to 5.9 V  1 A"}));
+                "    1    PPS     3.3 to 5.9 V  1 A"},
+        PdoCase{
+            "Snk_PDO_Supply_Type1: 3\nSnk_PDO_Min_Voltage1: 33\nSnk_PDO_Max_Voltage1: 59\nSnk_PDO_Op_Current1: 20\n",
+            "    1    PPS     3.3 to 5.9 V  1 A"}));
 
 INSTANTIATE_TEST_SUITE_P(
     Unsettled, ShowPdo,
@@ -66,22 +73,27 @@ INSTANTIATE_TEST_SUITE_P(
                     PdoCase{"Src_PDO_Supply_Type1: 4\nSrc_PDO_Voltage1: 100\n", "    1    ?       ?"},
                     PdoCase{"Src_PDO_Supply_Type1: 3\nSrc_PDO_APDO_Type1: 1\nSrc_PDO_Min_Voltage1: 9\n",
                             "    1    ?       ? to ? V                  Src_PDO_APDO_Type=1"},
-                    PdoCase{"Src_PDO_Supply_Type1: 3\nSrc_PDO_Max_Current1: 60\n", "    1    ?                ?"},
+                    PdoCase{"Src_PDO_Supply_Type1: 3\nSrc_PDO_APDO_Type1: 99999999999999999999\n"
+                            "Src_PDO_Max_Current1: 60\n",
+                            "    1    ?                ?               Src_PDO_APDO_Type=99999999999999999999"},
+                    // Only an adjustable voltage supply has a PDP rating.
+                    PdoCase{"Src_PDO_Supply_Type1: 3\nSrc_PDO_PDP_Rating1: 140\nSrc_PDO_Min_Voltage1: 9\n",
+                            "    1    ?       ? to ? V                  Src_PDO_PDP_Rating=140"},
                     PdoCase{"Src_PDO_Supply_Type1: 0\nSrc_PDO_Voltage1: 99999999999999999999\n", "    1    Fixed   ?"},
                     PdoCase{"Src_PDO_Supply_Type1: 0\nSrc_PDO_Voltage1: 18446744073709551614\n", "    1    Fixed   ?"},
                     PdoCase{"Src_PDO_Supply_Type: 0\nSrc_PDO_Voltage: 100\n", "    ?    Fixed   5 V"}));
 
-TEST(Show, OtherFieldsOfAPdoAreNotLost) {
+TEST(Show, OtherFieldsOfAPdoAreListed) {
   EXPECT_THAT(Show("Src_PDO_Supply_Type1: 0\nSrc_PDO_Peak_Current1: 2\nSrc_PD_OCP_UV_Debounce1: 5\n"),
               HasSubstr("Src_PDO_Peak_Current=2, Src_PD_OCP_UV_Debounce=5"));
 }
 
-TEST(Show, PdosStandInTheOrderOfTheirNumbers) {
+TEST(Show, PdosAreInTheOrderOfTheirNumbers) {
   const std::string output = Show("Src_PDO_Supply_Type10: 0\nSrc_PDO_Supply_Type9: 1\n");
   EXPECT_LT(output.find("9    Battery"), output.find("10   Fixed"));
 }
 
-TEST(Show, ProductHoldsItsRoutersAndTheyTheirEndpoints) {
+TEST(Show, RoutersAreInTheProductAndEndpointsInTheirRouter) {
   EXPECT_THAT(Lines(Show("USB4_Dock: YES\n"
                          "USB4_Router_ID1: 7\n"
                          "USB4_PCIe_Endpoint1_Vendor_ID2: 0x8086\n")),
@@ -95,7 +107,7 @@ TEST(Show, ProductHoldsItsRoutersAndTheyTheirEndpoints) {
                         "      USB4_PCIe_Endpoint_Vendor_ID  0x8086\n"));
 }
 
-TEST(Show, ComponentHoldsItsSvidsAndTheyTheirModes) {
+TEST(Show, SvidsAreInTheirComponentAndModesInTheirSvid) {
   EXPECT_THAT(Show("SVID1: 0xFF01\nSVID1_Mode2_Enter: YES\nSVID3_SOP: 0x8087\n"),
               HasSubstr("Component 1\n"
                         "  SopSvid 3\n"
@@ -147,7 +159,7 @@ TEST_F(ShowOnTerminal, HonoursNoColor) {
   EXPECT_THAT(result.output, Not(HasSubstr("\x1b")));
 }
 
-TEST_F(ShowOnTerminal, AnEmptyNoColorDoesNotCount) {
+TEST_F(ShowOnTerminal, IgnoresAnEmptyNoColor) {
   const ProgramResult result =
       testsupport::RunOnTerminal({"/usr/bin/env", "NO_COLOR=", VIF_COMMAND, "show", Example("active-cable.txt")}, 100);
   EXPECT_THAT(result.output, HasSubstr("\x1b[1m"));

@@ -1,4 +1,4 @@
-// Runs the commands that the documentation shows and compares what they print.
+// Runs the documented commands and compares their output.
 #include "DocumentedCommand.h"
 #include "support/RunProgram.h"
 
@@ -14,13 +14,13 @@ namespace {
 
 using testsupport::Lines;
 
-/// A command of the documentation, without its prompt, and what it is said to print.
+/// A documented command, without its prompt, and the output shown for it.
 struct Transcript {
   std::string command;
   std::string output;
 };
 
-/// All transcripts of a document: the lines between ```console and ```, each command behind "$ ".
+/// All transcripts of a document: the lines between ```console and ```, with "$ " before each command.
 std::vector<Transcript> ReadTranscripts(const std::string& path) {
   std::ifstream file(path);
   std::stringstream content;
@@ -43,7 +43,7 @@ void ExpectShown(const std::vector<std::string>& shown, const Transcript& transc
   const std::vector<std::string> told = Lines(transcript.output);
 #ifdef _WIN32
   constexpr std::string_view notValid = " [not-valid]";
-  if (!told.empty() && told.front().ends_with(notValid)) {  // the first reason in MSXML's own words, and no others
+  if (!told.empty() && told.front().ends_with(notValid)) {  // MSXML words the reason, and gives only the first
     ASSERT_EQ(shown.size(), 2U);
     const std::string file = told.front().substr(0, told.front().find(':') + 1);
     EXPECT_TRUE(shown.front().starts_with(file) && shown.front().ends_with(notValid)) << shown.front();
@@ -54,7 +54,7 @@ void ExpectShown(const std::vector<std::string>& shown, const Transcript& transc
   EXPECT_EQ(shown, told) << "$ " << transcript.command;
 }
 
-TEST(Transcripts, OfTheCommandAreTrue) {
+TEST(Transcripts, OfTheCommandMatchItsOutput) {
   const std::vector<Transcript> transcripts = ReadTranscripts(std::string(VIF_DOCS) + "/command.md");
   EXPECT_GE(transcripts.size(), 6U);
   for (const Transcript& transcript : transcripts) {

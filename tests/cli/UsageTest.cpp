@@ -1,4 +1,4 @@
-// What `vif` says of itself, and how it refuses.
+// The help of `vif`, and its answers to wrong usage.
 #include "support/VifCommand.h"
 
 #include <gmock/gmock.h>
@@ -26,7 +26,7 @@ TEST(Usage, HelpGoesToStandardOutput) {
   EXPECT_THAT(result.error, IsEmpty());
   EXPECT_THAT(result.output, HasSubstr("Vendor Info Files"));
   EXPECT_THAT(result.output, HasSubstr("list "));
-  EXPECT_THAT(result.output, HasSubstr("Exit status: 0 done; 1 looked and found wanting; 2 could not do it"));
+  EXPECT_THAT(result.output, HasSubstr("Exit status: 0 done; 1 ran, but found no match or found problems; 2 failed"));
 }
 
 TEST(Usage, HelpOfACommandNamesItsOptionsAndGivesExamples) {
@@ -36,6 +36,26 @@ TEST(Usage, HelpOfACommandNamesItsOptionsAndGivesExamples) {
   EXPECT_THAT(result.output, HasSubstr("--format FORMAT"));
   EXPECT_THAT(result.output, HasSubstr("vif list --format json"));
 }
+
+class UsageOfEveryCommand : public testing::TestWithParam<std::vector<std::string>> {};
+
+TEST_P(UsageOfEveryCommand, HelpFitsIntoNinetyColumns) {
+  const ProgramResult result = Vif(GetParam());
+  ASSERT_EQ(result.status, 0);
+  const std::vector<std::string> lines = Lines(result.output);
+  EXPECT_GT(lines.size(), 10U);
+  for (const std::string& line : lines) {
+    EXPECT_LE(line.size(), 90U) << line;
+    EXPECT_FALSE(line.ends_with(' ')) << line;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, UsageOfEveryCommand,
+                         testing::Values(std::vector<std::string>{"--help"}, std::vector<std::string>{"list", "--help"},
+                                         std::vector<std::string>{"get", "--help"},
+                                         std::vector<std::string>{"show", "--help"},
+                                         std::vector<std::string>{"check", "--help"}),
+                         [](const auto& command) { return command.param.size() == 1 ? "vif" : command.param.front(); });
 
 TEST(Usage, VersionIsThatOfTheProject) {
   const ProgramResult result = Vif({"--version"});
@@ -81,7 +101,7 @@ TEST(Usage, ALocationOptionIsGivenOnce) {
   ExpectUsageError(Vif({"get", "--src-pdo", "1", "--src-pdo", "2", "a.txt"}), "--src-pdo");
 }
 
-TEST(Usage, APatternThatIsNoRegularExpressionIsRefusedEvenWhereNoPlaceFits) {
+TEST(Usage, AnInvalidPatternIsRefusedEvenIfNoFieldIsInThePlace) {
   ExpectUsageError(Vif({"get", "--router", "7", testsupport::Example("active-cable.txt"), "("}),
                    "the pattern '(' cannot be used: ");
 }

@@ -34,7 +34,7 @@ Variables Fails(const char* call, int error) {
   return {std::string("VIF_TEST_CALL=") + call, "VIF_TEST_ERROR=" + std::to_string(error)};
 }
 
-Variables FailsBehind(std::size_t readable, int error = EIO) {
+Variables FailsAfter(std::size_t readable, int error = EIO) {
   Variables variables = Fails("read", error);
   variables.push_back("VIF_TEST_READABLE=" + std::to_string(readable));
   return variables;
@@ -44,20 +44,20 @@ class CommandFileTest : public testing::Test {
  protected:
   void SetUp() override {
 #ifdef IS_THREAD_SANITIZED
-    GTEST_SKIP() << "the sanitizer's library must be the first";
+    GTEST_SKIP() << "the sanitizer's library must be loaded first";
 #endif
 #ifndef __GLIBC__
-    GTEST_SKIP() << "the calls have names of the GNU C library's";
+    GTEST_SKIP() << "the calls have the names of the GNU C library";
 #endif
   }
 
   fs::path WriteText() const { return Write("x.txt", kText); }
   fs::path WriteXml() const { return Write("x.xml", kXml); }
 
-  /// Runs the command with calls on the file as the variables say.
+  /// Runs the command while the variables control the calls on the file.
   static ProgramResult Run(std::vector<std::string> command, const fs::path& file, const Variables& variables,
                            const fs::path& watched = {}) {
-    // A sanitizer that comes as a library of its own would insist on being the first.
+    // A sanitizer in a library of its own insists on being loaded first.
     std::vector<std::string> line = {"/usr/bin/env",
                                      std::string("LD_PRELOAD=") + SCRIPTED_CALLS,
                                      "ASAN_OPTIONS=verify_asan_link_order=0",
@@ -71,7 +71,7 @@ class CommandFileTest : public testing::Test {
     return testsupport::RunProgram(line);
   }
 
-  /// Expects that nothing but one line says why the command could not be done.
+  /// Expects no output but one line with the reason for the failure.
   static void ExpectRefusal(const ProgramResult& result, const std::string& reason) {
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.output, "");
@@ -112,7 +112,7 @@ TEST_F(CommandFileTest, XmlThatCannotBeOpened) {
   }
 }
 
-TEST_F(CommandFileTest, FileThatCannotBeFoundOutAbout) {
+TEST_F(CommandFileTest, FileThatCannotBeExamined) {
   for (const fs::path& file : {WriteText(), WriteXml()}) {
     const fs::filesystem_error error("exists", file, std::error_code(EIO, std::generic_category()));
     for (const std::vector<std::string>& reader : kReaders) {
@@ -128,20 +128,20 @@ TEST_F(CommandFileTest, TextThatCannotBeReadToItsEndIsNotHalfAnAnswer) {
     const std::string before = kText.substr(0, readable);
     const auto line = 1 + std::count(before.begin(), before.end(), '\n');
     for (const std::vector<std::string>& reader : kReaders) {
-      ExpectRefusal(Run(reader, file, FailsBehind(readable)),
-                    file.native() + ": the file could not be read on from line " + std::to_string(line));
+      ExpectRefusal(Run(reader, file, FailsAfter(readable)),
+                    file.native() + ": reading the file failed in line " + std::to_string(line));
     }
   }
 }
 
-TEST_F(CommandFileTest, CheckTellsWhereTextCannotBeReadOn) {
+TEST_F(CommandFileTest, CheckSaysWhereReadingFailed) {
   const fs::path file = WriteText();
   for (const int error : {EIO, EAGAIN}) {
-    const ProgramResult result = Run({"check"}, file, FailsBehind(kText.find("PID"), error));
+    const ProgramResult result = Run({"check"}, file, FailsAfter(kText.find("PID"), error));
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(Lines(result.output),
                 testing::ElementsAre(
-                    file.native() + ":3: error: the file could not be read on; what follows is not known [read-failed]",
+                    file.native() + ":3: error: reading the file failed; the rest of it is not checked [read-failed]",
                     "1 error"));
   }
 }
@@ -151,10 +151,10 @@ TEST_F(CommandFileTest, XmlThatCannotBeReadToItsEnd) {
   const std::string reason = "The file cannot be read: " + ErrorText(EIO) + ".";
   for (std::size_t readable = 0; readable <= kXml.size(); readable += 29) {
     for (const std::vector<std::string>& reader : kReaders) {
-      ExpectRefusal(Run(reader, file, FailsBehind(readable)),
+      ExpectRefusal(Run(reader, file, FailsAfter(readable)),
                     file.native() + " is not a valid Vendor Info File. " + reason);
     }
-    ExpectRefusal(Run({"check"}, file, FailsBehind(readable)), file.native() + ": " + reason);
+    ExpectRefusal(Run({"check"}, file, FailsAfter(readable)), file.native() + ": " + reason);
   }
 }
 
@@ -202,7 +202,7 @@ TEST_F(CommandFileTest, SchemaThatCannotBeUsed) {
     const std::vector<std::string> command = {reader, "--schemas", schemas.native()};
     const std::string begin = file.native() + ": Couldn't load the schema " + schema.native() + ": The file cannot be ";
     ExpectRefusal(Run(command, file, Fails("open", EIO), schema), begin + "opened: " + ErrorText(EIO) + ".");
-    ExpectRefusal(Run(command, file, FailsBehind(5000), schema), begin + "read: " + ErrorText(EIO) + ".");
+    ExpectRefusal(Run(command, file, FailsAfter(5000), schema), begin + "read: " + ErrorText(EIO) + ".");
     EXPECT_EQ(Run(command, file, {"VIF_TEST_PIECE=3"}, schema).status, 0);
   }
 }

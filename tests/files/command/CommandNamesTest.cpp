@@ -1,4 +1,4 @@
-// Files with odd names, and odd texts in files, as the command prints them.
+// How the command prints odd file names and odd texts in files.
 #include "support/TempDir.h"
 #include "support/VifCommand.h"
 #include "support/XmlVif.h"
@@ -60,7 +60,7 @@ class CommandNamesTest : public testing::Test {
     return Vif(arguments, {.directory = m_dir.Path()});
   }
 
-  /// Expects that it could not be done, which one line says.
+  /// Expects no output but one line with the reason for the failure.
   void ExpectRefusal(const std::vector<std::string>& arguments, const std::string& reason) const {
     const ProgramResult result = Run(arguments);
     EXPECT_EQ(result.status, 2);
@@ -68,12 +68,12 @@ class CommandNamesTest : public testing::Test {
     EXPECT_EQ(result.error, "vif: " + reason + "\n");
   }
 
-  /// Whether a file of that name can be made here.
+  /// Creates a file. \return false where the file system does not allow the name
   bool Write(const std::string& name, std::string_view content) const {
     try {
       m_dir.Write(name, content);
     } catch (const std::exception&) {
-      return false;  // file systems may have rules of their own
+      return false;
     }
     return true;
   }
@@ -120,7 +120,7 @@ TEST_F(CommandNamesTest, AnyByteMayBeInTheNameOfAFileThatIsLoaded) {
 
 TEST_F(CommandNamesTest, AnyByteMayBeInTheNameOfAFileThatIsNotThere) {
   for (const NameByte& byte : NameBytes()) {
-    // Letters are all alike, and so are bytes that are none of ASCII.
+    // One of the bytes beyond ASCII stands for all of them, and letters need no test.
     const bool isSeldom = byte.printed.size() > 1 || std::ispunct(static_cast<unsigned char>(byte.text[0])) != 0;
     if (!isSeldom || (byte.printed == "\uFFFD" && byte.text != "\xFF")) continue;
     ExpectRefusal({"list", "x" + byte.text + ".txt"}, "VIF Does not exist. (name: x" + byte.printed + ".txt)");
@@ -148,7 +148,7 @@ TEST_F(CommandNamesTest, RefusalNamesTheMissingFileHoweverItIsCalled) {
   }
 }
 
-TEST_F(CommandNamesTest, NamesThatBeginLikeOptionsStandBehindTwoDashes) {
+TEST_F(CommandNamesTest, NamesThatBeginLikeOptionsFollowTwoDashes) {
   for (const std::string name : {"-x.txt", "--.txt", "--help.txt", "--format=json.txt", "--src-pdo.txt"}) {
     ASSERT_TRUE(Write(name, "A: 1"));
     for (const char* command : {"list", "show", "get", "check"}) {

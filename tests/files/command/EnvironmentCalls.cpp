@@ -1,8 +1,7 @@
-// Makes the calls on one file fail in a program that is started with LD_PRELOAD. The environment says which file and
-// how: VIF_TEST_FILE is its name. Calls of the kind VIF_TEST_CALL, "stat", "open", "status" or "read", fail with the
-// number VIF_TEST_ERROR; VIF_TEST_FROM is the number of the first that does, from 1, and VIF_TEST_READABLE the number
-// of bytes behind which reading fails. Reads deliver VIF_TEST_PIECE bytes at most. Before it is opened for the
-// VIF_TEST_PIPE-th time, the file turns into a pipe.
+// Loaded into a program with LD_PRELOAD, makes calls on one file fail. The environment controls it: VIF_TEST_FILE is
+// the name of the file. Calls of the kind VIF_TEST_CALL ("stat", "open", "status" or "read") fail with the error number
+// VIF_TEST_ERROR, from the VIF_TEST_FROM-th call on, counted from 1; reading fails after VIF_TEST_READABLE bytes. A
+// read returns at most VIF_TEST_PIECE bytes. Just before its VIF_TEST_PIPE-th opening, the file becomes a pipe.
 #include "files/FileCalls.h"
 
 #include <sys/stat.h>
