@@ -1,7 +1,6 @@
 #include "Command.h"
 #include "FieldSource.h"
 #include "FindingWriters.h"
-#include "HelpFormatter.h"
 #include "SchemasOption.h"
 
 #include <analysis/Check.h>
@@ -28,24 +27,28 @@ struct CheckOptions {
 constexpr const char* kDescription = "Find mistakes";
 
 constexpr const char* kFooter =
-    "Checks each file on its own and prints all findings: errors, where something is lost or\n"
-    "cannot be intended, and warnings, which are worth a look. Findings:\n";
+    "Checks each file on its own and prints all findings: errors, where something is lost or cannot be intended, and "
+    "warnings, which are worth a look.\n"
+    "\n"
+    "Findings:\n";
 
 constexpr const char* kRestOfFooter =
     "\n"
     "Formats:\n"
-    "  text  one finding a line, FILE:LINE:COLUMN: error: MESSAGE [CODE], without a line or\n"
-    "        column that is not known, and a last line that counts the findings\n"
-    "  json  one object with \"files\" and the counts \"errors\" and \"warnings\"; each file has\n"
-    "        \"file\", \"valid\" (it has no errors) and \"findings\"; each finding has \"severity\",\n"
-    "        \"code\", \"line\", \"column\" and \"element\" (null if not known) and \"message\"\n"
+    "  text  one finding a line, FILE:LINE:COLUMN: error: MESSAGE [CODE], without a line or column that is not known, "
+    "and a last line that counts the findings\n"
+    "  json  one object with \"files\" and the counts \"errors\" and \"warnings\"; each file has \"file\", \"valid\" "
+    "(it has "
+    "no errors) and \"findings\"; each finding has \"severity\", \"code\", \"line\", \"column\" and \"element\" (null "
+    "if not "
+    "known) and \"message\"\n"
     "\n"
     "Examples:\n"
     "  vif check charger.txt\n"
     "  vif check --format json port0.xml port1.xml\n"
     "\n"
-    "Exit status: 0 if no file has errors, whatever the warnings; 1 if one has; 2, without\n"
-    "findings, if one cannot be checked.";
+    "Exit status: 0 if no file has errors, whatever the warnings; 1 if one has; 2, without findings, if one cannot be "
+    "checked.";
 
 /// The list of codes in the help.
 std::string CodeList() {
@@ -56,7 +59,7 @@ std::string CodeList() {
     std::string line = "  ";
     line.append(SeverityName(rule.severity)).resize(11, ' ');
     line.append(rule.code).resize(11 + width + 2, ' ');
-    list.append(line).append(WrapHelp(rule.what, line.size())).append("\n");
+    list.append(line).append(rule.what).append("\n");
   }
   return list;
 }

@@ -59,21 +59,22 @@ struct GetOptions {
 constexpr const char* kDescription = "Print the values of fields by name and place";
 
 constexpr const char* kFooter =
-    "PATTERN is a regular expression (ECMAScript) that must match the whole name, in any letter\n"
-    "case. Without it, or if it is empty, all names match.\n"
+    "PATTERN is a regular expression (ECMAScript) that must match the whole name, in any letter case. Without it, or "
+    "if "
+    "it is empty, all names match.\n"
     "\n"
-    "Up to three location options select the groups that the field is in. Each takes a number;\n"
-    "without one, or with 'any', all numbers match. Components, PDOs, SVIDs, modes and\n"
-    "endpoints are numbered from 1, routers from 0. Put '--' before a FILE whose name is a\n"
-    "number.\n"
+    "Up to three location options select the groups that the field is in. Each takes a number; without one, or with "
+    "'any', all numbers match. Components, PDOs, SVIDs, modes and endpoints are numbered from 1, routers from 0. Put "
+    "'--' before a FILE whose name is a number.\n"
     "\n"
     "Examples:\n"
     "  vif get --component 1 --src-pdo 2 --number charger.txt Src_PDO_Voltage\n"
     "  vif get --snk-pdo any --with-name tablet.txt 'Snk_PDO_.*'\n"
     "  vif get --unique tablet.txt '.*Vendor_Name'\n"
     "\n"
-    "Exit status: 0 if a field matches; 1 if none does, if --unique finds several, or if\n"
-    "--number finds a field without a number, for which it prints '-'; 2 on failure.";
+    "Exit status: 0 if a field matches; 1 if none does, if --unique finds several, or if --number finds a field "
+    "without "
+    "a number, for which it prints '-'; 2 on failure.";
 
 std::optional<std::uint64_t> ParseNumber(std::string_view text) {
   std::uint64_t number = 0;

@@ -1,5 +1,6 @@
 #include "HelpFormatter.h"
 
+#include <cstddef>
 #include <sstream>
 #include <utility>
 
@@ -7,18 +8,24 @@ namespace cli {
 
 namespace {
 
+constexpr std::size_t kWidth = 80;
 constexpr std::size_t kDescriptionColumn = 20;
 
-/// Words, broken into lines of that width at most.
-std::string Wrap(std::string_view text, std::size_t width, const std::string& lineBreak) {
-  std::istringstream words{std::string(text)};
-  std::string wrapped;
+std::string Wrap(const std::string& line) {
+  if (line.size() <= kWidth) return line;
+  const std::size_t gap = line.rfind("  ");
+  const std::size_t column = gap != std::string::npos ? gap + 2 : 0;
+  std::string wrapped = line.substr(0, column);
+  std::istringstream words(line.substr(column));
+  std::size_t used = column;
   std::string word;
-  std::size_t used = 0;
   while (words >> word) {
-    const bool fits = used == 0 || used + 1 + word.size() <= width;
-    if (used != 0) wrapped += fits ? " " : lineBreak;
-    used = fits && used != 0 ? used + 1 + word.size() : word.size();
+    if (used > column && used + 1 + word.size() > kWidth) {
+      wrapped.append("\n").append(column, ' ');
+      used = column;
+    }
+    if (used > column) wrapped += ' ';
+    used += (used > column ? 1 : 0) + word.size();
     wrapped += word;
   }
   return wrapped;
@@ -26,22 +33,22 @@ std::string Wrap(std::string_view text, std::size_t width, const std::string& li
 
 }  // namespace
 
-std::string WrapHelp(std::string_view text, std::size_t column) {
-  return Wrap(text, kHelpWidth - column, '\n' + std::string(column, ' '));
-}
-
 CHelpFormatter::CHelpFormatter() {
   column_width(kDescriptionColumn);
   label("SUBCOMMAND", "COMMAND ...");
 }
 
-std::string CHelpFormatter::make_option_desc(const CLI::Option* option) const {
-  return Wrap(option->get_description(), kHelpWidth - kDescriptionColumn, "\n");  // CLI11 indents what follows
-}
-
 std::string CHelpFormatter::make_help(const CLI::App* app, std::string name, CLI::AppFormatMode mode) const {
-  // CLI11 puts two empty lines between groups of options.
-  return CLI::detail::find_and_replace(Formatter::make_help(app, std::move(name), mode), "\n\n\n", "\n\n");
+  std::istringstream lines(Formatter::make_help(app, std::move(name), mode));
+  std::string help;
+  std::string line;
+  bool isAfterEmptyLine = false;
+  while (std::getline(lines, line)) {
+    // CLI11 puts two empty lines between groups of options.
+    if (!line.empty() || !isAfterEmptyLine) help.append(Wrap(line)).append("\n");
+    isAfterEmptyLine = line.empty();
+  }
+  return help;
 }
 
 }  // namespace cli

@@ -30,7 +30,7 @@ void UseSchemas(const std::string& name) {
 void AddSchemasOption(CLI::App& command) {
   command
       .add_option_function<std::string>("--schemas", UseSchemas,
-                                        "Use the schemas for XML files in this directory, not the installed ones")
+                                        "The directory with the schemas for XML files; the installed ones by default")
       ->option_text("DIR");
 }
 

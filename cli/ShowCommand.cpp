@@ -27,10 +27,10 @@ namespace {
 constexpr const char* kDescription = "Show a readable summary";
 
 constexpr const char* kFooter =
-    "Shows the header, the product with its USB4 routers and their PCIe endpoints, and each\n"
-    "component with its own fields, its source and sink PDOs in volts, amperes and watts, and\n"
-    "its SVIDs and modes. '?' stands for what the file leaves open, such as the voltage of a\n"
-    "PDO without a supply type.\n"
+    "Shows the header, the product with its USB4 routers and their PCIe endpoints, and each component with its own "
+    "fields, its source and sink PDOs in volts, amperes and watts, and its SVIDs and modes. '?' stands for what the "
+    "file "
+    "leaves open, such as the voltage of a PDO without a supply type.\n"
     "\n"
     "Headings are bold on a terminal, unless NO_COLOR is set.\n"
     "\n"

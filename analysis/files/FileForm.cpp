@@ -5,6 +5,7 @@
 #include <analysis/Text.h>
 
 #include <algorithm>
+#include <cstddef>
 
 namespace vifanalysis {
 
@@ -13,6 +14,8 @@ namespace {
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 constexpr std::string_view kLittleEndianMark = "\xFF\xFE";
 constexpr std::string_view kBigEndianMark = "\xFE\xFF";
+
+constexpr std::string_view kNameCharacters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_'";
 
 bool IsLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 
@@ -47,9 +50,7 @@ bool BeginsLikeText(std::string_view text) {
   TrimLeft(text);
   if (text.starts_with(';')) return true;
   Skip("$", text);
-  const auto isOfName = [](char c) { return IsLetter(c) || IsDigit(c) || c == '_' || c == '\''; };
-  const auto* const nameEnd = std::find_if_not(text.begin(), text.end(), isOfName);
-  const auto length = static_cast<std::size_t>(nameEnd - text.begin());
+  const std::size_t length = std::min(text.find_first_not_of(kNameCharacters), text.size());
   text.remove_prefix(length);
   text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
   return length > 0 && text.starts_with(':');

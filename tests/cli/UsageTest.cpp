@@ -26,7 +26,7 @@ TEST(Usage, HelpGoesToStandardOutput) {
   EXPECT_THAT(result.error, IsEmpty());
   EXPECT_THAT(result.output, HasSubstr("Vendor Info Files"));
   EXPECT_THAT(result.output, HasSubstr("list "));
-  EXPECT_THAT(result.output, HasSubstr("Exit status: 0 done; 1 ran, but found no match or found problems; 2 failed"));
+  EXPECT_THAT(result.output, HasSubstr("Exit status: 0 done; 1 ran, but found no match or found problems;"));
 }
 
 TEST(Usage, HelpOfACommandNamesItsOptionsAndGivesExamples) {
@@ -39,13 +39,13 @@ TEST(Usage, HelpOfACommandNamesItsOptionsAndGivesExamples) {
 
 class UsageOfEveryCommand : public testing::TestWithParam<std::vector<std::string>> {};
 
-TEST_P(UsageOfEveryCommand, HelpFitsIntoNinetyColumns) {
+TEST_P(UsageOfEveryCommand, HelpFitsAnOrdinaryTerminal) {
   const ProgramResult result = Vif(GetParam());
   ASSERT_EQ(result.status, 0);
   const std::vector<std::string> lines = Lines(result.output);
   EXPECT_GT(lines.size(), 10U);
   for (const std::string& line : lines) {
-    EXPECT_LE(line.size(), 90U) << line;
+    EXPECT_LE(line.size(), 80U) << line;
     EXPECT_FALSE(line.ends_with(' ')) << line;
   }
 }
@@ -56,6 +56,12 @@ INSTANTIATE_TEST_SUITE_P(All, UsageOfEveryCommand,
                                          std::vector<std::string>{"show", "--help"},
                                          std::vector<std::string>{"check", "--help"}),
                          [](const auto& command) { return command.param.size() == 1 ? "vif" : command.param.front(); });
+
+TEST(Usage, LongDescriptionsInTheHelpAreAligned) {
+  EXPECT_THAT(Vif({"check", "--help"}).output,
+              HasSubstr("\n  error    count-mismatch      a count that differs from the number of groups,"
+                        "\n                               or a minimum above its maximum\n"));
+}
 
 TEST(Usage, VersionIsThatOfTheProject) {
   const ProgramResult result = Vif({"--version"});
