@@ -31,6 +31,9 @@ VIF_ANALYSIS_API const std::vector<RuleInfo>& Rules();
 /// The rule with that code, in any letter case; null when there is none.
 VIF_ANALYSIS_API const RuleInfo* FindRule(std::string_view code);
 
+/// The rules whose `what` or `why` names a field, by its canonical name. Throws std::bad_alloc only.
+VIF_ANALYSIS_API std::vector<const RuleInfo*> RulesAbout(std::string_view field);
+
 /// The code that is most like a text which is none; nothing when none is much like it.
 VIF_ANALYSIS_API std::optional<std::string> NearestCode(std::string_view text);
 

@@ -25,13 +25,14 @@ std::string TextLine(const std::string& fileName, const Finding& finding) {
   return line.append(" [").append(finding.code).append("]\n");
 }
 
+/// Such as "1 error, 2 warnings".
 std::string Summary(const std::vector<CheckedFile>& files) {
-  const std::size_t errors = CountFindings(files, Severity::Error);
-  const std::size_t warnings = CountFindings(files, Severity::Warning);
-  if (errors + warnings == 0) return "no findings";
-  std::string text = errors != 0 ? Amount(errors, "error") : "";
-  if (errors != 0 && warnings != 0) text += ", ";
-  return warnings != 0 ? text + Amount(warnings, "warning") : text;
+  std::string text;
+  for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Note}) {
+    const std::size_t count = CountFindings(files, severity);
+    if (count != 0) text.append(text.empty() ? "" : ", ").append(Amount(count, SeverityName(severity)));
+  }
+  return text.empty() ? "no findings" : text;
 }
 
 Json NumberOrNull(std::size_t number) { return number != 0 ? Json(number) : Json(); }
@@ -82,7 +83,8 @@ void WriteFindingsAsJson(const std::vector<CheckedFile>& files) {
     separator = ",\n";
   }
   Write("\n],\n\"errors\":" + std::to_string(CountFindings(files, Severity::Error)));
-  Write(",\"warnings\":" + std::to_string(CountFindings(files, Severity::Warning)) + "}\n");
+  Write(",\"warnings\":" + std::to_string(CountFindings(files, Severity::Warning)));
+  Write(",\"notes\":" + std::to_string(CountFindings(files, Severity::Note)) + "}\n");
 }
 
 std::size_t CountFindings(const std::vector<CheckedFile>& files, Severity severity) {

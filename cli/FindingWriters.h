@@ -23,6 +23,9 @@ void WriteFindingsAsText(const std::vector<CheckedFile>& files);
 /// One JSON object with the files, their findings and the counts, each finding on a line of its own.
 void WriteFindingsAsJson(const std::vector<CheckedFile>& files);
 
+/// SARIF 2.1.0, with all rules.
+void WriteFindingsAsSarif(const std::vector<CheckedFile>& files);
+
 /// The number of findings of that severity in all files.
 std::size_t CountFindings(const std::vector<CheckedFile>& files, vifanalysis::Severity severity);
 

@@ -58,6 +58,7 @@ Status Run(int argc, char** argv) {
   cli::AddGetCommand(app, status);
   cli::AddShowCommand(app, status);
   cli::AddCheckCommand(app, status);
+  cli::AddExplainCommand(app, status);
   try {
     std::vector<std::string> arguments = cli::CompleteLocationOptions({argv + 1, argv + argc});
     std::reverse(arguments.begin(), arguments.end());  // CLI11 takes them from the end

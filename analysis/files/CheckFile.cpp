@@ -55,7 +55,10 @@ Findings CheckPath(const std::filesystem::path& path) {
 }
 
 bool Contains(const std::vector<std::string>& codes, const std::string& code) {
-  return std::find(codes.begin(), codes.end(), code) != codes.end();
+  return std::any_of(codes.begin(), codes.end(), [&](const std::string& listed) {
+    const RuleInfo* rule = FindRule(listed);
+    return rule != nullptr && rule->code == code;
+  });
 }
 
 bool IsWanted(const Finding& finding, const CheckOptions& options) {

@@ -25,14 +25,14 @@ using FoundFields = std::vector<FoundField>;
 using Findings = std::vector<Finding>;
 
 /// A finding at a place of the file.
-inline Finding FindingAt(const FindingCode& code, std::size_t line, std::size_t column, std::string element,
+inline Finding FindingAt(const RuleInfo& rule, std::size_t line, std::size_t column, std::string element,
                          std::string message) {
-  return {code.severity, std::string(code.name), line, column, std::move(element), std::move(message)};
+  return {rule.severity, rule.code, line, column, std::move(element), std::move(message)};
 }
 
 /// A finding about one field.
-inline Finding About(const FoundField& found, const FindingCode& code, std::string message) {
-  return FindingAt(code, found.line, found.column, found.element, std::move(message));
+inline Finding About(const FoundField& found, const RuleInfo& rule, std::string message) {
+  return FindingAt(rule, found.line, found.column, found.element, std::move(message));
 }
 
 }  // namespace vifanalysis

@@ -27,7 +27,7 @@ std::string_view WhyNoField(EVifElementFate fate) {
 }
 
 Finding DescribePassedOver(const VifElementReport& report) {
-  const FindingCode& code = report.fate == eVifElementForeign ? code::kForeign : code::kNoField;
+  const RuleInfo& code = report.fate == eVifElementForeign ? code::kForeign : code::kNoField;
   return FindingAt(code, report.line, report.column, report.path,
                    Quoted(report.path) + " yields no field: " + std::string(WhyNoField(report.fate)));
 }

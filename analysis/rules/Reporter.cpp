@@ -56,8 +56,7 @@ bool CReporter::HasFound(std::string_view code, const FoundField& field) const {
 }
 
 void CReporter::Add(const GroupPlace& place, const FoundField& blamed, const std::string& message) {
-  m_findings.push_back(
-      {m_rule->severity, m_rule->code, blamed.line, blamed.column, blamed.element, PlacePrefix(place) + message});
+  m_findings.push_back(About(blamed, *m_rule, PlacePrefix(place) + message));
   m_blamed.emplace(m_rule->code, &blamed);
   GroupPlace inner = place;
   for (std::size_t depth = inner.size(); depth-- > 0;) {

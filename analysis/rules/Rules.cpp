@@ -2,6 +2,7 @@
 #include "rules/Rule.h"
 
 #include <analysis/Rules.h>
+#include <analysis/Text.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -12,9 +13,7 @@ namespace {
 
 std::vector<RuleInfo> MakeRules() {
   std::vector<RuleInfo> rules;
-  for (const FindingCode* code : code::kAll) {
-    rules.push_back({code->name.data(), code->severity, {}, Confidence::High, "", code->meaning.data(), ""});
-  }
+  for (const RuleInfo* rule : code::kAll) rules.push_back(*rule);
   for (const Rule& rule : ConsistencyRules()) rules.push_back(rule.info);
   return rules;
 }
@@ -25,6 +24,17 @@ std::string Lower(std::string_view text) {
   std::string lower(text);
   std::transform(lower.begin(), lower.end(), lower.begin(), [](char c) { return Lower(c); });
   return lower;
+}
+
+bool IsOfName(char c) { return IsDigit(c) || c == '_' || (Lower(c) >= 'a' && Lower(c) <= 'z'); }
+
+/// Whether a text has the name in it, and not just as part of another.
+bool HasName(std::string_view text, std::string_view name) {
+  for (std::size_t at = text.find(name); !name.empty() && at != std::string_view::npos; at = text.find(name, at + 1)) {
+    const std::size_t end = at + name.size();
+    if ((at == 0 || !IsOfName(text[at - 1])) && (end == text.size() || !IsOfName(text[end]))) return true;
+  }
+  return false;
 }
 
 /// How many characters are to be added, left out or changed to make one text of the other.
@@ -54,6 +64,14 @@ const RuleInfo* FindRule(std::string_view code) {
   const auto found =
       std::find_if(Rules().begin(), Rules().end(), [&](const RuleInfo& rule) { return wanted == rule.code; });
   return found != Rules().end() ? &*found : nullptr;
+}
+
+std::vector<const RuleInfo*> RulesAbout(std::string_view field) {
+  std::vector<const RuleInfo*> rules;
+  for (const RuleInfo& rule : Rules()) {
+    if (HasName(rule.what, field) || HasName(rule.why, field)) rules.push_back(&rule);
+  }
+  return rules;
 }
 
 std::optional<std::string> NearestCode(std::string_view text) {

@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace vifanalysis {
 namespace {
@@ -12,6 +16,7 @@ TEST(RulesTest, HaveCodesOfTheirOwnAndSayWhatTheyFind) {
   for (const RuleInfo& rule : Rules()) {
     EXPECT_TRUE(codes.insert(rule.code).second) << rule.code;
     EXPECT_NE(std::string_view(rule.what), "") << rule.code;
+    EXPECT_TRUE(std::string_view(rule.why).ends_with('.')) << rule.code;
   }
   EXPECT_GT(codes.size(), 18U);
 }
@@ -21,6 +26,14 @@ TEST(RulesTest, AreFoundInAnyLetterCase) {
   EXPECT_STREQ(FindRule("Pdo-Above-RATING")->code, "pdo-above-rating");
   EXPECT_EQ(FindRule("pdo-above"), nullptr);
   EXPECT_EQ(FindRule(""), nullptr);
+}
+
+TEST(RulesTest, AreAboutTheFieldsThatTheirTextsName) {
+  std::vector<std::string> codes;
+  for (const RuleInfo* rule : RulesAbout("PD_Power_As_Sink")) codes.emplace_back(rule->code);
+  EXPECT_NE(std::find(codes.begin(), codes.end(), "pdo-above-rating"), codes.end());
+  EXPECT_TRUE(RulesAbout("PD_Power").empty());
+  EXPECT_TRUE(RulesAbout("").empty());
 }
 
 TEST(RulesTest, AreSuggestedForCodesThatAreNearlyTheirs) {
