@@ -22,9 +22,9 @@ class VIF_ANALYSIS_API CCheckError : public std::runtime_error {
 
 /// Which findings to report.
 struct CheckOptions {
-  bool notes = false;               ///< whether to report notes too
-  std::vector<std::string> only;    ///< codes in any letter case; unless empty, no other finding is reported
-  std::vector<std::string> except;  ///< codes of findings that are not reported
+  bool notes = false;                 ///< whether to report notes too
+  std::vector<std::string> only{};    ///< codes in any letter case; unless empty, no other finding is reported
+  std::vector<std::string> except{};  ///< codes of findings that are not reported
 };
 
 /// All findings of one file, in the order of the file; those without a place come last. A file that is not a valid VIF

@@ -36,6 +36,6 @@ check() {
 
 command=$build/cli/vif
 echo "==> Safeguards of what is built in $build"
-for file in "$build/libVendorInfoFile.so" "$build/host/libVendorInfoFileHost.so" "$command"; do check "$file"; done
+for file in "$build/libVendorInfoFile.so" "$build/analysis/libVendorInfoFileAnalysis.so" "$build/host/libVendorInfoFileHost.so" "$command"; do check "$file"; done
 require "$command" "code that can stand at any address" has_entry "$command" 'FLAGS_1.* PIE'
 exit $status

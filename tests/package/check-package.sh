@@ -105,7 +105,7 @@ EOF
     [ "$count" -ge 9 ] || fail "only $count headers are installed"
     ;;
   ExportsOnlyWhatIsIntended)
-    for library in VendorInfoFile VendorInfoFileHost; do
+    for library in VendorInfoFile VendorInfoFileAnalysis VendorInfoFileHost; do
       symbols=$(exported_by "$library")
       grep -q . <<<"$symbols" || fail "$library exports nothing"
       # Names of namespaces and layers that are nobody's business but the library's.
