@@ -76,21 +76,23 @@ enum class Unit : std::uint8_t {
 
 /// One value of a field, with its text.
 struct FieldValue {
-  std::string_view field{};                      ///< the field's canonical name
+  std::string_view field;                        ///< the field's canonical name
   std::uint64_t value = 0;                       ///< the number
-  std::string_view text{};                       ///< what it stands for, in the newest edition
+  std::string_view text;                         ///< what it stands for, in the newest edition
   std::uint32_t files = 0;                       ///< how many files of the corpus have it; 0: not seen
   EditionRange seen{};                           ///< the editions of these files; not known when there are none
   Confidence confidence = {};                    ///< how sure it is that the number stands for the text
-  std::string_view sources{};                    ///< codes of `VocabularySources`, separated by blanks
+  std::string_view sources;                      ///< codes of `VocabularySources`, separated by blanks
   std::array<std::string_view, 2> otherTexts{};  ///< other texts in use for the value; unused ones empty
-  std::string_view olderText{};                  ///< the text that it had up to edition `olderUntil`, or empty
-  Edition olderUntil{};                          ///< not known when there is no older text
+  // Rows leave it out, which g++ warns about where there is no initializer.
+  // NOLINTNEXTLINE(readability-redundant-member-init)
+  std::string_view olderText{};  ///< the text that it had up to edition `olderUntil`, or empty
+  Edition olderUntil{};          ///< not known when there is no older text
 };
 
 /// The unit of a field's numbers, under a condition. Of the masks, bit n stands for type n, and 0 for no condition.
 struct FieldUnit {
-  std::string_view field{};         ///< the field's canonical name
+  std::string_view field;           ///< the field's canonical name
   std::uint8_t supplyTypes = 0;     ///< supply types of the PDO (0 fixed, 1 battery, 2 variable, 3 augmented)
   std::uint8_t apdoTypes = 0;       ///< APDO types of an augmented PDO (0 PPS, 1 EPR AVS, 2 SPR AVS)
   std::uint8_t thresholdTypes = 0;  ///< values of `Src_PD_OCP_UV_Threshold_Type`
@@ -99,7 +101,7 @@ struct FieldUnit {
   std::uint32_t places = 0;         ///< how often the corpus has a number and a text that confirm it
   std::uint32_t files = 0;          ///< in how many files; 0: not seen
   Confidence confidence = {};       ///< how sure it is
-  std::string_view sources{};       ///< codes of `VocabularySources`, separated by blanks
+  std::string_view sources;         ///< codes of `VocabularySources`, separated by blanks
 };
 
 /// Why a name means a field.
@@ -118,35 +120,37 @@ enum class NameKind : std::uint8_t {
 
 /// A name of a field other than its canonical one.
 struct FieldSpelling {
-  std::string_view spelling{};  ///< the name; each `#` stands for the digits of an index, of which there may be none
-  std::string_view field{};     ///< the canonical name of the field that it means
-  NameKind kind = {};           ///< Canonical, TextForm, OtherSpelling, OlderField or Mistake
-  Confidence confidence = {};   ///< how sure it is that this field is meant
-  std::uint32_t files = 0;      ///< how many files of the corpus have it; 0: not seen
-  EditionRange seen{};          ///< the editions of these files; not known when there are none
-  std::string_view sources{};   ///< codes of `VocabularySources`, separated by blanks
-  std::string_view why{};       ///< how that is known, as a sentence, or empty when the kind says it all
+  std::string_view spelling;   ///< the name; each `#` stands for the digits of an index, of which there may be none
+  std::string_view field;      ///< the canonical name of the field that it means
+  NameKind kind = {};          ///< Canonical, TextForm, OtherSpelling, OlderField or Mistake
+  Confidence confidence = {};  ///< how sure it is that this field is meant
+  std::uint32_t files = 0;     ///< how many files of the corpus have it; 0: not seen
+  EditionRange seen{};         ///< the editions of these files; not known when there are none
+  std::string_view sources;    ///< codes of `VocabularySources`, separated by blanks
+  // Rows leave it out, which g++ warns about where there is no initializer.
+  // NOLINTNEXTLINE(readability-redundant-member-init)
+  std::string_view why{};  ///< how that is known, as a sentence, or empty when the kind says it all
 };
 
 /// One field of the format.
 struct FieldInfo {
-  std::string_view name{};      ///< the canonical name, without index digits
-  std::string_view spelling{};  ///< the name as text files write it; `#` stands for index digits: `Src_PDO_Voltage#`
-  std::array<EVifLocation, 3> locations{};  ///< the groups it stands in, outermost first; unused ones `eVifLocUnset`
-  FieldStanding standing = {};              ///< how it stands to the definition table
-  FieldType type = {};                      ///< the kind of its value
-  std::string_view declares{};              ///< what it declares: a phrase, or a question that its value answers
-  std::string_view note{};                  ///< what else there is to say, or empty
-  Confidence confidence = {};               ///< how sure `declares` is
-  std::string_view sources{};               ///< codes of `VocabularySources` behind `declares`, separated by blanks
-  std::uint32_t files = 0;                  ///< how many files of the corpus have it by this name; 0: not seen
-  EditionRange seen{};                      ///< the editions of these files; not known when there are none
-  bool listedIn3_12 = false;                ///< a public list of the fields of edition 3.12 has it
-  bool listedIn3_18 = false;                ///< a public list of the fields of edition 3.18 has it
-  Edition goneBy{};                         ///< the first edition known to be without it; not known for a field in use
-  std::span<const FieldValue> values{};     ///< its values; for a boolean NO and YES
-  std::span<const FieldUnit> units{};       ///< its units, by condition; at most one condition holds at a time
-  std::span<const FieldSpelling> spellings{};  ///< its other names
+  std::string_view name;      ///< the canonical name, without index digits
+  std::string_view spelling;  ///< the name as text files write it; `#` stands for index digits: `Src_PDO_Voltage#`
+  std::array<EVifLocation, 3> locations{};   ///< the groups it stands in, outermost first; unused ones `eVifLocUnset`
+  FieldStanding standing = {};               ///< how it stands to the definition table
+  FieldType type = {};                       ///< the kind of its value
+  std::string_view declares;                 ///< what it declares: a phrase, or a question that its value answers
+  std::string_view note;                     ///< what else there is to say, or empty
+  Confidence confidence = {};                ///< how sure `declares` is
+  std::string_view sources;                  ///< codes of `VocabularySources` behind `declares`, separated by blanks
+  std::uint32_t files = 0;                   ///< how many files of the corpus have it by this name; 0: not seen
+  EditionRange seen{};                       ///< the editions of these files; not known when there are none
+  bool listedIn3_12 = false;                 ///< a public list of the fields of edition 3.12 has it
+  bool listedIn3_18 = false;                 ///< a public list of the fields of edition 3.18 has it
+  Edition goneBy{};                          ///< the first edition known to be without it; not known for a field in use
+  std::span<const FieldValue> values;        ///< its values; for a boolean NO and YES
+  std::span<const FieldUnit> units;          ///< its units, by condition; at most one condition holds at a time
+  std::span<const FieldSpelling> spellings;  ///< its other names
 
   /// The group that the field stands in: the innermost of `locations`; `eVifLocUnset` when it stands in none.
   constexpr EVifLocation Group() const noexcept {
@@ -186,23 +190,23 @@ struct NameMatch {
 
 /// A group of the format and its fields.
 struct FieldGroup {
-  EVifLocation location = eVifLocUnset;        ///< the group; `eVifLocUnset` for fields that stand in none
-  std::span<const FieldInfo* const> fields{};  ///< its fields, in the order of `Fields`
+  EVifLocation location = eVifLocUnset;      ///< the group; `eVifLocUnset` for fields that stand in none
+  std::span<const FieldInfo* const> fields;  ///< its fields, in the order of `Fields`
 };
 
 /// Where facts of the vocabulary come from.
 struct VocabularySource {
-  std::string_view code{};      ///< as rows name it, such as "S2"
-  std::string_view what{};      ///< what it is
-  std::string_view editions{};  ///< the editions of the format that it covers, or empty
+  std::string_view code;      ///< as rows name it, such as "S2"
+  std::string_view what;      ///< what it is
+  std::string_view editions;  ///< the editions of the format that it covers, or empty
 };
 
 /// What decides which unit a number of a PDO is in.
 struct PdoContext {
-  std::optional<std::uint64_t> supplyType{};     ///< the PDO's `Src_PDO_Supply_Type` or `Snk_PDO_Supply_Type`
-  std::optional<std::uint64_t> apdoType{};       ///< its `Src_PDO_APDO_Type` or `Snk_PDO_APDO_Type`
-  std::optional<std::uint64_t> thresholdType{};  ///< its `Src_PD_OCP_UV_Threshold_Type`
-  Edition edition{};                             ///< the file's edition; may be not known
+  std::optional<std::uint64_t> supplyType;     ///< the PDO's `Src_PDO_Supply_Type` or `Snk_PDO_Supply_Type`
+  std::optional<std::uint64_t> apdoType;       ///< its `Src_PDO_APDO_Type` or `Snk_PDO_APDO_Type`
+  std::optional<std::uint64_t> thresholdType;  ///< its `Src_PD_OCP_UV_Threshold_Type`
+  Edition edition{};                           ///< the file's edition; may be not known
 };
 
 /// An exact amount of something.

@@ -133,7 +133,9 @@ void CFieldIndex::AddGroups() {
 void CFieldIndex::AddEntries() {
   m_slots.resize(std::bit_ceil(2 * (m_fields.size() + Spellings().size() + 1)));
   for (const FieldInfo& field : m_fields) AddEntry(field, nullptr);
-  for (const FieldSpelling& row : Spellings()) AddEntry(At(row.field), &row);
+  for (const FieldSpelling& row : Spellings()) {
+    if (const FieldInfo* const field = FieldOfRow(row.field)) AddEntry(*field, &row);
+  }
 }
 
 void CFieldIndex::AddEntry(const FieldInfo& field, const FieldSpelling* row) {
@@ -151,14 +153,15 @@ void CFieldIndex::Attach(std::span<const Row> rows, std::span<const Row> FieldIn
     const std::string_view name = rows.front().field;
     const auto end = std::find_if(rows.begin(), rows.end(), [name](const Row& row) { return row.field != name; });
     const auto count = static_cast<std::size_t>(end - rows.begin());
-    At(name).*member = rows.first(count);
+    if (FieldInfo* const field = FieldOfRow(name)) field->*member = rows.first(count);
     rows = rows.subspan(count);
   }
 }
 
-/// The field of a row. Every row has one, which the tests assure.
-FieldInfo& CFieldIndex::At(std::string_view canonicalName) {
-  return m_fields[static_cast<std::size_t>(FindWritten(canonicalName).field - m_fields.data())];
+/// The field of a row; null for a row without one, which is left out, and which the tests report.
+FieldInfo* CFieldIndex::FieldOfRow(std::string_view canonicalName) {
+  const FieldInfo* const field = FindWritten(canonicalName).field;
+  return field != nullptr ? &m_fields[static_cast<std::size_t>(field - m_fields.data())] : nullptr;
 }
 
 NameMatch CFieldIndex::Find(std::string_view name) const noexcept {

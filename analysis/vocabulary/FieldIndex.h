@@ -40,7 +40,7 @@ class CFieldIndex {
   void AddEntry(const FieldInfo& field, const FieldSpelling* row);
   template <typename Row>
   void Attach(std::span<const Row> rows, std::span<const Row> FieldInfo::*member);
-  FieldInfo& At(std::string_view canonicalName);
+  FieldInfo* FieldOfRow(std::string_view canonicalName);
   NameMatch FindWritten(std::string_view name) const noexcept;
   NameMatch FindWithDollarSign(std::string_view name) const noexcept;
 

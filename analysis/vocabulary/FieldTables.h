@@ -24,6 +24,8 @@ struct FieldRow {
   Confidence confidence;
   std::string_view sources;
   std::string_view declares;
+  // Rows leave it out, which g++ warns about where there is no initializer.
+  // NOLINTNEXTLINE(readability-redundant-member-init)
   std::string_view note{};
   Edition goneBy{};
 };
