@@ -1,4 +1,7 @@
 // Queries, against bare loops over arrays of what they look at.
+//
+// Some go over fields as the format defines them, the others over fields that nobody would tune a search for: of many
+// more components than a file has, and with names that differ only in their last characters.
 #include "Samples.h"
 #include "Subjects.h"
 #include "VendorInfoFile.h"
@@ -26,6 +29,39 @@ void AskOver(benchmark::State& state, std::size_t expected, const std::function<
   while (state.KeepRunning()) benchmark::DoNotOptimize(ask());
 }
 
+constexpr std::size_t kManyFields = 100'000;
+
+using Fields = std::vector<CVIFField>;
+
+Fields ManySampleFields() { return SampleFields(kManyFields); }
+
+/// Of 1,000 components with 7 source PDOs each, all of which have equally many fields.
+Fields SpreadFields() {
+  constexpr std::size_t components = 1000;
+  constexpr std::size_t pdos = 7;
+  Fields fields;
+  fields.reserve(kManyFields);
+  for (std::size_t i = 0; i < kManyFields; ++i) {
+    fields.emplace_back(true, "Src_PDO_Voltage", "100", VifIndex{eVifLocComponent, 1 + i % components},
+                        VifIndex{eVifLocSrcPdo, 1 + i % pdos}, CVIFField::UNSPECIFIED_INDEX);
+  }
+  return fields;
+}
+
+/// The name of one of the fields below, in other letter case.
+constexpr const char* kNameOfAlike = "src_pdo_field_77777";
+
+/// With names that all begin alike.
+Fields AlikeFields() {
+  const VifIndex any = CVIFField::UNSPECIFIED_INDEX;
+  Fields fields;
+  fields.reserve(kManyFields);
+  for (std::size_t i = 0; i < kManyFields; ++i) {
+    fields.emplace_back(true, "Src_PDO_Field_" + std::to_string(i), "1", any, any, any);
+  }
+  return fields;
+}
+
 std::vector<std::string> NamesOf(const std::vector<CVIFField>& fields) {
   std::vector<std::string> names;
   names.reserve(fields.size());
@@ -41,7 +77,6 @@ struct Slot {
 };
 using Slots = std::array<Slot, 3>;
 
-constexpr std::size_t kManyFields = 100'000;
 constexpr Slots kQuery = {Slot{eVifLocComponent, 3}, Slot{eVifLocSrcPdo, 2}, Slot{eVifLocUnset, 0}};
 
 VifIndex IndexOf(const Slot& slot) { return {static_cast<EVifLocation>(slot.location), slot.number}; }
@@ -87,41 +122,48 @@ std::size_t PassingFields(const std::vector<CVIFField>& fields) {
   }));
 }
 
-void CountByLocation(benchmark::State& state) {
-  const std::vector<CVIFField> fields = SampleFields(kManyFields);
-  const CVendorInfoFile vif(fields);
-  AskOver(state, PassingFields(fields),
-          [&] { return vif.Count(nullptr, IndexOf(kQuery[0]), IndexOf(kQuery[1]), IndexOf(kQuery[2])); });
+Work CountByLocation(Fields (*makeFields)()) {
+  return [makeFields](benchmark::State& state) {
+    const Fields fields = makeFields();
+    const CVendorInfoFile vif(fields);
+    AskOver(state, PassingFields(fields),
+            [&] { return vif.Count(nullptr, IndexOf(kQuery[0]), IndexOf(kQuery[1]), IndexOf(kQuery[2])); });
+  };
 }
 
-void CountSlots(benchmark::State& state) {
-  const std::vector<CVIFField> fields = SampleFields(kManyFields);
-  const std::vector<Slots> all = SlotsOfAll(fields);
-  Slots query = kQuery;
-  benchmark::DoNotOptimize(all.data());
-  benchmark::DoNotOptimize(query);  // the compiler is not to know it, as the library does not
-  AskOver(state, PassingFields(fields), [&] { return CountPassing(all, query); });
+Work CountSlots(Fields (*makeFields)()) {
+  return [makeFields](benchmark::State& state) {
+    const Fields fields = makeFields();
+    const std::vector<Slots> all = SlotsOfAll(fields);
+    Slots query = kQuery;
+    benchmark::DoNotOptimize(all.data());
+    benchmark::DoNotOptimize(query);  // the compiler must not know it, because the library does not
+    AskOver(state, PassingFields(fields), [&] { return CountPassing(all, query); });
+  };
 }
 
 // By a plain name.
 
-void FindUniqueName(benchmark::State& state) {
-  const CVendorInfoFile vif(SampleFields(kManyFields));
-  const VifIndex any = CVIFField::UNSPECIFIED_INDEX;
-  AskOver(state, 1,
-          [&]() -> std::size_t { return vif.GetUniqueField(kUniqueName, any, any, any).IsNumeric() ? 1 : 0; });
+Work FindUniqueName(Fields (*makeFields)(), const char* pattern) {
+  return [makeFields, pattern](benchmark::State& state) {
+    const CVendorInfoFile vif(makeFields());
+    const VifIndex any = CVIFField::UNSPECIFIED_INDEX;
+    AskOver(state, 1, [&]() -> std::size_t { return vif.GetUniqueField(pattern, any, any, any).IsNumeric() ? 1 : 0; });
+  };
 }
 
-void CompareNames(benchmark::State& state) {
-  const std::vector<std::string> names = NamesOf(SampleFields(kManyFields));
-  benchmark::DoNotOptimize(names.data());
-  AskOver(state, 1, [&] {
-    std::size_t count = 0;
-    for (const std::string& name : names) {
-      if (strcasecmp(name.c_str(), kUniqueName) == 0) ++count;
-    }
-    return count;
-  });
+Work CompareNames(Fields (*makeFields)(), const char* pattern) {
+  return [makeFields, pattern](benchmark::State& state) {
+    const std::vector<std::string> names = NamesOf(makeFields());
+    benchmark::DoNotOptimize(names.data());
+    AskOver(state, 1, [&] {
+      std::size_t count = 0;
+      for (const std::string& name : names) {
+        if (strcasecmp(name.c_str(), pattern) == 0) ++count;
+      }
+      return count;
+    });
+  };
 }
 
 // By a regular expression.
@@ -155,10 +197,16 @@ void MatchNames(benchmark::State& state) {
 void AddQueries(CRatioTable& table) {
   table.AddPair({"query/location", "`Count` by two locations over 100,000 fields",
                  "a bare loop over an array of the same slots", AtMost(3)},
-                CountByLocation, CountSlots);
+                CountByLocation(ManySampleFields), CountSlots(ManySampleFields));
+  table.AddPair({"query/location/spread", "`Count` by two locations over 100,000 fields of 1,000 components",
+                 "a bare loop over an array of the same slots", AtMost(2.5)},
+                CountByLocation(SpreadFields), CountSlots(SpreadFields));
   table.AddPair({"query/name", "`GetUniqueField` by a plain name over 100,000 fields",
                  "a loop of `strcasecmp` over the same names", AtMost(1.5)},
-                FindUniqueName, CompareNames);
+                FindUniqueName(ManySampleFields, kUniqueName), CompareNames(ManySampleFields, kUniqueName));
+  table.AddPair({"query/name/alike", "`GetUniqueField` by a plain name over 100,000 fields with names like it",
+                 "a loop of `strcasecmp` over the same names", AtMost(1.5)},
+                FindUniqueName(AlikeFields, kNameOfAlike), CompareNames(AlikeFields, kNameOfAlike));
   table.AddPair({"query/expression", "`Count` by `Src_PDO_.*` over 10,000 fields",
                  "a loop of `std::regex_match` with one compiled `std::regex`", AtMost(1.2)},
                 CountByExpression, MatchNames);

@@ -1,8 +1,9 @@
 #include "Baseline.h"
 
 #include "Command.h"
-#include "FieldSource.h"
 #include "Json.h"
+
+#include <BaseUtilities/PathText.h>
 
 #include <filesystem>
 #include <fstream>
@@ -25,7 +26,7 @@ std::string Key(const std::string& fileName, const Json& code, const Json& eleme
 }
 
 std::string Read(const std::string& fileName) {
-  const std::filesystem::path path = PathOf(fileName);
+  const std::filesystem::path path = PathFromUtf8(fileName);
   std::error_code error;
   if (!std::filesystem::is_regular_file(path, error)) throw Failure("--baseline: there is no file \"" + fileName + '"');
   std::ifstream file(path, std::ios::binary);

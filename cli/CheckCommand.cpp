@@ -4,6 +4,7 @@
 #include "FindingWriters.h"
 #include "SchemasOption.h"
 
+#include <BaseUtilities/PathText.h>
 #include <analysis/Check.h>
 #include <analysis/Rules.h>
 #include <CLI/CLI.hpp>
@@ -86,7 +87,7 @@ void RequireCodes(const char* option, const std::vector<std::string>& codes) {
 
 CheckedFile Check(const std::string& fileName, const vifanalysis::CheckOptions& options) {
   CheckedFile checked = {fileName, {}};
-  ReadFile(fileName, [&] { checked.findings = vifanalysis::CheckFile(PathOf(fileName), options); });
+  ReadFile(fileName, [&] { checked.findings = vifanalysis::CheckFile(PathFromUtf8(fileName), options); });
   return checked;
 }
 

@@ -2,6 +2,7 @@
 
 #include "Command.h"
 
+#include <BaseUtilities/PathText.h>
 #include <BaseUtilities/SimpleBuffer.h>
 #include <VIFInvalidFile.h>
 #include <analysis/Check.h>
@@ -39,25 +40,26 @@ bool IsNamed(const std::string& fileName, const std::string& reason) {
 
 /// The library loads a text file up to a read error and does not report the error.
 void RequireReadable(const std::string& fileName) {
-  const std::optional<std::size_t> line = FirstUnreadableLine(PathOf(fileName));
+  const std::optional<std::size_t> line = FirstUnreadableLine(PathFromUtf8(fileName));
   if (line) throw Failure(std::string("reading the file failed in line ").append(std::to_string(*line)));
 }
 
-/// XML that is named as text loads without an error, although next to nothing of it is read.
 void RequireItsOwnExtension(const std::string& fileName) {
-  if (const std::optional<std::string> advice = AdviceOnExtension(PathOf(fileName))) throw Failure(*advice);
+  if (const std::optional<std::string> advice = AdviceOnExtension(PathFromUtf8(fileName))) throw Failure(*advice);
 }
 
 void LoadFile(const std::string& fileName, CVendorInfoFile& vif) {
+  const std::size_t countBefore = vif.Count();
   try {
     vif.Append(fileName.c_str());
   } catch (const CVIFInvalidFile&) {
     RequireItsOwnExtension(fileName);
     throw;
   }
-  if (!HasExtension(PathOf(fileName), ".txt")) return;
+  if (!HasExtension(PathFromUtf8(fileName), ".txt")) return;
   RequireReadable(fileName);
-  RequireItsOwnExtension(fileName);
+  // XML that is named as text loads without an error and yields no field.
+  if (vif.Count() == countBefore) RequireItsOwnExtension(fileName);
 }
 
 }  // namespace
@@ -91,7 +93,5 @@ void ReadFile(const std::string& fileName, const std::function<void()>& read) {
     throw Failure(std::string(fileName).append(": ").append(reason));
   }
 }
-
-std::filesystem::path PathOf(const std::string& fileName) { return std::u8string(fileName.begin(), fileName.end()); }
 
 }  // namespace cli

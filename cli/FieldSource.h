@@ -18,7 +18,4 @@ CVendorInfoFile LoadFiles(const std::vector<std::string>& fileNames);
 /// \throws Failure with the name of the file and the reason why it cannot be read
 void ReadFile(const std::string& fileName, const std::function<void()>& read);
 
-/// The path of a file whose name is UTF-8 on Windows, and any bytes elsewhere.
-std::filesystem::path PathOf(const std::string& fileName);
-
 }  // namespace cli

@@ -1,8 +1,8 @@
-#include "FieldSource.h"
 #include "FindingWriters.h"
 #include "Json.h"
 #include "Output.h"
 
+#include <BaseUtilities/PathText.h>
 #include <analysis/Rules.h>
 
 #include <algorithm>
@@ -62,7 +62,7 @@ std::string Uri(const std::string& fileName) {
 #ifdef _WIN32
   std::replace(name.begin(), name.end(), '\\', '/');
 #endif
-  if (!PathOf(fileName).is_absolute()) return PercentEncoded(name);
+  if (!PathFromUtf8(fileName).is_absolute()) return PercentEncoded(name);
   return (name.starts_with('/') ? "file://" : "file:///") + PercentEncoded(name);
 }
 

@@ -1,8 +1,8 @@
 #include "SchemasOption.h"
 
 #include "Command.h"
-#include "FieldSource.h"
 
+#include <BaseUtilities/PathText.h>
 #include <TestUtilities/DOMDoc.h>
 
 #include <CLI/CLI.hpp>
@@ -16,7 +16,7 @@ namespace cli {
 namespace {
 
 void UseSchemas(const std::string& name) {
-  const std::filesystem::path directory = PathOf(name);
+  const std::filesystem::path directory = PathFromUtf8(name);
   std::error_code error;
   if (!std::filesystem::is_directory(directory, error)) throw Failure("--schemas: \"" + name + "\" is not a directory");
   const bool hasAny = std::filesystem::exists(directory / "VendorInfoFile.xsd", error) ||

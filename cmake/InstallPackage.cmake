@@ -20,11 +20,14 @@ install(FILES
   host/TestUtilities/TUUserInput.h
   DESTINATION "${header_dir}/TestUtilities")
 install(FILES host/ZorvenLog/TestSuiteLog.h DESTINATION "${header_dir}/ZorvenLog")
-install(FILES host/msxml/ComApartment.h host/msxml/ComError.h host/msxml/ComPointer.h host/msxml/ComTypes.h host/msxml/MsXml.h
+install(FILES
+  host/msxml/Com.h
+  host/msxml/ComApartment.h
+  host/msxml/ComError.h
+  host/msxml/ComPointer.h
+  host/msxml/MsXml.h
   DESTINATION "${header_dir}/msxml")
-install(FILES LICENSE README.md CHANGELOG.md DESTINATION "${CMAKE_INSTALL_DOCDIR}")
-install(DIRECTORY examples/vif/ DESTINATION "${CMAKE_INSTALL_DATADIR}/vendorinfofile/examples"
-  FILES_MATCHING PATTERN "*.txt" PATTERN "*.xml")
+include(InstallDocuments)
 
 install(EXPORT VendorInfoFileTargets NAMESPACE VendorInfoFile:: DESTINATION "${package_dir}")
 configure_package_config_file(cmake/VendorInfoFileConfig.cmake.in

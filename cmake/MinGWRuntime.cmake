@@ -7,8 +7,13 @@ foreach(library libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
   # Most of their size is for debugging them.
   set(stripped "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${library}")
   execute_process(COMMAND "${CMAKE_STRIP}" -o "${stripped}" "${file}" COMMAND_ERROR_IS_FATAL ANY)
-  install(FILES "${stripped}" DESTINATION "${CMAKE_INSTALL_BINDIR}")
+  list(APPEND runtime_libraries "${stripped}")
 endforeach()
+
+if(NOT VENDORINFOFILE_INSTALL)
+  return()
+endif()
+install(FILES ${runtime_libraries} DESTINATION "${CMAKE_INSTALL_BINDIR}")
 
 # Under which licences they are, as far as Debian says.
 foreach(package gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev)

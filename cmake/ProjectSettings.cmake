@@ -1,7 +1,8 @@
-# What all targets of this project are compiled with. Nothing of it reaches a program that uses the library.
+# What all targets of this project are compiled with. None of it reaches a program that uses the library, or a project that
+# this one is a part of.
 
-# A user who runs cmake without a preset expects an optimised build.
-if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+# A user who runs cmake without a preset expects an optimised build. A project around this one decides for itself.
+if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
   set(CMAKE_BUILD_TYPE Release CACHE STRING "Kind of build" FORCE)
 endif()
 
@@ -21,35 +22,36 @@ endif()
 # Lists of sanitizers, such as "address,undefined". Every finding ends the program.
 set(VENDORINFOFILE_SANITIZE "" CACHE STRING "Sanitizers to build everything with, separated by commas")
 
-add_library(project_settings INTERFACE)
-target_compile_features(project_settings INTERFACE cxx_std_20)
+add_library(VendorInfoFileSettings INTERFACE)
+target_compile_features(VendorInfoFileSettings INTERFACE cxx_std_20)
 if(WIN32)
   # Text is Unicode, and windows.h brings no more than is asked for.
-  target_compile_definitions(project_settings INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
+  target_compile_definitions(VendorInfoFileSettings INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
 endif()
 if(MSVC)
   # C4251, C4275: that exported classes have members and bases of the standard library is as it must be.
-  target_compile_options(project_settings INTERFACE /W4 /permissive- /utf-8 /wd4251 /wd4275)
-  target_compile_definitions(project_settings INTERFACE _CRT_SECURE_NO_WARNINGS)
+  target_compile_options(VendorInfoFileSettings INTERFACE /W4 /permissive- /utf-8 /wd4251 /wd4275)
+  target_compile_definitions(VendorInfoFileSettings INTERFACE _CRT_SECURE_NO_WARNINGS)
 else()
-  target_compile_options(project_settings INTERFACE
+  target_compile_options(VendorInfoFileSettings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor
     -Woverloaded-virtual)
 endif()
 
-# What the library reads comes from anywhere. A mistake of its own that a file finds is to end the process rather than be
-# made use of.
+# The library reads files from anywhere. When one of them hits a bug, the process is to end rather than be exploited.
 if(NOT MSVC)
-  target_compile_definitions(project_settings INTERFACE _GLIBCXX_ASSERTIONS)
+  target_compile_definitions(VendorInfoFileSettings INTERFACE _GLIBCXX_ASSERTIONS)
 endif()
 if(UNIX AND NOT APPLE)
-  target_compile_options(project_settings INTERFACE -fstack-protector-strong)
-  # It needs an optimised build, and the sanitizers watch the same calls themselves.
-  if(NOT VENDORINFOFILE_SANITIZE)
-    target_compile_options(project_settings INTERFACE
-      $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE$<SEMICOLON>-D_FORTIFY_SOURCE=2>)
+  target_compile_options(VendorInfoFileSettings INTERFACE -fstack-protector-strong)
+  # A library that has a unique symbol is never unloaded.
+  target_compile_options(VendorInfoFileSettings INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
+  # The user's flags decide, where they say anything. The sanitizers watch the same calls themselves.
+  string(TOUPPER "CMAKE_CXX_FLAGS_${CMAKE_BUILD_TYPE}" flags_of_build_type)
+  if(NOT VENDORINFOFILE_SANITIZE AND NOT "${CMAKE_CXX_FLAGS} ${${flags_of_build_type}}" MATCHES "_FORTIFY_SOURCE")
+    target_compile_options(VendorInfoFileSettings INTERFACE "SHELL:-include \"${CMAKE_CURRENT_LIST_DIR}/Fortify.h\"")
   endif()
-  target_link_options(project_settings INTERFACE LINKER:-z,relro,-z,now,-z,noexecstack)
+  target_link_options(VendorInfoFileSettings INTERFACE LINKER:-z,relro,-z,now,-z,noexecstack)
 endif()
 
 if(VENDORINFOFILE_SANITIZE)
@@ -73,11 +75,21 @@ if(VENDORINFOFILE_COVERAGE)
   add_link_options(-fprofile-instr-generate)
 endif()
 
-# Keeps instantiations of the standard library's templates, which are visible by default, out of the library's
-# interface: only what the map names is exported.
-function(project_export_only target map)
+# What the file names of shared libraries and the versions of their symbols tell apart: libraries of which one cannot take
+# the other's place. Before 1.0, every minor version may break the one before.
+set(VENDORINFOFILE_ABI ${PROJECT_VERSION_MAJOR})
+if(PROJECT_VERSION_MAJOR EQUAL 0)
+  set(VENDORINFOFILE_ABI ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+endif()
+
+# Gives a shared library its version, and keeps everything that its map does not name out of its interface, such as
+# instantiations of the standard library's templates, which are visible by default.
+function(project_set_interface target map)
+  set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${VENDORINFOFILE_ABI})
   if(UNIX AND NOT APPLE)
-    target_link_options(${target} PRIVATE "LINKER:--version-script=${map}")
-    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${map}")
+    set(versioned_map "${PROJECT_BINARY_DIR}/${target}.map")
+    configure_file("${map}" "${versioned_map}" @ONLY)
+    target_link_options(${target} PRIVATE "LINKER:--version-script=${versioned_map}")
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${versioned_map}")
   endif()
 endfunction()

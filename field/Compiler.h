@@ -1,7 +1,8 @@
-// The few things that compilers spell differently.
+// The few things that compilers and their standard libraries spell differently.
 #pragma once
 
 #include <cstdint>
+#include <regex>
 
 #if defined(_MSC_VER) && !defined(__clang__)
 #include <intrin.h>
@@ -12,10 +13,54 @@
 #define VIF_FRAME_ADDRESS() reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0))
 #endif
 
-#if defined(__GLIBCXX__)
-/// A syntax option under which a match goes through the text character by character, in time and stack that do not
-/// run away, in exchange for references back to groups; 0 where the standard library has none.
-#define VIF_REGEX_STEPWISE std::regex_constants::__polynomial
+#if defined(__has_feature)
+#define VIF_HAS_FEATURE(feature) __has_feature(feature)
 #else
-#define VIF_REGEX_STEPWISE (std::regex_constants::syntax_option_type{})
+#define VIF_HAS_FEATURE(feature) 0
 #endif
+
+namespace vif {
+
+#if defined(__SANITIZE_ADDRESS__) || VIF_HAS_FEATURE(address_sanitizer) || VIF_HAS_FEATURE(memory_sanitizer)
+constexpr bool kHasLargeFrames = true;
+#else
+/// Whether the compiler makes stack frames several times as large as usual, which sanitizers of memory need.
+constexpr bool kHasLargeFrames = false;
+#endif
+
+#if defined(__GLIBCXX__)
+
+/// Whether the standard library has a second engine, which goes through the text once, character by character, and
+/// needs no more stack for a longer text. It cannot match expressions that refer back to a group.
+constexpr bool kHasStepwiseEngine = true;
+
+/// `std::regex_match` by the stepwise engine. An expression that refers back to a group is matched recursively.
+template <typename Iterator, typename Char>
+bool StepwiseRegexMatch(Iterator first, Iterator last, std::match_results<Iterator>& match,
+                        const std::basic_regex<Char>& expression) {
+  // libstdc++ chooses between its engines when it matches, not when it compiles, and lets its own tests ask for either.
+  using std::__detail::_RegexExecutorPolicy;
+  constexpr auto flags = std::regex_constants::match_default;
+#if _GLIBCXX_RELEASE >= 12
+  return std::__detail::__regex_algo_impl(first, last, match, expression, flags, _RegexExecutorPolicy::_S_alternate,
+                                          true);
+#else
+  return std::__detail::__regex_algo_impl<Iterator, typename std::match_results<Iterator>::allocator_type, Char,
+                                          std::regex_traits<Char>, _RegexExecutorPolicy::_S_alternate, true>(
+      first, last, match, expression, flags);
+#endif
+}
+
+#else
+
+constexpr bool kHasStepwiseEngine = false;
+
+template <typename Iterator, typename Char>
+bool StepwiseRegexMatch(Iterator first, Iterator last, std::match_results<Iterator>& match,
+                        const std::basic_regex<Char>& expression) {
+  return std::regex_match(first, last, match, expression);
+}
+
+#endif
+
+}  // namespace vif

@@ -2,12 +2,10 @@
 
 #include "BaseUtilities/StringConvert.h"
 #include "Errors.h"
-#include "GuardedRegex.h"
-#include "KnownFieldIndex.h"
 
 #include <algorithm>
 #include <charconv>
-#include <cstddef>
+#include <unordered_map>
 
 namespace vif {
 
@@ -52,60 +50,107 @@ void FillSlots(const std::array<EVifLocation, CVIFField::MAX_INDEX_DEPTH>& locat
   }
 }
 
-/// The first definition whose pattern fits the whole name, with the captures in `match`; null when there is none.
-const VifFieldDef* FindDefinition(const std::vector<VifFieldDef>& table, std::wstring_view name,
-                                  GuardedMatch<wchar_t>& match) {
-  const auto found = std::find_if(table.begin(), table.end(), [&](const VifFieldDef& definition) {
-    return GuardedRegexMatch(name, match, definition.pattern);
-  });
-  return found != table.end() ? &*found : nullptr;
+/// The known fields by the patterns of their built-in definitions.
+using FieldsByPattern = std::unordered_map<const void*, const KnownField*>;
+
+FieldsByPattern BuiltInPatterns() {
+  FieldsByPattern fields;
+  const std::vector<VifFieldDef>& table = VifFieldDefs::GetVifFieldDefs();
+  for (size_t i = 0; i < table.size(); ++i) {
+    const void* pattern = IdentityOf(table[i].pattern);
+    if (pattern != nullptr) fields[pattern] = &KnownFields()[i];
+  }
+  return fields;
 }
+
+/// The known field whose built-in pattern the definition has; null when the pattern is the caller's own.
+const KnownField* FieldWithPatternOf(const VifFieldDef& definition) {
+  static const FieldsByPattern fields = BuiltInPatterns();
+  const auto found = fields.find(IdentityOf(definition.pattern));
+  return found != fields.end() ? found->second : nullptr;
+}
+
+size_t NumberOf(const KnownField& field) { return static_cast<size_t>(&field - KnownFields().data()); }
 
 }  // namespace
 
 CFieldResolver::CFieldResolver(const std::vector<VifFieldDef>* table, std::uint32_t component)
-    : m_ownTable(table != &VifFieldDefs::GetVifFieldDefs() ? table : nullptr), m_component(component) {}
+    : m_ownTable(table != &VifFieldDefs::GetVifFieldDefs() ? table : nullptr), m_component(component) {
+  if (m_ownTable == nullptr) return;
+  m_positions.assign(KnownFields().size(), m_ownTable->size());
+  for (size_t position = 0; position < m_ownTable->size(); ++position) {
+    const VifFieldDef& definition = (*m_ownTable)[position];
+    if (const KnownField* field = FieldWithPatternOf(definition); field != nullptr) {
+      m_positions[NumberOf(*field)] = std::min(m_positions[NumberOf(*field)], position);
+    } else {
+      m_ownPatterns.push_back({position, ShapeOf(definition.pattern)});
+    }
+  }
+}
 
 void CFieldResolver::Resolve(std::string_view name, ResolvedName& result) const {
   result.name = name;
   result.slots.fill(CVIFField::UNSPECIFIED_INDEX);
   result.isKnown = false;
+  const KnownFieldMatch known = BuiltInFieldIndex().Find(name);
   if (m_ownTable == nullptr) {
-    ResolveBuiltIn(name, result);
+    ResolveBuiltIn(known, result);
   } else {
-    ResolveByPatterns(name, result);
+    ResolveByTable(name, known, result);
   }
 }
 
 bool CFieldResolver::Knows(std::string_view name) const {
-  if (m_ownTable == nullptr) return BuiltInFieldIndex().Find(name).field != nullptr;
+  const KnownFieldMatch known = BuiltInFieldIndex().Find(name);
+  if (m_ownTable == nullptr) return known.field != nullptr;
+  const size_t position = PositionOf(known);
   GuardedMatch<wchar_t> match;
-  return FindDefinition(*m_ownTable, Utf8ToUtf16(name), match) != nullptr;
+  return FindOwnPattern(Utf8ToUtf16(name), position, match) != nullptr || position < m_ownTable->size();
 }
 
-void CFieldResolver::ResolveBuiltIn(std::string_view name, ResolvedName& result) const {
-  const KnownFieldMatch match = BuiltInFieldIndex().Find(name);
-  if (match.field == nullptr) return;
+void CFieldResolver::ResolveBuiltIn(const KnownFieldMatch& known, ResolvedName& result) const {
+  if (known.field == nullptr) return;
   result.isKnown = true;
-  result.name = match.canonicalName;
+  result.name = known.canonicalName;
   FillSlots(
-      match.field->locations, m_component, [&](size_t group) { return match.indexDigits[group - 1]; }, result);
+      known.field->locations, m_component, [&](size_t group) { return known.indexDigits[group - 1]; }, result);
 }
 
-void CFieldResolver::ResolveByPatterns(std::string_view name, ResolvedName& result) const {
+void CFieldResolver::ResolveByTable(std::string_view name, const KnownFieldMatch& known, ResolvedName& result) const {
+  const size_t position = PositionOf(known);
   const std::wstring wideName = Utf8ToUtf16(name);
   GuardedMatch<wchar_t> match;
-  const VifFieldDef* definition = FindDefinition(*m_ownTable, wideName, match);
-  if (definition == nullptr) return;
+  const VifFieldDef* definition = FindOwnPattern(wideName, position, match);
+  const bool hasOwnPattern = definition != nullptr;
+  if (!hasOwnPattern) {
+    if (position == m_ownTable->size()) return;
+    definition = &(*m_ownTable)[position];
+  }
   result.isKnown = true;
   result.name = definition->name != nullptr ? Utf16ToUtf8(definition->name) : std::string();
   std::string captured;
   const auto capture = [&](size_t group) -> std::string_view {
-    // A group that took no part, or that there is not, is empty and stands at the end of the name.
+    if (!hasOwnPattern) return known.indexDigits[group - 1];
+    // A group that took no part, or that does not exist, is empty and stands at the end of the name.
     captured = Utf16ToUtf8({match[group].first.Position(), match[group].second.Position()});
     return captured;
   };
   FillSlots(definition->locations, m_component, capture, result);
+}
+
+size_t CFieldResolver::PositionOf(const KnownFieldMatch& known) const {
+  return known.field != nullptr ? m_positions[NumberOf(*known.field)] : m_ownTable->size();
+}
+
+const VifFieldDef* CFieldResolver::FindOwnPattern(std::wstring_view name, size_t end,
+                                                  GuardedMatch<wchar_t>& match) const {
+  const std::uintptr_t lowestFrame = LowestFrame();
+  for (const OwnPattern& own : m_ownPatterns) {
+    if (own.position >= end) break;
+    const VifFieldDef& definition = (*m_ownTable)[own.position];
+    if (CGuardedMatcher(own.shape).Match(name, match, definition.pattern, lowestFrame)) return &definition;
+  }
+  return nullptr;
 }
 
 }  // namespace vif

@@ -2,42 +2,57 @@
 #pragma once
 
 #include "Compiler.h"
+#include "PatternError.h"
+#include "RegexShape.h"
+#include "StackSpace.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
+#include <limits>
 #include <regex>
 #include <string_view>
 
 namespace vif {
 
-/// How far one match may go down the stack. Field names need a few kilobytes. With what compiling the deepest pattern
-/// takes, half a megabyte of free stack is enough for any query.
-constexpr std::uintptr_t kMatchStackBudget = std::uintptr_t{256} * 1024;
+/// How far down the stack the recursive engine goes where the stepwise one can take over. Field names need a few
+/// kilobytes.
+constexpr std::uintptr_t kRecursionBudget = std::uintptr_t{256} * 1024;
 
-/// How often one match may read a character or compare positions. Patterns that are not pathological do so a few times
-/// for each character of a name.
+/// How often one match by the recursive engine may read a character or compare positions. Patterns that are not
+/// pathological do so a few times for each character of a name.
 constexpr std::size_t kMatchStepBudget = 1'000'000;
+
+/// The same for the stepwise engine, which takes a few steps for each character, and more than one for each pair of
+/// them only where a pattern looks ahead. This ends the longest match after a second or two.
+constexpr std::size_t kStepwiseStepBudget = 100'000'000;
+
+/// What libstdc++ may take to go through one alternative: it takes 80 to 144 bytes, and 496 in the largest frames that
+/// a sanitizer makes.
+constexpr std::uintptr_t kStackPerAlternative = kHasLargeFrames ? 768 : 256;
 
 /// What is left to a match.
 struct MatchBudget {
   std::uintptr_t lowestFrame = 0;
   std::size_t stepsLeft = kMatchStepBudget;
 
-  /// Throws `std::regex_error` when the match has gone too deep or on for too long.
-  void Check() {
-    if (VIF_FRAME_ADDRESS() < lowestFrame) Fail(std::regex_constants::error_stack);
-    if (stepsLeft-- == 0) Fail(std::regex_constants::error_complexity);
+  /// \throws std::regex_error (`error_stack`) when the match has gone too deep
+  void CheckStack() const {
+    if (VIF_FRAME_ADDRESS() < lowestFrame) ThrowStackTooSmall();
   }
 
- private:
-  // Apart, so that `Check` is small enough to be inlined into the matcher, which goes through it for every character.
-  [[noreturn]] static void Fail(std::regex_constants::error_type reason) { throw std::regex_error(reason); }
+  /// \throws std::regex_error when the match has gone too deep (`error_stack`) or on for too long (`error_complexity`)
+  void Check() {
+    CheckStack();
+    if (stepsLeft-- == 0) ThrowTooManySteps();
+  }
 };
 
-/// Walks over text for a regular expression and, whenever a character is read or positions are compared, looks at what
-/// is left to the match. libstdc++ recurses for every character and every repetition it matches, and this is the one
-/// place that sees both; where the standard library guards its own stack, this guard is merely never the first to act.
+/// Walks over text for a regular expression and looks at what is left to the match whenever a character is read,
+/// positions are compared or a position is kept. libstdc++ recurses for every character, repetition, group and
+/// assertion it matches, and does one of these for each; only alternatives that directly follow each other escape the
+/// guard. Where the standard library guards its own stack, this guard is merely never the first to act.
 template <typename Char>
 class CGuardedIterator {
  public:
@@ -49,6 +64,14 @@ class CGuardedIterator {
 
   CGuardedIterator() = default;
   CGuardedIterator(const Char* position, MatchBudget& budget) : m_position(position), m_budget(&budget) {}
+  CGuardedIterator(const CGuardedIterator& other) = default;
+  CGuardedIterator& operator=(const CGuardedIterator& other) {
+    if (other.m_budget != nullptr) other.m_budget->CheckStack();
+    m_position = other.m_position;
+    m_budget = other.m_budget;
+    return *this;
+  }
+  ~CGuardedIterator() = default;
 
   reference operator*() const {
     m_budget->Check();
@@ -87,19 +110,51 @@ class CGuardedIterator {
 template <typename Char>
 using GuardedMatch = std::match_results<CGuardedIterator<Char>>;
 
+/// Which engine does a match.
+enum class Engine { Recursive, Stepwise };
+
 /// `std::regex_match` of the whole text, with the captures in `match`, of which only the positions may be used.
-/// \param steps how often it may read a character or compare positions
 /// \throws std::regex_error when the match would need more stack (`error_stack`) or more steps (`error_complexity`)
+///   than the budget has
 template <typename Char>
 bool GuardedRegexMatch(std::basic_string_view<Char> text, GuardedMatch<Char>& match,
-                       const std::basic_regex<Char>& expression, std::size_t steps = kMatchStepBudget) {
-  const std::uintptr_t here = VIF_FRAME_ADDRESS();
-  MatchBudget budget;
-  budget.stepsLeft = steps;
-  budget.lowestFrame = here > kMatchStackBudget ? here - kMatchStackBudget : 0;
+                       const std::basic_regex<Char>& expression, MatchBudget budget,
+                       Engine engine = Engine::Recursive) {
   const CGuardedIterator<Char> first(text.data(), budget);
   const CGuardedIterator<Char> last(text.data() + text.size(), budget);
-  return std::regex_match(first, last, match, expression);
+  return engine == Engine::Recursive ? std::regex_match(first, last, match, expression)
+                                     : StepwiseRegexMatch(first, last, match, expression);
 }
+
+/// Matches texts with one expression: recursively, which is fast, or else stepwise, where the stack or the steps are
+/// not enough for that.
+class CGuardedMatcher {
+ public:
+  explicit CGuardedMatcher(const RegexShape& shape) : m_shape(shape) {}
+
+  /// \param expression the one that the shape is of
+  /// \param lowestUsableFrame as `LowestFrame` says, which need not be asked for every match of many
+  /// \throws std::regex_error as `GuardedRegexMatch` does, when no engine can answer
+  template <typename Char>
+  bool Match(std::basic_string_view<Char> text, GuardedMatch<Char>& match, const std::basic_regex<Char>& expression,
+             std::uintptr_t lowestUsableFrame = LowestFrame()) {
+    const std::uintptr_t lowestFrame = lowestUsableFrame + m_shape.alternatives * kStackPerAlternative;
+    if (m_shape.needsRecursion) return GuardedRegexMatch(text, match, expression, {lowestFrame, kMatchStepBudget});
+    if (text.size() < m_tooLong) {
+      try {
+        const std::uintptr_t here = VIF_FRAME_ADDRESS();
+        const std::uintptr_t lowest = std::max(lowestFrame, here - std::min(here, kRecursionBudget));
+        return GuardedRegexMatch(text, match, expression, {lowest, kMatchStepBudget});
+      } catch (const std::regex_error&) {
+        m_tooLong = text.size();
+      }
+    }
+    return GuardedRegexMatch(text, match, expression, {lowestFrame, kStepwiseStepBudget}, Engine::Stepwise);
+  }
+
+ private:
+  RegexShape m_shape;
+  std::size_t m_tooLong = std::numeric_limits<std::size_t>::max();  // the shortest text that was too much
+};
 
 }  // namespace vif

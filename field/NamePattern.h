@@ -1,6 +1,7 @@
 // A name pattern of a query, made ready to be matched with many names.
 #pragma once
 
+#include "GuardedRegex.h"
 #include "PlainPattern.h"
 
 #include <locale>
@@ -17,7 +18,8 @@ namespace vif {
 class CNamePattern {
  public:
   /// \param pattern neither null nor empty; borrowed, so it must outlive the object
-  /// \throws std::regex_error when it is no regular expression, or one too deep for the stack (`error_stack`)
+  /// \throws std::regex_error when it is not a regular expression, or when compiling it would take more stack than the
+  ///   thread has left (`error_stack`), too long (`error_complexity`) or too much memory (`error_space`)
   explicit CNamePattern(const char* pattern);
 
   /// Whether the whole name fits.
@@ -26,20 +28,16 @@ class CNamePattern {
   bool Matches(const char* name) {
     const char* rest = m_beginning.Behind(name);
     if (rest == nullptr) return false;
-    return m_expression ? MatchesExpression(*m_expression, name) : *rest == '\0';
+    return m_expression ? MatchesExpression(name) : *rest == '\0';
   }
 
  private:
-  bool MatchesExpression(const std::regex& expression, const char* name);
+  bool MatchesExpression(const char* name);
 
-  /// Makes `m_stepwise`; false when there is no such way for the pattern.
-  bool CompileStepwise();
-
-  const char* m_pattern;
   std::locale m_locale;
   CPlainPattern m_beginning;               // of every name that fits; for a plain pattern all of it
   std::optional<std::regex> m_expression;  // nothing for a plain pattern
-  std::optional<std::regex> m_stepwise;    // takes its place from the first name that was too much for it
+  CGuardedMatcher m_matcher{{}};
 };
 
 }  // namespace vif

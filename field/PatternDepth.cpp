@@ -7,106 +7,118 @@ namespace vif {
 
 namespace {
 
-constexpr std::size_t kGroupDepth = 8;
-constexpr std::size_t kAlternativeDepth = 2;
-constexpr std::size_t kQuantifierDepth = 2;
-constexpr std::size_t kTooDeep = 1U << 20;  // where counting stops, so that nothing overflows
+constexpr std::size_t kEnough = std::size_t{1} << 30;  // where counting stops, so that nothing overflows
+
+std::size_t Sum(std::size_t a, std::size_t b) { return std::min(kEnough, a + b); }
 
 /// A group that is open, the whole pattern being the outermost.
 struct OpenGroup {
-  std::size_t alternatives = kAlternativeDepth;  // of all of them so far
-  std::size_t deepest = 0;                       // of the alternatives that are complete
-  std::size_t current = 0;                       // of the one being read, without its last term
-  std::size_t lastTerm = 0;
+  std::size_t deepest = 0;         // of the alternatives that are complete
+  std::size_t depth = 0;           // of the alternative being read
+  std::size_t joints = 0;          // of all alternatives so far, without the last term
+  std::size_t lastTermJoints = 0;  // apart, because braces may repeat them
 
-  void Add(std::size_t term) {
-    current = std::min(kTooDeep, current + lastTerm);
-    lastTerm = term;
+  void AddTerm(const PatternCost& term) {
+    depth = Sum(depth, term.depth);
+    joints = Sum(joints, lastTermJoints);
+    lastTermJoints = term.joints;
   }
   void EndAlternative() {
-    Add(0);
-    deepest = std::max(deepest, current);
-    current = 0;
+    AddTerm({0, 2, 0});
+    deepest = std::max(deepest, depth);
+    depth = 0;
   }
-  std::size_t Depth() {
+  PatternCost Total() {
     EndAlternative();
-    return std::min(kTooDeep, deepest + alternatives);
+    return {Sum(deepest, kGroupDepth), Sum(joints, Sum(lastTermJoints, 1)), 0};
   }
 };
 
-/// The position behind a bracket expression that begins at `begin`.
-std::size_t BehindBrackets(std::string_view pattern, std::size_t begin) {
+/// The position after a bracket expression that begins at `begin`.
+std::size_t EndOfBrackets(std::string_view pattern, std::size_t begin) {
   std::size_t i = begin + 1;
   while (i < pattern.size() && pattern[i] != ']') i += pattern[i] == '\\' ? std::size_t{2} : 1;
   return std::min(i + 1, pattern.size());
 }
 
-/// The largest number in the text between two braces, at least 1.
-std::size_t LargestNumber(std::string_view text) {
-  std::size_t largest = 1;
+/// How often the text between two braces has libstdc++ copy what stands before them, at most.
+std::size_t Copies(std::string_view text) {
+  std::size_t largest = 0;
   std::size_t number = 0;
   for (const char c : text) {
     const bool isDigit = c >= '0' && c <= '9';
-    number = isDigit ? std::min(kTooDeep, number * 10 + static_cast<std::size_t>(c - '0')) : 0;
+    number = isDigit ? std::min(kEnough, number * 10 + static_cast<std::size_t>(c - '0')) : 0;
     largest = std::max(largest, number);
   }
-  return largest;
+  return largest + 1;
 }
+
+class CPatternReader {
+ public:
+  explicit CPatternReader(std::string_view pattern) : m_pattern(pattern) {}
+
+  PatternCost Read() {
+    while (m_position < m_pattern.size()) ReadOne();
+    PatternCost total;
+    for (OpenGroup& group : m_groups) {
+      const PatternCost cost = group.Total();
+      total = {Sum(total.depth, cost.depth), Sum(total.joints, cost.joints), m_repetitions};
+    }
+    return total;
+  }
+
+ private:
+  void ReadOne() {
+    OpenGroup& group = m_groups.back();
+    const char c = m_pattern[m_position++];
+    switch (c) {
+      case '(': m_groups.emplace_back(); break;
+      case ')': CloseGroup(); break;
+      case '|': group.EndAlternative(); break;
+      case '{': ReadBraces(group); break;
+      case '*':
+      case '+':
+      case '?': ++group.lastTermJoints; break;
+      case '[':
+        group.AddTerm({1, 0, 0});
+        m_position = EndOfBrackets(m_pattern, m_position - 1);
+        break;
+      case '\\':
+        group.AddTerm({1, 0, 0});
+        // "\c" takes the character after it, whatever it is.
+        m_position += m_pattern.substr(m_position, 1) == "c" ? 2U : 1U;
+        break;
+      default: group.AddTerm({1, 0, 0}); break;
+    }
+  }
+
+  void CloseGroup() {
+    if (m_groups.size() == 1) return;
+    const PatternCost cost = m_groups.back().Total();
+    m_groups.pop_back();
+    m_groups.back().AddTerm(cost);
+  }
+
+  void ReadBraces(OpenGroup& group) {
+    const std::size_t end = std::min(m_pattern.find('}', m_position), m_pattern.size());
+    const std::size_t copies = Copies(m_pattern.substr(m_position, end - m_position));
+    m_repetitions = std::max(m_repetitions, copies - 1);
+    group.lastTermJoints = Sum(2, std::min(kEnough, group.lastTermJoints * copies));
+    m_position = end + 1;
+  }
+
+  std::string_view m_pattern;
+  std::size_t m_position = 0;
+  std::size_t m_repetitions = 0;
+  std::vector<OpenGroup> m_groups{1};
+};
 
 }  // namespace
 
-std::size_t PatternDepth(std::string_view pattern) {
-  std::vector<OpenGroup> groups(1);
-  for (std::size_t i = 0; i < pattern.size();) {
-    OpenGroup& group = groups.back();
-    switch (pattern[i]) {
-      case '(':
-        groups.emplace_back();
-        ++i;
-        break;
-      case ')':
-        ++i;
-        if (groups.size() == 1) break;
-        {
-          const std::size_t depth = kGroupDepth + group.Depth();
-          groups.pop_back();
-          groups.back().Add(depth);
-        }
-        break;
-      case '|':
-        group.EndAlternative();
-        group.alternatives = std::min(kTooDeep, group.alternatives + kAlternativeDepth);
-        ++i;
-        break;
-      case '[':
-        group.Add(1);
-        i = BehindBrackets(pattern, i);
-        break;
-      case '{': {
-        const std::size_t end = std::min(pattern.find('}', i), pattern.size());
-        group.lastTerm = std::min(kTooDeep, group.lastTerm * LargestNumber(pattern.substr(i, end - i)));
-        i = end + 1;
-        break;
-      }
-      case '*':
-      case '+':
-      case '?':
-        group.lastTerm += kQuantifierDepth;
-        ++i;
-        break;
-      case '\\':
-        group.Add(1);
-        i += 2;
-        break;
-      default:
-        group.Add(1);
-        ++i;
-        break;
-    }
-  }
-  std::size_t depth = 0;
-  for (OpenGroup& group : groups) depth = std::min(kTooDeep, depth + kGroupDepth + group.Depth());
-  return depth;
+PatternCost CostOf(std::string_view pattern) {
+  PatternCost cost = CPatternReader(pattern).Read();
+  if (!kHasStepwiseEngine) cost.depth = std::max(cost.depth, kGroupDepth + pattern.size());
+  return cost;
 }
 
 }  // namespace vif

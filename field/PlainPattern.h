@@ -8,6 +8,14 @@
 
 namespace vif {
 
+/// The characters that mean more than themselves in a regular expression.
+constexpr std::string_view kSpecialCharacters = "^$\\.*+?()[]{}|";
+
+/// Whether a pattern stands for nothing but its own characters.
+constexpr bool IsPlainPattern(std::string_view pattern) {
+  return pattern.find_first_of(kSpecialCharacters) == std::string_view::npos;
+}
+
 /// Compares names with one pattern, character by character, as `std::ctype<char>::tolower` has their letter case. That
 /// is a virtual call, so it is asked once for a character, which halves the time of names that often share their
 /// beginning with the pattern. It is asked only for those that come, because the 256 calls of a full

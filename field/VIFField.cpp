@@ -22,14 +22,12 @@ std::uint64_t Number(const VifIndex& index) { return std::get<1>(index); }
 
 }  // namespace
 
-#ifdef _WIN32
-// A class that is exported has its constants exported only where they are defined once more.
-constexpr std::size_t CVIFField::MAX_INDEX_DEPTH;
-constexpr std::size_t CVIFField::INDEX_NOT_SPECIFIED;
-constexpr VifIndex CVIFField::UNSPECIFIED_INDEX;
-constexpr std::uint64_t CVIFField::VIF_VALUE_UNSET_64;
-constexpr std::uint32_t CVIFField::VIF_VALUE_UNSET;
-#endif
+// The library has the constants, and exports them, only because they are declared here again.
+constexpr std::size_t CVIFField::MAX_INDEX_DEPTH;         // NOLINT(readability-redundant-declaration)
+constexpr VifIndexNumber CVIFField::INDEX_NOT_SPECIFIED;  // NOLINT(readability-redundant-declaration)
+constexpr VifIndex CVIFField::UNSPECIFIED_INDEX;          // NOLINT(readability-redundant-declaration)
+constexpr std::uint64_t CVIFField::VIF_VALUE_UNSET_64;    // NOLINT(readability-redundant-declaration)
+constexpr std::uint32_t CVIFField::VIF_VALUE_UNSET;       // NOLINT(readability-redundant-declaration)
 
 // The empty field is deliberately numeric: its number is "unset", and asking for it does not fail.
 CVIFField::CVIFField()
@@ -101,7 +99,7 @@ std::size_t CVIFField::IndexCount() const noexcept {
                                                 [](const VifIndex& slot) { return Location(slot) != eVifLocUnset; }));
 }
 
-std::size_t CVIFField::Index(EVifLocation location) const noexcept {
+VifIndexNumber CVIFField::Index(EVifLocation location) const noexcept {
   // An unused slot's number means nothing, so location 0 has none, although HasIndex may find such a slot.
   if (location == eVifLocUnset) return INDEX_NOT_SPECIFIED;
   for (const VifIndex& slot : m_indexes) {
@@ -116,7 +114,7 @@ bool CVIFField::HasIndex(EVifLocation location) const noexcept {
 }
 
 // The subtraction is meant to wrap: callers compare with the wrapped value.
-std::size_t CVIFField::ComponentIndex() noexcept { return Index(eVifLocComponent) - 1; }
+VifIndexNumber CVIFField::ComponentIndex() noexcept { return Index(eVifLocComponent) - 1; }
 
 std::uint64_t CVIFField::GetULongNumericValue() const {
   if (!m_isNumeric) vif::ThrowRunTimeError("Field '%s' is not Numeric.", Name());

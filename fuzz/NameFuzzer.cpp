@@ -1,8 +1,9 @@
-// Resolves any name by the built-in table, which plain code does, and by a copy of the table, whose regular expressions
-// are matched one after the other.
+// Resolves any name by the built-in table and by a copy of it, which plain code does, and by the same definitions
+// compiled once more, whose regular expressions are matched one after the other.
 #include "Checks.h"
 #include "FieldResolver.h"
 #include "KnownFields.h"
+#include "KnownFieldsReference.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -38,6 +39,19 @@ std::string AnyKnownName(std::minstd_rand& random) {
   return name;
 }
 
+/// The built-in definitions, compiled once more.
+std::vector<VifFieldDef> Recompiled() {
+  std::vector<VifFieldDef> table = VifFieldDefs::GetVifFieldDefs();
+  for (std::size_t i = 0; i < table.size(); ++i) table[i].pattern = kReferenceFields[i].pattern;
+  return table;
+}
+
+void RequireSameName(const vif::ResolvedName& resolved, const vif::ResolvedName& expected) {
+  Require(resolved.isKnown == expected.isKnown, "plain code knows the names that the patterns know");
+  fuzz::RequireSame(resolved.name, expected.name, "plain code gives a field the name that the patterns give it");
+  fuzz::RequireSame(resolved.slots, expected.slots, "plain code gives a field the place that the patterns give it");
+}
+
 }  // namespace
 
 /// Begins with a name of the format now and then, and changes it, or what there is, in the ways of libFuzzer.
@@ -54,6 +68,7 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const std::vector<VifFieldDef> copy = VifFieldDefs::GetVifFieldDefs();
+  static const std::vector<VifFieldDef> recompiled = Recompiled();
   const std::string name(data, data + size);
   const vif::CFieldResolver byCode(nullptr, kComponent);
   vif::ResolvedName resolved;
@@ -61,15 +76,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Require(byCode.Knows(name) == resolved.isKnown, "a name that is known is resolved");
   Require(resolved.isKnown || resolved.name == name, "an unknown name stays as it is");
 
-  const vif::CFieldResolver byPatterns(&copy, kComponent);
+  vif::ResolvedName byCopy;
+  vif::CFieldResolver(&copy, kComponent).Resolve(name, byCopy);
+  RequireSameName(resolved, byCopy);
+
+  const vif::CFieldResolver byPatterns(&recompiled, kComponent);
   vif::ResolvedName expected;
   try {
     byPatterns.Resolve(name, expected);
   } catch (const std::regex_error&) {
     return 0;  // the name is too much for the matcher
   }
-  Require(resolved.isKnown == expected.isKnown, "plain code knows the names that the patterns know");
-  fuzz::RequireSame(resolved.name, expected.name, "plain code gives a field the name that the patterns give it");
-  fuzz::RequireSame(resolved.slots, expected.slots, "plain code gives a field the place that the patterns give it");
+  RequireSameName(resolved, expected);
   return 0;
 }

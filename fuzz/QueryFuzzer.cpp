@@ -70,7 +70,7 @@ class CPlainExpression {
     if (m_pattern.empty()) return true;
     if (!m_expression) m_expression.emplace(m_pattern, std::regex_constants::ECMAScript | std::regex_constants::icase);
     vif::GuardedMatch<char> match;
-    return vif::GuardedRegexMatch(std::string_view(name), match, *m_expression, kMostSteps);
+    return vif::GuardedRegexMatch(std::string_view(name), match, *m_expression, {vif::LowestFrame(), kMostSteps});
   }
 
  private:

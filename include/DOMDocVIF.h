@@ -4,12 +4,12 @@
 #include "TestUtilities/DOMDoc.h"
 #include "VIFExport.h"
 
-/// The host's XML document, made for VIFs: it validates against the two schemas of the format and understands XPath
-/// expressions with the prefixes
+/// The host's XML document set up for VIFs. It validates against the format's two schemas, and its XPath expressions
+/// know the prefixes
 ///
-/// - `vif`, elements of the VIF itself,
-/// - `opt`, optional content, so that `vif:*` never finds any of it,
-/// - `xsi`, the XML Schema-instance namespace.
+/// - `vif` for elements of the VIF itself,
+/// - `opt` for optional content, so that `vif:*` never finds any,
+/// - `xsi` for the XML Schema-instance namespace.
 ///
 /// `ValidateDoc`, `GetRootElement`, `Problems` and the rest are the base's. The root element of a valid document is
 /// `VIF`. Example:
@@ -20,11 +20,11 @@
 ///     DOMNodePtr name;
 ///     root->selectSingleNode(CBstr(L"vif:Vendor_Name").get(), name.Receive());
 ///
-/// One object is for one thread at a time; threads may use objects of their own at once.
+/// Use one object from one thread at a time; several threads may each use their own at once.
 class VIF_API CDOMDocVIF : public CDOMDoc {
  public:
   /// An empty document.
-  /// \throws _com_error when the document does not take the prefixes, and std::bad_alloc
+  /// \throws _com_error when the document rejects the prefixes; std::bad_alloc
   CDOMDocVIF();
 
   CDOMDocVIF(const CDOMDocVIF&) = delete;

@@ -10,14 +10,19 @@
 #include <cstdint>
 #include <string>
 #include <tuple>
+#include <type_traits>
+
+/// The number of a group: `std::size_t` where that has 64 bits, and 64 bits wide everywhere.
+using VifIndexNumber = std::conditional_t<sizeof(std::size_t) == sizeof(std::uint64_t), std::size_t, std::uint64_t>;
 
 /// One location index: a group of the file and its number, such as (eVifLocSrcPdo, 2) for source PDO 2.
 /// A slot whose location is `eVifLocUnset` is not in use, and its number means nothing.
 using VifIndex = std::tuple<EVifLocation, std::uint64_t>;
 
 namespace vif {
+class CFieldDigests;
 class CFieldQuery;
-}
+}  // namespace vif
 
 /// One field: a name, a value, a description, whether the value is numeric and which number it stands for, and
 /// up to three location indexes, outermost group first.
@@ -31,7 +36,7 @@ class VIF_API CVIFField {
   static constexpr std::size_t MAX_INDEX_DEPTH = 3;
 
   /// In a field: a group without a number. In a query: any number at that location.
-  static constexpr std::size_t INDEX_NOT_SPECIFIED = 0xFFFFFFFFFFFFFFFF;
+  static constexpr VifIndexNumber INDEX_NOT_SPECIFIED = 0xFFFFFFFFFFFFFFFF;
 
   /// A slot that is not in use. In a query: a wildcard, which every field passes.
   static constexpr VifIndex UNSPECIFIED_INDEX = {eVifLocUnset, INDEX_NOT_SPECIFIED};
@@ -102,14 +107,14 @@ class VIF_API CVIFField {
 
   /// The number in the first slot with that location; `INDEX_NOT_SPECIFIED` when there is none, when the slot
   /// has no number, and always for `eVifLocUnset`.
-  std::size_t Index(EVifLocation location) const noexcept;
+  VifIndexNumber Index(EVifLocation location) const noexcept;
 
   /// Whether a slot has that location. For `eVifLocUnset` that means: whether a slot is unused.
   bool HasIndex(EVifLocation location) const noexcept;
 
   /// The component's number minus one, so that the first component is 0. The subtraction is unconditional: a
   /// field outside any component gives 0xFFFFFFFFFFFFFFFE, and component number 0 gives 0xFFFFFFFFFFFFFFFF.
-  std::size_t ComponentIndex() noexcept;
+  VifIndexNumber ComponentIndex() noexcept;
 
   /// The number that the value stands for, `VIF_VALUE_UNSET_64` when the text is no number.
   ///
@@ -131,9 +136,22 @@ class VIF_API CVIFField {
   /// unless that is `INDEX_NOT_SPECIFIED`.
   /// \param pattern a regular expression (ECMAScript) that must fit the whole name, without regard to letter case
   ///   as the global locale has it; null or empty means any name
-  /// \throws std::regex_error when the locations pass and the pattern is no regular expression, or when matching it
-  ///   would take too much stack (`error_stack`), time (`error_complexity`) or memory (`error_space`). Half a megabyte
-  ///   of free stack is enough for any pattern and any name.
+  /// \throws std::regex_error when the locations pass and the pattern is not a regular expression, or when compiling or
+  ///   matching it takes more than there is; see below
+  ///
+  /// A regular expression uses the stack that the calling thread has left, but for 64 kB and never more than 64 MB, and
+  /// ends in `error_stack` where that is not enough. Compiling takes up to 256 bytes for each term of the pattern
+  /// (a character, a bracket expression, a group) and 2 kB for each group around it, so 8 MB are enough for
+  /// 30,000 plain characters in a row, or for 3,500 groups inside each other. Matching takes 256 bytes for each
+  /// alternative of the pattern, and about as much for each part of it that matches nothing. A pattern that does not
+  /// refer back to a group (`\1`) takes no more stack for a longer name; one that does takes about 500 bytes for each
+  /// character, so names of 10,000 characters are answered in 8 MB. A thread with 256 kB has room for any usual
+  /// pattern.
+  ///
+  /// A pattern ends in `error_complexity` when it takes more than a second or two, which only nested repetitions with a
+  /// reference, look-ahead or thousands of empty groups do, and in `error_space` when it needs more than 100,000
+  /// states, repetitions counted as often as braces ask for them. These numbers are those of libstdc++; other standard
+  /// libraries set their own, and may end in `error_stack` or `error_complexity` on names of a few thousand characters.
   bool Match(const char* pattern, const VifIndex& index1, const VifIndex& index2, const VifIndex& index3) const;
 
   /// The same with the three query slots as one array.
@@ -143,7 +161,9 @@ class VIF_API CVIFField {
   CSafeString MakeOutputString() const;
 
  private:
-  friend class vif::CFieldQuery;  // looks at the slots and names of many fields, without a call for each
+  // Look at the slots and names of many fields, without a call for each.
+  friend class vif::CFieldDigests;
+  friend class vif::CFieldQuery;
 
   static std::uint64_t InitNumericValue(const std::string& text, bool isNumeric);
 

@@ -9,21 +9,19 @@
 #include <regex>
 #include <vector>
 
-/// One definition: how a text VIF writes a field's name, and what becomes of it.
+/// How a text VIF writes a field's name, and what that stands for.
 struct VifFieldDef {
-  /// The canonical name, under which the field is stored, without index digits. Not owned: it must outlive the
+  /// The canonical name under which the field is stored, without index digits. Borrowed: it must outlive the
   /// definition. Null means the empty name.
   const wchar_t* name = nullptr;
 
-  /// Recognises the name as a text VIF writes it; it must fit the whole name. Its first capture group gives the
-  /// number of a Router, SrcPdo, SnkPdo, SopSvid or CableSvid, the second that of a RouterPcie, SopSvidMode or
-  /// CableSvidMode. A group that does not exist, captures nothing or captures a number of more than 64 bits
-  /// leaves the number at `CVIFField::INDEX_NOT_SPECIFIED`.
+  /// Matches the whole name as a text VIF writes it. Its first capture group gives the number of a Router, SrcPdo,
+  /// SnkPdo, SopSvid or CableSvid, the second that of a RouterPcie, SopSvidMode or CableSvidMode. A group that does not
+  /// exist, captures nothing or captures a number of more than 64 bits leaves `CVIFField::INDEX_NOT_SPECIFIED`.
   std::wregex pattern;
 
-  /// The groups the field stands in, outermost first; `eVifLocUnset` slots are skipped. A value beyond the known
-  /// locations makes loading fail with "Internal error - Unknown EVifLocation: <value>" at the first name that
-  /// the pattern fits.
+  /// The groups the field stands in, outermost first; `eVifLocUnset` is skipped. Any value that is not a location makes
+  /// loading fail with "Internal error - Unknown EVifLocation: <value>" at the first name that the pattern matches.
   std::array<EVifLocation, CVIFField::MAX_INDEX_DEPTH> locations{};
 };
 

@@ -1,4 +1,4 @@
-// What loading throws for an XML file that is no valid VIF.
+// What loading throws for an XML file that is not a valid VIF.
 #pragma once
 
 #include "BaseUtilities/Exceptions.h"

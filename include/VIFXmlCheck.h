@@ -1,4 +1,4 @@
-// Follows how an XML VIF becomes fields.
+// Reports how an XML VIF becomes fields.
 #pragma once
 
 #include "VIFExport.h"
@@ -13,13 +13,13 @@
 /// What becomes of an element.
 enum EVifElementFate : std::int32_t {
   eVifElementField = 0,     ///< it yields a field
-  eVifElementNotRead = 1,   ///< it stands under the root, where it is not known or not the first of its name; it is
-                            ///< passed over with all that is in it
-  eVifElementGivesWay = 2,  ///< it names the application, whose description is preferred to it
-  eVifElementEmpty = 3,     ///< it is a component or an item of a list, with no element of the VIF in it
-  eVifElementForeign = 4,   ///< it stands where elements of the VIF do, but in a namespace that is neither the VIF's
-                            ///< nor that of optional content; it is passed over with all that is in it
-  eVifElementNotUnderstood = 5  ///< it is a group that loading cannot understand; loading fails there
+  eVifElementNotRead = 1,   ///< it stands under the root, but is unknown there or not the first of its name; it is
+                            ///< skipped with everything in it
+  eVifElementGivesWay = 2,  ///< it is the application's vendor, name or version, and a description replaces it
+  eVifElementEmpty = 3,     ///< it is a component or an item of a list, and has no element of the VIF in it
+  eVifElementForeign = 4,   ///< it stands among elements of the VIF, but its namespace is neither the VIF's nor that of
+                            ///< optional content; it is skipped with everything in it
+  eVifElementNotUnderstood = 5  ///< it is a group that cannot be read; loading fails there
 };
 
 /// One element and its fate.
@@ -32,19 +32,19 @@ struct VifElementReport {
   const CVIFField* field;  ///< the field that it yields, valid during the call only; null when it yields none
 };
 
-/// Is told of elements on the thread that reads the file.
+/// Called for each element on the thread that reads the file.
 using VifElementObserver = std::function<void(const VifElementReport&)>;
 
-/// Reads an XML VIF as loading it would and reports every element that yields a field, in the order of the fields, and
-/// then every element that loading passes over, in the order of the file. When loading fails on a group, that group is
-/// the last that is reported.
+/// Reads an XML VIF as loading would. Reports every element that yields a field, in the order of the fields, and then
+/// every element that loading skips, in the order of the file. When loading fails on a group, that group is reported
+/// last.
 ///
 /// The field made of the application's vendor, name and version is reported for `VIF_App`. Optional content and an
 /// empty product, which many files have, are not reported.
 ///
 /// May be called from any number of threads at once, each with an observer of its own.
-/// \param observer is told of each; when it is empty, nobody is
-/// \throws CVIFInvalidFile when the file is no valid VIF, CZoRunTimeException and CZoDOMDocException when loading fails
-///   on a group, CZoDOMDocException when a schema cannot be used, _com_error when a call on the document fails, and
+/// \param observer receives each element; may be empty
+/// \throws CVIFInvalidFile when the file is not a valid VIF; CZoRunTimeException or CZoDOMDocException when loading
+///   fails on a group; CZoDOMDocException when a schema cannot be used; _com_error when a call on the document fails;
 ///   whatever the observer throws, which ends the reading
 VIF_API void CheckXmlVif(const std::filesystem::path& fileName, const VifElementObserver& observer);

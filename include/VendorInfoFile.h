@@ -16,9 +16,9 @@
 
 class CVIFImpl;
 
-/// The result of a query over several fields: the only owner of a list of copies, which outlives the object that
-/// was asked. The list is empty at worst, never absent, and in the order of the file. Keep it in a variable: in
-/// `for (... : *vif.GetFields())` the list is gone before the loop begins.
+/// The result of a query for several fields: the sole owner of a list of copies, in the order of the file. It may
+/// outlive the object that was queried. The list may be empty but is never absent. Keep it in a variable: in `for (...
+/// : *vif.GetFields())` the list is destroyed before the loop begins.
 using VifFieldList = std::unique_ptr<std::vector<CVIFField>, std::function<void(std::vector<CVIFField>*)>>;
 
 /// The fields of one or more Vendor Info Files, in the order in which they were read.
@@ -27,29 +27,43 @@ using VifFieldList = std::unique_ptr<std::vector<CVIFField>, std::function<void(
 ///     const VifFieldList fields = vif.GetFields();
 ///     for (const CVIFField& field : *fields) std::puts(field.MakeOutputString().get());
 ///
-/// A file's extension, in any letter case, says how it is read: ".txt" as a text VIF, which is one component,
-/// ".xml" as an XML VIF. Components are numbered from 1 over all files loaded into the object.
+/// The file's extension, in any letter case, decides how it is read: ".txt" as a text VIF, which is one component,
+/// ".xml" as an XML VIF. Components are numbered from 1 across all files loaded into the object.
 ///
-/// Threads may call the `const` members of one object at once, as long as none changes it: appending to it,
-/// assigning it and destroying it need it alone. A host that sets a global C++ locale does so before its threads ask.
-/// A moved-from object is an empty one and may be used again, with the built-in definitions.
+/// Several threads may call `const` members of one object at once. Appending to it, assigning it or destroying it
+/// requires that no other thread uses it. A moved-from object is empty and may be used again, with the built-in
+/// definitions.
 class VIF_API CVendorInfoFile {
  public:
   /// No fields, no file name, the built-in field definitions.
   CVendorInfoFile();
 
-  /// Loads a file. An empty path, or a literal null, loads nothing and fails in nothing. A text file that the system
-  /// cannot read on ends there, and nobody is told; `CheckTextVif` tells.
-  /// \param fieldDefs the definitions that the names of text VIFs are resolved through, here and in later appends;
-  ///   borrowed, so it must outlive the object and its copies. Null means the built-in table.
-  /// \throws CZoRunTimeException "VIF Does not exist. (name: <path>)",
+  /// Loads a file. An empty path, or a literal null, loads nothing and never fails. When reading a text file fails
+  /// midway, the fields up to there are loaded and no error is raised; `CheckTextVif` reports it.
+  /// \param fieldDefs the definitions for resolving names of text VIFs, here and in later appends. Null means the built-in
+  ///   table. The table is borrowed: it must outlive the object and its copies and must not change during a load. Names
+  ///   of any length load, unless one of the caller's own patterns refers back to a group or looks ahead.
+  ///
+  /// Everything that loading throws is a `std::exception`.
+  /// \throws CZoRunTimeException (BaseUtilities/Exceptions.h) "VIF Does not exist. (name: <path>)",
   ///   "Invalid file type for VIF!  Must be text (*.txt) or XML (*.xml)",
-  ///   "Couldn't open Vendor Info File: <path>.", which anything but a regular file gives too,
+  ///   "Couldn't open Vendor Info File: <path>.", also for anything but a regular file,
   ///   "I/O read failure on Vendor Info File <path>: <reason>",
   ///   "Internal error - Unknown EVifLocation: <value>" (see `VifFieldDef::locations`),
-  ///   or the text of a regular expression's error, which only definitions of the caller's own can cause
-  /// \throws std::filesystem::filesystem_error when the file cannot be found out about for another reason than
-  ///   that it is not there
+  ///   "Invalid node depth: groupLists should only be nested 3 levels deep.",
+  ///   or the text of a regular expression's error, which only the caller's own patterns can cause:
+  ///   "The regular expression needs more stack than this thread has left." or
+  ///   "The regular expression takes too many steps."
+  /// \throws CVIFInvalidFile (VIFInvalidFile.h), which is a CZoRunTimeException and has the reasons,
+  ///   "<path> is not a valid Vendor Info File." when an XML file is not
+  /// \throws CZoDOMDocException (BaseUtilities/Exceptions.h) for an XML file: "Couldn't load the schema <file>: <reason>"
+  ///   when a schema is missing or broken; "Unexpected list element name: <name>" and
+  ///   "ERROR:  Couldn't get node name.\r\n" when other schemas let through what the library cannot read;
+  ///   "Vendor Info File Create Exception (file name: "<path>") - <reason>" when a call on the document fails,
+  ///   as all do on Windows where COM is not initialised
+  /// \throws std::filesystem::filesystem_error when the file cannot be examined: its name is too long, or a directory of
+  ///   its path may not be searched
+  /// \throws std::bad_alloc
   CVendorInfoFile(const std::filesystem::path& fileName, std::vector<VifFieldDef>* fieldDefs = nullptr);
   CVendorInfoFile(std::nullptr_t, std::vector<VifFieldDef>* fieldDefs = nullptr);
 
@@ -70,16 +84,17 @@ class VIF_API CVendorInfoFile {
 
   ~CVendorInfoFile();
 
-  /// Loads a further file behind the fields already held, with the definitions given at construction. The object
-  /// takes the file's name if it has none yet. After a failure what was read before it stays.
+  /// Loads another file, with the definitions given at construction, and appends its fields to those already held. The
+  /// object takes the file's name if it has none yet. After a failure, what was read before it stays.
   /// \param fileName UTF-8; outside Windows any bytes that name a file. Null or empty does nothing.
-  /// \throws as the constructor from a path does
+  /// \throws what the constructor from a path throws, with one difference: a failed call on an XML document comes as
+  ///   `_com_error` (<comdef.h> on Windows, msxml/ComError.h elsewhere), which is not a `std::exception`
   void Append(const char* fileName);
 
   /// Appends copies of the given fields, which may be this object's own `Fields()`. The file name and the component
   /// count stay.
-  /// \throws std::bad_alloc when memory runs out; the object is then empty: the fields held before, the file name and
-  ///   the definitions are gone too
+  /// \throws std::bad_alloc when memory runs out. The object is then empty: the fields it held, its file name and its
+  ///   definitions are gone, too
   void Append(const std::vector<CVIFField>& fields);
 
   /// The name of the first file loaded, empty when there was none; never null. Bytes that are not UTF-8 appear as
@@ -96,10 +111,10 @@ class VIF_API CVendorInfoFile {
   // any name. A slot (eVifLocSrcPdo, 2) asks for source PDO 2, (eVifLocSrcPdo, INDEX_NOT_SPECIFIED) for any source PDO,
   // and UNSPECIFIED_INDEX for nothing. Slots given one by one or as an array mean the same.
   //
-  // A query never changes the object, and its results are copies. The pattern is compiled at most once, when the
-  // first field's locations pass, so that a query by location alone takes no notice of it. Besides what is said
-  // below, every query throws `std::regex_error` when that happens and the pattern is no regular expression or is too
-  // complex (see `CVIFField::Match`), and `std::bad_alloc`.
+  // A query never changes the object, and its results are copies. The pattern is compiled at most once, when the first
+  // field's locations match; a query whose locations match no field ignores it. Besides what is said below, every query
+  // throws `std::regex_error` when the pattern is compiled and is not a regular expression or is too complex (see
+  // `CVIFField::Match`), and `std::bad_alloc`.
 
   /// The number of matching fields.
   std::size_t Count(const char* pattern, const VifIndex& index1, const VifIndex& index2, const VifIndex& index3) const;
@@ -178,31 +193,31 @@ class VIF_API CVendorInfoFile {
   // are those written in the names.
 
   /// The fields of a component.
-  VifFieldList GetComponent(std::size_t component) const;
+  VifFieldList GetComponent(VifIndexNumber component) const;
 
   /// The fields of a USB4 router of product 0.
-  VifFieldList GetRouter(std::size_t router) const;
+  VifFieldList GetRouter(VifIndexNumber router) const;
 
   /// The fields of a PCIe endpoint of a USB4 router of product 0.
-  VifFieldList GetPcieEndpointIds(std::size_t router, std::size_t endpoint) const;
+  VifFieldList GetPcieEndpointIds(VifIndexNumber router, VifIndexNumber endpoint) const;
 
   /// The fields of a source PDO.
-  VifFieldList GetSrcPdo(std::size_t component, std::size_t pdo) const;
+  VifFieldList GetSrcPdo(VifIndexNumber component, VifIndexNumber pdo) const;
 
   /// The fields of a sink PDO.
-  VifFieldList GetSnkPdo(std::size_t component, std::size_t pdo) const;
+  VifFieldList GetSnkPdo(VifIndexNumber component, VifIndexNumber pdo) const;
 
   /// The fields of an SOP SVID.
-  VifFieldList GetSopSvid(std::size_t component, std::size_t svid) const;
+  VifFieldList GetSopSvid(VifIndexNumber component, VifIndexNumber svid) const;
 
   /// The fields of a mode of an SOP SVID.
-  VifFieldList GetSopSvidMode(std::size_t component, std::size_t svid, std::size_t mode) const;
+  VifFieldList GetSopSvidMode(VifIndexNumber component, VifIndexNumber svid, VifIndexNumber mode) const;
 
   /// The fields of a cable SVID.
-  VifFieldList GetCableSvid(std::size_t component, std::size_t svid) const;
+  VifFieldList GetCableSvid(VifIndexNumber component, VifIndexNumber svid) const;
 
   /// The fields of a mode of a cable SVID.
-  VifFieldList GetCableSvidMode(std::size_t component, std::size_t svid, std::size_t mode) const;
+  VifFieldList GetCableSvidMode(VifIndexNumber component, VifIndexNumber svid, VifIndexNumber mode) const;
 
  private:
   CVIFImpl& Content();

@@ -19,7 +19,7 @@ std::wstring Declaration(const wchar_t* prefix, const wchar_t* uri) {
   return std::wstring(L"xmlns:") + prefix + L"='" + uri + L"'";
 }
 
-/// Made once in the process and shared by all documents.
+/// Built once and shared by all documents.
 const std::wstring& SelectionNamespaces() {
   static const std::wstring vif = Declaration(L"vif", kVifNamespace);
   static const std::wstring opt = Declaration(L"opt", kOptionalNamespace);

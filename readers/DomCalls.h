@@ -1,6 +1,7 @@
-// The calls on XML documents that the reader makes, with their failures as exceptions.
+// The calls that the reader makes on XML documents, with exceptions for failures.
 #pragma once
 
+#include "msxml/ComTypes.h"
 #include "msxml/MsXml.h"
 
 #include <optional>
@@ -8,8 +9,8 @@
 
 namespace vif {
 
-// Every function throws `_com_error` with the result of a call that fails and the interface that it was made on, and
-// with E_POINTER where a pointer is missing that must not be.
+// A call that fails throws `_com_error` with its result and the interface it was made on; a required pointer that is
+// missing throws it with E_POINTER.
 
 DOMNodeListPtr SelectNodes(IXMLDOMNode& node, const CBstr& xpath);
 

@@ -8,8 +8,8 @@
 
 namespace vif {
 
-/// The field list that a reader appends to and the running component count that it numbers components from. Both
-/// are borrowed for the time of one read.
+/// The field list that a reader appends to, and the running count from which it numbers components. Both are borrowed
+/// for one read.
 struct FieldSink {
   std::vector<CVIFField>& fields;
   std::uint32_t& componentCount;

@@ -8,8 +8,8 @@
 
 namespace vif {
 
-/// The location that an element's local name stands for, in exactly the format's mixed spellings; nothing for any other
-/// name.
+/// The location of groups and group lists with that local name, which must be spelled exactly as the format does;
+/// nothing for any other name.
 std::optional<EVifLocation> FindGroupLocation(std::wstring_view localName);
 
 }  // namespace vif

@@ -15,17 +15,17 @@ std::string_view TrimRight(std::string_view text) {
   return text.substr(0, text.find_last_not_of(kBlanks) + 1);  // npos + 1 is 0
 }
 
-/// Where the comment begins, `npos` when there is none. The line has no blanks at its ends.
+/// Where the comment begins, or `npos`. The line is already trimmed.
 size_t FindComment(std::string_view line) {
   const size_t semicolon = line.find(';');
   const size_t firstQuote = line.find('"');
   if (semicolon == std::string_view::npos || firstQuote == std::string_view::npos) return semicolon;
-  const size_t behindQuotes = line.rfind('"') + 1;
-  if (semicolon < firstQuote || semicolon > behindQuotes) return semicolon;
-  // The semicolon counts as quoted. The comment then begins at the first other character behind the quotes, so a
-  // semicolon directly behind the closing quote stays in the content, which then fits no pattern. Files are
-  // written with this rule in mind; it is kept as it is.
-  return line.find_first_not_of(';', behindQuotes);
+  const size_t afterQuotes = line.rfind('"') + 1;
+  if (semicolon < firstQuote || semicolon > afterQuotes) return semicolon;
+  // The semicolon counts as quoted, and the comment begins at the first other character after the quotes. So a
+  // semicolon right after the closing quote stays in the content, which then matches no pattern. Existing files and
+  // tools depend on this rule.
+  return line.find_first_not_of(';', afterQuotes);
 }
 
 template <typename Predicate>

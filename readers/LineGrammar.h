@@ -1,4 +1,4 @@
-// What a line of a text VIF may look like.
+// The grammar of one line of a text VIF.
 #pragma once
 
 #include <array>
@@ -12,14 +12,14 @@ struct SplitLine {
   std::string_view comment;
 };
 
-/// Takes a line apart into its content and its trailing comment, both parts of the line and without blanks
-/// around them. Both are empty for a blank line and for a line that is all comment.
+/// Splits a line into its content and its trailing comment. Both are views into the line with surrounding blanks
+/// trimmed, and both are empty for a blank line or a line that is all comment.
 SplitLine SplitContentAndComment(std::string_view line);
 
 /// The line without the blanks (space, tab, CR, LF) at both ends.
 std::string_view TrimBlanks(std::string_view line);
 
-/// A line's content, recognised. Both texts are parts of the content.
+/// A parsed line. The texts are views into its content.
 struct Declaration {
   bool isString;           // $Name: "value", as opposed to Name: number
   std::string_view name;   // of a string declaration with its "$"
@@ -31,16 +31,16 @@ struct Declaration {
 ///     ^(\$[[:alnum:]_']+)\s*:\s*"(.*)"$
 ///     ^([[:alnum:]_']+)\s*:\s*(0x[[:xdigit:]]+|[[:digit:]]+|YES|NO)$
 ///
-/// matched by plain code. The character classes and the letter case are those of the global locale at the time
-/// the grammar is made, as they would be for a regular expression compiled then. Only a locale that no system has
-/// would make a difference: one in which ":" or the double quote is a letter, a digit or white space or the other
-/// letter case of one, or in which a character is both white space and a digit.
+/// matched by plain code. Character classes and letter case are those of the global locale when the grammar is
+/// constructed, just as for a regular expression compiled then. Only a locale that no system has would tell the two
+/// apart: one in which ":" or the double quote is a letter, a digit, white space or the other case of one, or in
+/// which some character is both white space and a digit.
 class CLineGrammar {
  public:
   CLineGrammar();
 
-  /// Recognises a line's content, of which everything from a NUL on is left out; nothing when neither pattern
-  /// fits. The content's first character decides which of the two is tried.
+  /// Parses a line's content up to its first NUL; nothing when neither pattern matches. The first character decides
+  /// which of the two is tried.
   std::optional<Declaration> Parse(std::string_view content) const;
 
  private:

@@ -39,12 +39,12 @@ bool CLineSource::Next(std::string_view& line) {
 bool CLineSource::Refill() {
   m_unread = {};
   if (!AwaitData()) return false;
-  // Only what has been read already, so that an error further on costs none of it.
+  // Take only what the stream has already buffered, so that a later error loses none of it.
   const std::streamsize count = m_stream.readsome(m_chunk.data(), static_cast<std::streamsize>(m_chunk.size()));
   if (count > 0) {
     m_unread = {m_chunk.data(), static_cast<size_t>(count)};
   } else {
-    // A stream that reads without a buffer never has anything ready but the character that was seen.
+    // An unbuffered stream never has more ready than the character that was peeked at.
     m_chunk[0] = static_cast<char>(m_stream.get());
     m_unread = {m_chunk.data(), 1};
   }

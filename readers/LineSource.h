@@ -1,4 +1,4 @@
-// The lines of a stream, one by one.
+// Reads a stream line by line.
 #pragma once
 
 #include <istream>
@@ -8,23 +8,22 @@
 
 namespace vif {
 
-/// Cuts a stream into lines at LF, without the LF; what follows the last LF is a line too, even if empty.
+/// Splits a stream at LF, which is not part of the lines. What follows the last LF is a line too, even if empty.
 ///
-/// `std::getline` is no choice here: it takes memory that runs out for a read error, which by default is not
-/// reported at all.
+/// `std::getline` would not do: it treats running out of memory as a read error, which by default goes unreported.
 class CLineSource {
  public:
-  /// \param stream read from where it stands; its exception mask is respected
+  /// \param stream read from its current position; its exception mask is respected
   /// \param pathText the file's name for messages
   CLineSource(std::istream& stream, std::string pathText);
 
-  /// Moves on to the next line. Returns false when there is none, or when it could not be read to its end.
-  /// \param line the line, valid until the next call
+  /// Reads the next line. Returns false when there is none, or when it could not be read to its end.
+  /// \param line valid until the next call
   /// \throws CZoRunTimeException "I/O read failure on Vendor Info File <path>: <reason>" when the stream reports a
-  ///   failure by exception and is not at its end
+  ///   failure by exception before its end
   bool Next(std::string_view& line);
 
-  /// Whether reading ended with an error of which the stream made no exception.
+  /// Whether reading ended with an error that the stream did not report by exception.
   bool HasFailed() const { return m_hasFailed; }
 
  private:
@@ -34,8 +33,8 @@ class CLineSource {
   std::istream& m_stream;
   std::string m_pathText;
   std::vector<char> m_chunk;
-  std::string_view m_unread;  // the part of the chunk behind the last line
-  std::string m_line;         // a line that goes over the end of a chunk
+  std::string_view m_unread;  // the part of the chunk after the last line
+  std::string m_line;         // a line that spans chunks
   bool m_hasEnded = false;
   bool m_hasFailed = false;
 };

@@ -7,8 +7,8 @@
 
 namespace vif {
 
-/// A regular file's text, from its beginning. That it cannot be read on shows in the stream as `badbit`.
-/// \return null when it cannot be opened or is no regular file: a directory, a pipe or a device may never end
+/// Opens a regular file for reading. A read error sets the stream's `badbit`.
+/// \return null when the file cannot be opened or is not a regular file: a directory, a pipe or a device may never end
 std::unique_ptr<std::istream> OpenTextFile(const std::filesystem::path& path);
 
 }  // namespace vif

@@ -8,11 +8,12 @@ namespace vif {
 
 namespace {
 
-/// An odd number: some files that the system makes up, such as /proc/self/pagemap, which look regular and go on for
-/// hundreds of gigabytes, deliver only whole records.
+/// Odd on purpose. Some files that the kernel makes up, such as /proc/self/pagemap, look regular, go on for hundreds of
+/// gigabytes, and can only be read in whole records: with an odd size, reading them fails at once.
 constexpr std::size_t kChunkSize = 8191;
 
-/// The standard library's file buffers open by name, whatever it stands for by then: if that is a pipe, they wait.
+/// Reads a file that has been checked to be a regular one. The standard library's file buffer would open the name again
+/// and wait for ever if a pipe had taken the file's place.
 class CFileBuffer : public std::streambuf {
  public:
   explicit CFileBuffer(const std::filesystem::path& path) : m_file(path) {}
@@ -23,7 +24,7 @@ class CFileBuffer : public std::streambuf {
   int_type underflow() override {
     if (gptr() == egptr()) {
       const int count = msxml::CInputFile::Read(&m_file, m_chunk, kChunkSize);
-      if (count < 0) throw std::ios_base::failure(m_file.Error());  // of which the stream makes its `badbit`
+      if (count < 0) throw std::ios_base::failure(m_file.Error());  // the stream turns it into `badbit`
       setg(m_chunk, m_chunk, m_chunk + count);
     }
     return gptr() != egptr() ? traits_type::to_int_type(*gptr()) : traits_type::eof();

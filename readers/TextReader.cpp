@@ -16,14 +16,14 @@ namespace vif {
 
 namespace {
 
-/// Turns the lines of one file into fields. What it works with from line to line is kept, to save allocations.
+/// Turns the lines of one file into fields. Buffers are members, so that lines share their allocations.
 class CLineReader {
  public:
-  /// For loading: the fields go to a list.
+  /// For loading: appends the fields to a list.
   CLineReader(const std::vector<VifFieldDef>* table, FieldSink sink)
       : m_resolver(table, sink.componentCount), m_fields(&sink.fields) {}
 
-  /// For checking: whoever wants to know is told.
+  /// For checking: reports to the observers.
   CLineReader(const std::vector<VifFieldDef>* table, std::uint32_t component, TextObservers observers)
       : m_resolver(table, component),
         m_lineObserver(observers.lines ? &observers.lines : nullptr),
@@ -43,8 +43,8 @@ class CLineReader {
     HandOutField(*declaration, split.comment);
   }
 
-  /// Reports that the file could not be read on behind the last line. The piece of a line that may have come
-  /// before the error is not taken for a line: its number might have gone on.
+  /// Reports that the file could not be read past the last complete line. A partial line before the error is dropped:
+  /// its number might have had more digits.
   void ReportReadFailure() {
     ++m_lineNumber;
     Report({}, eVifLineReadFailed, {});
@@ -55,8 +55,8 @@ class CLineReader {
     if (m_fields == nullptr && m_fieldObserver == nullptr) return;
     std::string_view value = declaration.value;
     std::string_view description = comment;
-    // Just these spellings: others, such as "Yes", stay as they are written and are read by CVIFField. The
-    // comment gives way to the word.
+    // Only these spellings are replaced, and their comment with them. Others, such as "Yes", stay as written;
+    // CVIFField turns them into numbers.
     if (!declaration.isString && (value == "YES" || value == "yes")) {
       value = "1";
       description = "YES";
@@ -82,14 +82,14 @@ class CLineReader {
     }
   }
 
-  /// Whether a definition knows the name. The built-in definitions know the names of string declarations without
-  /// the "$", although they are stored with it and in no group.
+  /// Whether a definition knows the name. A string declaration's counts as known when the definitions have it without
+  /// its "$", although the field keeps the "$" and gets no location.
   bool IsKnown(const Declaration& declaration) const {
     if (m_resolved.isKnown || !declaration.isString) return m_resolved.isKnown;
     try {
       return m_resolver.Knows(declaration.name.substr(1));
     } catch (const std::regex_error&) {
-      return false;  // loading never asks this, so it cannot fail the file
+      return false;  // loading does not ask this, so it must not fail the file
     }
   }
 
@@ -99,8 +99,8 @@ class CLineReader {
 
   CLineGrammar m_grammar;
   CFieldResolver m_resolver;
-  std::vector<CVIFField>* m_fields = nullptr;         // the list when loading, null when checking
-  const VifLineObserver* m_lineObserver = nullptr;    // null when nobody wants to know
+  std::vector<CVIFField>* m_fields = nullptr;         // null when checking
+  const VifLineObserver* m_lineObserver = nullptr;    // null when there is none
   const VifFieldObserver* m_fieldObserver = nullptr;  // the same
   size_t m_lineNumber = 0;
   ResolvedName m_resolved;
@@ -119,7 +119,7 @@ void ReadLines(std::istream& stream, const std::string& pathText, CLineReader& r
   CLineSource lines(stream, pathText);
   std::string_view line;
   while (lines.Next(line)) reader.ReadLine(line);
-  // A read error of which the stream makes no exception ends the file quietly.
+  // A read error that the stream does not report by exception ends the file without one.
   if (lines.HasFailed()) reader.ReportReadFailure();
 }
 

@@ -12,11 +12,10 @@
 
 namespace vif {
 
-/// Appends the fields of a text VIF, which is one component, to the sink. Lines that declare nothing are skipped.
-///
-/// Fields that were appended before a failure stay, and the component stays counted.
-/// \param path the file; only a regular file is read, as a directory, a pipe or a device may never end
-/// \param table the definitions that names are resolved through, borrowed; null means the built-in table
+/// Appends the fields of a text VIF, which is one component, to the sink. Lines that declare nothing are skipped. After
+/// a failure, the fields appended so far stay and the component stays counted.
+/// \param path a regular file; anything else is refused, since a directory, a pipe or a device may never end
+/// \param table the definitions for resolving names, borrowed; null means the built-in table
 /// \throws CZoRunTimeException with one of the messages
 ///   "CVIFImpl::ReadTextFile: Internal error: NULL file name.",
 ///   "Couldn't open Vendor Info File: <path>." (nothing appended, no component counted),
@@ -29,13 +28,13 @@ void ReadTextVif(const std::filesystem::path& path, const std::vector<VifFieldDe
 void ReadTextVif(std::istream& stream, const std::string& pathText, const std::vector<VifFieldDef>* table,
                  FieldSink sink);
 
-/// Who is told of what is found in a text VIF. Both are borrowed for the time of one read; either may be empty.
+/// Receive what is found in a text VIF. Both are borrowed for one read; either may be empty.
 struct TextObservers {
   const VifLineObserver& lines;
   const VifFieldObserver& fields;
 };
 
-/// Reads a text VIF like `ReadTextVif`, as component 1, but keeps nothing: the observers are told.
+/// Reads a text VIF as `ReadTextVif` does, as component 1, but keeps no field: it reports to the observers instead.
 /// \throws CZoRunTimeException as `ReadTextVif` does, and whatever an observer throws
 void FollowTextVif(const std::filesystem::path& path, const std::vector<VifFieldDef>* table, TextObservers observers);
 

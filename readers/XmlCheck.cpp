@@ -3,6 +3,7 @@
 #include "HeaderElements.h"
 #include "VIFXmlCheck.h"
 #include "XmlReader.h"
+#include "msxml/ComTypes.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -19,7 +20,7 @@ bool IsHeaderName(const std::string& name) {
                      [&](const vif::HeaderElement& element) { return element.name == name; });
 }
 
-/// Reports what becomes of the elements of one document.
+/// Reports what becomes of each element of one document.
 class CElementReporter {
  public:
   CElementReporter(const CDOMDocVIF& document, const VifElementObserver& observer)
@@ -32,8 +33,8 @@ class CElementReporter {
     m_observer(report);
   }
 
-  /// Reports the elements that loading has passed over.
-  void ReportPassedOver(IXMLDOMElement& root) {
+  /// Reports the elements that loading skips.
+  void ReportSkipped(IXMLDOMElement& root) {
     m_vifNamespace = vif::Namespace(root);
     ForEach(root, m_anyElement, [&](IXMLDOMNode& element) {
       if (!IsOfVif(element)) {
@@ -65,7 +66,7 @@ class CElementReporter {
 
   bool IsOfVif(IXMLDOMNode& element) const { return vif::Namespace(element) == m_vifNamespace; }
 
-  /// The application is named by its description alone, or by its vendor, name and version.
+  /// An application is named by its description if it has one, else by its vendor, name and version.
   void ReportApplication(IXMLDOMNode& application) const {
     const bool hasDescription = vif::SelectSingleNode(application, CBstr(L"vif:Description")) != nullptr;
     std::set<std::string> seen;
@@ -84,7 +85,7 @@ class CElementReporter {
     });
   }
 
-  /// An item of a list, the product or a component: its leaves are fields, anything else in it is a list.
+  /// An item is the product, a component or an element of a list. Its leaves are fields; anything else in it is a list.
   void ReportItem(IXMLDOMNode& item) const {
     if (IsEmpty(item)) Report(eVifElementEmpty, item);
     ForEach(item, m_anyElement, [&](IXMLDOMNode& child) {
@@ -117,5 +118,5 @@ void CheckXmlVif(const std::filesystem::path& fileName, const VifElementObserver
       [&](IXMLDOMNode& group) { reporter.Report(eVifElementNotUnderstood, group); }};
   const DOMElementPtr root = document.GetRootElement();
   vif::ExtractFields(*root, {fields, componentCount}, &extraction);
-  reporter.ReportPassedOver(*root);
+  reporter.ReportSkipped(*root);
 }

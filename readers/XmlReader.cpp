@@ -1,4 +1,5 @@
 #include "XmlReader.h"
+#include "msxml/ComTypes.h"
 
 #include "BaseUtilities/PathText.h"
 #include "BaseUtilities/StringConvert.h"
@@ -35,15 +36,15 @@ constexpr Slots HeaderSlots(EVifLocation location) {
   return {VifIndex{location, 0}, CVIFField::UNSPECIFIED_INDEX, CVIFField::UNSPECIFIED_INDEX};
 }
 
-/// Makes room for that many more fields; at least doubled, so that a list that grows file by file is not moved for
-/// each.
+/// Makes room for that many more fields. The capacity at least doubles, so that a list that grows file by file is not
+/// moved for each of them.
 void Reserve(std::vector<CVIFField>& list, std::size_t count) {
   const std::size_t needed = list.size() + count;
   if (needed > list.capacity()) list.reserve(std::max(needed, 2 * list.capacity()));
 }
 
-/// Moves all fields to the end of the list. When memory runs out, the list is as it was.
-void MoveBehind(std::vector<CVIFField>& list, std::vector<CVIFField>& fields) {
+/// Moves all fields to the end of the list. When memory runs out, the list stays as it was.
+void MoveToEnd(std::vector<CVIFField>& list, std::vector<CVIFField>& fields) {
   Reserve(list, fields.size());
   for (CVIFField& field : fields) list.push_back(std::move(field));
 }
@@ -54,7 +55,7 @@ struct GroupList {
   DOMNodeListPtr items;
 };
 
-/// Turns one document into fields, in the order of its `Run`.
+/// Turns one document into fields. `Run` shows their order.
 class CExtraction {
  public:
   CExtraction(IXMLDOMElement& root, FieldSink sink, const XmlObserver* observer)
@@ -67,14 +68,14 @@ class CExtraction {
       ReadHeaderElement(Utf8ToUtf16("vif:" + std::string(element.name)), HeaderSlots(element.location));
     }
     Walk(*SelectNodes(m_root, CBstr(L"vif:Product")), 0, kNoSlots, eVifLocProduct, nullptr, m_header);
-    MoveBehind(m_sink.fields, m_header);
+    MoveToEnd(m_sink.fields, m_header);
     Walk(*SelectNodes(m_root, CBstr(L"vif:Component")), 0, kNoSlots, eVifLocComponent, &m_sink.componentCount,
          m_sink.fields);
   }
 
  private:
-  /// The application that wrote the file: its description alone if there is one, else its vendor, name and version in
-  /// one field.
+  /// The application that wrote the file: its description if there is one; otherwise one field of its vendor, name and
+  /// version.
   void ReadApplication() {
     if (ReadHeaderElement(L"vif:VIF_App/vif:Description", kNoSlots)) return;
     const std::optional<std::string> vendor = HeaderText(L"vif:VIF_App/vif:Vendor");
@@ -91,7 +92,7 @@ class CExtraction {
     if (element != nullptr) AddText(*element, "VIF_Specification", "Version " + Text(*element));
   }
 
-  /// Returns whether there is such an element.
+  /// \return whether there is such an element
   bool ReadHeaderElement(std::wstring_view xpath, const Slots& slots) {
     const DOMNodePtr element = SelectSingleNode(m_root, CBstr(xpath));
     if (element != nullptr) ReadLeaf(*element, slots, m_header);
@@ -104,16 +105,17 @@ class CExtraction {
     return Text(*element);
   }
 
-  /// A header field that is made of texts.
+  /// Adds a header field whose value and description are one text.
   void AddText(IXMLDOMNode& element, const std::string& name, const std::string& text) {
     m_header.emplace_back(false, name, text, text, HeaderSlots(eVifLocVif));
     ReportField(element, m_header.back());
   }
 
-  /// A leaf is a field. It is numeric when it has a value, whatever that is.
+  /// Makes a field of a leaf. It is numeric when the element has a value attribute, whatever that holds.
   void ReadLeaf(IXMLDOMNode& element, const Slots& slots, std::vector<CVIFField>& fields) {
     std::string name = LocalName(element);
-    // Unlike the name and the text, the value is UTF-8 on every system. Kept as it has always been.
+    // Unlike the name and the text, which are in the system code page, the value is UTF-8 on every system. Test suites
+    // compare values byte by byte.
     std::optional<std::string> value = Attribute(element, m_value);
     std::string description = Text(element);
     if (value == "true" || value == "false") {
@@ -167,7 +169,7 @@ class CExtraction {
     }
   }
 
-  /// The location of a list element's items, by the list's own name; what the items are called does not matter.
+  /// The location of a list's items, which depends on the name of the list only, not on what the items are called.
   EVifLocation ListLocation(IXMLDOMNode& list) const {
     CBstr name;
     const HRESULT result = list.get_nodeName(name.Receive());
@@ -193,16 +195,16 @@ class CExtraction {
   IXMLDOMElement& m_root;
   FieldSink m_sink;
   const XmlObserver* m_observer;
-  std::vector<CVIFField> m_header;  // put into the sink all together, once the product has been read
+  std::vector<CVIFField> m_header;  // goes to the sink as a whole, once the product has been read
   const CBstr m_anyChild{L"vif:*"};
   const CBstr m_value{L"value"};
 };
 
-/// Makes room for the fields of a file, which takes about 90 bytes for each, so that the list need not grow, with
-/// everything in it, again and again. A list for many files at least doubles.
+/// Makes room for the fields of a file, which has about 90 bytes for each, so that the list is not moved again and
+/// again while it grows.
 void ReserveFor(const std::filesystem::path& path, std::vector<CVIFField>& fields) {
   constexpr std::uintmax_t bytesOfField = 80;
-  constexpr std::uintmax_t most = 100'000;  // what else is in a file may be of any size
+  constexpr std::uintmax_t most = 100'000;  // the rest of a file may be of any size
   std::error_code error;
   const std::uintmax_t size = std::filesystem::file_size(path, error);
   if (!error) Reserve(fields, static_cast<std::size_t>(std::min(size / bytesOfField, most)));
@@ -215,7 +217,7 @@ void ReadXmlVif(const std::filesystem::path& path, FieldSink sink) {
   LoadXmlVif(path, document);
   ReserveFor(path, sink.fields);
   ExtractFields(*document.GetRootElement(), sink);
-  // A file may be made of something else than fields nearly entirely.
+  // A file may consist almost entirely of something other than fields.
   if (sink.fields.capacity() > 2 * sink.fields.size()) sink.fields.shrink_to_fit();
 }
 

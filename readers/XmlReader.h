@@ -11,19 +11,19 @@ class CDOMDocVIF;
 
 namespace vif {
 
-/// Is told what elements become.
+/// Receives what becomes of each element.
 struct XmlObserver {
-  /// Every field when it is made, and the element that it is made from: for the header's "VIF_Producer", `VIF_App`.
+  /// Called with each field and the element it was made from, which for the header's "VIF_Producer" is `VIF_App`.
   std::function<void(IXMLDOMNode& element, const CVIFField& field)> onField;
 
-  /// The group on which the extraction fails, before it does.
+  /// Called with a group that cannot be read, just before the extraction throws.
   std::function<void(IXMLDOMNode& group)> onFailure;
 };
 
 /// Appends the fields of an XML VIF to the sink and counts its components.
 ///
-/// After a failure, either nothing has been appended, or the header and the product are there with the fields of the
-/// components as far as they were read; the components begun are counted.
+/// After a failure, either nothing has been appended, or the header, the product and the components' fields up to the
+/// failure have; components that were begun are counted.
 /// \throws CVIFInvalidFile "<path> is not a valid Vendor Info File."
 ///   CZoRunTimeException "Invalid node depth: groupLists should only be nested 3 levels deep."
 ///   CZoDOMDocException "Unexpected list element name: <name>", "ERROR:  Couldn't get node name.\r\n", or

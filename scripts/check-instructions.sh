@@ -21,11 +21,11 @@ if [ "${1:-}" != --update ] && ! grep -qw avx2 /proc/cpuinfo; then
 fi
 
 scripts/setup.sh bench
-scripts/build.sh bench --target counted_work
+scripts/build.sh release -DVENDORINFOFILE_BUILD_BENCHMARKS=ON --target counted_work
 
 kept=$PWD/bench/instructions.txt
-program=$PWD/build/bench/bench/counted_work
-work=$PWD/build/bench/instructions
+program=$PWD/build/release/bench/counted_work
+work=$PWD/build/release/instructions
 counted=$work/counts
 mkdir -p "$work"
 : >"$counted"

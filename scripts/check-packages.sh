@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Unpacks each package that package.sh made into an empty directory, looks whether all is there, and runs the command
-# from there: that for Windows under Wine.
+# Unpacks each package that package.sh made into an empty directory, checks that everything is there and that links of the
+# documents lead somewhere, and runs the command from there, the one for Windows under Wine.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 root=$PWD
@@ -22,6 +22,8 @@ check() {
     share/vendorinfofile/schemas/VendorInfoFile{,OptionalContent}.xsd share/doc/VendorInfoFile/{LICENSE,README.md}; do
     [ -f "$file" ] || fail "$file is missing"
   done
+  python3 -B "$root/tests/package/broken_links.py" $(find share/doc/VendorInfoFile -name '*.md') ||
+    fail 'the above links of documents lead nowhere'
   local examples=(share/vendorinfofile/examples/*.txt share/vendorinfofile/examples/*.xml)
   [ ${#examples[@]} -eq 6 ] || fail "there are ${#examples[@]} examples"
   for file in "${examples[@]}"; do

@@ -7,7 +7,7 @@ cd "$(dirname "$0")/.."
 scripts/setup.sh windows
 source scripts/wine.sh
 keep_wine_server
-scripts/build.sh windows -DVENDORINFOFILE_BUILD_TESTS=ON -DVENDORINFOFILE_PRECOMPILE_TESTS=ON -DVENDORINFOFILE_TEST_OPTIONS=-O0
+scripts/build.sh windows -DVENDORINFOFILE_BUILD_TESTS=ON
 echo "==> Running the tests under Wine"
 # A program that Wine does not end gets a second try, and only such a one.
 ctest --preset windows --parallel "$(nproc)" --repeat after-timeout:2 "$@"

@@ -24,21 +24,21 @@ constexpr const wchar_t* kPrompt = L"Select a Vendor Info File for the qualifyin
 constexpr const wchar_t* kCaption = L"Choose VIF for test suite";
 constexpr const wchar_t* kUnknownError = L"<unknown error>";
 
-/// Writes one line; a wide format makes a wide line.
+/// Logs one line, a wide one if the format is wide.
 template <typename Character, typename... Arguments>
 void Write(CTULog& log, TEST_STATUS status, const Character* format, const Arguments&... arguments) {
   const Character* text = CTULog::GetSimpleBuffer().Printf(format, arguments...);
   log.DoWrite(status, CTULog::GetDefaultLogVerbosity(status), nullptr, text);
 }
 
-/// The same where nothing can be done about a log that fails: the line is lost, the status is what counts.
+/// The same where a failing log can be ignored: the line is lost, but the status still tells.
 template <typename Character, typename... Arguments>
 void TryToWrite(CTULog& log, TEST_STATUS status, const Character* format, const Arguments&... arguments) {
   try {
     Write(log, status, format, arguments...);
   } catch (const std::bad_alloc&) {
     throw;
-  } catch (...) {  // NOLINT(bugprone-empty-catch): see above
+  } catch (...) {  // NOLINT(bugprone-empty-catch)
   }
 }
 
@@ -81,7 +81,7 @@ void LoadAndPublish(CTULog& log, const char* fileName) {
   Write(log, kInformation, "Initializing VIF...");
   auto vif = std::make_unique<CVendorInfoFile>(PathFromSystem(fileName));
   CAppState::TestSuiteVIF(vif.get());
-  static_cast<void>(vif.release());  // NOLINT(bugprone-unused-return-value): the application state's from here on
+  static_cast<void>(vif.release());  // NOLINT(bugprone-unused-return-value): the application state owns it now
 }
 
 TEST_STATUS Initialize(const TestSuiteContext& context) {
@@ -101,7 +101,7 @@ TEST_STATUS Initialize(const TestSuiteContext& context) {
   return kDone;
 }
 
-/// Writes the farewell line and deletes the VIF.
+/// Logs that the VIF goes, and deletes it.
 void Delete(CTULog& log, std::unique_ptr<CVendorInfoFile> vif) {
   std::wstring fileName = L"<unknown file>";
   try {

@@ -13,20 +13,29 @@ CFieldQuery::CFieldQuery(const char* pattern, const QuerySlots& slots)
   }
 }
 
-FoundFields FindFields(const std::vector<CVIFField>& fields, CFieldQuery query) {
+CDigestFilter CFieldQuery::Filter(std::size_t digestCount) const {
+  // Asking the locale about every character takes longer than comparing this many names.
+  constexpr std::size_t fewFields = 500;
+  CDigestFilter filter;
+  for (std::size_t i = 0; i < m_askedCount; ++i) filter.AskForSlot({m_asked[i].location, m_asked[i].number});
+  if (m_pattern != nullptr && digestCount > fewFields && IsPlainPattern(m_pattern)) filter.AskForName(m_pattern);
+  return filter;
+}
+
+FoundFields FindFields(const SearchedFields& searched, CFieldQuery query) {
   FoundFields found;
-  for (const CVIFField& field : fields) {
-    if (query.Passes(field) && found.count++ == 0) found.first = &field;
-  }
+  ForEachPassing(searched, query, [&](const CVIFField& field) {
+    if (found.count++ == 0) found.first = &field;
+  });
   return found;
 }
 
 std::vector<CVIFField> FirstComponentFields(const std::vector<CVIFField>& fields, std::uint32_t componentCount,
                                             CFieldQuery query) {
   // Sorted by component before a name is looked at: a name in a later component must not be able to fail the query.
-  std::map<std::size_t, std::vector<const CVIFField*>> byComponent;
+  std::map<VifIndexNumber, std::vector<const CVIFField*>> byComponent;
   for (const CVIFField& field : fields) {
-    const std::size_t component = field.Index(eVifLocComponent);
+    const VifIndexNumber component = field.Index(eVifLocComponent);
     if (component < componentCount && query.PassesLocations(field)) byComponent[component].push_back(&field);
   }
   std::vector<CVIFField> passing;

@@ -1,6 +1,7 @@
 // One query over a list of fields.
 #pragma once
 
+#include "FieldDigest.h"
 #include "NamePattern.h"
 #include "VIFField.h"
 
@@ -25,6 +26,9 @@ class CFieldQuery {
   bool Passes(const CVIFField& field) { return PassesLocations(field) && PassesName(field); }
   bool PassesLocations(const CVIFField& field) const;
   bool PassesName(const CVIFField& field);
+
+  /// The filter for going through that many digests.
+  CDigestFilter Filter(std::size_t digestCount) const;
 
  private:
   /// A slot of the query that is not a wildcard.
@@ -62,13 +66,37 @@ inline bool CFieldQuery::PassesName(const CVIFField& field) {
   return m_compiled->Matches(field.m_name.get());
 }
 
+/// The fields of an object and the digests of the first of them; borrowed.
+struct SearchedFields {
+  const std::vector<CVIFField>& fields;
+  const CFieldDigests& digests;
+};
+
+/// Calls `visit` with each field that passes, in the order of the list.
+template <typename Visit>
+void ForEachPassing(const SearchedFields& searched, CFieldQuery& query, const Visit& visit) {
+  const std::vector<CVIFField>& fields = searched.fields;
+  const std::vector<FieldDigest>& digests = searched.digests.All();
+  const CDigestFilter filter = query.Filter(digests.size());
+  auto field = fields.begin();
+  if (filter.AsksForAnything()) {
+    for (const FieldDigest digest : digests) {
+      if (filter.MayPass(digest) && query.Passes(*field)) visit(*field);
+      ++field;
+    }
+  }
+  for (; field != fields.end(); ++field) {
+    if (query.Passes(*field)) visit(*field);
+  }
+}
+
 /// What a query that wants one field has found.
 struct FoundFields {
   std::size_t count = 0;
   const CVIFField* first = nullptr;  // borrowed from the list; null when the count is 0
 };
 
-FoundFields FindFields(const std::vector<CVIFField>& fields, CFieldQuery query);
+FoundFields FindFields(const SearchedFields& searched, CFieldQuery query);
 
 /// Copies of the passing fields of the lowest component number below `componentCount` that has any. The query's slots
 /// are those besides the component.

@@ -1,4 +1,4 @@
-// The queries of CVendorInfoFile: each is the one filter with other arguments.
+// The queries of CVendorInfoFile: one filter with different arguments.
 #include "BaseUtilities/StringConvert.h"
 #include "Errors.h"
 #include "FieldQuery.h"
@@ -14,11 +14,19 @@ namespace {
 using vif::CFieldQuery;
 using vif::FoundFields;
 using vif::QuerySlots;
+using vif::SearchedFields;
 
 constexpr const char* kAnyName = nullptr;
 
-/// A wide pattern as the narrow queries take it; null becomes the empty pattern.
+/// A wide pattern as UTF-8; null becomes the empty pattern.
 std::string Narrow(const wchar_t* pattern) { return Utf16ToUtf8(pattern != nullptr ? pattern : L""); }
+
+/// \param content null for none
+SearchedFields Searched(const CVIFImpl* content) {
+  static const CVIFImpl none;
+  if (content == nullptr) content = &none;
+  return {content->Fields(), content->Digests()};
+}
 
 VifFieldList MakeList(std::vector<CVIFField> fields) {
   VifFieldList list(nullptr, [](std::vector<CVIFField>* owned) { delete owned; });
@@ -26,7 +34,7 @@ VifFieldList MakeList(std::vector<CVIFField> fields) {
   return list;
 }
 
-/// What messages call the object.
+/// The object's name in messages.
 std::string WhereText(const CVendorInfoFile& file) {
   return *file.FileName() != L'\0' ? Utf16ToUtf8(file.FileName()) : "this VIF";
 }
@@ -40,7 +48,7 @@ std::string WhereText(const CVendorInfoFile& file) {
 std::size_t CVendorInfoFile::Count() const noexcept { return Fields().size(); }
 
 std::size_t CVendorInfoFile::Count(const char* pattern, const QuerySlots& query) const {
-  return vif::FindFields(Fields(), CFieldQuery(pattern, query)).count;
+  return vif::FindFields(Searched(m_impl), CFieldQuery(pattern, query)).count;
 }
 
 VifFieldList CVendorInfoFile::GetFields() const { return MakeList(Fields()); }
@@ -48,14 +56,12 @@ VifFieldList CVendorInfoFile::GetFields() const { return MakeList(Fields()); }
 VifFieldList CVendorInfoFile::GetFields(const char* pattern, const QuerySlots& query) const {
   CFieldQuery filter(pattern, query);
   std::vector<CVIFField> passing;
-  for (const CVIFField& field : Fields()) {
-    if (filter.Passes(field)) passing.push_back(field);
-  }
+  vif::ForEachPassing(Searched(m_impl), filter, [&](const CVIFField& field) { passing.push_back(field); });
   return MakeList(std::move(passing));
 }
 
 CVIFField CVendorInfoFile::GetUniqueField(const char* pattern, const QuerySlots& query) const {
-  const FoundFields found = vif::FindFields(Fields(), CFieldQuery(pattern, query));
+  const FoundFields found = vif::FindFields(Searched(m_impl), CFieldQuery(pattern, query));
   if (found.count == 0) {
     vif::ThrowRunTimeError("Couldn't find field in \"%s\" that matched with \"%s\".", WhereText(*this), pattern);
   }
@@ -64,13 +70,14 @@ CVIFField CVendorInfoFile::GetUniqueField(const char* pattern, const QuerySlots&
 }
 
 std::tuple<CVIFField, bool> CVendorInfoFile::GetSingleField(const char* pattern, const QuerySlots& query) const {
-  const FoundFields found = vif::FindFields(Fields(), CFieldQuery(pattern, query));
+  const FoundFields found = vif::FindFields(Searched(m_impl), CFieldQuery(pattern, query));
   if (found.count > 1) ThrowTooMany(found.count, WhereText(*this), pattern);
   if (found.count == 0) return {CVIFField(), false};
   return {*found.first, true};
 }
 
-// The bounds 0 and ComponentCount() - 1 stand as they always have, although components are numbered from 1.
+// Looks at components 0 to ComponentCount() - 1 although they are numbered from 1, so the last one is never found. Test
+// suites rely on what this returns.
 VifFieldList CVendorInfoFile::GetFirstFields(const char* pattern, const VifIndex& index2,
                                              const VifIndex& index3) const {
   const CFieldQuery query(pattern, {CVIFField::UNSPECIFIED_INDEX, index2, index3});
@@ -80,8 +87,8 @@ VifFieldList CVendorInfoFile::GetFirstFields(const char* pattern, const VifIndex
 CVIFField CVendorInfoFile::GetFirstUniqueField(const char* pattern, const VifIndex& index2,
                                                const VifIndex& index3) const {
   const VifFieldList found = GetFirstFields(pattern, index2, index3);
-  // The pattern stands in both places of this message, and finding nothing is another exception than elsewhere:
-  // callers have come to know both.
+  // Unlike the other queries, this one puts the pattern in both places of the message and throws another exception when
+  // it finds nothing. Callers depend on both.
   if (found->size() > 1) ThrowTooMany(found->size(), pattern != nullptr ? pattern : "(null)", pattern);
   if (found->empty()) throw std::out_of_range("invalid vector subscript");
   return found->front();
@@ -199,47 +206,48 @@ CVIFField CVendorInfoFile::GetFirstUniqueField(std::nullptr_t, const VifIndex& i
 
 // The groups of a file.
 
-VifFieldList CVendorInfoFile::GetComponent(std::size_t component) const {
+VifFieldList CVendorInfoFile::GetComponent(VifIndexNumber component) const {
   return GetFields(kAnyName, VifIndex{eVifLocComponent, component}, CVIFField::UNSPECIFIED_INDEX,
                    CVIFField::UNSPECIFIED_INDEX);
 }
 
-VifFieldList CVendorInfoFile::GetRouter(std::size_t router) const {
+VifFieldList CVendorInfoFile::GetRouter(VifIndexNumber router) const {
   return GetFields(kAnyName, VifIndex{eVifLocProduct, 0}, VifIndex{eVifLocRouter, router},
                    CVIFField::UNSPECIFIED_INDEX);
 }
 
-VifFieldList CVendorInfoFile::GetPcieEndpointIds(std::size_t router, std::size_t endpoint) const {
+VifFieldList CVendorInfoFile::GetPcieEndpointIds(VifIndexNumber router, VifIndexNumber endpoint) const {
   return GetFields(kAnyName, VifIndex{eVifLocProduct, 0}, VifIndex{eVifLocRouter, router},
                    VifIndex{eVifLocRouterPcie, endpoint});
 }
 
-VifFieldList CVendorInfoFile::GetSrcPdo(std::size_t component, std::size_t pdo) const {
+VifFieldList CVendorInfoFile::GetSrcPdo(VifIndexNumber component, VifIndexNumber pdo) const {
   return GetFields(kAnyName, VifIndex{eVifLocComponent, component}, VifIndex{eVifLocSrcPdo, pdo},
                    CVIFField::UNSPECIFIED_INDEX);
 }
 
-VifFieldList CVendorInfoFile::GetSnkPdo(std::size_t component, std::size_t pdo) const {
+VifFieldList CVendorInfoFile::GetSnkPdo(VifIndexNumber component, VifIndexNumber pdo) const {
   return GetFields(kAnyName, VifIndex{eVifLocComponent, component}, VifIndex{eVifLocSnkPdo, pdo},
                    CVIFField::UNSPECIFIED_INDEX);
 }
 
-VifFieldList CVendorInfoFile::GetSopSvid(std::size_t component, std::size_t svid) const {
+VifFieldList CVendorInfoFile::GetSopSvid(VifIndexNumber component, VifIndexNumber svid) const {
   return GetFields(kAnyName, VifIndex{eVifLocComponent, component}, VifIndex{eVifLocSopSvid, svid},
                    CVIFField::UNSPECIFIED_INDEX);
 }
 
-VifFieldList CVendorInfoFile::GetSopSvidMode(std::size_t component, std::size_t svid, std::size_t mode) const {
+VifFieldList CVendorInfoFile::GetSopSvidMode(VifIndexNumber component, VifIndexNumber svid, VifIndexNumber mode) const {
   return GetFields(kAnyName, VifIndex{eVifLocComponent, component}, VifIndex{eVifLocSopSvid, svid},
                    VifIndex{eVifLocSopSvidMode, mode});
 }
 
-VifFieldList CVendorInfoFile::GetCableSvid(std::size_t component, std::size_t svid) const {
+VifFieldList CVendorInfoFile::GetCableSvid(VifIndexNumber component, VifIndexNumber svid) const {
   return GetFields(kAnyName, VifIndex{eVifLocComponent, component}, VifIndex{eVifLocCableSvid, svid},
                    CVIFField::UNSPECIFIED_INDEX);
 }
 
-VifFieldList CVendorInfoFile::GetCableSvidMode(std::size_t component, std::size_t svid, std::size_t mode) const {
+VifFieldList CVendorInfoFile::GetCableSvidMode(VifIndexNumber component, VifIndexNumber svid,
+                                               VifIndexNumber mode) const {
   return GetFields(kAnyName, VifIndex{eVifLocComponent, component}, VifIndex{eVifLocCableSvid, svid},
                    VifIndex{eVifLocCableSvidMode, mode});
 }

@@ -6,6 +6,10 @@
 #include "TextReader.h"
 #include "XmlReader.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <new>
 #include <system_error>
 #include <utility>
 
@@ -33,6 +37,20 @@ FileType DetermineFileType(const std::filesystem::path& fileName) {
   return FileType::Other;
 }
 
+/// Makes room for about as many fields as a text file has, so that they are not moved repeatedly while it is read.
+void ReserveForText(const std::filesystem::path& fileName, std::vector<CVIFField>& fields) {
+  constexpr std::uintmax_t bytesPerField = 32;      // a short line; with comments it is about 50
+  constexpr std::uintmax_t mostFields = 1'000'000;  // whatever size the file claims to have
+  std::error_code error;
+  const std::uintmax_t size = std::filesystem::file_size(fileName, error);
+  if (error) return;
+  try {
+    fields.reserve(static_cast<std::size_t>(std::min(size / bytesPerField, mostFields)));
+  } catch (const std::bad_alloc&) {
+    // There may still be enough memory for the fields that the file really has.
+  }
+}
+
 }  // namespace
 
 CVIFImpl::CVIFImpl(const std::filesystem::path& fileName, std::vector<VifFieldDef>* fieldDefs)
@@ -48,6 +66,7 @@ void CVIFImpl::Append(const std::filesystem::path& fileName) {
     case FileType::Other: vif::ThrowRunTimeError("Invalid file type for VIF!  Must be text (*.txt) or XML (*.xml)");
     default: vif::ThrowRunTimeError("%s: Internal error: unknown file type %u.", "CVIFImpl::Append", type);
   }
+  m_digests.Cover(m_fields);
   if (m_fileName.empty()) m_fileName = PathToWide(fileName);
 }
 
@@ -57,10 +76,14 @@ void CVIFImpl::Append(const std::vector<CVIFField>& fields) {
     return;
   }
   m_fields.insert(m_fields.end(), fields.begin(), fields.end());
+  m_digests.Cover(m_fields);
 }
 
 void CVIFImpl::ReadTextFile(const std::filesystem::path& fileName) {
+  if (m_fields.empty()) ReserveForText(fileName, m_fields);
   vif::ReadTextVif(fileName, m_fieldDefs, {m_fields, m_componentCount});
+  // A file may consist almost entirely of something other than fields.
+  if (m_fields.capacity() / 4 > m_fields.size()) m_fields.shrink_to_fit();
 }
 
 void CVIFImpl::ReadXmlFile(const std::filesystem::path& fileName) {

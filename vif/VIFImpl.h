@@ -1,6 +1,7 @@
 // The content of a CVendorInfoFile.
 #pragma once
 
+#include "FieldDigest.h"
 #include "VIFField.h"
 #include "VIFFieldDefs.h"
 
@@ -14,16 +15,17 @@ class CVIFImpl {
  public:
   CVIFImpl() = default;
 
-  /// Takes the file's name and loads it.
+  /// Remembers the file's name and loads the file.
   CVIFImpl(const std::filesystem::path& fileName, std::vector<VifFieldDef>* fieldDefs);
 
-  /// Loads one file behind the fields held. What was read before a failure stays.
+  /// Loads one file and appends its fields. After a failure, what was read before it stays.
   void Append(const std::filesystem::path& fileName);
 
-  /// Appends copies of the fields; when it fails, some may have been appended.
+  /// Appends copies of the fields. When that fails, some may have been appended.
   void Append(const std::vector<CVIFField>& fields);
 
   const std::vector<CVIFField>& Fields() const { return m_fields; }
+  const vif::CFieldDigests& Digests() const { return m_digests; }
   const std::wstring& FileName() const { return m_fileName; }
   std::uint32_t ComponentCount() const { return m_componentCount; }
 
@@ -32,6 +34,7 @@ class CVIFImpl {
   void ReadXmlFile(const std::filesystem::path& fileName);
 
   std::vector<CVIFField> m_fields;
+  vif::CFieldDigests m_digests;                     // of all fields but those read before a failure
   std::vector<VifFieldDef>* m_fieldDefs = nullptr;  // not owned; null means the built-in table
   std::wstring m_fileName;                          // of the first file
   std::uint32_t m_componentCount = 0;

@@ -38,7 +38,7 @@ CVendorInfoFile::CVendorInfoFile(CVendorInfoFile&& other) noexcept : m_impl(std:
 
 CVendorInfoFile& CVendorInfoFile::operator=(const CVendorInfoFile& other) {
   if (this == &other) return *this;
-  // Copied before anything is given up, so that a copy that fails costs nothing.
+  // Copy before letting go of anything, so that a failed copy changes nothing.
   CVIFImpl* copy = other.m_impl != nullptr ? new CVIFImpl(*other.m_impl) : nullptr;
   delete std::exchange(m_impl, copy);
   return *this;
@@ -69,7 +69,7 @@ void CVendorInfoFile::Append(const std::vector<CVIFField>& fields) {
   try {
     Content().Append(fields);
   } catch (...) {
-    // Kept as it has always been: a list that cannot be appended in full takes the fields held before with it.
+    // Deliberate: hosts expect an object to be empty after a list could not be appended in full.
     delete std::exchange(m_impl, nullptr);
     throw;
   }

@@ -15,29 +15,21 @@ namespace vifanalysis {
 
 namespace {
 
-Findings CheckText(const std::filesystem::path& path) {
-  auto [fields, findings] = ReadTextFile(path);
+void CheckTextFields(const FoundFields& fields, Findings& findings) {
   FindBadNumbering(fields, findings);
   FindTextsForGroups(fields, findings);
   FindDuplicates(fields, findings);
   FindBadNumbers(fields, findings);
   FindWrongCounts(fields, findings);
-  FindNothing(fields, findings);
-  FindContradictions(fields, findings);
-  return findings;
 }
 
-Findings CheckXml(const std::filesystem::path& path) {
-  auto [fields, findings] = ReadXmlFile(path);
+void CheckXmlFields(const FoundFields& fields, Findings& findings) {
   FindUnknownNames(fields, findings);
   FindMisplaced(fields, findings);
   FindDuplicates(fields, findings);
   FindBadNumbers(fields, findings);
   FindMissingValues(fields, findings);
   FindWrongCounts(fields, findings);
-  FindNothing(fields, findings);
-  FindContradictions(fields, findings);
-  return findings;
 }
 
 Findings CheckPath(const std::filesystem::path& path) {
@@ -48,10 +40,15 @@ Findings CheckPath(const std::filesystem::path& path) {
   const bool isText = HasExtension(path, ".txt");
   if (!isText && !HasExtension(path, ".xml")) throw CCheckError("a VIF is a text (*.txt) or XML (*.xml) file");
   if (!std::filesystem::is_regular_file(status)) throw CCheckError("only a regular file can be read");
-  Findings findings = isText ? CheckText(path) : CheckXml(path);
-  if (findings.empty()) return findings;
-  const std::optional<std::string> advice = AdviceOnExtension(path);
-  return advice ? Findings{FindingAt(code::kWrongExtension, 0, 0, {}, *advice)} : findings;
+  auto [fields, findings] = isText ? ReadTextFile(path) : ReadXmlFile(path);
+  if (fields.empty()) {
+    const std::optional<std::string> advice = AdviceOnExtension(path);
+    if (advice) return {FindingAt(code::kWrongExtension, 0, 0, {}, *advice)};
+  }
+  (isText ? CheckTextFields : CheckXmlFields)(fields, findings);
+  FindNothing(fields, findings);
+  FindContradictions(fields, findings);
+  return findings;
 }
 
 bool Contains(const std::vector<std::string>& codes, const std::string& code) {

@@ -4,6 +4,7 @@
 #include "GroupTree.h"
 #include "Sentence.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 
@@ -55,7 +56,7 @@ class CCountedGroup {
  public:
   explicit CCountedGroup(const GroupContent& content) : m_content(content) {}
 
-  std::uint64_t Groups(EVifLocation kind) const {
+  std::size_t Groups(EVifLocation kind) const {
     const auto found = m_content.groups.find(kind);
     return found != m_content.groups.end() ? found->second.size() : 0;
   }
@@ -76,13 +77,13 @@ std::string Says(const FoundField& count) {
   return '\'' + std::string(count.field.Name()) + "' is " + std::to_string(Number(count));
 }
 
-std::string Has(const FoundField& count, std::uint64_t groups, EVifLocation kind) {
+std::string Has(const FoundField& count, std::size_t groups, EVifLocation kind) {
   return LocationText(count.field) + " has " + Amount(groups, std::string(GetVifLocInfo(kind).name) + " group");
 }
 
 void CheckExact(const CCountedGroup& group, const ExactCount& rule, Findings& findings) {
   const FoundField* count = group.Count(rule.field);
-  const std::uint64_t groups = group.Groups(rule.counted);
+  const std::size_t groups = group.Groups(rule.counted);
   if (count == nullptr || Number(*count) == groups) return;
   findings.push_back(About(*count, code::kCountMismatch, Says(*count) + ", but " + Has(*count, groups, rule.counted)));
 }
@@ -90,7 +91,7 @@ void CheckExact(const CCountedGroup& group, const ExactCount& rule, Findings& fi
 void CheckRange(const CCountedGroup& group, const CountRange& rule, Findings& findings) {
   const FoundField* least = group.Count(rule.least);
   const FoundField* most = group.Count(rule.most);
-  const std::uint64_t groups = group.Groups(rule.counted);
+  const std::size_t groups = group.Groups(rule.counted);
   if (least != nullptr && most != nullptr && Number(*least) > Number(*most)) {
     findings.push_back(About(*least, code::kCountMismatch, Says(*least) + ", but " + Says(*most)));
   } else if (least != nullptr && groups < Number(*least)) {

@@ -25,7 +25,7 @@ double Value(const std::vector<CVIFField>& fields, const CVIFField& pdo, const s
 }
 
 void PrintPdo(const std::vector<CVIFField>& fields, const CVIFField& pdo) {
-  const std::size_t i = pdo.Index(eVifLocSrcPdo);
+  const VifIndexNumber i = pdo.Index(eVifLocSrcPdo);
   if (i == CVIFField::INDEX_NOT_SPECIFIED) throw std::runtime_error("a source PDO has no number");
   const auto at = "Component " + std::to_string(pdo.Index(eVifLocComponent)) + ", source PDO " + std::to_string(i);
   const auto value = [&](const char* name, double unit) { return Value(fields, pdo, name, unit); };

@@ -24,9 +24,12 @@
 /// One object is for one thread at a time. Any number of threads may use objects of their own at once; compiled schemas
 /// are shared between them and kept until the process ends, or until a schema file changes.
 ///
+/// A schema may import the namespace of another schema of the set. It then gets that schema, whatever file the import
+/// names.
+///
 /// On Windows, MSXML 6 parses and validates files of up to 1 GiB. COM must be initialised on the calling thread. MSXML
 /// words the reasons why a file is malformed or not valid, gives the first one only, and does not say where a document
-/// is not valid. Schemas are compiled for each validation, and those with parts in other files are refused.
+/// is not valid. Schemas are compiled for each validation, and those with parts in files outside the set are refused.
 class ZO_API CDOMDoc {
  public:
   /// An empty document. The schemas are looked at when a file is validated.

@@ -45,9 +45,10 @@ class ZO_API CTULog {
   static eZoLogVerbosity GetDefaultLogVerbosity(TEST_STATUS status) noexcept;
 
   /// Takes a line.
-  /// \param text UTF-8 but for the bytes of file names that are not, without a line end, borrowed for the call, never
-  /// null \param format may be null \return a status of the log's choosing; this class gives back the line's. The
-  /// library does not look at it.
+  /// \param format may be null
+  /// \param text UTF-8 but for the bytes of file names that are not, without a line end; borrowed for the call, never
+  ///   null
+  /// \return a status of the log's choosing, which the library ignores; this class returns the line's
   virtual TEST_STATUS DoWrite(TEST_STATUS status, eZoLogVerbosity verbosity, const CFormatInfo* format,
                               const char* text);
 

@@ -1,5 +1,7 @@
 #include "msxml/ComError.h"
 
+#include "msxml/ComTypes.h"
+
 _com_error::_com_error(HRESULT result, REFIID iid) noexcept : m_result(result), m_iid(iid) {}
 
 _com_error::~_com_error() = default;

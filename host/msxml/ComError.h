@@ -1,35 +1,35 @@
 // A failed COM call as an exception, for systems that have no COM.
 #pragma once
 
-#include "msxml/ComTypes.h"
+#include "msxml/Com.h"
 
-/// Carries the result of the call and the interface that it was made on. Bears COM's name so that the code that catches
-/// it is the same everywhere. It is no `std::exception`, as there.
+/// Carries the result of the call and the interface that it was made on. It has COM's name, so that the same code
+/// catches it on every system. As there, it is not a `std::exception`.
 class ZO_API _com_error {  // NOLINT(bugprone-reserved-identifier)
  public:
-  explicit _com_error(HRESULT result, REFIID iid = IID_IUnknown) noexcept;
+  explicit _com_error(zocom::Result result, const zocom::Guid& iid = zocom::kUnknownId) noexcept;
   _com_error(const _com_error&) noexcept = default;
   _com_error& operator=(const _com_error&) noexcept = default;
   virtual ~_com_error();
 
-  /// The failing HRESULT.
-  HRESULT Error() const noexcept { return m_result; }
+  /// The failed call's result.
+  zocom::Result Error() const noexcept { return m_result; }
 
-  /// The interface that failed; `IID_IUnknown` when that is not known.
-  REFIID InterfaceId() const noexcept { return m_iid; }
+  /// The interface whose call failed; `zocom::kUnknownId` when that is not known.
+  const zocom::Guid& InterfaceId() const noexcept { return m_iid; }
 
-  /// A text for people; null when there is none for this result. Valid for ever.
+  /// A text for people; null when there is none for this result. Lives until the program ends.
   const wchar_t* ErrorMessage() const noexcept;
 
  private:
-  HRESULT m_result;
-  IID m_iid;
+  zocom::Result m_result;
+  zocom::Guid m_iid;
 };
 
 /// Throws `_com_error`.
-[[noreturn]] ZO_API void _com_issue_error(HRESULT result);  // NOLINT(bugprone-reserved-identifier)
+[[noreturn]] ZO_API void _com_issue_error(zocom::Result result);  // NOLINT(bugprone-reserved-identifier)
 
 /// Throws `_com_error` that names the interface.
 /// \param object the object that failed; may be null
-[[noreturn]] ZO_API void _com_issue_errorex(HRESULT result, IUnknown* object,  // NOLINT(bugprone-reserved-identifier)
-                                            REFIID iid);
+[[noreturn]] ZO_API void _com_issue_errorex(zocom::Result result,  // NOLINT(bugprone-reserved-identifier)
+                                            zocom::Unknown* object, const zocom::Guid& iid);

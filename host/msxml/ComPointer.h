@@ -1,26 +1,24 @@
-// Owners of what COM counts and allocates: interface pointers, BSTRs and VARIANTs. The same on every system.
+// Owners of what COM counts and allocates: interface pointers, texts and values. The same on every system.
 #pragma once
 
-#ifdef _WIN32
-#include <windows.h>
+#include "msxml/Com.h"
 
-#include <comdef.h>
-#else
+#ifndef _WIN32
 #include "msxml/ComError.h"
-#include "msxml/ComTypes.h"
 #endif
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 #include <utility>
 
-/// Raises a call's failure.
-/// \param result what the call gave
-/// \param object what it was made on
-/// \param iid the interface of it that the error names
-/// \throws _com_error when the result is that of a failure
-inline void RequireSuccess(HRESULT result, IUnknown& object, REFIID iid) {
-  if (FAILED(result)) _com_issue_errorex(result, &object, iid);
+/// Throws when a call has failed.
+/// \param result what the call returned
+/// \param object the object that it was made on
+/// \param iid the interface that the error names
+/// \throws _com_error when the result is a failure
+inline void RequireSuccess(zocom::Result result, zocom::Unknown& object, const zocom::Guid& iid) {
+  if (result < 0) _com_issue_errorex(result, &object, iid);
 }
 
 /// A counted interface pointer; empty, or one reference of its own.
@@ -59,17 +57,17 @@ class CComPointer {
 
   /// \throws _com_error E_POINTER when empty
   Interface& operator*() const {
-    if (m_pointer == nullptr) _com_issue_error(E_POINTER);
+    if (m_pointer == nullptr) _com_issue_error(zocom::kNullPointer);
     return *m_pointer;
   }
 
-  /// Empties this and gives a call the place to put a counted pointer into.
+  /// Empties this and gives a call the place for its answer, a counted pointer.
   Interface** Receive() noexcept {
     *this = CComPointer();
     return &m_pointer;
   }
 
-  /// Gives the reference away.
+  /// Hands the reference over to the caller.
   Interface* Detach() noexcept { return std::exchange(m_pointer, nullptr); }
 
   explicit operator bool() const noexcept { return m_pointer != nullptr; }
@@ -79,66 +77,67 @@ class CComPointer {
   Interface* m_pointer = nullptr;
 };
 
-/// A BSTR that is freed with its holder.
+/// Owns a text, a `BSTR` in COM.
 class CBstr {
  public:
   CBstr() noexcept = default;
 
   /// \throws _com_error E_OUTOFMEMORY
-  explicit CBstr(std::wstring_view text) : m_text(SysAllocStringLen(text.data(), static_cast<UINT>(text.size()))) {
-    if (m_text == nullptr) _com_issue_error(E_OUTOFMEMORY);
+  explicit CBstr(std::wstring_view text)
+      : m_text(zocom::SysAllocStringLen(text.data(), static_cast<std::uint32_t>(text.size()))) {
+    if (m_text == nullptr) _com_issue_error(zocom::kOutOfMemory);
   }
 
   CBstr(const CBstr&) = delete;
   CBstr(CBstr&& other) noexcept : m_text(std::exchange(other.m_text, nullptr)) {}
   CBstr& operator=(const CBstr&) = delete;
   CBstr& operator=(CBstr&&) = delete;
-  ~CBstr() { SysFreeString(m_text); }
+  ~CBstr() { zocom::SysFreeString(m_text); }
 
   /// The text, borrowed; null is the empty text.
-  BSTR get() const noexcept { return m_text; }
+  zocom::Text get() const noexcept { return m_text; }
 
-  std::wstring_view View() const noexcept { return {m_text != nullptr ? m_text : L"", SysStringLen(m_text)}; }
+  std::wstring_view View() const noexcept { return {m_text != nullptr ? m_text : L"", zocom::SysStringLen(m_text)}; }
 
-  /// Empties this and gives a call the place to put a text into.
-  BSTR* Receive() noexcept {
-    SysFreeString(std::exchange(m_text, nullptr));
+  /// Empties this and gives a call the place for its answer, which this then owns.
+  zocom::Text* Receive() noexcept {
+    zocom::SysFreeString(std::exchange(m_text, nullptr));
     return &m_text;
   }
 
-  /// Gives the text away.
-  BSTR Detach() noexcept { return std::exchange(m_text, nullptr); }
+  /// Hands the text over to the caller.
+  zocom::Text Detach() noexcept { return std::exchange(m_text, nullptr); }
 
  private:
-  BSTR m_text = nullptr;
+  zocom::Text m_text = nullptr;
 };
 
-/// A VARIANT that is cleared with its holder.
+/// Owns a value, a `VARIANT` in COM.
 class CVariant {
  public:
-  CVariant() noexcept { VariantInit(&m_variant); }
+  CVariant() noexcept { zocom::VariantInit(&m_variant); }
   explicit CVariant(CBstr text) noexcept : CVariant() {
-    m_variant.vt = VT_BSTR;
+    m_variant.vt = zocom::kTextVariant;
     m_variant.bstrVal = text.Detach();
   }
   CVariant(const CVariant&) = delete;
   CVariant& operator=(const CVariant&) = delete;
-  ~CVariant() { VariantClear(&m_variant); }
+  ~CVariant() { zocom::VariantClear(&m_variant); }
 
-  const VARIANT& get() const noexcept { return m_variant; }
+  const zocom::Variant& get() const noexcept { return m_variant; }
 
-  /// The text; empty when the value is none.
+  /// The text; empty when the value is not a text.
   std::wstring_view Text() const noexcept {
-    if (m_variant.vt != VT_BSTR || m_variant.bstrVal == nullptr) return {};
-    return {m_variant.bstrVal, SysStringLen(m_variant.bstrVal)};
+    if (m_variant.vt != zocom::kTextVariant || m_variant.bstrVal == nullptr) return {};
+    return {m_variant.bstrVal, zocom::SysStringLen(m_variant.bstrVal)};
   }
 
-  /// Empties this and gives a call the place to put a value into.
-  VARIANT* Receive() noexcept {
-    VariantClear(&m_variant);
+  /// Empties this and gives a call the place for its answer, which this then owns.
+  zocom::Variant* Receive() noexcept {
+    zocom::VariantClear(&m_variant);
     return &m_variant;
   }
 
  private:
-  VARIANT m_variant;
+  zocom::Variant m_variant;
 };

@@ -17,6 +17,8 @@ BstrHeader* HeaderOf(BSTR text) { return reinterpret_cast<BstrHeader*>(text) - 1
 
 }  // namespace
 
+namespace zocom {
+
 BSTR SysAllocString(const wchar_t* text) {
   if (text == nullptr) return nullptr;
   const std::size_t length = std::wcslen(text);
@@ -46,3 +48,5 @@ HRESULT VariantClear(VARIANT* variant) {
   VariantInit(variant);
   return S_OK;
 }
+
+}  // namespace zocom

@@ -1,6 +1,7 @@
 // An XML document: parsed, validated and asked through the interfaces.
 #pragma once
 
+#include "msxml/ComTypes.h"
 #include "msxml/Counted.h"
 #include "msxml/DomNodes.h"
 #include "msxml/MsXml.h"

@@ -1,6 +1,7 @@
 // The XML interfaces over a libxml2 tree.
 #pragma once
 
+#include "msxml/ComTypes.h"
 #include "msxml/MsXml.h"
 #include "msxml/Selection.h"
 #include "msxml/XmlTree.h"

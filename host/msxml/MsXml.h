@@ -14,49 +14,55 @@ EXTERN_C const IID DECLSPEC_SELECTANY IID_IXMLDOMDocument2 = {
 
 #else
 
+#include <cstdint>
+
 struct IXMLDOMNodeList;
 struct IXMLDOMNamedNodeMap;
 
-constexpr IID IID_IXMLDOMNode = {0x2933BF80, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
-constexpr IID IID_IXMLDOMNodeList = {0x2933BF82, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
-constexpr IID IID_IXMLDOMNamedNodeMap = {0x2933BF83, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
-constexpr IID IID_IXMLDOMElement = {0x2933BF86, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
-constexpr IID IID_IXMLDOMDocument2 = {0x2933BF95, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
+constexpr zocom::Guid IID_IXMLDOMNode = {0x2933BF80, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
+constexpr zocom::Guid IID_IXMLDOMNodeList = {
+    0x2933BF82, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
+constexpr zocom::Guid IID_IXMLDOMNamedNodeMap = {
+    0x2933BF83, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
+constexpr zocom::Guid IID_IXMLDOMElement = {
+    0x2933BF86, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
+constexpr zocom::Guid IID_IXMLDOMDocument2 = {
+    0x2933BF95, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
 
-// Every call gives a negative result when it fails: E_INVALIDARG for a null place to put the answer or a wrong
-// argument, E_OUTOFMEMORY, E_FAIL. S_FALSE with a null answer means that there is none. An answer is the caller's to
-// release or free. Nothing throws.
+// A call returns 0, or 1 (COM's S_FALSE) with a null answer when there is none, or a negative result when it fails:
+// 0x80070057 (E_INVALIDARG) for a wrong argument or a null place for the answer, 0x8007000E (E_OUTOFMEMORY), or
+// 0x80004005 (E_FAIL). The caller owns the answer and releases or frees it. Nothing throws.
 //
-// References may be counted from any thread; otherwise the nodes of one document are for one thread at a time. A node
-// keeps the content that it is from, even when the document is gone or has been loaded anew.
+// Any thread may count references; otherwise only one thread at a time may use the nodes of a document. A node keeps
+// the content that it belongs to, even after the document is gone or has been loaded again.
 
 /// An element, an attribute or the document.
-struct IXMLDOMNode : IUnknown {
+struct IXMLDOMNode : zocom::Unknown {
   /// The name with its prefix; of a document, "#document".
-  virtual HRESULT get_nodeName(BSTR* name) = 0;
+  virtual zocom::Result get_nodeName(zocom::Text* name) = 0;
 
-  /// The value of an attribute. An element has none: null (VT_NULL) and S_FALSE.
-  virtual HRESULT get_nodeValue(VARIANT* value) = 0;
+  /// The value of an attribute. An element has none: null (`zocom::kNullVariant`), and the result 1.
+  virtual zocom::Result get_nodeValue(zocom::Variant* value) = 0;
 
-  /// The attributes; none (S_FALSE) for anything but an element.
-  virtual HRESULT get_attributes(IXMLDOMNamedNodeMap** attributes) = 0;
+  /// The attributes; none (1) for anything but an element.
+  virtual zocom::Result get_attributes(IXMLDOMNamedNodeMap** attributes) = 0;
 
   /// The text of all descendants. Comments are left out, white space at both ends is removed and white space between
   /// elements becomes one blank, except where `xml:space="preserve"` is in force.
-  virtual HRESULT get_text(BSTR* text) = 0;
+  virtual zocom::Result get_text(zocom::Text* text) = 0;
 
   /// The nodes that an XPath finds from here, in document order, with the prefixes of "SelectionNamespaces".
   /// Of what it finds, only elements, attributes and the document are in the list.
-  virtual HRESULT selectNodes(BSTR xpath, IXMLDOMNodeList** nodes) = 0;
+  virtual zocom::Result selectNodes(zocom::Text xpath, IXMLDOMNodeList** nodes) = 0;
 
   /// The first of these nodes.
-  virtual HRESULT selectSingleNode(BSTR xpath, IXMLDOMNode** node) = 0;
+  virtual zocom::Result selectSingleNode(zocom::Text xpath, IXMLDOMNode** node) = 0;
 
-  /// The namespace; S_FALSE when there is none.
-  virtual HRESULT get_namespaceURI(BSTR* uri) = 0;
+  /// The namespace; 1 when there is none.
+  virtual zocom::Result get_namespaceURI(zocom::Text* uri) = 0;
 
   /// The name without its prefix.
-  virtual HRESULT get_baseName(BSTR* name) = 0;
+  virtual zocom::Result get_baseName(zocom::Text* name) = 0;
 
  protected:
   ~IXMLDOMNode() = default;
@@ -67,19 +73,19 @@ struct IXMLDOMElement : IXMLDOMNode {
   ~IXMLDOMElement() = default;
 };
 
-struct IXMLDOMNodeList : IUnknown {
-  /// \param index from 0; with any other number than there are, S_FALSE and null
-  virtual HRESULT get_item(LONG index, IXMLDOMNode** node) = 0;
+struct IXMLDOMNodeList : zocom::Unknown {
+  /// \param index from 0; out of range: 1 and null
+  virtual zocom::Result get_item(std::int32_t index, IXMLDOMNode** node) = 0;
 
-  virtual HRESULT get_length(LONG* length) = 0;
+  virtual zocom::Result get_length(std::int32_t* length) = 0;
 
  protected:
   ~IXMLDOMNodeList() = default;
 };
 
-struct IXMLDOMNamedNodeMap : IUnknown {
+struct IXMLDOMNamedNodeMap : zocom::Unknown {
   /// The attribute with that qualified name.
-  virtual HRESULT getNamedItem(BSTR name, IXMLDOMNode** attribute) = 0;
+  virtual zocom::Result getNamedItem(zocom::Text name, IXMLDOMNode** attribute) = 0;
 
  protected:
   ~IXMLDOMNamedNodeMap() = default;
@@ -87,15 +93,15 @@ struct IXMLDOMNamedNodeMap : IUnknown {
 
 /// A document. As a node it stands above its root element.
 struct IXMLDOMDocument2 : IXMLDOMNode {
-  /// The root; none (S_FALSE) when nothing has been loaded.
-  virtual HRESULT get_documentElement(IXMLDOMElement** root) = 0;
+  /// The root; none (1) when nothing has been loaded.
+  virtual zocom::Result get_documentElement(IXMLDOMElement** root) = 0;
 
   /// Sets "SelectionNamespaces": declarations of the form xmlns:prefix='URI', with blanks between them, that XPath
-  /// expressions use. Another property or another form of the value is an E_INVALIDARG, which changes nothing.
-  virtual HRESULT setProperty(BSTR name, VARIANT value) = 0;
+  /// expressions use. Another property or another form of the value is a wrong argument and changes nothing.
+  virtual zocom::Result setProperty(zocom::Text name, zocom::Variant value) = 0;
 
   /// The value of "SelectionNamespaces" as it was set.
-  virtual HRESULT getProperty(BSTR name, VARIANT* value) = 0;
+  virtual zocom::Result getProperty(zocom::Text name, zocom::Variant* value) = 0;
 
  protected:
   ~IXMLDOMDocument2() = default;

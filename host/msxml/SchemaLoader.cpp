@@ -53,7 +53,7 @@ std::filesystem::path FileOf(std::string_view url) {
 
 }  // namespace
 
-CSchemaLoader::CSchemaLoader() {
+CSchemaLoader::CSchemaLoader(std::map<std::string, std::string> replaced) : m_replaced(std::move(replaced)) {
   g_before = xmlGetExternalEntityLoader();
   g_loader = this;
   xmlSetExternalEntityLoader(Load);
@@ -68,7 +68,9 @@ CSchemaLoader::~CSchemaLoader() {
 xmlParserInputPtr CSchemaLoader::Load(const char* url, const char* id, xmlParserCtxtPtr context) {
   if (g_loader == nullptr) return g_before.load()(url, id, context);
   try {
-    return url != nullptr ? g_loader->LoadFile(url, context) : nullptr;
+    if (url == nullptr) return nullptr;
+    const auto replaced = g_loader->m_replaced.find(url);
+    return g_loader->LoadFile(replaced != g_loader->m_replaced.end() ? replaced->second : url, context);
   } catch (const std::bad_alloc&) {
     g_loader->m_isOutOfMemory = true;
     return nullptr;
@@ -78,7 +80,8 @@ xmlParserInputPtr CSchemaLoader::Load(const char* url, const char* id, xmlParser
 void CSchemaLoader::ReportError(void*, xmlErrorPtr error) {
   if (g_loader == nullptr) return;
   if (error->code == XML_ERR_NO_MEMORY) g_loader->m_isOutOfMemory = true;
-  if (error->level == XML_ERR_WARNING || error->message == nullptr) return;
+  // A namespace is a name, whether or not it has the form of a URI.
+  if (error->level == XML_ERR_WARNING || error->code == XML_WAR_NS_URI || error->message == nullptr) return;
   try {
     // What libxml2 says of a file that it could not read to its end is that it ends too early.
     const bool isUnread = !g_loader->m_open.empty() && g_loader->m_open.back().HasFailed();

@@ -7,6 +7,7 @@
 
 #include <deque>
 #include <filesystem>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -22,7 +23,8 @@ struct SchemaFile {
 /// other threads load as before. Only one may live at a time in the process.
 class CSchemaLoader {
  public:
-  CSchemaLoader();
+  /// \param replaced the URLs that stand for other files than those they name, and these files' URLs
+  explicit CSchemaLoader(std::map<std::string, std::string> replaced = {});
   CSchemaLoader(const CSchemaLoader&) = delete;
   CSchemaLoader& operator=(const CSchemaLoader&) = delete;
   ~CSchemaLoader();
@@ -45,6 +47,7 @@ class CSchemaLoader {
   std::string Place(const xmlError& error) const;
   void Fail(std::string reason);
 
+  std::map<std::string, std::string> m_replaced;
   std::deque<CInputFile> m_open;  // libxml2 reads from them while it parses
   std::vector<SchemaFile> m_files;
   std::string m_failure;

@@ -7,6 +7,8 @@
 #include "msxml/XmlParser.h"
 #include "msxml/XmlText.h"
 
+#include <libxml/uri.h>
+
 #include <algorithm>
 #include <map>
 #include <mutex>
@@ -18,6 +20,9 @@ namespace msxml {
 
 namespace {
 
+struct FreeXml {
+  void operator()(void* memory) const { xmlFree(memory); }
+};
 struct FreeParserContext {
   void operator()(xmlSchemaParserCtxt* context) const { xmlSchemaFreeParserCtxt(context); }
 };
@@ -78,13 +83,37 @@ std::string_view AttributeOf(const xmlNode& element, std::string_view name) {
   return {};
 }
 
+/// The URL of what an import says is the schema; empty when it says nothing.
+std::string ImportedUrl(const xmlNode& import, const SchemaSource& source) {
+  const std::string location(AttributeOf(import, "schemaLocation"));
+  if (location.empty()) return {};
+  const std::unique_ptr<xmlChar, FreeXml> url(xmlBuildURI(Xml(location.c_str()), Xml(FileUrl(source.file).c_str())));
+  return std::string(View(url.get()));
+}
+
+/// Where a schema imports a namespace of the set, the set's schema is the one to use, wherever the import says it is.
+void ReplaceImports(const xmlNode& schema, const SchemaSource& source, const std::vector<SchemaSource>& sources,
+                    std::map<std::string, std::string>& replaced) {
+  for (const xmlNode* child = schema.children; child != nullptr; child = child->next) {
+    if (child->type != XML_ELEMENT_NODE || View(child->name) != "import") continue;
+    const std::string_view uri = AttributeOf(*child, "namespace");
+    const auto imported = std::find_if(sources.begin(), sources.end(), [&](const SchemaSource& other) {
+      return &other != &source && other.targetNamespace == uri;
+    });
+    if (imported == sources.end()) continue;
+    if (std::string url = ImportedUrl(*child, source); !url.empty()) replaced[url] = FileUrl(imported->file);
+  }
+}
+
 /// libxml2 says little of a schema that cannot be read, and nothing of one for another namespace.
-void CheckSource(const SchemaSource& source) {
+void CheckSource(const SchemaSource& source, const std::vector<SchemaSource>& sources,
+                 std::map<std::string, std::string>& replaced) {
   CProblems problems;
   const std::shared_ptr<const CXmlTree> tree = ParseXmlFile(source.file, problems);
   if (tree == nullptr) ThrowSchemaError(source.file.native(), problems.Take().front());
   RequireNamespace(source.file.native(), std::string(AttributeOf(*tree->Root(), "targetNamespace")),
                    source.targetNamespace);
+  ReplaceImports(*tree->Root(), source, sources, replaced);
 }
 
 struct Validation {
@@ -124,8 +153,9 @@ void CollectInvalidity(void* data, xmlErrorPtr error) {
 }  // namespace
 
 CSchemaSet::CSchemaSet(const std::vector<SchemaSource>& sources) : m_sources(sources) {
-  for (const SchemaSource& source : sources) CheckSource(source);
-  CSchemaLoader loader;
+  std::map<std::string, std::string> replaced;
+  for (const SchemaSource& source : sources) CheckSource(source, sources, replaced);
+  CSchemaLoader loader(std::move(replaced));
   const CMemoryWatch watch;
   const CThreadErrors otherErrors(CSchemaLoader::ReportError, nullptr);
   const std::string driver = JoiningSchema(sources);

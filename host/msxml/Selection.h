@@ -24,8 +24,9 @@ std::optional<Prefixes> ParsePrefixes(std::string_view declarations);
 /// A path of child steps such as `p:A/p:B` or `p:*`, as nearly all are. It is answered from the children alone.
 class CChildPath {
  public:
-  /// Takes an expression apart; nothing when it is something else, has more steps than the library's paths or names
-  /// that are not plain. \param prefixes must live as long as the path
+  /// Takes an expression apart.
+  /// \param prefixes must live as long as the path
+  /// \return nothing when it is not such a path, has more steps than the library's own, or has a name that is not plain
   static std::optional<CChildPath> Parse(std::string_view xpath, const Prefixes& prefixes);
 
   /// Adds what it finds from an element or the document to the list, in document order.

@@ -38,7 +38,8 @@ class CTreeBuilder {
 
   // Each of these throws std::bad_alloc.
 
-  /// Opens an element. \return the element, whose `_private` is for the caller to use
+  /// Opens an element.
+  /// \return the element, whose `_private` is the caller's to use
   xmlNode& StartElement(const StartTag& tag);
   void EndElement();
   void AddText(std::string_view text);

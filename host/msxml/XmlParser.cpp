@@ -221,6 +221,8 @@ void RefuseDocumentType(void* data, const xmlChar* name, const xmlChar*, const x
 void ReportError(void* data, xmlErrorPtr error) {
   const auto& context = *static_cast<xmlParserCtxt*>(data);
   if (RunOf(context).isStopped && error->code != XML_ERR_NO_MEMORY) return;
+  // A namespace is a name, whether or not it has the form of a URI.
+  if (error->code == XML_WAR_NS_URI) return;
   const std::string_view element = context.node != nullptr ? View(context.node->name) : std::string_view();
   // What concerns the decoding knows no line of its own.
   const int line = error->line > 0 || context.input == nullptr ? error->line : context.input->line;
@@ -276,7 +278,7 @@ std::shared_ptr<const CXmlTree> ParseXmlFile(const std::filesystem::path& path, 
   if (source.guard.HasTripped()) {
     problems.Add(source.guard.Line(), 0, {}, TooManyAttributesReason());
   }
-  const bool isSound = document != nullptr && context->wellFormed == 1 && context->nsWellFormed == 1;
+  const bool isSound = document != nullptr && context->wellFormed == 1;
   // The parser takes a NUL for the end.
   if (isSound && context->input != nullptr && context->input->cur < context->input->end) {
     problems.Add(static_cast<std::size_t>(std::max(context->input->line, 0)), 0, {}, kNulReason);

@@ -6,8 +6,13 @@
 #include "msxml6/DocumentLoader.h"
 #include "msxml6/MsXmlIds.h"
 
+#include <algorithm>
+#include <filesystem>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace msxml6 {
 
@@ -23,32 +28,91 @@ VARIANT ObjectVariant(IDispatch& object) {
   return variant;
 }
 
-std::wstring TargetNamespace(IXMLDOMDocument2& schema) {
-  CComPointer<IXMLDOMElement> root;
-  RequireSuccess(schema.get_documentElement(root.Receive()), schema, IID_IXMLDOMDocument2);
+/// Empty when there is no such attribute.
+std::wstring Attribute(IXMLDOMElement& element, const wchar_t* name) {
   CVariant value;
-  const HRESULT result = root->getAttribute(CBstr(L"targetNamespace").get(), value.Receive());
+  const HRESULT result = element.getAttribute(CBstr(name).get(), value.Receive());
   return result == S_OK ? std::wstring(value.Text()) : std::wstring();
 }
 
-/// Whether it has parts in other files. They cannot be found from a schema that MSXML did not read from a file itself,
-/// and that it could have read from anywhere.
-bool RefersToFiles(IXMLDOMDocument2& schema) {
-  constexpr const wchar_t* xpath =
-      L"//*[namespace-uri()='http://www.w3.org/2001/XMLSchema' and @schemaLocation and "
-      L"(local-name()='include' or local-name()='import' or local-name()='redefine')]";
-  DOMNodePtr found;
-  RequireSuccess(schema.selectSingleNode(CBstr(xpath).get(), found.Receive()), schema, IID_IXMLDOMDocument2);
-  return static_cast<bool>(found);
+std::wstring TargetNamespace(IXMLDOMDocument2& schema) {
+  DOMElementPtr root;
+  RequireSuccess(schema.get_documentElement(root.Receive()), schema, IID_IXMLDOMDocument2);
+  return Attribute(*root, L"targetNamespace");
 }
 
-DOMDocument2Ptr LoadSchema(const SchemaSource& source) {
-  DOMDocument2Ptr schema = MakeDocument();
+std::wstring FileUrl(const std::filesystem::path& file) {
+  constexpr std::string_view hex = "0123456789ABCDEF";
+  constexpr std::string_view plain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/:";
+  std::string url = "file:///";
+  for (const char c : Utf16ToUtf8(std::filesystem::absolute(file).generic_wstring())) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (plain.find(c) != std::string_view::npos) {
+      url += c;
+    } else {
+      url.append(1, '%').append(1, hex[byte / 16]).append(1, hex[byte % 16]);
+    }
+  }
+  return Utf8ToUtf16(url);
+}
+
+/// An import of a namespace that another schema of the set describes.
+struct Import {
+  DOMElementPtr element;
+  std::wstring url;  ///< of that schema's file
+};
+
+/// One schema of a set, ready to be compiled.
+struct LoadedSchema {
+  const SchemaSource* source;
+  std::string file;  ///< its name
+  DOMDocument2Ptr document;
+  std::vector<Import> imports;
+};
+
+/// The other schema of the set whose namespace is imported; null when this imports something else or nothing.
+const SchemaSource* FindImported(IXMLDOMElement& reference, const SchemaSource& from,
+                                 const std::vector<SchemaSource>& sources) {
+  CBstr kind;
+  RequireSuccess(reference.get_baseName(kind.Receive()), reference, IID_IXMLDOMNode);
+  if (kind.View() != L"import") return nullptr;
+  const std::wstring uri = Attribute(reference, L"namespace");
+  const auto found = std::find_if(sources.begin(), sources.end(), [&](const SchemaSource& source) {
+    return &source != &from && source.targetNamespace == uri;
+  });
+  return found != sources.end() ? &*found : nullptr;
+}
+
+/// Finds the imports of a schema. Where an import says that its schema is does not matter if the set has one: that is
+/// the one to use.
+/// \throws CZoDOMDocException when it has parts in files that are not of the set, which MSXML is not to open
+void FindImports(LoadedSchema& schema, const std::vector<SchemaSource>& sources) {
+  constexpr const wchar_t* xpath =
+      L"//*[namespace-uri()='http://www.w3.org/2001/XMLSchema' and "
+      L"(local-name()='include' or local-name()='import' or local-name()='redefine')]";
+  DOMNodeListPtr references;
+  RequireSuccess(schema.document->selectNodes(CBstr(xpath).get(), references.Receive()), *schema.document,
+                 IID_IXMLDOMDocument2);
+  DOMNodePtr node;
+  while (references->nextNode(node.Receive()) == S_OK) {
+    DOMElementPtr element;
+    RequireSuccess(node->QueryInterface(IID_IXMLDOMElement, reinterpret_cast<void**>(element.Receive())), *node,
+                   IID_IXMLDOMNode);
+    if (const SchemaSource* imported = FindImported(*element, *schema.source, sources); imported != nullptr) {
+      schema.imports.push_back({std::move(element), FileUrl(imported->file)});
+    } else if (!Attribute(*element, L"schemaLocation").empty()) {
+      ThrowSchemaError(schema.file + ": it has parts in other files, which is not supported here");
+    }
+    node = nullptr;
+  }
+}
+
+LoadedSchema LoadSchema(const SchemaSource& source, const std::vector<SchemaSource>& sources) {
+  LoadedSchema schema{&source, Utf16ToUtf8(PathToLosslessWide(source.file)), MakeDocument(), {}};
   msxml::CProblems problems;
-  const std::string file = Utf16ToUtf8(PathToLosslessWide(source.file));
-  if (!LoadFile(*schema, source.file, problems)) ThrowSchemaError(file, problems.Take().front());
-  RequireNamespace(file, Utf16ToUtf8(TargetNamespace(*schema)), Utf16ToUtf8(source.targetNamespace));
-  if (RefersToFiles(*schema)) ThrowSchemaError(file + ": it has parts in other files, which is not supported here");
+  if (!LoadFile(*schema.document, source.file, problems)) ThrowSchemaError(schema.file, problems.Take().front());
+  RequireNamespace(schema.file, Utf16ToUtf8(TargetNamespace(*schema.document)), Utf16ToUtf8(source.targetNamespace));
+  FindImports(schema, sources);
   return schema;
 }
 
@@ -60,20 +124,48 @@ std::string LastErrorText() {
   return description.View().empty() ? std::string("it is not valid as a schema") : Utf16ToUtf8(description.View());
 }
 
+bool TryToAdd(const LoadedSchema& schema, IXMLDOMSchemaCollection& schemas) {
+  SetErrorInfo(0, nullptr);  // what failed before is of no interest
+  const CBstr uri(schema.source->targetNamespace);
+  return SUCCEEDED(schemas.add(uri.get(), ObjectVariant(*schema.document)));
+}
+
+/// Adds a schema. Some versions of MSXML compile each schema on its own and need the location of what it imports;
+/// others know only the schemas added before, by their namespaces. So this tries both.
+bool Add(const LoadedSchema& schema, IXMLDOMSchemaCollection& schemas) {
+  const CBstr name(L"schemaLocation");
+  for (const Import& import : schema.imports) {
+    const CVariant location{CBstr(import.url)};
+    RequireSuccess(import.element->setAttribute(name.get(), location.get()), *import.element, IID_IXMLDOMElement);
+  }
+  if (TryToAdd(schema, schemas)) return true;
+  if (schema.imports.empty()) return false;
+  for (const Import& import : schema.imports) {
+    RequireSuccess(import.element->removeAttribute(name.get()), *import.element, IID_IXMLDOMElement);
+  }
+  return TryToAdd(schema, schemas);
+}
+
+/// Adds all schemas, imported ones before those that import them.
+void AddAll(std::vector<LoadedSchema> pending, IXMLDOMSchemaCollection& schemas) {
+  while (!pending.empty()) {
+    const std::size_t before = pending.size();
+    std::erase_if(pending, [&](const LoadedSchema& schema) { return Add(schema, schemas); });
+    if (pending.size() < before) continue;
+    static_cast<void>(Add(pending.front(), schemas));  // so that the last error is its own
+    ThrowSchemaError(pending.front().file + ": " + LastErrorText());
+  }
+}
+
 SchemaCollectionPtr LoadSchemas(const std::vector<SchemaSource>& sources) {
   SchemaCollectionPtr schemas;
   void** place = reinterpret_cast<void**>(schemas.Receive());
   const HRESULT result =
       CoCreateInstance(kSchemaCacheClass, nullptr, CLSCTX_INPROC_SERVER, kSchemaCollectionInterface, place);
   if (FAILED(result)) _com_issue_errorex(result, nullptr, kSchemaCollectionInterface);
-  for (const SchemaSource& source : sources) {
-    const DOMDocument2Ptr schema = LoadSchema(source);
-    const CBstr uri(source.targetNamespace);
-    SetErrorInfo(0, nullptr);  // what failed before is of no interest
-    if (FAILED(schemas->add(uri.get(), ObjectVariant(*schema.GetInterfacePtr())))) {
-      ThrowSchemaError(Utf16ToUtf8(PathToLosslessWide(source.file)) + ": " + LastErrorText());
-    }
-  }
+  std::vector<LoadedSchema> loaded;
+  for (const SchemaSource& source : sources) loaded.push_back(LoadSchema(source, sources));
+  AddAll(std::move(loaded), *schemas);
   return schemas;
 }
 

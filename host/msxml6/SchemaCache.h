@@ -18,7 +18,7 @@ struct SchemaSource {
 
 /// Adds the reason why the document is not valid.
 /// \throws CZoDOMDocException "Couldn't load the schema <file>: <reason>" when one is missing, is no schema, is for
-///   another namespace, or refers to another file
+///   another namespace, or refers to a file that is not of the set
 /// \throws _com_error
 void Validate(IXMLDOMDocument2& document, const std::vector<SchemaSource>& sources, msxml::CProblems& problems);
 

@@ -29,8 +29,8 @@ struct TagScan {
 
 /// Looks through a file for what MSXML is not to see, would take too long for or does not always find, names whose
 /// prefix is not declared, and for where its elements stand. It knows just enough of XML to find the tags of a
-/// well-formed file; whether it is well-formed is for others to say. \param problems receives the reason when the file
-/// goes beyond the bounds or its prefixes are not right
+/// well-formed file and does not check whether it is one.
+/// \param problems receives the reason when the file goes beyond the bounds or its prefixes are not right
 TagScan ScanTags(const FileText& file, msxml::CProblems& problems);
 
 }  // namespace msxml6

@@ -169,7 +169,9 @@ TEST(CheckFailure, OneFileThatCannotBeReadFailsAll) {
   ExpectFailure(Check({Example("gan-charger-65w.txt"), "/nonexistent/a.txt"}), "/nonexistent/a.txt");
 }
 
-TEST(CheckFailure, AnUnknownFormat) { ExpectFailure(Check({"--format", "csv", "a.txt"}), "csv not in {text,json,sarif}"); }
+TEST(CheckFailure, AnUnknownFormat) {
+  ExpectFailure(Check({"--format", "csv", "a.txt"}), "csv not in {text,json,sarif}");
+}
 
 TEST(CheckFailure, NoFile) { ExpectFailure(Check({}), "FILE is required"); }
 

@@ -55,7 +55,8 @@ std::string DocumentOf(const std::string& file, const CVendorInfoFile& vif) {
   return text + "\n]}\n";
 }
 
-/// Lists a file with that content and compares the output. \return the number of fields
+/// Lists a file with that content and compares the output.
+/// \return the number of fields
 std::size_t CheckListed(const TempDir& dir, const std::string& name, const std::string& content) {
   const std::string file = dir.Write(name, content).string();
   const testsupport::ProgramResult result = testsupport::Vif({"list", "--format", "json", file});

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -54,12 +55,16 @@ void ExpectShown(const std::vector<std::string>& shown, const Transcript& transc
   EXPECT_EQ(shown, told) << "$ " << transcript.command;
 }
 
-TEST(Transcripts, OfTheCommandMatchItsOutput) {
-  const std::vector<Transcript> transcripts = ReadTranscripts(std::string(VIF_DOCS) + "/command.md");
-  EXPECT_GE(transcripts.size(), 6U);
+void ExpectAllShown(const std::string& path, std::size_t atLeast) {
+  const std::vector<Transcript> transcripts = ReadTranscripts(path);
+  EXPECT_GE(transcripts.size(), atLeast);
   for (const Transcript& transcript : transcripts) {
     ExpectShown(testsupport::RunDocumented(transcript.command), transcript);
   }
 }
+
+TEST(Transcripts, OfTheCommandAreTrue) { ExpectAllShown(std::string(VIF_DOCS) + "/command.md", 6); }
+
+TEST(Transcripts, OfTheReadmeAreTrue) { ExpectAllShown(std::string(VIF_DOCS) + "/../README.md", 1); }
 
 }  // namespace

@@ -73,7 +73,10 @@ TEST(FieldDefs, HaveTheReferenceNamesInOrder) {
 TEST(FieldDefs, HaveTheReferenceLocationsInOrder) {
   ASSERT_EQ(GetVifFieldDefs().size(), std::size(kReferenceFields));
   for (size_t i = 0; i < std::size(kReferenceFields); ++i) {
-    EXPECT_TRUE(std::ranges::equal(GetVifFieldDefs()[i].locations, kReferenceFields[i].locations)) << "row " << i + 1;
+    const auto& locations = GetVifFieldDefs()[i].locations;
+    const auto& reference = kReferenceFields[i].locations;
+    EXPECT_TRUE(std::equal(std::begin(locations), std::end(locations), std::begin(reference), std::end(reference)))
+        << "row " << i + 1;
   }
 }
 
@@ -194,7 +197,8 @@ TEST(FieldDefs, AreAppliedByManyThreadsAtOnce) {
 /// Whether the table was built under the classic locale although another one has been the global one since.
 bool IsBuiltUnderTheClassicLocale() {
   std::locale::global(testsupport::Latin1Locale());
-  return std::ranges::all_of(GetVifFieldDefs(), [](const VifFieldDef& definition) {
+  const auto& definitions = GetVifFieldDefs();
+  return std::all_of(definitions.begin(), definitions.end(), [](const VifFieldDef& definition) {
     return definition.pattern.getloc() == std::locale::classic();
   });
 }

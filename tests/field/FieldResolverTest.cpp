@@ -1,18 +1,22 @@
 #include "FieldResolver.h"
 
 #include "ReferenceNames.h"
+#include "RunOnStack.h"
 #include "support/Latin1Locale.h"
 #include "support/RunTimeErrorOf.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <locale>
+#include <optional>
 #include <regex>
 #include <string>
 #include <string_view>
-#include <thread>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -43,18 +47,27 @@ std::string Resolved(const Table* table, std::string_view name, std::uint32_t co
   return Text(resolved);
 }
 
-/// The built-in table in its three guises: as none, as itself, and as a table of the caller's own.
+/// The built-in definitions, compiled once more.
+Table Recompiled() {
+  Table table = VifFieldDefs::GetVifFieldDefs();
+  for (std::size_t i = 0; i < table.size(); ++i) table[i].pattern = kReferenceFields[i].pattern;
+  return table;
+}
+
+/// The built-in table in its guises: as none, as itself, as a copy, and as a table of the caller's own.
 class BuiltInTable : public testing::TestWithParam<const char*> {
  protected:
   std::string Resolve(std::string_view name, std::uint32_t component = kComponent) const {
     static const Table copy = VifFieldDefs::GetVifFieldDefs();
+    static const Table recompiled = Recompiled();
     const std::string guise = GetParam();
-    const Table* table = guise == "None" ? nullptr : guise == "Itself" ? &VifFieldDefs::GetVifFieldDefs() : &copy;
-    return Resolved(table, name, component);
+    if (guise == "None") return Resolved(nullptr, name, component);
+    if (guise == "Itself") return Resolved(&VifFieldDefs::GetVifFieldDefs(), name, component);
+    return Resolved(guise == "Copy" ? &copy : &recompiled, name, component);
   }
 };
 
-INSTANTIATE_TEST_SUITE_P(As, BuiltInTable, testing::Values("None", "Itself", "Copy"),
+INSTANTIATE_TEST_SUITE_P(As, BuiltInTable, testing::Values("None", "Itself", "Copy", "Recompiled"),
                          [](const auto& guise) { return std::string(guise.param); });
 
 TEST_P(BuiltInTable, TakesTheNumberOutOfTheName) {
@@ -361,43 +374,125 @@ TEST(OwnTable, FailsOnAnUnknownLocationInEverySlot) {
   }
 }
 
-/// Resolves a name of a million characters and gives the code of the error in which that must end.
-std::regex_constants::error_type ErrorOnAMillionCharacters(const wchar_t* pattern) {
-  const Table table = {{L"Long", std::wregex(pattern), {}}};
+/// Resolves a name of 100,000 times "a" and `end` by a table of one pattern.
+std::string TextOfLongName(const wchar_t* pattern, const std::string& end = "") {
+  const Table table = {{L"Long", std::wregex(pattern), {eVifLocComponent, eVifLocSrcPdo}}};
+  vif::ResolvedName resolved;
+  vif::CFieldResolver(&table, kComponent).Resolve(std::string(100'000, 'a') + end, resolved);
+  return resolved.isKnown ? Text(resolved) : "unknown";
+}
+
+/// The code of the error in which resolving a long name ends; nothing when it has an answer.
+std::optional<std::regex_constants::error_type> ErrorOnLongName(const wchar_t* pattern) {
   try {
-    return ADD_FAILURE() << Resolved(&table, std::string(1'000'000, 'a')).size(), std::regex_constants::error_type{};
+    TextOfLongName(pattern);
+    return std::nullopt;
   } catch (const std::regex_error& error) {
     return error.code();
   }
 }
 
-TEST(OwnTable, FailsInsteadOfRunningOffTheStack) {
-  EXPECT_EQ(ErrorOnAMillionCharacters(L".*"), std::regex_constants::error_stack);
-  EXPECT_EQ(ErrorOnAMillionCharacters(L"[a-z]*"), std::regex_constants::error_stack);
-  EXPECT_EQ(ErrorOnAMillionCharacters(L"(a|b)*"), std::regex_constants::error_stack);
-  EXPECT_EQ(ErrorOnAMillionCharacters(L"(a)\\1*"), std::regex_constants::error_stack);
-  EXPECT_EQ(ErrorOnAMillionCharacters(L"(?=.*b).*"), std::regex_constants::error_stack);
+void ExpectAnswersOnLongNames() {
+  EXPECT_EQ(TextOfLongName(L".*", "12"), "Long 6.5 7.- -");
+  EXPECT_EQ(TextOfLongName(L"^a*([0-9]*)$", "12"), "Long 6.5 7.12 -");
+  EXPECT_EQ(TextOfLongName(L".*([0-9]+)", "12"), "Long 6.5 7.2 -");
+  EXPECT_EQ(TextOfLongName(L"(?:a|b)*?([0-9]+)", "12"), "Long 6.5 7.12 -");
+  EXPECT_EQ(TextOfLongName(L"[a-z]*", "12"), "unknown");
+  EXPECT_EQ(TextOfLongName(L"a*b", ""), "unknown");
 }
 
-TEST(OwnTable, FailsOnAPatternThatGoesDeepWithoutReadingAnything) {
-  const std::vector<VifFieldDef> table = {{L"Deep", std::wregex(L"(?:()+){9000}Abc"), {}}};
-  vif::ResolvedName result;
-  EXPECT_THROW(vif::CFieldResolver(&table, 1).Resolve("Abc", result), std::regex_error);
+#if defined(__GLIBCXX__)
+
+TEST(OwnTable, ResolvesLongNames) { ExpectAnswersOnLongNames(); }
+
+TEST(OwnTable, ResolvesLongNamesOnASmallStack) { testsupport::RunOnSmallStack(ExpectAnswersOnLongNames); }
+
+#endif
+
+TEST(OwnTable, FailsOnLongNamesWhereAPatternRefersBackOnASmallStack) {
+  testsupport::RunOnSmallStack([] { EXPECT_EQ(ErrorOnLongName(L"(a)\\1*"), std::regex_constants::error_stack); });
 }
 
-TEST(OwnTable, FailsInAThreadInsteadOfRunningOffItsStack) {
-  std::regex_constants::error_type code{};
-  std::thread([&] { code = ErrorOnAMillionCharacters(L".*"); }).join();
-  EXPECT_EQ(code, std::regex_constants::error_stack);
+TEST(OwnTable, RefersBackAsFarAsTheStackGoes) {
+  const Table table = {{L"Twice", std::wregex(L"(a)\\1.*"), {}}};
+  testsupport::RunOnStack(testsupport::kOrdinaryStack,
+                          [&] { EXPECT_EQ(Resolved(&table, std::string(3000, 'a')), "Twice - - -"); });
+}
+
+TEST(OwnTable, EndsOnAPatternThatGoesDeepWithoutReadingAnything) {
+  const std::wregex deep(L"(?:()+){9000}Abc");
+  for (const std::size_t stack : {testsupport::kSmallStack, testsupport::kOrdinaryStack}) {
+    testsupport::RunOnStack(stack, [&] {
+      const Table table = {{L"Deep", deep, {}}};
+      try {
+        EXPECT_EQ(Resolved(&table, "Abc"), "Deep - - -");
+      } catch (const std::regex_error& error) {
+        EXPECT_EQ(error.code(), std::regex_constants::error_stack);
+      }
+    });
+  }
 }
 
 TEST(OwnTable, IsStillOfUseAfterSuchAFailure) {
-  const Table table = {{L"Long", std::wregex(L".*"), {}}};
+  const Table table = {{L"Long", std::wregex(L"(.)\\1.*"), {}}};
   const vif::CFieldResolver resolver(&table, kComponent);
   vif::ResolvedName resolved;
   EXPECT_THROW(resolver.Resolve(std::string(1'000'000, 'a'), resolved), std::regex_error);
   resolver.Resolve("short", resolved);
+  EXPECT_FALSE(resolved.isKnown);
+  resolver.Resolve("ssshort", resolved);
   EXPECT_EQ(Text(resolved), "Long - - -");
+}
+
+// Tables with copies of built-in definitions
+
+TEST(CopiedTable, ResolvesLongNames) {
+  const Table table = VifFieldDefs::GetVifFieldDefs();
+  testsupport::RunOnSmallStack([&] {
+    const std::string digits = std::string(100'000, '0') + "7";
+    EXPECT_EQ(Resolved(&table, "Src_PDO_Voltage" + digits), Resolved(nullptr, "Src_PDO_Voltage7"));
+    const std::string unknown(100'000, 'S');
+    EXPECT_EQ(Resolved(&table, unknown), Resolved(nullptr, unknown));
+  });
+}
+
+TEST(CopiedTable, MayGiveItsDefinitionsOtherNamesAndPlaces) {
+  Table table = VifFieldDefs::GetVifFieldDefs();
+  for (VifFieldDef& definition : table) {
+    definition.name = L"Other";
+    definition.locations = {eVifLocProduct, eVifLocRouter, eVifLocSrcPdo};
+  }
+  EXPECT_EQ(Resolved(&table, "Src_PDO_Voltage7"), "Other 3.0 4.7 7.7");
+  EXPECT_EQ(Resolved(&table, "TID"), "Other 3.0 4.- 7.-");
+}
+
+TEST(CopiedTable, MayHaveOtherPatternsUnderTheOldNames) {
+  Table table = VifFieldDefs::GetVifFieldDefs();
+  table.front().pattern = L"Mine";
+  table.back().pattern.assign(L"TID");
+  EXPECT_EQ(Resolved(&table, "Mine"), "VIF_Specification 1.0 - -");
+  EXPECT_EQ(Resolved(&table, "VIF_Specification"), "?VIF_Specification - - -");
+  EXPECT_EQ(Resolved(&table, "TID"), Resolved(nullptr, "TID"));
+  std::swap(table[0].pattern, table[1].pattern);
+  EXPECT_EQ(Resolved(&table, "VIF_Producer"), "VIF_Specification 1.0 - -");
+  table[5].pattern.imbue(std::locale::classic());  // which empties it
+  EXPECT_EQ(Resolved(&table, "TID"), "Active_Cable_Shutdown_Temp_Support 6.5 - -");
+}
+
+TEST(CopiedTable, IsTriedInItsOwnOrder) {
+  Table table = VifFieldDefs::GetVifFieldDefs();
+  table.insert(table.begin() + 100, {L"Mine", std::wregex(L"(?:TID|Src_PDO_Voltage1|Active_.*)"), {}});
+  EXPECT_EQ(Resolved(&table, "TID"), Resolved(nullptr, "TID"));
+  EXPECT_EQ(Resolved(&table, "Active_Cable_Shutdown_Temp_Support"), "Mine - - -");
+  table.insert(table.begin(), {L"First", std::wregex(L"T.*"), {}});
+  EXPECT_EQ(Resolved(&table, "TID"), "First - - -");
+}
+
+TEST(CopiedTable, TakesTheFirstOfSeveralCopies) {
+  const VifFieldDef tid = VifFieldDefs::GetVifFieldDefs()[5];
+  Table table = {tid, tid, tid};
+  table[0].name = L"One";
+  EXPECT_EQ(Resolved(&table, "TID"), "One 1.0 - -");
 }
 
 }  // namespace

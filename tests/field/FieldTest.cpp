@@ -29,7 +29,7 @@ using testsupport::RunTimeErrorOf;
 using Slots = std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>;
 
 constexpr VifIndex kUnused = CVIFField::UNSPECIFIED_INDEX;
-constexpr std::size_t kAnyNumber = CVIFField::INDEX_NOT_SPECIFIED;
+constexpr VifIndexNumber kAnyNumber = CVIFField::INDEX_NOT_SPECIFIED;
 constexpr std::uint64_t kUnset64 = CVIFField::VIF_VALUE_UNSET_64;
 constexpr std::uint32_t kUnset32 = CVIFField::VIF_VALUE_UNSET;
 
@@ -39,14 +39,14 @@ static_assert(CVIFField::UNSPECIFIED_INDEX == VifIndex{eVifLocUnset, 0xFFFFFFFFF
 static_assert(CVIFField::VIF_VALUE_UNSET_64 == 0xFFFFFFFFFFFFFFFF);
 static_assert(CVIFField::VIF_VALUE_UNSET == 0xFFFFFFFF);
 static_assert(std::is_same_v<decltype(CVIFField::MAX_INDEX_DEPTH), const std::size_t>);
-static_assert(std::is_same_v<decltype(CVIFField::INDEX_NOT_SPECIFIED), const std::size_t>);
+static_assert(std::is_same_v<decltype(CVIFField::INDEX_NOT_SPECIFIED), const VifIndexNumber>);
 static_assert(std::is_same_v<decltype(CVIFField::UNSPECIFIED_INDEX), const VifIndex>);
 static_assert(std::is_same_v<decltype(CVIFField::VIF_VALUE_UNSET_64), const std::uint64_t>);
 static_assert(std::is_same_v<decltype(CVIFField::VIF_VALUE_UNSET), const std::uint32_t>);
 static_assert(std::is_same_v<VifIndex, std::tuple<EVifLocation, std::uint64_t>>);
 
 // ComponentIndex is the one accessor that a constant field does not have.
-static_assert(std::is_invocable_r_v<std::size_t, decltype(&CVIFField::ComponentIndex), CVIFField&>);
+static_assert(std::is_invocable_r_v<VifIndexNumber, decltype(&CVIFField::ComponentIndex), CVIFField&>);
 static_assert(!std::is_invocable_v<decltype(&CVIFField::ComponentIndex), const CVIFField&>);
 static_assert(requires(const CVIFField& field, const Slots& query) {
   field.Name();

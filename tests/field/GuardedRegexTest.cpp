@@ -29,6 +29,13 @@ using vif::GuardedMatch;
 using vif::GuardedRegexMatch;
 using vif::MatchBudget;
 
+/// A match by the recursive engine alone, with the usual budget.
+template <typename Char>
+bool RecursiveMatch(std::basic_string_view<Char> text, GuardedMatch<Char>& match,
+                    const std::basic_regex<Char>& expression) {
+  return GuardedRegexMatch(text, match, expression, {testsupport::RecursionLimit(), vif::kMatchStepBudget});
+}
+
 // For narrow and wide text alike
 
 template <typename Char>
@@ -69,9 +76,9 @@ TYPED_TEST_SUITE(GuardedRegex, CharacterTypes);
 TYPED_TEST(GuardedRegex, MatchesTheWholeText) {
   const std::basic_regex<TypeParam> expression(Converted<TypeParam>("a+"));
   GuardedMatch<TypeParam> match;
-  EXPECT_TRUE(GuardedRegexMatch<TypeParam>(Converted<TypeParam>("aaa"), match, expression));
-  EXPECT_FALSE(GuardedRegexMatch<TypeParam>(Converted<TypeParam>("aab"), match, expression));
-  EXPECT_FALSE(GuardedRegexMatch<TypeParam>({}, match, expression));
+  EXPECT_TRUE(RecursiveMatch<TypeParam>(Converted<TypeParam>("aaa"), match, expression));
+  EXPECT_FALSE(RecursiveMatch<TypeParam>(Converted<TypeParam>("aab"), match, expression));
+  EXPECT_FALSE(RecursiveMatch<TypeParam>({}, match, expression));
 }
 
 TYPED_TEST(GuardedRegex, AgreesWithTheUnguardedMatch) {
@@ -85,7 +92,7 @@ TYPED_TEST(GuardedRegex, AgreesWithTheUnguardedMatch) {
       const std::basic_string<TypeParam> text = Converted<TypeParam>(subject);
       GuardedMatch<TypeParam> match;
       std::match_results<typename std::basic_string<TypeParam>::const_iterator> expected;
-      ASSERT_EQ(GuardedRegexMatch<TypeParam>(text, match, *expression), std::regex_match(text, expected, *expression))
+      ASSERT_EQ(RecursiveMatch<TypeParam>(text, match, *expression), std::regex_match(text, expected, *expression))
           << reference::Shown(pattern) << " on " << reference::Shown(subject);
       ASSERT_EQ(Captures(match), Captures(expected))
           << reference::Shown(pattern) << " on " << reference::Shown(subject);
@@ -96,7 +103,7 @@ TYPED_TEST(GuardedRegex, AgreesWithTheUnguardedMatch) {
 TYPED_TEST(GuardedRegex, TakesNamesOfAnyLikelyLength) {
   const std::basic_regex<TypeParam> expression(Converted<TypeParam>(".*"));
   GuardedMatch<TypeParam> match;
-  EXPECT_TRUE(GuardedRegexMatch<TypeParam>(std::basic_string<TypeParam>(100, 'a'), match, expression));
+  EXPECT_TRUE(RecursiveMatch<TypeParam>(std::basic_string<TypeParam>(100, 'a'), match, expression));
 }
 
 TYPED_TEST(GuardedRegex, FailsInsteadOfRunningOffTheStack) {
@@ -104,7 +111,7 @@ TYPED_TEST(GuardedRegex, FailsInsteadOfRunningOffTheStack) {
   for (const std::string& pattern : {".*"s, "[a-z]*"s, "(a|b)*"s, "(a)\\1*"s, "(?=.*b).*"s, ".*b"s, "(.*)*"s}) {
     const std::basic_regex<TypeParam> expression(Converted<TypeParam>(pattern));
     GuardedMatch<TypeParam> match;
-    const RegexOutcome outcome = RegexOutcomeOf([&] { return GuardedRegexMatch<TypeParam>(text, match, expression); });
+    const RegexOutcome outcome = RegexOutcomeOf([&] { return RecursiveMatch<TypeParam>(text, match, expression); });
     EXPECT_FALSE(outcome.answer.has_value()) << pattern;
     EXPECT_EQ(outcome.error, std::regex_constants::error_stack) << pattern;
   }
@@ -132,7 +139,7 @@ TEST(GuardedRegexMatch, TellsWhereTheGroupsAre) {
   const std::string text = "Src_PDO_12";
   const std::regex expression("(\\w+?)_([A-Z]+)_(\\d+)(x)?");
   GuardedMatch<char> match;
-  ASSERT_TRUE(GuardedRegexMatch(std::string_view(text), match, expression));
+  ASSERT_TRUE(RecursiveMatch(std::string_view(text), match, expression));
   ASSERT_EQ(match.size(), 5U);
   EXPECT_EQ(std::string(match[1].first.Position(), match[1].second.Position()), "Src");
   EXPECT_EQ(std::string(match[2].first.Position(), match[2].second.Position()), "PDO");
@@ -144,9 +151,9 @@ TEST(GuardedRegexMatch, TellsWhereTheGroupsAre) {
 TEST(GuardedRegexMatch, MatchesWideText) {
   const std::wregex expression(L"Ger(\u00E4|ae)t.*");
   GuardedMatch<wchar_t> match;
-  EXPECT_TRUE(GuardedRegexMatch(std::wstring_view(L"Ger\u00E4t 1"), match, expression));
+  EXPECT_TRUE(RecursiveMatch(std::wstring_view(L"Ger\u00E4t 1"), match, expression));
   EXPECT_EQ(match[1].first.Position()[0], L'\u00E4');
-  EXPECT_FALSE(GuardedRegexMatch(std::wstring_view(L"Gerat"), match, expression));
+  EXPECT_FALSE(RecursiveMatch(std::wstring_view(L"Gerat"), match, expression));
 }
 
 TEST(GuardedRegexMatch, EndsForWantOfTimeOnTextThatTakesTooManySteps) {
@@ -176,8 +183,8 @@ TEST(GuardedRegexMatch, HasTheWholeBudgetEveryTime) {
   const std::string easy = "aaaax";
   GuardedMatch<char> match;
   for (int i = 0; i < 3; ++i) {
-    EXPECT_NE(RegexOutcomeOf([&] { return GuardedRegexMatch<char>(difficult, match, expression); }).answer, true);
-    EXPECT_TRUE(GuardedRegexMatch<char>(easy, match, expression));
+    EXPECT_NE(RegexOutcomeOf([&] { return RecursiveMatch<char>(difficult, match, expression); }).answer, true);
+    EXPECT_TRUE(RecursiveMatch<char>(easy, match, expression));
   }
 }
 

@@ -5,6 +5,8 @@
 #include "GuardedRegex.h"
 #include "NamePattern.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <optional>
 #include <regex>
 #include <string>
@@ -16,7 +18,7 @@ namespace testsupport {
 constexpr auto kNameSyntax = std::regex_constants::ECMAScript | std::regex_constants::icase;
 
 /// Whether the standard library has a way to match names of any length.
-constexpr bool kHasStepwise = VIF_REGEX_STEPWISE != std::regex_constants::syntax_option_type{};
+constexpr bool kHasStepwise = vif::kHasStepwiseEngine;
 
 /// An answer, or the code of the error that takes its place.
 struct RegexOutcome {
@@ -37,10 +39,16 @@ RegexOutcome RegexOutcomeOf(const Match& match) {
   }
 }
 
+/// How far down the recursive engine goes where another can take over.
+inline std::uintptr_t RecursionLimit() {
+  return std::max(vif::LowestFrame(), VIF_FRAME_ADDRESS() - vif::kRecursionBudget);
+}
+
 inline RegexOutcome GuardedOutcome(const std::string& pattern, std::string_view text) {
   return RegexOutcomeOf([&] {
     vif::GuardedMatch<char> match;
-    return vif::GuardedRegexMatch(text, match, std::regex(pattern, kNameSyntax));
+    return vif::GuardedRegexMatch(text, match, std::regex(pattern, kNameSyntax),
+                                  {RecursionLimit(), vif::kMatchStepBudget});
   });
 }
 

@@ -274,4 +274,70 @@ TEST(ResolverDifferential, AgreesOnRandomBytes) {
   }
 }
 
+/// A definition of a random field, its pattern a copy of the built-in one or compiled once more, and the same compiled
+/// once more in any case.
+struct DefinitionPair {
+  VifFieldDef maybeCopied;
+  VifFieldDef recompiled;
+};
+
+DefinitionPair RandomDefinition(std::mt19937_64& generator, const std::vector<size_t>& fields) {
+  static const std::vector<VifFieldDef> recompiled = [] {
+    std::vector<VifFieldDef> table = VifFieldDefs::GetVifFieldDefs();
+    for (size_t i = 0; i < table.size(); ++i) table[i].pattern = kReferenceFields[i].pattern;
+    return table;
+  }();
+  constexpr const wchar_t* names[] = {L"Other", nullptr, L"Src_PDO_Voltage"};
+  const size_t field = fields[testsupport::RandomBelow(generator, fields.size())];
+  DefinitionPair pair = {VifFieldDefs::GetVifFieldDefs()[field], recompiled[field]};
+  if (testsupport::RandomBelow(generator, 3) == 0) pair.maybeCopied.pattern = pair.recompiled.pattern;
+  if (testsupport::RandomBelow(generator, 3) == 0) {
+    pair.maybeCopied.name = names[testsupport::RandomBelow(generator, std::size(names))];
+  }
+  if (testsupport::RandomBelow(generator, 3) == 0) {
+    for (EVifLocation& location : pair.maybeCopied.locations) {
+      location = static_cast<EVifLocation>(testsupport::RandomBelow(generator, 13));
+    }
+  }
+  if (testsupport::RandomBelow(generator, 8) == 0) {
+    pair.maybeCopied.pattern = L"S.*([0-9])([0-9])?.*";
+    pair.recompiled.pattern = L"S.*([0-9])([0-9])?.*";
+  }
+  pair.recompiled.name = pair.maybeCopied.name;
+  pair.recompiled.locations = pair.maybeCopied.locations;
+  return pair;
+}
+
+TEST(ResolverDifferential, CopiesOfBuiltInDefinitionsDoWhatTheirPatternsSay) {
+  SCOPED_TRACE(testsupport::SeedMessage());
+  std::mt19937_64 generator = testsupport::SeededGenerator();
+  size_t known = 0;
+  for (int i = 0; i < 300; ++i) {
+    std::vector<size_t> fields;  // a few, so that some are there more than once
+    while (fields.size() < 12) fields.push_back(testsupport::RandomBelow(generator, std::size(kReferenceFields)));
+    std::vector<VifFieldDef> copied;
+    std::vector<VifFieldDef> recompiled;
+    for (size_t count = testsupport::RandomBelow(generator, 25); count > 0; --count) {
+      const DefinitionPair pair = RandomDefinition(generator, fields);
+      copied.push_back(pair.maybeCopied);
+      recompiled.push_back(pair.recompiled);
+    }
+    const vif::CFieldResolver byCopies(&copied, kComponent);
+    const vif::CFieldResolver byPatterns(&recompiled, kComponent);
+    vif::ResolvedName actual;
+    vif::ResolvedName expected;
+    for (int j = 0; j < 60; ++j) {
+      const std::vector<std::string> names =
+          reference::NamesOf(kReferenceFields[fields[testsupport::RandomBelow(generator, fields.size())]]);
+      const std::string& name = names[testsupport::RandomBelow(generator, names.size())];
+      byCopies.Resolve(name, actual);
+      byPatterns.Resolve(name, expected);
+      ASSERT_TRUE(IsSame(actual, expected)) << name << " is " << Shown(actual) << " instead of " << Shown(expected);
+      ASSERT_EQ(byCopies.Knows(name), actual.isKnown);
+      known += actual.isKnown ? 1U : 0U;
+    }
+  }
+  EXPECT_GT(known, 5000U);
+}
+
 }  // namespace

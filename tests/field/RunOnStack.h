@@ -5,9 +5,14 @@
 #include <exception>
 #include <functional>
 #include <system_error>
-#include <thread>
 
-#ifndef _WIN32
+#ifdef _WIN32
+#include <windows.h>
+
+#include <process.h>
+#include <cerrno>
+#include <cstdint>
+#else
 #include <pthread.h>
 #endif
 
@@ -25,32 +30,39 @@ constexpr bool kIsThreadSanitized = true;
 constexpr bool kIsThreadSanitized = false;
 #endif
 
-// A stack as small as a host's threads may have. Without optimisation, and with sanitizers, stack frames are several
-// times as large as those of a delivered library.
-#if defined(NDEBUG) && !defined(__SANITIZE_ADDRESS__) && !VIF_TEST_HAS_FEATURE(address_sanitizer)
-constexpr std::size_t kSmallStack = kIsThreadSanitized ? 8 * 1024 * 1024 : 512 * 1024;
-#else
-constexpr std::size_t kSmallStack = 8 * 1024 * 1024;
-#endif
+/// A stack as small as a host's threads may have.
+constexpr std::size_t kSmallStack = std::size_t{256} * 1024;
 
-/// Runs the action in a thread with a stack of so many bytes, or of the system's usual size where a thread's stack
-/// cannot be chosen, and waits for it. Exceptions of the action pass.
-inline void RunOnStack([[maybe_unused]] std::size_t bytes, const std::function<void()>& action) {
+/// The stack that most systems give a program.
+constexpr std::size_t kOrdinaryStack = std::size_t{8} * 1024 * 1024;
+
+/// Runs the action in a thread with a stack of so many bytes, and waits for it. Exceptions of the action pass.
+inline void RunOnStack(std::size_t bytes, const std::function<void()>& action) {
   struct Task {
     const std::function<void()>& action;
     std::exception_ptr failure;
   } task = {action, nullptr};
-  const auto run = [](void* argument) -> void* {
+#ifdef _WIN32
+  using Result = unsigned;
+#else
+  using Result = void*;
+#endif
+  const auto run = [](void* argument) -> Result {
     auto& started = *static_cast<Task*>(argument);
     try {
       started.action();
     } catch (...) {
       started.failure = std::current_exception();
     }
-    return nullptr;
+    return {};
   };
 #ifdef _WIN32
-  std::thread(run, &task).join();
+  const std::uintptr_t started =
+      _beginthreadex(nullptr, static_cast<unsigned>(bytes), run, &task, STACK_SIZE_PARAM_IS_A_RESERVATION, nullptr);
+  if (started == 0) throw std::system_error(errno, std::generic_category(), "_beginthreadex");
+  auto* const thread = reinterpret_cast<HANDLE>(started);
+  WaitForSingleObject(thread, INFINITE);
+  CloseHandle(thread);
 #else
   pthread_attr_t attributes;
   pthread_attr_init(&attributes);

@@ -1,4 +1,5 @@
 // What the XML interfaces need of COM: texts, variants, errors and the owners of them.
+#include "msxml/ComTypes.h"
 #include "msxml/MsXml.h"
 #include "support/ComErrors.h"
 

@@ -1,4 +1,5 @@
 // Names, values and attributes of nodes, their lifetimes, and wrong arguments.
+#include "msxml/ComTypes.h"
 #include "support/XmlDocument.h"
 
 #include <gmock/gmock.h>

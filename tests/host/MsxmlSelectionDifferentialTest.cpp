@@ -1,5 +1,6 @@
 // Paths of child steps, which are answered from the children, held against the same paths written with explicit axes,
 // which libxml2 answers.
+#include "msxml/ComTypes.h"
 #include "support/Random.h"
 #include "support/XmlDocument.h"
 

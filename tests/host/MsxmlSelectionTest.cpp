@@ -1,4 +1,5 @@
 // What XPath expressions find.
+#include "msxml/ComTypes.h"
 #include "support/XmlDocument.h"
 
 #include <gmock/gmock.h>

@@ -1,4 +1,5 @@
 // The text of elements.
+#include "msxml/ComTypes.h"
 #include "support/Random.h"
 #include "support/XmlDocument.h"
 

@@ -1,6 +1,7 @@
 // Running out of memory in calls on XML documents.
 #pragma once
 
+#include "msxml/ComTypes.h"
 #include "msxml/MsXml.h"
 
 #include <gtest/gtest.h>

@@ -8,7 +8,7 @@ namespace {
 using testsupport::ExpectQueryBearsFailures;
 using testsupport::kUnused;
 
-constexpr std::size_t kAny = CVIFField::INDEX_NOT_SPECIFIED;
+constexpr VifIndexNumber kAny = CVIFField::INDEX_NOT_SPECIFIED;
 
 /// An object with one field with that place, and one elsewhere.
 CVendorInfoFile With(const VifIndex& index1, const VifIndex& index2, const VifIndex& index3) {

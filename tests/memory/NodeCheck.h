@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ComMemory.h"
+#include "msxml/ComTypes.h"
 #include "support/ForEveryFailingAllocation.h"
 #include "support/XmlDocument.h"
 

@@ -1,5 +1,6 @@
 // The calls of the XML interfaces, but for those that select.
 #include "NodeCheck.h"
+#include "msxml/ComTypes.h"
 
 #include <gtest/gtest.h>
 

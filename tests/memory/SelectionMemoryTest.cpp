@@ -1,5 +1,6 @@
 // Selecting nodes: by paths that the library follows itself, and by XPath expressions that libxml2 evaluates.
 #include "NodeCheck.h"
+#include "msxml/ComTypes.h"
 
 #include <gtest/gtest.h>
 

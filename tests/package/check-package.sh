@@ -2,13 +2,16 @@
 # Checks one thing about the installed package, which lies in $PREFIX. See CMakeLists.txt for the environment.
 set -euo pipefail
 
+here=$(cd "$(dirname "$0")" && pwd)
+sources=$(cd "$here/../.." && pwd)
 lib=$PREFIX/$LIBDIR
+headers=$PREFIX/include/vendorinfofile
 work=$WORK/$1
 rm -rf "$work"
 mkdir -p "$work"
 xml=$PREFIX/share/vendorinfofile/examples/usb4-dock.xml
-flags=()
-[ -z "$SANITIZE" ] || flags=("-fsanitize=$SANITIZE")
+read -ra flags <<<"$FLAGS"
+[ -z "$SANITIZE" ] || flags+=("-fsanitize=$SANITIZE")
 
 fail() { echo "FAILED: $*" >&2; exit 1; }
 
@@ -34,9 +37,19 @@ exported_by() {
   if [ -n "$EMULATOR" ]; then
     "$OBJDUMP" -p "$PREFIX/bin/$1.dll" | sed -n '/^\[Ordinal\/Name Pointer\]/,/^$/s/^\t\[ *[0-9]*\] //p' | c++filt -_
   else
-    nm -DC --defined-only "$lib/lib$1.so" | sed 's/^[^ ]* . //; s/@@.*//'
-  fi
+    nm -DC --defined-only "$lib/lib$1.so" | sed '/ A /d; s/^[^ ]* . //; s/@@.*//'
+  fi | LC_ALL=C sort -u
 }
+
+# Compiles with the installed headers; links too when told where to.
+compile() { "$CXX" -std=c++20 -Wall -Wextra -Werror "${flags[@]}" -I"$headers" "$@"; }
+link=("-L$lib" -lVendorInfoFile -lVendorInfoFileHost "-Wl,-rpath,$lib")
+
+# shellcheck source=tests/package/samples.sh
+. "$here/samples.sh"
+
+# Prints a source that includes every installed header.
+include_all() { (cd "$headers" && find . -name '*.h' -printf '#include <%P>\n') | LC_ALL=C sort; }
 
 case $1 in
   FoundByCMake)
@@ -97,20 +110,111 @@ EOF
   HeadersStandAlone)
     count=0
     while IFS= read -r header; do
-      printf '#include "%s"\n' "$header" >"$work/one.cpp"
-      "$CXX" -std=c++20 -Wall -Wextra -Werror -I"$PREFIX/include/vendorinfofile" -fsyntax-only "$work/one.cpp" ||
-        fail "$header cannot be included alone"
       count=$((count + 1))
+      printf '#include "%s"\n' "$header" >"$work/$count.cpp"
     done < <(cd "$PREFIX/include/vendorinfofile" && find . -name '*.h')
     [ "$count" -ge 9 ] || fail "only $count headers are installed"
+    printf '%s\0' "$work"/*.cpp | xargs -0 -P "$(nproc)" -n 1 \
+      "$CXX" -std=c++20 "${flags[@]}" -Wall -Wextra -Werror -I"$PREFIX/include/vendorinfofile" -fsyntax-only ||
+      fail 'the above cannot be included alone'
+    ;;
+  NamesLeftToPrograms)
+    [ -z "$EMULATOR" ] || { echo 'SKIPPED: COM declares these names itself'; exit; }
+    include_all >"$work/all.h"
+    for own in own_types own_macros; do
+      compile -include "$here/names/$own.h" -include "$work/all.h" "$CONSUMER/consumer.cpp" "${link[@]}" -o "$work/before" ||
+        fail "not after $own.h"
+      check_consumer "$work/before"
+      compile -include "$work/all.h" -include "$here/names/$own.h" "$CONSUMER/consumer.cpp" "${link[@]}" -o "$work/after" ||
+        fail "not before $own.h"
+      check_consumer "$work/after"
+    done
+    ;;
+  GlobalNamesAreKnown)
+    [ -z "$EMULATOR" ] || { echo 'SKIPPED: COM declares further names'; exit; }
+    include_all >"$work/all.h"
+    compile -E -dD -x c++ "$work/all.h" | python3 -B "$here/names/global_names.py" "$headers/" >"$work/global-names.txt"
+    diff "$here/names/global-names.txt" "$work/global-names.txt" ||
+      fail 'the headers declare other global names than tests/package/names/global-names.txt lists'
     ;;
   ExportsOnlyWhatIsIntended)
     for library in VendorInfoFile VendorInfoFileAnalysis VendorInfoFileHost; do
-      symbols=$(exported_by "$library")
-      grep -q . <<<"$symbols" || fail "$library exports nothing"
-      # Names of namespaces and layers that are nobody's business but the library's.
-      ! grep -E '^(vif::|CVIFImpl|std::)' <<<"$symbols" || fail "$library exports the above"
+      exported_by "$library" >"$work/$library.txt"
+      [ -s "$work/$library.txt" ] || fail "$library exports nothing"
+      # A DLL exports whole classes; elsewhere the names of types are those of 64-bit systems.
+      if [ -n "$EMULATOR" ] || [ "$(getconf LONG_BIT)" != 64 ]; then
+        ! grep -E '^(vif::|msxml::|CVIFImpl|std::)' "$work/$library.txt" || fail "$library exports the above"
+      else
+        diff "$here/exports/$library.txt" "$work/$library.txt" ||
+          fail "$library exports other symbols than tests/package/exports/$library.txt lists"
+      fi
     done
+    ;;
+  ExportsNoUniqueSymbols)
+    [ -z "$EMULATOR" ] || { echo 'SKIPPED: Windows has none'; exit; }
+    for library in VendorInfoFile VendorInfoFileAnalysis VendorInfoFileHost; do
+      ! nm -DC --defined-only "$lib/lib$library.so" | grep ' u ' ||
+        fail "the above keep $library from being unloaded"
+    done
+    ;;
+  NamedForItsAbi)
+    [ -z "$EMULATOR" ] || { echo 'SKIPPED: the name of a DLL has no version'; exit; }
+    abi=${VERSION%%.*}
+    [ "$abi" != 0 ] || abi=${VERSION%.*}
+    for library in VendorInfoFile VendorInfoFileAnalysis VendorInfoFileHost; do
+      readelf -d "$lib/lib$library.so" | grep -qF "[lib$library.so.$abi]" || fail "$library is not named for ABI $abi"
+      [ -z "$(nm -D --defined-only "$lib/lib$library.so" | grep -vE "(@@| A )${library^^}_$abi\$")" ] ||
+        fail "$library has symbols of another version than $abi"
+    done
+    ;;
+  PartOfAnotherProject)
+    with=(-DCMAKE_CXX_COMPILER="$CXX")
+    [ -z "$TOOLCHAIN" ] || with=(--toolchain "$TOOLCHAIN")
+    extract_samples
+    mkdir "$work/parent"
+    cp "$here/parent/CMakeLists.txt" "$work/parent"
+    cp "$CONSUMER/consumer.cpp" "$work/parent/my_tests.cpp"
+    cp "$(sample_with cmake 'add_subdirectory(VendorInfoFile)')" "$work/parent/sample.cmake"
+    ln -s "$sources" "$work/parent/VendorInfoFile"
+    # The flags are a distributor's.
+    cmake -S "$work/parent" -B "$work/build" -G Ninja "${with[@]}" -DCMAKE_COMPILE_WARNING_AS_ERROR=ON \
+      -DCMAKE_CXX_FLAGS="${flags[*]} -O1 -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3"
+    cmake --build "$work/build"
+    [ -n "$EMULATOR" ] || check_consumer "$work/build/my_tests$EXE"
+    cmake --install "$work/build" --prefix "$work/prefix"
+    installed=$(cd "$work/prefix" && find . -type f)
+    [ "$installed" = "./bin/my_tests$EXE" ] || fail "this was installed without being asked for: $installed"
+    ;;
+  FortifiedAsTheFlagsSay)
+    [ -z "$EMULATOR" ] || { echo 'SKIPPED: Windows has no such calls'; exit; }
+    [ -z "$SANITIZE" ] || { echo 'SKIPPED: the sanitizers watch these calls'; exit; }
+    # Expects a level of _FORTIFY_SOURCE in a source of the library, as a project with these flags compiles it.
+    expect_level() {
+      cmake -S "$sources" -B "$work/build" -G Ninja --fresh -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_CXX_FLAGS="$2" \
+        -DCMAKE_BUILD_TYPE="$3" -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >"$work/log.txt" || fail "cannot configure with $2"
+      local command level
+      command=$(grep -oP '"command": "\K[^"]*(?= -o )(?=.*/field/VIFField\.cpp")' \
+        <(sed 's/\\"/'"'"'/g' "$work/build/compile_commands.json")) || fail 'no command compiles VIFField.cpp'
+      level=$(cd "$work/build" && eval "$command -E -dM '$sources/field/VIFField.cpp'" |
+        sed -n 's/^#define _FORTIFY_SOURCE //p')
+      [ "$level" = "$1" ] || fail "with '$2' and build type '$3' the level is '$level', not '$1'"
+    }
+    none="$("$CXX" -O1 -E -dM -x c++ - </dev/null | sed -n 's/^#define _FORTIFY_SOURCE //p')"
+    expect_level "${none:-2}" '' Release
+    expect_level "${none:-2}" '' ''  # Release, for want of another
+    expect_level '' '' Debug
+    expect_level 3 '-D_FORTIFY_SOURCE=3' Release
+    expect_level 1 '-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=1' Release
+    expect_level '' '-U_FORTIFY_SOURCE' Release
+    ;;
+  DocumentedSamples) check_samples ;;
+  LinksOfDocumentsLead)
+    mapfile -t installed < <(find "$PREFIX/share/doc" -name '*.md')
+    [ ${#installed[@]} -ge 9 ] || fail "only ${#installed[@]} documents are installed"
+    python3 -B "$here/broken_links.py" "${installed[@]}" || fail 'the above links of installed documents lead nowhere'
+    mapfile -t documents < <(find "$sources" -name '*.md' -not -path "$sources/build/*")
+    python3 -B "$here/broken_links.py" "${documents[@]}" ||
+      fail 'the above links of the sources lead nowhere'
     ;;
   *) fail "no check is called $1" ;;
 esac

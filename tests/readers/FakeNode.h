@@ -2,8 +2,9 @@
 #pragma once
 
 #include "UnfakedCalls.h"
+#include "msxml/ComTypes.h"
 
-#include <deque>
+#include <list>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -102,8 +103,9 @@ class FakeNode : public UnfakedElement {
   }
 
   std::wstring m_name;
-  std::deque<FakeNode> m_children;
-  std::deque<FakeList> m_lists;
+  // Lists take a type that is not complete yet, and leave their elements where they are.
+  std::list<FakeNode> m_children;
+  std::list<FakeList> m_lists;
   FakeAttributes m_attributes;
 };
 

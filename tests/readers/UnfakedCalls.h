@@ -1,6 +1,7 @@
 // Bases of fake XML objects: the calls that a fake leaves to them fail.
 #pragma once
 
+#include "msxml/ComTypes.h"
 #include "msxml/MsXml.h"
 
 namespace vif {

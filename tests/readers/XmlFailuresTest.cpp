@@ -2,6 +2,7 @@
 #include "BaseUtilities/Exceptions.h"
 #include "FakeNode.h"
 #include "XmlReader.h"
+#include "msxml/ComTypes.h"
 #include "support/ComErrors.h"
 
 #include <gmock/gmock.h>

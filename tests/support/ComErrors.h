@@ -1,6 +1,7 @@
 // What an error of COM says, where the systems say it differently.
 #pragma once
 
+#include "msxml/ComTypes.h"
 #include "msxml/MsXml.h"
 
 namespace testsupport {

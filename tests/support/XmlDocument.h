@@ -3,6 +3,7 @@
 
 #include "BaseUtilities/StringConvert.h"
 #include "TestUtilities/DOMDoc.h"
+#include "msxml/ComTypes.h"
 #include "msxml/MsXml.h"
 #include "support/TempDir.h"
 

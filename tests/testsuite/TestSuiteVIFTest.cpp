@@ -4,6 +4,7 @@
 #include "RecordingHost.h"
 #include "VendorInfoFile.h"
 #include "msxml/ComPointer.h"
+#include "msxml/ComTypes.h"
 #include "support/CodePage.h"
 #include "support/TempDir.h"
 #include "support/XmlVif.h"

@@ -22,7 +22,7 @@ using testsupport::RandomBelow;
 
 using Slots = std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>;
 
-constexpr std::size_t kAny = CVIFField::INDEX_NOT_SPECIFIED;
+constexpr VifIndexNumber kAny = CVIFField::INDEX_NOT_SPECIFIED;
 
 class CGenerator {
  public:
@@ -36,11 +36,12 @@ class CGenerator {
                                           eVifLocSrcPdo,
                                           eVifLocCableSvidMode,
                                           static_cast<EVifLocation>(13),
+                                          static_cast<EVifLocation>(eVifLocComponent + 16),
                                           static_cast<EVifLocation>(70),
                                           static_cast<EVifLocation>(-1),
                                           static_cast<EVifLocation>(Limits::max()),
                                           static_cast<EVifLocation>(Limits::min())};
-    constexpr std::uint64_t numbers[] = {0, 1, 1, 2, std::uint64_t{1} << 32, kAny - 1, kAny, kAny};
+    constexpr std::uint64_t numbers[] = {0, 1, 1, 2, 0x1001, std::uint64_t{1} << 32, kAny - 1, kAny, kAny};
     return {locations[RandomBelow(m_random, std::size(locations))], numbers[RandomBelow(m_random, std::size(numbers))]};
   }
 

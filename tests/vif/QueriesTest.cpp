@@ -43,7 +43,7 @@ using testsupport::Slots;
 using testsupport::TempDir;
 
 constexpr VifIndex kUnused = CVIFField::UNSPECIFIED_INDEX;
-constexpr std::size_t kAny = CVIFField::INDEX_NOT_SPECIFIED;
+constexpr VifIndexNumber kAny = CVIFField::INDEX_NOT_SPECIFIED;
 constexpr Slots kAnywhere = {kUnused, kUnused, kUnused};
 const char* const kNoNarrow = nullptr;
 const wchar_t* const kNoWide = nullptr;
@@ -977,6 +977,12 @@ TEST(LongName, EndsInTheAnswerOrTheErrorOfTheExpression) {
   EXPECT_THAT(OutcomesOfAllForms(".*x", kAnywhere, GetUniqueField(vif)), Each(isRegexErrorOr("x=2")));
 }
 
+TEST(LongName, DoesNotFailAQueryThatFindsOthers) {
+  const CVendorInfoFile vif({Field(std::string(3000, 'a'), "1"), Field("aab", "2"), Field("x", "3")});
+  EXPECT_THAT(OutcomesOfAllForms("(a)\\1.*", kAnywhere, Count(vif)), Each("2"));
+  EXPECT_THAT(OutcomesOfAllForms("(a)\\1b", kAnywhere, GetUniqueField(vif)), Each("aab=2"));
+}
+
 TEST(LongName, IsFoundByItself) {
   const std::string name(200'000, 'a');
   const CVendorInfoFile vif({Field(name, "1"), Field(name + "a", "2")});
@@ -990,7 +996,7 @@ TEST(Queries, LeaveTheObjectUnchanged) {
   const std::vector<std::string> fields = Texts(vif.GetFields());
   const std::wstring fileName = vif.FileName();
   for (const char* pattern : {"", "a", "b", ".*", "None", "("}) OutcomesOfAllQueries(vif, pattern, kAnywhere);
-  for (const std::size_t number : {std::size_t{0}, std::size_t{1}, kAny}) {
+  for (const VifIndexNumber number : {VifIndexNumber{0}, VifIndexNumber{1}, kAny}) {
     vif.GetComponent(number);
     vif.GetRouter(number);
     vif.GetSrcPdo(number, number);

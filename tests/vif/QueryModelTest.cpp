@@ -28,7 +28,7 @@ using testsupport::ResultText;
 using testsupport::Slots;
 
 constexpr VifIndex kUnused = CVIFField::UNSPECIFIED_INDEX;
-constexpr std::size_t kAny = CVIFField::INDEX_NOT_SPECIFIED;
+constexpr VifIndexNumber kAny = CVIFField::INDEX_NOT_SPECIFIED;
 constexpr const char* kAnyName = nullptr;
 
 /// The queries, word for word: every field is asked with `CVIFField::Match`, and every component is a pass of its own.
@@ -178,7 +178,8 @@ void ExpectAgreement(const Subject& subject, const Query& query) {
 }
 
 /// The group getters with these three numbers, of which most take fewer.
-void ExpectAgreementOfGetters(const Subject& subject, std::size_t first, std::size_t second, std::size_t third) {
+void ExpectAgreementOfGetters(const Subject& subject, VifIndexNumber first, VifIndexNumber second,
+                              VifIndexNumber third) {
   const CVendorInfoFile& vif = subject.vif;
   const CQueryModel& model = subject.model;
   SCOPED_TRACE(
@@ -239,7 +240,7 @@ class CGenerator {
   std::size_t Below(std::size_t bound) { return RandomBelow(m_random, bound); }
   bool OneIn(std::size_t count) { return Below(count) == 0; }
 
-  std::size_t Number() { return OneIn(6) ? kAny : Below(4); }
+  VifIndexNumber Number() { return OneIn(6) ? kAny : Below(4); }
 
   VifIndex Slot() {
     constexpr EVifLocation locations[] = {eVifLocUnset,     eVifLocUnset,        eVifLocComponent, eVifLocComponent,

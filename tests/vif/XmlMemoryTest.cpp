@@ -1,6 +1,7 @@
 // What becomes of an object when memory runs out while it loads an XML VIF. Needs a program of its own, because it is
 // linked with an operator new and an allocation of BSTRs that fail.
 #include "VendorInfoFile.h"
+#include "msxml/ComTypes.h"
 #include "support/AppendFile.h"
 #include "support/FailingMemory.h"
 

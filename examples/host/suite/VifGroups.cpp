@@ -30,7 +30,7 @@ Groups Routers(const CVendorInfoFile& vif) {
   return SplitByGroup(*fields, eVifLocRouter);
 }
 
-std::string GroupText(const char* kind, std::size_t number) {
+std::string GroupText(const char* kind, VifIndexNumber number) {
   return std::string(kind) +
          (number == CVIFField::INDEX_NOT_SPECIFIED ? " without a number" : ' ' + std::to_string(number));
 }

@@ -3,7 +3,6 @@
 
 #include <VendorInfoFile.h>
 
-#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -18,7 +17,7 @@ using Fields = std::vector<CVIFField>;
 ///
 /// A group of a text VIF has no number when the names of its fields have none, such as `Src_PDO_Voltage`; then it is
 /// `CVIFField::INDEX_NOT_SPECIFIED`.
-using Groups = std::map<std::size_t, Fields>;
+using Groups = std::map<VifIndexNumber, Fields>;
 
 /// The groups at a location that the fields are in. Taking a list apart looks at each field once; a query for each
 /// group would look at all fields each time, which a file with very many groups makes slow.
@@ -28,7 +27,7 @@ Groups Components(const CVendorInfoFile& vif);
 Groups Routers(const CVendorInfoFile& vif);
 
 /// "Component 1", or "Component without a number".
-std::string GroupText(const char* kind, std::size_t number);
+std::string GroupText(const char* kind, VifIndexNumber number);
 
 /// What fields say under a name.
 struct NumberFound {

@@ -1,0 +1,114 @@
+// What the XML interfaces need of COM, under names that clash with no program's own.
+//
+// Programs that were ported from Windows often have a `LONG`, a `GUID` or a `FAILED` of their own, sometimes as a
+// macro. Where there is no COM, no public header mentions such a name. Where there is, these are other names for COM's
+// own types. Elsewhere `wchar_t` is 32 bits wide and holds UTF-32.
+#pragma once
+
+#ifdef _WIN32
+
+#include <windows.h>
+
+#include <comdef.h>
+
+namespace zocom {
+
+using Guid = GUID;
+using Result = HRESULT;
+using Text = BSTR;
+using Unknown = IUnknown;
+using Variant = VARIANT;
+
+using ::SysAllocStringLen;
+using ::SysFreeString;
+using ::SysStringLen;
+using ::VariantClear;
+using ::VariantInit;
+
+constexpr Result kNullPointer = E_POINTER;
+constexpr Result kOutOfMemory = E_OUTOFMEMORY;
+constexpr VARTYPE kTextVariant = VT_BSTR;
+
+}  // namespace zocom
+
+#else
+
+#include "BaseUtilities/HostExport.h"
+
+#include <cstdint>
+
+namespace zocom {
+
+/// What a call returns: negative when it failed. The numbers are COM's.
+using Result = std::int32_t;
+
+/// A null pointer was given or found where there must not be one.
+constexpr Result kNullPointer = static_cast<Result>(0x80004003);
+
+constexpr Result kOutOfMemory = static_cast<Result>(0x8007000E);
+
+/// The identifier of an interface.
+struct Guid {
+  std::uint32_t Data1;
+  std::uint16_t Data2;
+  std::uint16_t Data3;
+  std::uint8_t Data4[8];
+
+  friend constexpr bool operator==(const Guid&, const Guid&) = default;
+};
+
+constexpr Guid kUnknownId = {0x00000000, 0x0000, 0x0000, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
+
+/// What all interfaces have in common: a reference count. The object is deleted when it reaches 0.
+struct Unknown {
+  /// \param object receives the interface, counted once more; null when the object does not have it
+  virtual Result QueryInterface(const Guid& iid, void** object) = 0;
+
+  /// \return the new count
+  virtual std::uint32_t AddRef() = 0;
+
+  /// \return the new count
+  virtual std::uint32_t Release() = 0;
+
+ protected:
+  ~Unknown() = default;
+};
+
+/// A text that is preceded by its length and followed by a NUL. Null is the empty text. `CBstr` owns one.
+using Text = wchar_t*;
+
+/// Copies a text up to its NUL. The caller frees the copy.
+/// \return null when the text is null or memory runs out
+ZO_API Text SysAllocString(const wchar_t* text);
+
+/// Copies so many characters. The caller frees the copy.
+/// \param text may be null: the caller then fills in the content
+/// \return null when memory runs out
+ZO_API Text SysAllocStringLen(const wchar_t* text, std::uint32_t length);
+
+/// Frees a text; does nothing with null.
+ZO_API void SysFreeString(Text text);
+
+/// The number of characters; 0 for null.
+ZO_API std::uint32_t SysStringLen(Text text);
+
+// The types of a value.
+constexpr std::uint16_t kEmptyVariant = 0;
+constexpr std::uint16_t kNullVariant = 1;
+constexpr std::uint16_t kTextVariant = 8;
+
+/// A value that knows its type: empty, null or a text. `CVariant` owns one.
+struct Variant {
+  std::uint16_t vt;
+  Text bstrVal;  ///< only set in a text
+};
+
+/// Makes uninitialised memory an empty value.
+ZO_API void VariantInit(Variant* variant);
+
+/// Frees what the value holds and makes it empty.
+ZO_API Result VariantClear(Variant* variant);
+
+}  // namespace zocom
+
+#endif
