@@ -38,6 +38,7 @@ class CVifView {
   explicit CVifView(const FoundFields& fields);
   CVifView(const CVifView&) = delete;
   CVifView& operator=(const CVifView&) = delete;
+  ~CVifView() = default;
 
   /// All fields in the order of the file.
   const FoundFields& Fields() const { return m_fields; }
