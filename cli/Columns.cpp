@@ -1,13 +1,17 @@
 #include "Columns.h"
 
 #include "Output.h"
-#include "Text.h"
+
+#include <analysis/Text.h>
 
 #include <algorithm>
 #include <numeric>
 #include <optional>
 
 namespace cli {
+
+using vifanalysis::CutToWidth;
+using vifanalysis::DisplayWidth;
 
 namespace {
 

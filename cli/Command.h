@@ -36,6 +36,7 @@ void AddListCommand(CLI::App& app, Status& status);
 void AddGetCommand(CLI::App& app, Status& status);
 void AddShowCommand(CLI::App& app, Status& status);
 void AddCheckCommand(CLI::App& app, Status& status);
+void AddExplainCommand(CLI::App& app, Status& status);
 
 /// Joins each location option of `vif get` with its number, or "any" where it has none, by an equals sign: CLI11 cannot
 /// tell whether the number that is optional follows.

@@ -1,11 +1,17 @@
-#include "FieldText.h"
 #include "Output.h"
-#include "Text.h"
 #include "Writers.h"
+
+#include <analysis/FieldText.h>
+#include <analysis/Text.h>
 
 #include <string_view>
 
 namespace cli {
+
+using vifanalysis::HasNumber;
+using vifanalysis::IsUsed;
+using vifanalysis::LocationName;
+using vifanalysis::ValidUtf8;
 
 namespace {
 

@@ -1,18 +1,22 @@
 #include "FieldSource.h"
 
 #include "Command.h"
-#include "FileForm.h"
 
 #include <BaseUtilities/PathText.h>
 #include <BaseUtilities/SimpleBuffer.h>
-#include <BaseUtilities/StringConvert.h>
 #include <VIFInvalidFile.h>
-#include <VIFTextCheck.h>
+#include <analysis/Check.h>
+#include <analysis/FileForm.h>
+#include <analysis/Files.h>
 #include <msxml/ComPointer.h>
 
 #include <new>
 
 namespace cli {
+
+using vifanalysis::AdviceOnExtension;
+using vifanalysis::FirstUnreadableLine;
+using vifanalysis::HasExtension;
 
 namespace {
 
@@ -81,26 +85,13 @@ void ReadFile(const std::string& fileName, const std::function<void()>& read) {
     throw Failure(reason.Printf("%s: COM error 0x%08X", fileName, error.Error()));
   } catch (const Failure& error) {
     throw Failure(std::string(fileName).append(": ").append(error.what()));
+  } catch (const vifanalysis::CCheckError& error) {
+    throw Failure(std::string(fileName).append(": ").append(error.what()));
   } catch (const std::exception& error) {
     const std::string reason = error.what();
     if (IsNamed(fileName, reason)) throw Failure(reason);
     throw Failure(std::string(fileName).append(": ").append(reason));
   }
-}
-
-std::optional<std::size_t> FirstUnreadableLine(const std::filesystem::path& path) {
-  std::optional<std::size_t> line;
-  CheckTextVif(path, [&](const VifLineReport& report) {
-    if (report.problem == eVifLineReadFailed) line = report.line;
-  });
-  return line;
-}
-
-bool HasExtension(const std::filesystem::path& path, std::string_view extension) {
-  const std::u8string given = path.extension().u8string();
-  std::string text(given.begin(), given.end());
-  ToLower(text);
-  return text == extension;
 }
 
 }  // namespace cli

@@ -1,11 +1,11 @@
 #include "Command.h"
 #include "FieldSource.h"
-#include "FieldText.h"
 #include "Output.h"
 #include "SchemasOption.h"
-#include "Text.h"
 
 #include <BaseUtilities/Exceptions.h>
+#include <analysis/FieldText.h>
+#include <analysis/Text.h>
 
 #include <CLI/CLI.hpp>
 
@@ -18,6 +18,10 @@
 #include <string_view>
 
 namespace cli {
+
+using vifanalysis::HasNumber;
+using vifanalysis::LocationText;
+using vifanalysis::Printable;
 
 namespace {
 

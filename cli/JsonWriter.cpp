@@ -1,13 +1,18 @@
-#include "FieldText.h"
 #include "Json.h"
 #include "Output.h"
 #include "Writers.h"
+
+#include <analysis/FieldText.h>
 
 #include <algorithm>
 #include <string>
 #include <string_view>
 
 namespace cli {
+
+using vifanalysis::HasNumber;
+using vifanalysis::IsUsed;
+using vifanalysis::LocationName;
 
 namespace {
 

@@ -2,8 +2,8 @@
 #include "Command.h"
 #include "HelpFormatter.h"
 #include "Output.h"
-#include "Text.h"
 
+#include <analysis/Text.h>
 #include <msxml/ComApartment.h>
 
 #include <CLI/CLI.hpp>
@@ -35,7 +35,7 @@ constexpr const char* kFooter =
     "says why.";
 
 Status Fail(std::string_view reason, Status status = kFailed) {
-  std::fprintf(stderr, "vif: %s\n", cli::Printable(reason).c_str());
+  std::fprintf(stderr, "vif: %s\n", vifanalysis::Printable(reason).c_str());
   return status;
 }
 
@@ -58,6 +58,7 @@ Status Run(int argc, char** argv) {
   cli::AddGetCommand(app, status);
   cli::AddShowCommand(app, status);
   cli::AddCheckCommand(app, status);
+  cli::AddExplainCommand(app, status);
   try {
     std::vector<std::string> arguments = cli::CompleteLocationOptions({argv + 1, argv + argc});
     std::reverse(arguments.begin(), arguments.end());  // CLI11 takes them from the end

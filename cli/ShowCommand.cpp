@@ -1,19 +1,26 @@
 #include "Columns.h"
 #include "Command.h"
 #include "FieldSource.h"
-#include "FieldText.h"
 #include "Output.h"
-#include "PowerProfile.h"
 #include "SchemasOption.h"
 #include "Style.h"
-#include "Text.h"
 
+#include <analysis/FieldText.h>
+#include <analysis/PowerProfile.h>
+#include <analysis/Text.h>
 #include <CLI/CLI.hpp>
 
 #include <map>
 #include <memory>
 
 namespace cli {
+
+using vifanalysis::DescribePdo;
+using vifanalysis::IsUsed;
+using vifanalysis::LocationName;
+using vifanalysis::NumberText;
+using vifanalysis::PowerProfile;
+using vifanalysis::Printable;
 
 namespace {
 

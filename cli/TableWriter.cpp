@@ -1,9 +1,13 @@
 #include "Columns.h"
-#include "FieldText.h"
-#include "Text.h"
 #include "Writers.h"
 
+#include <analysis/FieldText.h>
+#include <analysis/Text.h>
+
 namespace cli {
+
+using vifanalysis::LocationText;
+using vifanalysis::Printable;
 
 void WriteTable(const CVendorInfoFile& vif) {
   CColumns table;

@@ -4,11 +4,13 @@ include(CMakePackageConfigHelpers)
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/VendorInfoFile")
 set(header_dir "${CMAKE_INSTALL_INCLUDEDIR}/vendorinfofile")
 
-install(TARGETS VendorInfoFile VendorInfoFileHost EXPORT VendorInfoFileTargets
+install(TARGETS VendorInfoFile VendorInfoFileAnalysis VendorInfoFileHost EXPORT VendorInfoFileTargets
   RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 install(DIRECTORY include/ DESTINATION "${header_dir}" FILES_MATCHING PATTERN "*.h")
+file(GLOB analysis_headers CONFIGURE_DEPENDS analysis/*.h)
+install(FILES ${analysis_headers} DESTINATION "${header_dir}/analysis")
 install(DIRECTORY host/BaseUtilities DESTINATION "${header_dir}" FILES_MATCHING PATTERN "*.h")
 install(FILES
   host/TestUtilities/AppState.h
@@ -43,4 +45,6 @@ if(WIN32)
   set(pc_system_libraries " -lole32 -loleaut32")
 endif()
 configure_file(cmake/vendorinfofile.pc.in "${PROJECT_BINARY_DIR}/vendorinfofile.pc" @ONLY)
-install(FILES "${PROJECT_BINARY_DIR}/vendorinfofile.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+configure_file(cmake/vendorinfofile-analysis.pc.in "${PROJECT_BINARY_DIR}/vendorinfofile-analysis.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/vendorinfofile.pc" "${PROJECT_BINARY_DIR}/vendorinfofile-analysis.pc"
+  DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")

@@ -112,8 +112,8 @@ void CheckOutput(const std::vector<std::string>& arguments, const Outcome& outco
   const std::string& output = outcome.output;
   if (outcome.status == 2) fuzz::RequireSame(output, std::string(), "failure prints no output");
   Require(fuzz::IsUtf8(output), "the output is UTF-8");
-  const bool isListOrCheck = arguments.size() > 1 && (arguments[1] == "list" || arguments[1] == "check");
-  if (isListOrCheck && output.starts_with('{')) {
+  const bool hasJson = arguments.size() > 1 && (arguments[1] == "list" || arguments[1] == "check");
+  if (hasJson && output.starts_with('{')) {
     Require(nlohmann::json::accept(output), "the output is JSON");
   } else if (!output.starts_with("name,value,")) {
     Require(IsHarmless(output), "the output is text for a terminal");

@@ -35,6 +35,7 @@ check() {
 
 command=$build/cli/vif
 echo "==> Hardening of the files in $build"
-for file in "$build/libVendorInfoFile.so" "$build/host/libVendorInfoFileHost.so" "$command"; do check "$file"; done
+libraries=("$build/libVendorInfoFile.so" "$build/analysis/libVendorInfoFileAnalysis.so" "$build/host/libVendorInfoFileHost.so")
+for file in "${libraries[@]}" "$command"; do check "$file"; done
 require "$command" "position-independent code (PIE)" has_entry "$command" 'FLAGS_1.* PIE'
 exit $status

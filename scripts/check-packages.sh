@@ -43,7 +43,7 @@ packages=$root/build/packages
 unpack_into zip
 unzip -q "$packages"/VendorInfoFile-*-win64.zip
 cd VendorInfoFile-*-win64
-for file in bin/{VendorInfoFile,VendorInfoFileHost}.dll bin/vif.exe lib/libVendorInfoFile{,Host}.dll.a; do
+for file in bin/{VendorInfoFile,VendorInfoFileAnalysis,VendorInfoFileHost}.dll bin/vif.exe lib/libVendorInfoFile{,Analysis,Host}.dll.a; do
   [ -f "$file" ] || fail "$file is missing"
 done
 check "$PWD" "$root/scripts/run-windows.sh" bin/vif.exe

@@ -116,7 +116,7 @@ TEST(CheckJson, HasItsMembersInTheirOrder) {
                 ",\"valid\":true,\"findings\":[\n"
                 R"({"severity":"warning","code":"unknown-name","line":1,"column":null,"element":"My_Own",)"
                 R"("message":"unknown name 'My_Own'"})"
-                "\n]}\n],\n\"errors\":0,\"warnings\":1}\n");
+                "\n]}\n],\n\"errors\":0,\"warnings\":1,\"notes\":0}\n");
 }
 
 TEST(CheckJson, AFileWithAnErrorIsNotValid) {
@@ -169,7 +169,9 @@ TEST(CheckFailure, OneFileThatCannotBeReadFailsAll) {
   ExpectFailure(Check({Example("gan-charger-65w.txt"), "/nonexistent/a.txt"}), "/nonexistent/a.txt");
 }
 
-TEST(CheckFailure, AnUnknownFormat) { ExpectFailure(Check({"--format", "csv", "a.txt"}), "csv not in {text,json}"); }
+TEST(CheckFailure, AnUnknownFormat) {
+  ExpectFailure(Check({"--format", "csv", "a.txt"}), "csv not in {text,json,sarif}");
+}
 
 TEST(CheckFailure, NoFile) { ExpectFailure(Check({}), "FILE is required"); }
 

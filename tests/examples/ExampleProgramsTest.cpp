@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
 #include <string>
 
 namespace {
@@ -24,6 +26,18 @@ TEST_P(ExampleProgram, NamesAMissingFile) {
   const testsupport::ProgramResult result = testsupport::RunProgram({GetParam(), file});
   EXPECT_EQ(result.status, 1);
   EXPECT_NE(result.error.find(": VIF Does not exist. (name: " + file + ")"), std::string::npos) << result.error;
+}
+
+std::string Content(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST(Readme, ShowsHowToCheckAFileAsTheExampleDoesIt) {
+  const std::string folder = EXAMPLES_FOLDER;
+  const std::string program = Content(folder + "/programs/check_file.cpp");
+  const std::string code = program.substr(program.find("#include"));
+  EXPECT_NE(Content(folder + "/../README.md").find("```cpp\n" + code + "```"), std::string::npos);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, ExampleProgram, testing::Values(LIST_FIELDS, OWN_FIELD_NAMES, SOURCE_PDOS));

@@ -43,10 +43,20 @@ check_sample_program() {
   expect_run 1 "$([ -n "$EMULATOR" ] || echo 'line ')" "$1" invalid-port.xml
 }
 
+# Builds the README's program that checks a file, and runs it.
+check_analysis_sample() {
+  compile "$1" -lVendorInfoFileAnalysis "${link[@]}" ${EMULATOR:+-lole32 -loleaut32} -o "$work/check$EXE" ||
+    fail "$1 cannot be compiled"
+  cp "$sources/docs/overrated-charger.txt" "$work"
+  cd "$work"
+  expect_run 0 'line 9: Component 1, Source PDO 2: the PDO is of 65 W' "./check$EXE" overrated-charger.txt
+  expect_run 1 'there is no such file' "./check$EXE" missing.txt
+}
+
 # Builds the README's program with a CMake sample.
 check_cmake_sample() {
   mkdir "$work/by-cmake"
-  cp "$(sample_with cpp 'int main')" "$work/by-cmake/my_tests.cpp"
+  cp "$(sample_with cpp GetUniqueField)" "$work/by-cmake/my_tests.cpp"
   {
     printf 'cmake_minimum_required(VERSION 3.25)\nproject(Sample LANGUAGES CXX)\nadd_executable(my_tests my_tests.cpp)\n'
     cat "$1"
@@ -62,9 +72,11 @@ prepare_shell() {
   local tree=$work/tree tool
   mkdir -p "$tree/scripts" "$tree/build/release/cli" "$work/bin"
   cp "$sources"/{run.sh,test.sh,CMakePresets.json} "$tree"
-  cp "$(sample_with cpp 'int main')" "$tree/my_tests.cpp"
+  cp "$(sample_with cpp GetUniqueField)" "$tree/my_tests.cpp"
   ln -s "$sources/examples" "$sources/cmake" "$tree"
   ln -s "$PREFIX/bin/vif" "$tree/build/release/cli/vif"
+  ln -s "$PREFIX/bin/vif" "$work/bin/vif"
+  ln -s "$sources/examples/vif" "$tree/vifs"
   for tool in setup build; do
     [ -x "$sources/scripts/$tool.sh" ] || fail "there is no scripts/$tool.sh"
     printf '#!/bin/sh\n' >"$tree/scripts/$tool.sh"
@@ -108,6 +120,10 @@ check_usage_sample() {
 check_sample() {
   case $1 in
     *.cpp)
+      if grep -q 'analysis/Check.h' "$1"; then
+        check_analysis_sample "$1"
+        return
+      fi
       compile "$1" "${link[@]}" ${EMULATOR:+-lole32 -loleaut32} -o "$work/sample$EXE" || fail "$1 does not compile"
       check_sample_program "$work/sample$EXE"
       ;;
@@ -119,6 +135,7 @@ check_sample() {
       fi
       ;;
     *.sh) [ -n "$EMULATOR" ] || check_shell_sample "$1" ;;
+    *.yaml) grep -qF 'vif check' "$1" || fail "$1 does not run vif" ;;  # DocumentedWorkflowRuns runs it
     *.text) check_usage_sample "$1" ;;
     *) fail "nothing checks samples such as $1" ;;
   esac

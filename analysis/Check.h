@@ -1,0 +1,39 @@
+// Checks a Vendor Info File: is it well-formed, and does what it declares agree with itself?
+#pragma once
+
+#include <analysis/Export.h>
+#include <analysis/Finding.h>
+
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace vifanalysis {
+
+/// Why a file could not be checked. The text does not name the file.
+class VIF_ANALYSIS_API CCheckError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+  CCheckError(const CCheckError&) = default;
+  CCheckError& operator=(const CCheckError&) = default;
+  ~CCheckError() override;
+};
+
+/// Which findings to report.
+struct CheckOptions {
+  bool notes = false;                 ///< whether to report notes too
+  std::vector<std::string> only{};    ///< codes in any letter case; unless empty, no other finding is reported
+  std::vector<std::string> except{};  ///< codes of findings that are not reported
+};
+
+/// All findings of one file, in the order of the file; those without a place come last. A file that is not a valid VIF
+/// has findings too. Codes in the options that no rule has are ignored; `FindRule` tells them. May be called from any
+/// number of threads at once. On Windows the thread needs COM, such as from a `CComApartment`.
+/// \throws CCheckError when the file is missing, is not a regular file, has another extension than .txt or .xml, or
+///   cannot be validated for a reason that is not its own
+/// \throws CZoRunTimeException, CZoDOMDocException and _com_error as `CheckTextVif` and `CheckXmlVif` do, and
+///   std::bad_alloc
+VIF_ANALYSIS_API std::vector<Finding> CheckFile(const std::filesystem::path& path, const CheckOptions& options = {});
+
+}  // namespace vifanalysis

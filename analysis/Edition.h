@@ -1,0 +1,29 @@
+// Editions of the VIF format.
+#pragma once
+
+#include <analysis/Export.h>
+
+#include <compare>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vifanalysis {
+
+/// An edition of the format, as VIF_Specification gives it: "3.22" is {3, 22}, and later than {3, 3}.
+struct Edition {
+  std::uint32_t major = 0;
+  std::uint32_t minor = 0;
+
+  friend constexpr auto operator<=>(const Edition&, const Edition&) = default;
+};
+
+/// The edition that a text names, such as "3.22", or "Version 3.22" as loading an XML file has it; nothing when it is
+/// anything else than two numbers with a point between.
+VIF_ANALYSIS_API std::optional<Edition> ParseEdition(std::string_view text);
+
+/// Such as "3.22"; the minor number has two digits at least, as in "2.04".
+VIF_ANALYSIS_API std::string EditionText(const Edition& edition);
+
+}  // namespace vifanalysis

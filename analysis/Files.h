@@ -1,0 +1,22 @@
+// What there is to know about a file before it is read as a VIF.
+#pragma once
+
+#include <analysis/Export.h>
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <string_view>
+
+namespace vifanalysis {
+
+/// The number of the line where reading the file fails, whatever the file holds; nothing when all of it can be read.
+/// Opens nothing but a regular file and waits for nothing, even if a pipe has taken the file's name.
+/// \throws CZoRunTimeException when it cannot be opened
+VIF_ANALYSIS_API std::optional<std::size_t> FirstUnreadableLine(const std::filesystem::path& path);
+
+/// Whether a path has that extension in any letter case.
+/// \param extension in lower case, with its dot
+VIF_ANALYSIS_API bool HasExtension(const std::filesystem::path& path, std::string_view extension);
+
+}  // namespace vifanalysis

@@ -1,0 +1,33 @@
+// What a check finds in a file.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+namespace vifanalysis {
+
+/// How much a finding matters, least first.
+enum class Severity : std::uint8_t {
+  Note,     ///< worth knowing, and often as it should be
+  Warning,  ///< worth a look, but may be intended
+  Error,    ///< something is lost or cannot be intended
+};
+
+/// One finding. Text from the file is printable and shortened in the message, but unchanged in the element.
+struct Finding {
+  Severity severity;
+  std::string code;     ///< the rule's, such as "declared-twice"; see `FindRule`
+  std::size_t line;     ///< from 1; 0 when the finding has no known place
+  std::size_t column;   ///< from 1; 0 when there is none, as in text files
+  std::string element;  ///< the field in a text file, the element's path in an XML file; empty when there is none
+  std::string message;  ///< what is wrong, as a sentence without a full stop
+};
+
+/// "error", "warning" or "note".
+constexpr const char* SeverityName(Severity severity) {
+  if (severity == Severity::Error) return "error";
+  return severity == Severity::Warning ? "warning" : "note";
+}
+
+}  // namespace vifanalysis

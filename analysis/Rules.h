@@ -1,0 +1,40 @@
+// What a check looks for.
+#pragma once
+
+#include <analysis/Confidence.h>
+#include <analysis/Edition.h>
+#include <analysis/Export.h>
+#include <analysis/Finding.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vifanalysis {
+
+/// The facts about one rule. The texts are never null and live as long as the library is loaded.
+struct RuleInfo {
+  const char* code;       ///< what its findings are called, such as "pdo-above-rating"
+  Severity severity;      ///< that of all its findings
+  Edition first;          ///< the first edition that it is applied to; {0, 0} for every file, of a known edition or not
+  Confidence confidence;  ///< how sure it is that what it finds is wrong
+  const char* sources;    ///< where it comes from, such as "S1, S8"; empty for a rule about the form of a file
+  const char* what;       ///< what it finds, as a phrase for a list
+  const char* why;        ///< what is wrong with that and what to do, in sentences
+};
+
+/// All rules in a fixed order: first those about the form of a file, then those about what it declares. The list lives
+/// as long as the library is loaded. May be called from any number of threads at once.
+VIF_ANALYSIS_API const std::vector<RuleInfo>& Rules();
+
+/// The rule with that code, in any letter case; null when there is none.
+VIF_ANALYSIS_API const RuleInfo* FindRule(std::string_view code);
+
+/// The rules whose `what` or `why` names a field, by its canonical name. Throws std::bad_alloc only.
+VIF_ANALYSIS_API std::vector<const RuleInfo*> RulesAbout(std::string_view field);
+
+/// The code that is most like a text which is none; nothing when none is much like it.
+VIF_ANALYSIS_API std::optional<std::string> NearestCode(std::string_view text);
+
+}  // namespace vifanalysis

@@ -1,0 +1,23 @@
+#include <analysis/Edition.h>
+
+#include <charconv>
+
+namespace vifanalysis {
+
+std::optional<Edition> ParseEdition(std::string_view text) {
+  constexpr std::string_view prefix = "Version ";
+  if (text.starts_with(prefix)) text.remove_prefix(prefix.size());
+  Edition edition;
+  const char* const end = text.data() + text.size();
+  const auto first = std::from_chars(text.data(), end, edition.major);
+  if (first.ec != std::errc() || first.ptr == end || *first.ptr != '.') return std::nullopt;
+  const auto second = std::from_chars(first.ptr + 1, end, edition.minor);
+  if (second.ec != std::errc() || second.ptr != end) return std::nullopt;
+  return edition;
+}
+
+std::string EditionText(const Edition& edition) {
+  return std::to_string(edition.major) + (edition.minor < 10 ? ".0" : ".") + std::to_string(edition.minor);
+}
+
+}  // namespace vifanalysis

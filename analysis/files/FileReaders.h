@@ -1,0 +1,24 @@
+// The two forms of a file, read into fields with their places.
+#pragma once
+
+#include "FoundField.h"
+
+#include <filesystem>
+
+namespace vifanalysis {
+
+/// The fields of a file, and the findings of reading it.
+struct FileContent {
+  FoundFields fields;
+  Findings findings;
+};
+
+/// Reads a text file.
+/// \throws CZoRunTimeException as `CheckTextVif` does
+FileContent ReadTextFile(const std::filesystem::path& path);
+
+/// Reads an XML file. The reasons why it is not valid are findings.
+/// \throws CCheckError, or what `CheckXmlVif` throws, when it cannot be read for a reason that is not in the file
+FileContent ReadXmlFile(const std::filesystem::path& path);
+
+}  // namespace vifanalysis

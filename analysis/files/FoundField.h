@@ -1,0 +1,38 @@
+// Fields with the places where a file declares them, and findings about them.
+#pragma once
+
+#include "Codes.h"
+
+#include <VIFField.h>
+#include <analysis/Finding.h>
+
+#include <cstddef>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace vifanalysis {
+
+/// One field of a checked file and where it is declared. To the rules, a file of either form is a list of these.
+struct FoundField {
+  CVIFField field;
+  std::size_t line = 0;    ///< from 1; 0 when not known
+  std::size_t column = 0;  ///< from 1; 0 when not known, as in all text files
+  std::string element;     ///< the field's name in a text file, the element's path in an XML file
+};
+
+using FoundFields = std::vector<FoundField>;
+using Findings = std::vector<Finding>;
+
+/// A finding at a place of the file.
+inline Finding FindingAt(const RuleInfo& rule, std::size_t line, std::size_t column, std::string element,
+                         std::string message) {
+  return {rule.severity, rule.code, line, column, std::move(element), std::move(message)};
+}
+
+/// A finding about one field.
+inline Finding About(const FoundField& found, const RuleInfo& rule, std::string message) {
+  return FindingAt(rule, found.line, found.column, found.element, std::move(message));
+}
+
+}  // namespace vifanalysis

@@ -1,0 +1,104 @@
+#include "FileReaders.h"
+#include "Sentence.h"
+
+#include <BaseUtilities/Exceptions.h>
+#include <VIFInvalidFile.h>
+#include <VIFXmlCheck.h>
+#include <analysis/Check.h>
+#include <analysis/Files.h>
+#include <analysis/Text.h>
+
+#include <algorithm>
+#include <optional>
+#include <string_view>
+#include <utility>
+
+namespace vifanalysis {
+
+namespace {
+
+std::string_view WhyNoField(EVifElementFate fate) {
+  switch (fate) {
+    case eVifElementNotRead: return "it is not read here, and neither is its content";
+    case eVifElementGivesWay: return "the description next to it is read instead";
+    case eVifElementForeign: return "it is not in the namespace of the VIF's elements; its content is lost, too";
+    default: return "it is empty";
+  }
+}
+
+Finding DescribePassedOver(const VifElementReport& report) {
+  const RuleInfo& code = report.fate == eVifElementForeign ? code::kForeign : code::kNoField;
+  return FindingAt(code, report.line, report.column, report.path,
+                   Quoted(report.path) + " yields no field: " + std::string(WhyNoField(report.fate)));
+}
+
+Finding DescribeProblem(const DOMDocProblem& problem) {
+  // The reason may quote only the local part of a qualified name.
+  const std::string localName = problem.element.substr(problem.element.find(':') + 1);
+  const bool isNamed = problem.reason.find(localName) != std::string::npos;
+  return FindingAt(code::kNotValid, problem.line, problem.column, problem.element,
+                   (isNamed ? "" : Quoted(problem.element) + ": ") + Printable(problem.reason));
+}
+
+bool CanBeRead(const std::filesystem::path& path) {
+  try {
+    return !FirstUnreadableLine(path);
+  } catch (const CZoRunTimeException&) {
+    return false;
+  }
+}
+
+Findings DescribeProblems(const std::vector<DOMDocProblem>& problems, const std::filesystem::path& path) {
+  if (problems.empty()) throw CCheckError("the file is not valid, but the reason is not known");
+  // A reason without a place may be a read error, but MSXML gives no place for what breaks the schema, either.
+  const bool hasPlace =
+      std::any_of(problems.begin(), problems.end(), [](const DOMDocProblem& problem) { return problem.line != 0; });
+  if (!hasPlace && !CanBeRead(path)) throw CCheckError(problems.front().reason);
+  Findings findings;
+  for (const DOMDocProblem& problem : problems) findings.push_back(DescribeProblem(problem));
+  return findings;
+}
+
+/// Follows the loading of one file.
+class CFollower {
+ public:
+  FileContent Read(const std::filesystem::path& path) {
+    try {
+      CheckXmlVif(path, [this](const VifElementReport& report) { Take(report); });
+    } catch (const CVIFInvalidFile& error) {
+      return {{}, DescribeProblems(error.Problems(), path)};
+    } catch (const CZoRunTimeException& error) {
+      TakeFailure(error);
+    } catch (const CZoDOMDocException& error) {
+      TakeFailure(error);
+    }
+    return std::move(m_content);
+  }
+
+ private:
+  void Take(const VifElementReport& report) {
+    if (report.field != nullptr) {
+      m_content.fields.push_back({*report.field, report.line, report.column, report.path});
+    } else if (report.fate == eVifElementNotUnderstood) {
+      m_failure = FindingAt(code::kNotValid, report.line, report.column, report.path, {});
+    } else {
+      m_content.findings.push_back(DescribePassedOver(report));
+    }
+  }
+
+  /// Loading failed, either at the group reported before or for a reason that is not in the file.
+  void TakeFailure(const std::exception& error) {
+    if (!m_failure) throw;
+    m_failure->message = "loading fails at the group " + Quoted(m_failure->element) + ": " + Printable(error.what());
+    m_content.findings.push_back(*m_failure);
+  }
+
+  FileContent m_content;
+  std::optional<Finding> m_failure;
+};
+
+}  // namespace
+
+FileContent ReadXmlFile(const std::filesystem::path& path) { return CFollower().Read(path); }
+
+}  // namespace vifanalysis

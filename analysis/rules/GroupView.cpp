@@ -1,0 +1,80 @@
+#include "rules/GroupView.h"
+
+#include <analysis/FieldText.h>
+
+#include <algorithm>
+
+namespace vifanalysis {
+
+namespace {
+
+/// The group's own slot: the last that is in use.
+const VifIndex* OwnSlot(const GroupPlace& place) {
+  const VifIndex* own = nullptr;
+  for (const VifIndex& slot : place) {
+    if (IsUsed(slot)) own = &slot;
+  }
+  return own;
+}
+
+bool IsEarlier(const FoundField* a, const FoundField* b) {
+  return b == nullptr || (a != nullptr && a < b);  // all fields of a file are in one list
+}
+
+}  // namespace
+
+std::string_view TextOf(const FoundField& found) {
+  const std::string_view value = found.field.Value();
+  return value.empty() ? found.field.Description() : value;
+}
+
+CGroupView::CGroupView(const GroupPlace& place, NamedFields fields, std::vector<CGroupView> groups)
+    : m_place(place), m_fields(std::move(fields)), m_groups(std::move(groups)) {
+  for (const auto& [name, field] : m_fields) {
+    if (IsEarlier(field, m_first)) m_first = field;
+  }
+  if (m_first == nullptr) {
+    for (const CGroupView& group : m_groups) {
+      if (IsEarlier(group.FirstField(), m_first)) m_first = group.FirstField();
+    }
+  }
+  std::stable_sort(m_fields.begin(), m_fields.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+}
+
+EVifLocation CGroupView::Kind() const {
+  const VifIndex* own = OwnSlot(m_place);
+  return own != nullptr ? std::get<0>(*own) : eVifLocUnset;
+}
+
+std::uint64_t CGroupView::Index() const {
+  const VifIndex* own = OwnSlot(m_place);
+  return own != nullptr ? std::get<1>(*own) : CVIFField::INDEX_NOT_SPECIFIED;
+}
+
+const FoundField* CGroupView::Find(std::string_view name) const {
+  const auto found = std::lower_bound(m_fields.begin(), m_fields.end(), name,
+                                      [](const auto& entry, std::string_view wanted) { return entry.first < wanted; });
+  return found != m_fields.end() && found->first == name ? found->second : nullptr;
+}
+
+std::optional<std::uint64_t> CGroupView::Number(std::string_view name) const {
+  const FoundField* found = Find(name);
+  if (found == nullptr || !HasNumber(found->field)) return std::nullopt;
+  return found->field.GetULongNumericValue();
+}
+
+std::string_view CGroupView::Text(std::string_view name) const {
+  const FoundField* found = Find(name);
+  return found != nullptr ? TextOf(*found) : std::string_view();
+}
+
+std::span<const CGroupView> CGroupView::Groups(EVifLocation kind) const {
+  const auto first =
+      std::find_if(m_groups.begin(), m_groups.end(), [&](const CGroupView& group) { return group.Kind() == kind; });
+  const auto last = std::find_if(first, m_groups.end(), [&](const CGroupView& group) {
+    return group.Kind() != kind || group.Index() == CVIFField::INDEX_NOT_SPECIFIED;
+  });
+  return {first, last};
+}
+
+}  // namespace vifanalysis

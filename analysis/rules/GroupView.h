@@ -1,0 +1,68 @@
+// The fields of a file by their groups and names.
+#pragma once
+
+#include "files/FoundField.h"
+#include "files/GroupTree.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace vifanalysis {
+
+/// What a field says in words: its value, or, where an XML element has no value, its description.
+std::string_view TextOf(const FoundField& found);
+
+/// One group: its own fields and the groups in it. It borrows the fields. Where a group has a name twice, the first
+/// counts. A text field of a text file is found without the dollar sign of its name; it is in no group.
+class CGroupView {
+ public:
+  using NamedFields = std::vector<std::pair<std::string_view, const FoundField*>>;
+
+  CGroupView(const GroupPlace& place, NamedFields fields, std::vector<CGroupView> groups);
+
+  /// Where the group is, outermost group first.
+  const GroupPlace& Place() const { return m_place; }
+
+  /// What kind of group it is; `eVifLocUnset` for the file as a whole.
+  EVifLocation Kind() const;
+
+  /// Its number among the groups of its kind.
+  std::uint64_t Index() const;
+
+  /// The field of that name, null when there is none.
+  const FoundField* Find(std::string_view name) const;
+
+  bool Has(std::string_view name) const { return Find(name) != nullptr; }
+
+  /// The field's number; nothing when there is no field or no number.
+  std::optional<std::uint64_t> Number(std::string_view name) const;
+
+  /// The text of a field that is not numeric, as `TextOf` has it; empty when there is no field.
+  std::string_view Text(std::string_view name) const;
+
+  // Whether the field is there with that value. Both are false when it is missing.
+  bool IsYes(std::string_view name) const { return Number(name) == 1U; }
+  bool IsNo(std::string_view name) const { return Number(name) == 0U; }
+
+  /// The groups of a kind directly in this one, in the order of their numbers. A group without a number is left out: it
+  /// may be several in one.
+  std::span<const CGroupView> Groups(EVifLocation kind) const;
+
+  /// Its own fields in alphabetical order, fields of one name in the order of the file.
+  const NamedFields& Fields() const { return m_fields; }
+
+  /// Its first field in the order of the file, or else that of a group in it; null when there is none.
+  const FoundField* FirstField() const { return m_first; }
+
+ private:
+  GroupPlace m_place;
+  NamedFields m_fields;
+  std::vector<CGroupView> m_groups;  // by kind and number
+  const FoundField* m_first = nullptr;
+};
+
+}  // namespace vifanalysis

@@ -1,0 +1,69 @@
+#include "rules/Reporter.h"
+
+#include <analysis/FieldText.h>
+
+namespace vifanalysis {
+
+namespace {
+
+/// What a group is called in a sentence; null for what goes without saying.
+const char* GroupName(EVifLocation kind) {
+  switch (kind) {
+    case eVifLocComponent: return "Component ";
+    case eVifLocSrcPdo: return "Source PDO ";
+    case eVifLocSnkPdo: return "Sink PDO ";
+    case eVifLocSopSvid: return "SOP SVID ";
+    case eVifLocCableSvid: return "Cable SVID ";
+    case eVifLocSopSvidMode:
+    case eVifLocCableSvidMode: return "Mode ";
+    case eVifLocRouter: return "Router ";
+    case eVifLocRouterPcie: return "PCIe Endpoint ";
+    case eVifLocUnset:
+    case eVifLocVif:
+    case eVifLocAppVersion:
+    case eVifLocProduct: break;
+  }
+  return nullptr;
+}
+
+/// Such as "Component 1, Source PDO 2: "; empty when there is nothing to say.
+std::string PlacePrefix(const GroupPlace& place) {
+  std::string prefix;
+  for (const VifIndex& slot : place) {
+    const char* name = GroupName(std::get<0>(slot));
+    if (name == nullptr) continue;
+    prefix.append(prefix.empty() ? "" : ", ").append(name).append(NumberText(slot));
+  }
+  return prefix.empty() ? prefix : prefix + ": ";
+}
+
+}  // namespace
+
+void CReporter::Add(const FoundField& blamed, const std::string& message) {
+  Add(blamed.field.Indexes(), blamed, message);
+}
+
+void CReporter::Add(const CGroupView& group, const std::string& message) {
+  if (group.FirstField() != nullptr) Add(group.Place(), *group.FirstField(), message);
+}
+
+bool CReporter::HasFound(std::string_view code, const CGroupView& group) const {
+  return m_places.contains({code, group.Place()});
+}
+
+bool CReporter::HasFound(std::string_view code, const FoundField& field) const {
+  return m_blamed.contains({code, &field});
+}
+
+void CReporter::Add(const GroupPlace& place, const FoundField& blamed, const std::string& message) {
+  m_findings.push_back(About(blamed, *m_rule, PlacePrefix(place) + message));
+  m_blamed.emplace(m_rule->code, &blamed);
+  GroupPlace inner = place;
+  for (std::size_t depth = inner.size(); depth-- > 0;) {
+    m_places.emplace(m_rule->code, inner);
+    inner[depth] = CVIFField::UNSPECIFIED_INDEX;
+  }
+  m_places.emplace(m_rule->code, inner);
+}
+
+}  // namespace vifanalysis

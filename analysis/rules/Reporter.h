@@ -1,0 +1,47 @@
+// Takes what the rules find.
+#pragma once
+
+#include "files/FoundField.h"
+#include "rules/GroupView.h"
+
+#include <analysis/Rules.h>
+
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace vifanalysis {
+
+/// Makes findings, each with the place of the field that is most to blame, and with its component, PDO or SVID before
+/// the message: "Component 1, Source PDO 2: ...".
+class CReporter {
+ public:
+  explicit CReporter(Findings& findings) : m_findings(findings) {}
+
+  /// The rule that what follows is found by. It must live as long as the reporter.
+  void SetRule(const RuleInfo& rule) { m_rule = &rule; }
+
+  /// Blames a field. The message is a sentence without a full stop.
+  void Add(const FoundField& blamed, const std::string& message);
+
+  /// Blames what a group lacks, at the first field in it. The message is about the group.
+  void Add(const CGroupView& group, const std::string& message);
+
+  /// Whether the rule with that code, which is further up in the table, has found something in a group or in a group in
+  /// it. So one mistake gives one finding.
+  bool HasFound(std::string_view code, const CGroupView& group) const;
+
+  /// Whether it has blamed that field.
+  bool HasFound(std::string_view code, const FoundField& field) const;
+
+ private:
+  void Add(const GroupPlace& place, const FoundField& blamed, const std::string& message);
+
+  Findings& m_findings;
+  const RuleInfo* m_rule = nullptr;
+  std::set<std::pair<std::string_view, GroupPlace>> m_places;
+  std::set<std::pair<std::string_view, const FoundField*>> m_blamed;
+};
+
+}  // namespace vifanalysis

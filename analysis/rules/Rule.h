@@ -1,0 +1,30 @@
+// What a rule is made of.
+#pragma once
+
+#include "rules/Reporter.h"
+#include "rules/VifView.h"
+
+#include <span>
+#include <variant>
+
+namespace vifanalysis {
+
+/// Looks at one component.
+using ComponentCheck = void (*)(const CComponentView& component, CReporter& reporter);
+
+/// Looks at a whole file, which is one product.
+using FileCheck = void (*)(const CVifView& file, CReporter& reporter);
+
+/// A row of facts and the function beside it.
+struct Rule {
+  RuleInfo info;
+  std::variant<ComponentCheck, FileCheck> check;
+};
+
+/// The rules about what a file declares, in the order in which they run and are listed.
+std::span<const Rule> ConsistencyRules();
+
+/// Applies all of them that the file's edition allows. Takes time that grows with the number of fields.
+void FindContradictions(const FoundFields& fields, Findings& findings);
+
+}  // namespace vifanalysis

@@ -1,0 +1,39 @@
+// The functions of the rules, each in a file of its own that is named for it. The table says what they look for.
+#pragma once
+
+#include "rules/Reporter.h"
+#include "rules/VifView.h"
+
+namespace vifanalysis {
+
+// Values and their texts.
+void CheckUnanswered(const CVifView& file, CReporter& reporter);
+
+// PDO lists.
+
+// Power ratings.
+void CheckPdoAboveRating(const CComponentView& component, CReporter& reporter);
+
+// Power and Type-C roles.
+
+// Data roles.
+
+// Alternate modes.
+
+// Discover Identity and announced details.
+
+// PD revision.
+
+// Ports of one product.
+
+// Battery, supply, BC 1.2.
+
+// USB4.
+
+// Kind of product.
+
+// VCONN and cable.
+
+// Notes.
+
+}  // namespace vifanalysis

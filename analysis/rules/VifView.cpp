@@ -1,0 +1,100 @@
+#include "rules/VifView.h"
+
+#include <analysis/FieldText.h>
+
+#include <map>
+
+namespace vifanalysis {
+
+namespace {
+
+using FieldsByPlace = std::map<GroupPlace, CGroupView::NamedFields>;
+
+/// The place of the innermost group that a field is in.
+GroupPlace PlaceOf(const CVIFField& field) {
+  GroupPlace place;
+  place.fill(CVIFField::UNSPECIFIED_INDEX);
+  for (std::size_t depth = 0; depth < place.size() && IsUsed(field.Indexes()[depth]); ++depth) {
+    place[depth] = field.Indexes()[depth];
+  }
+  return place;
+}
+
+std::string_view NameOf(const CVIFField& field) {
+  const std::string_view name = field.Name();
+  return name.starts_with('$') ? name.substr(1) : name;
+}
+
+FieldsByPlace SortByPlace(const FoundFields& fields) {
+  FieldsByPlace sorted;
+  auto last = sorted.end();  // fields of one group usually stand together
+  for (const FoundField& found : fields) {
+    const GroupPlace place = PlaceOf(found.field);
+    if (last == sorted.end() || last->first != place) last = sorted.try_emplace(place).first;
+    last->second.emplace_back(NameOf(found.field), &found);
+  }
+  return sorted;
+}
+
+/// Makes the group at a place of all fields in it and in the groups in it. An unused slot sorts before any other, so
+/// that the group's own fields come first and those of each group in it stand together.
+/// \param next the first of the group's places; afterwards, the first behind them
+CGroupView MakeGroup(const GroupPlace& place, std::size_t depth, FieldsByPlace::iterator& next,
+                     const FieldsByPlace::iterator& end) {
+  const auto isInside = [&](const GroupPlace& other) {
+    return std::equal(place.begin(), place.begin() + static_cast<std::ptrdiff_t>(depth), other.begin());
+  };
+  CGroupView::NamedFields fields;
+  std::vector<CGroupView> groups;
+  while (next != end && isInside(next->first)) {
+    if (next->first == place) {
+      fields = std::move(next->second);
+      ++next;
+    } else {
+      GroupPlace inner = place;
+      inner[depth] = next->first[depth];
+      groups.push_back(MakeGroup(inner, depth + 1, next, end));
+    }
+  }
+  return {place, std::move(fields), std::move(groups)};
+}
+
+CGroupView MakeRoot(const FoundFields& fields) {
+  FieldsByPlace sorted = SortByPlace(fields);
+  GroupPlace nowhere;
+  nowhere.fill(CVIFField::UNSPECIFIED_INDEX);
+  auto next = sorted.begin();
+  return MakeGroup(nowhere, 0, next, sorted.end());
+}
+
+std::vector<CPdoView> MakePdos(const CGroupView& component, EVifLocation kind, PdoSide side) {
+  std::vector<CPdoView> pdos;
+  for (const CGroupView& group : component.Groups(kind)) pdos.emplace_back(group, side);
+  return pdos;
+}
+
+}  // namespace
+
+CComponentView::CComponentView(CGroupView group, const CVifView& file)
+    : CGroupView(std::move(group)),
+      m_file(&file),
+      m_sourcePdos(MakePdos(*this, eVifLocSrcPdo, PdoSide::Source)),
+      m_sinkPdos(MakePdos(*this, eVifLocSnkPdo, PdoSide::Sink)) {}
+
+CVifView::CVifView(const FoundFields& fields) : m_fields(fields), m_root(MakeRoot(fields)) {
+  if (const FoundField* found = FindHeader("VIF_Specification")) m_edition = ParseEdition(TextOf(*found));
+  for (const CGroupView& group : m_root.Groups(eVifLocComponent)) m_components.emplace_back(group, *this);
+}
+
+const FoundField* CVifView::FindHeader(std::string_view name) const {
+  const CGroupView* header = First(eVifLocVif);
+  const FoundField* found = header != nullptr ? header->Find(name) : nullptr;
+  return found != nullptr ? found : m_root.Find(name);
+}
+
+const CGroupView* CVifView::First(EVifLocation kind) const {
+  const std::span<const CGroupView> groups = m_root.Groups(kind);
+  return groups.empty() ? nullptr : &groups.front();
+}
+
+}  // namespace vifanalysis

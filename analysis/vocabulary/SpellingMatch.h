@@ -1,0 +1,29 @@
+// Names against spellings, in which each '#' stands for the digits of an index.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace vifanalysis {
+
+constexpr char kIndexMark = '#';
+
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+constexpr char ToLowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+/// The same for a spelling and for all names that match it in any letter case.
+std::uint32_t HashOfName(std::string_view name);
+
+enum class SpellingFit : std::uint8_t { No, InOtherCase, Exact };
+
+/// Whether the name is written as the spelling says. The digits at the spelling's marks, parts of the name, go to
+/// `digits`, which keeps what it holds where there is no mark.
+SpellingFit FitSpelling(std::string_view name, std::string_view spelling, std::array<std::string_view, 2>& digits);
+
+/// The spelling with digits, or nothing, in place of its marks.
+std::string WithDigits(std::string_view spelling, const std::array<std::string_view, 2>& digits);
+
+}  // namespace vifanalysis

@@ -1,0 +1,59 @@
+// Checking a file by the public interface.
+#include "support/TempDir.h"
+
+#include <analysis/Check.h>
+
+#include <gmock/gmock.h>
+
+#include <string>
+#include <vector>
+
+namespace vifanalysis {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr const char* kFlawed = "PID: 1\nPID: 2\nMy_Own: 1\n";
+
+std::vector<std::string> Codes(const std::filesystem::path& path, const CheckOptions& options = {}) {
+  std::vector<std::string> codes;
+  for (const Finding& finding : CheckFile(path, options)) codes.push_back(finding.code);
+  return codes;
+}
+
+std::string WhyNot(const std::filesystem::path& path) {
+  try {
+    CheckFile(path);
+  } catch (const CCheckError& error) {
+    return error.what();
+  }
+  return "checked";
+}
+
+TEST(CheckFileTest, HasFindingsOfTheFormAndOfWhatIsDeclared) {
+  const testsupport::TempDir dir;
+  EXPECT_THAT(Codes(dir.Write("a.txt", std::string(kFlawed) + "Product_Revision: 1\nCaptive_Cable: 4 ; <select>\n")),
+              testing::IsSupersetOf({"declared-twice", "unknown-name", "unanswered"}));
+}
+
+TEST(CheckFileTest, KeepsWhatTheOptionsSay) {
+  const testsupport::TempDir dir;
+  const std::filesystem::path path = dir.Write("a.txt", kFlawed);
+  EXPECT_THAT(Codes(path), ElementsAre("declared-twice", "unknown-name"));
+  EXPECT_THAT(Codes(path, {.only = {"unknown-name"}}), ElementsAre("unknown-name"));
+  EXPECT_THAT(Codes(path, {.only = {"UNKNOWN-name"}}), ElementsAre("unknown-name"));
+  EXPECT_THAT(Codes(path, {.except = {"unknown-name"}}), ElementsAre("declared-twice"));
+  EXPECT_THAT(Codes(path, {.only = {"no-index"}}), IsEmpty());
+}
+
+TEST(CheckFileTest, SaysWhyAFileCannotBeChecked) {
+  const testsupport::TempDir dir;
+  EXPECT_EQ(WhyNot(dir.Path() / "missing.txt"), "there is no such file");
+  EXPECT_EQ(WhyNot(dir.Write("a.pdf", "")), "a VIF is a text (*.txt) or XML (*.xml) file");
+  std::filesystem::create_directory(dir.Path() / "folder.txt");
+  EXPECT_EQ(WhyNot(dir.Path() / "folder.txt"), "only a regular file can be read");
+}
+
+}  // namespace
+}  // namespace vifanalysis

@@ -1,0 +1,38 @@
+#include <analysis/Edition.h>
+
+#include <gtest/gtest.h>
+
+namespace vifanalysis {
+namespace {
+
+TEST(EditionTest, ReadsTwoNumbersWithAPointBetween) {
+  EXPECT_EQ(ParseEdition("3.22"), (Edition{3, 22}));
+  EXPECT_EQ(ParseEdition("2.04"), (Edition{2, 4}));
+  EXPECT_EQ(ParseEdition("10.0"), (Edition{10, 0}));
+}
+
+TEST(EditionTest, ReadsWhatLoadingAnXmlFilePutsBeforeIt) {
+  EXPECT_EQ(ParseEdition("Version 3.22"), (Edition{3, 22}));
+  EXPECT_EQ(ParseEdition("Version Version 3.22"), std::nullopt);
+}
+
+TEST(EditionTest, RefusesAnythingElse) {
+  for (const char* text : {"", "3", "3.", ".22", "3.22.1", "3.22 ", " 3.22", "-3.22", "3.-2", "+3.2", "v3.22", "3,22",
+                           "4294967296.0", "3.4294967296"}) {
+    EXPECT_EQ(ParseEdition(text), std::nullopt) << text;
+  }
+}
+
+TEST(EditionTest, IsComparedNumberByNumber) {
+  EXPECT_LT((Edition{3, 3}), (Edition{3, 22}));
+  EXPECT_LT((Edition{2, 99}), (Edition{3, 0}));
+  EXPECT_EQ(ParseEdition("3.2"), ParseEdition("3.02"));
+}
+
+TEST(EditionTest, IsWrittenWithTwoDigitsBehindThePoint) {
+  EXPECT_EQ(EditionText({2, 4}), "2.04");
+  EXPECT_EQ(EditionText({3, 36}), "3.36");
+}
+
+}  // namespace
+}  // namespace vifanalysis
