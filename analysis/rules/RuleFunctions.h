@@ -25,15 +25,24 @@ void CheckPdoAboveRating(const CComponentView& component, CReporter& reporter);
 // PD revision.
 
 // Ports of one product.
+void CheckPortsDisagree(const CVifView& file, CReporter& reporter);
+void CheckPortsDiffer(const CVifView& file, CReporter& reporter);
 
 // Battery, supply, BC 1.2.
 
 // USB4.
+void CheckUsb4Needs(const CComponentView& component, CReporter& reporter);
+void CheckUsb4Router(const CVifView& file, CReporter& reporter);
+void CheckEnterUsbWithoutUsb4(const CComponentView& component, CReporter& reporter);
 
 // Kind of product.
+void CheckCaptivePlug(const CComponentView& component, CReporter& reporter);
+void CheckCableAndPort(const CVifView& file, CReporter& reporter);
 
 // VCONN and cable.
 
 // Notes.
+void CheckIgnoredFields(const CVifView& file, CReporter& reporter);
+void CheckPlaceholder(const CVifView& file, CReporter& reporter);
 
 }  // namespace vifanalysis

@@ -1,0 +1,50 @@
+// Fields and their values in the sentences of findings.
+#pragma once
+
+#include "rules/VifView.h"
+
+#include <cstddef>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace vifanalysis {
+
+/// What a field says: "YES", "2 (Type-C)", "0xE94D" or "33 W", or its text in quotes where it has no number.
+std::string ValueInWords(const FoundField& found, const CVifView& file);
+
+/// Such as "Captive_Cable is YES".
+std::string FieldIs(const FoundField& found, const CVifView& file);
+
+/// What one finding is about: fields, and groups of fields. No name is there twice.
+class CMentions {
+ public:
+  /// The field of that name, if the group has it.
+  void AddField(const CGroupView& group, std::string_view name);
+
+  /// All fields of the group whose names begin like that, except the one of that very name.
+  void AddFields(const CGroupView& group, std::string_view beginning, std::string_view except = {});
+
+  /// A group, if it has a field, or what it stands for.
+  void AddGroup(const CGroupView& group, std::string_view name);
+
+  /// A field under a name of its own.
+  void Add(const FoundField& found, std::string_view name);
+
+  bool IsEmpty() const { return m_names.empty(); }
+  std::size_t Size() const { return m_names.size(); }
+
+  /// The one that is first in the file; there must be one.
+  const FoundField& First() const { return *m_mentions.begin()->first; }
+
+  /// "A", "A and B", "A, B and C", in the order of the file; of many, the first ones and "and 7 more".
+  std::string InWords() const;
+
+ private:
+  std::set<std::string, std::less<>> m_names;
+  std::set<std::pair<const FoundField*, std::string>> m_mentions;  // all fields of a file are in one list
+};
+
+}  // namespace vifanalysis

@@ -1,0 +1,64 @@
+#include "rules/FieldWords.h"
+#include "rules/RuleFunctions.h"
+
+#include <string>
+#include <string_view>
+
+namespace vifanalysis {
+
+namespace {
+
+/// A field that must be YES, and why.
+struct Need {
+  std::string_view field;
+  std::string_view why;
+};
+
+constexpr Need kNeeds[] = {
+    {"USB_PD_Support", "; USB4 is entered with a PD message"},
+    {"Enter_USB_Supported", "; USB4 is entered with Enter_USB"},
+    {"USB_Comms_Capable", "; USB4 is USB communication"},
+};
+
+void Report(const FoundField& blamed, const CVifView& file, std::string_view why, CReporter& reporter) {
+  reporter.Add(blamed, ("USB4_Supported is YES, but " + FieldIs(blamed, file)).append(why));
+}
+
+void CheckDirections(const CComponentView& component, CReporter& reporter) {
+  if (component.IsNo("USB4_DFP_Supported") && component.IsNo("USB4_UFP_Supported")) {
+    reporter.Add(*component.Find("USB4_DFP_Supported"),
+                 "USB4_Supported is YES, but USB4_DFP_Supported and USB4_UFP_Supported are both NO");
+  }
+  if (!component.IsNo("Type_C_Port_On_Hub")) return;
+  if (component.IsYes("USB4_DFP_Supported") && component.IsNo("Type_C_Can_Act_As_Host")) {
+    reporter.Add(
+        *component.Find("USB4_DFP_Supported"),
+        "USB4_DFP_Supported is YES, but Type_C_Can_Act_As_Host is NO; a USB4 DFP that is not on a hub is a host");
+  }
+  if (component.IsYes("USB4_UFP_Supported") && component.IsNo("Type_C_Can_Act_As_Device")) {
+    reporter.Add(*component.Find("USB4_UFP_Supported"),
+                 "USB4_UFP_Supported is YES, but Type_C_Can_Act_As_Device is NO; a USB4 UFP that is not on a hub is a "
+                 "device");
+  }
+}
+
+}  // namespace
+
+void CheckUsb4Needs(const CComponentView& component, CReporter& reporter) {
+  if (!component.IsYes("USB4_Supported")) return;
+  const CVifView& file = component.File();
+  for (const Need& need : kNeeds) {
+    if (component.IsNo(need.field)) Report(*component.Find(need.field), file, need.why, reporter);
+  }
+  const std::optional<std::uint64_t> revision = component.Number("PD_Specification_Revision");
+  if (revision && *revision < 2) {
+    Report(*component.Find("PD_Specification_Revision"), file, "; USB4 takes revision 3", reporter);
+  }
+  const std::optional<std::uint64_t> connector = component.Number("Connector_Type");
+  if (connector && *connector != 2) {
+    Report(*component.Find("Connector_Type"), file, "; USB4 takes 2 (Type-C)", reporter);
+  }
+  CheckDirections(component, reporter);
+}
+
+}  // namespace vifanalysis
