@@ -38,7 +38,7 @@ std::string OfferOf(const CPdoView& pdo) {
   const PdoQuantities& is = pdo.Quantities();
   if (pdo.GetSupply() == Supply::Fixed) return is.voltage ? Volts(*is.voltage) : "";
   if (!is.minVoltage || !is.maxVoltage) return "";
-  const std::string range = Volts(*is.minVoltage) + " to " + Volts(*is.maxVoltage);
+  std::string range = Volts(*is.minVoltage) + " to " + Volts(*is.maxVoltage);
   if (pdo.GetSupply() != Supply::Programmable) return range;
   return is.current ? range + " at " + Amperes(*is.current) : "";
 }
