@@ -1,4 +1,5 @@
 #include "power/Units.h"
+#include "rules/PdoFacts.h"
 #include "rules/RuleFunctions.h"
 
 #include <string>
@@ -14,6 +15,7 @@ void CheckSide(const CComponentView& component, PdoSide side, std::string_view r
   for (const CPdoView& pdo : component.Pdos(side)) {
     const std::optional<std::uint64_t> power = pdo.GreatestPower();
     const std::optional<std::uint64_t> step = pdo.PowerStep();
+    if (IsDoubtful(pdo, reporter)) continue;
     if (pdo.IsAugmented() || !power || !step || *power <= *step || *power - *step <= *rating) continue;
     reporter.Add(pdo.PowerField(), std::string("the PDO is of ")
                                        .append(Watts(*power))

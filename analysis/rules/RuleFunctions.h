@@ -10,9 +10,19 @@ namespace vifanalysis {
 void CheckUnanswered(const CVifView& file, CReporter& reporter);
 
 // PDO lists.
+void CheckFirstPdoNot5V(const CComponentView& component, CReporter& reporter);
+void CheckPdoLimits(const CComponentView& component, CReporter& reporter);
+void CheckPdoOrder(const CComponentView& component, CReporter& reporter);
+void CheckPdoFieldsForType(const CComponentView& component, CReporter& reporter);
 
 // Power ratings.
 void CheckPdoAboveRating(const CComponentView& component, CReporter& reporter);
+void CheckRatingAbovePdos(const CComponentView& component, CReporter& reporter);
+void CheckPowerRules(const CComponentView& component, CReporter& reporter);
+void CheckOcpBelowRating(const CComponentView& component, CReporter& reporter);
+void CheckProductPower(const CVifView& file, CReporter& reporter);
+void CheckEprConsistency(const CComponentView& component, CReporter& reporter);
+void CheckAssuredSum(const CVifView& file, CReporter& reporter);
 
 // Power and Type-C roles.
 

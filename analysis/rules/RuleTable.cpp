@@ -16,6 +16,32 @@ constexpr Rule kRules[] = {
      CheckUnanswered},
 
     // PDO lists.
+    {{"first-pdo-not-5v", Severity::Error, kEvery, Confidence::High, "S3, S4",
+      "a list of PDOs that does not begin with a fixed supply at 5 V",
+      "Every port starts at 5 V, so the first PDO of each list is a fixed supply (Src_PDO_Supply_Type or "
+      "Snk_PDO_Supply_Type 0) of that voltage (Src_PDO_Voltage or Snk_PDO_Voltage 100, in units of 50 mV). Put the "
+      "PDO of 5 V first, or correct its type or voltage."},
+     CheckFirstPdoNot5V},
+    {{"pdo-limits", Severity::Error, kEvery, Confidence::High, "S3, S10, S14",
+      "more PDOs, or a PDO of another current or voltage, than USB PD allows",
+      "A port has at most 7 PDOs of a side, or 11 with the extended power range (EPR). No PDO is of more than 5 A, and "
+      "a source offers some current in each. A fixed PDO has 5 V to 20 V, any other at most 21 V, unless "
+      "EPR_Supported_As_Src or EPR_Supported_As_Snk is YES for its side, and no range of voltages ends below its "
+      "start. Correct the PDO, or declare EPR."},
+     CheckPdoLimits},
+    {{"pdo-order", Severity::Error, kEvery, Confidence::High, "S3, S4", "PDOs that are not in order or repeat others",
+      "A list has its fixed PDOs first, then those for batteries, then variable and then augmented ones; fixed PDOs "
+      "above 20 V come after all others of up to 20 V. PDOs of one kind are in rising order of their voltage: fixed "
+      "ones of their only one, battery and variable ones of their lowest, programmable ones of their highest. No PDO "
+      "repeats another. Sort the list, or correct the number that is out of order."},
+     CheckPdoOrder},
+    {{"pdo-fields-for-type", Severity::Warning, kEvery, Confidence::High, "S1, S13",
+      "a PDO without a field that its kind needs, or with one of another kind",
+      "A fixed PDO has one voltage and a current; a battery PDO has a lowest and a highest voltage and a power; a "
+      "variable or programmable PDO has a lowest and a highest voltage and a current. Nothing can be read from a PDO "
+      "without Src_PDO_Supply_Type or Snk_PDO_Supply_Type. Add what is missing and remove what is not of that kind, "
+      "or correct the type."},
+     CheckPdoFieldsForType},
 
     // Power ratings.
     {{"pdo-above-rating", Severity::Error, kEvery, Confidence::High, "S1, S8, S13",
@@ -25,6 +51,59 @@ constexpr Rule kRules[] = {
       "Correct the rating, or the voltage, current or power of the PDO. An augmented PDO may exceed the rating: its "
       "limits of voltage and current do not hold at once."},
      CheckPdoAboveRating},
+    {{"rating-above-pdos", Severity::Warning, kEvery, Confidence::Medium, "S1, S8, S13",
+      "a rating of more power than any PDO of that side",
+      "PD_Power_As_Source and PD_Power_As_Sink are the power of the greatest PDO of their side, so one PDO must be of "
+      "that power. Correct the rating, or add the PDO that is missing. Not asked while a PDO's power is not known."},
+     CheckRatingAbovePdos},
+    {{"power-rules", Severity::Warning, kEvery, Confidence::High, "S10",
+      "a source whose fixed PDOs are not those of its power",
+      "Under PD revision 3, a source of more than 15 W offers 5 V and 9 V, of more than 27 W also 15 V, and of more "
+      "than 45 W also 20 V, each with 3 A or with all of its power. Otherwise a sink that counts on these voltages "
+      "gets less than PD_Power_As_Source promises. Add the PDO, raise its current, or correct the rating."},
+     CheckPowerRules},
+    {{"ocp-below-rating",
+      Severity::Error,
+      {1, 34},
+      Confidence::High,
+      "C",
+      "over-current protection that acts below the current of the PDO",
+      "The source would switch off while a sink draws no more than the PDO offers. Src_PD_OCP_OC_Threshold is in units "
+      "of 10 mA; correct it, or Src_PDO_Max_Current. A threshold equal to the current is usual."},
+     CheckOcpBelowRating},
+    {{"product-power",
+      Severity::Error,
+      {2, 0},
+      Confidence::Medium,
+      "S1, S15",
+      "powers of ports, gangs and the product that contradict each other",
+      "Product_Total_Source_Power_mW is the power of the whole product, so all components say the same and no port "
+      "(PD_Power_As_Source) or gang of ports (Port_Source_Power_Gang_Max_Power) has more. A port that shares its power "
+      "(Port_Source_Power_Type 1) names its gang (Port_Source_Power_Gang) and the gang's power, which is the same for "
+      "all of its ports and at least that of each. Correct the power that is wrong."},
+     CheckProductPower},
+    {{"epr-consistency",
+      Severity::Error,
+      {3, 15},
+      Confidence::Medium,
+      "S8, S20",
+      "an extended power range (EPR) that PDOs, rating or revision contradict",
+      "EPR_Supported_As_Src and EPR_Supported_As_Snk are YES if the port has PDOs of the extended power range on that "
+      "side: above 21 V, or adjustable (AVS). Only these give more than 100 W, and they came with PD revision 3.1 "
+      "(PD_Spec_Revision_Major, PD_Spec_Revision_Minor). Correct the answer, or add the PDOs, or correct what "
+      "contradicts it."},
+     CheckEprConsistency},
+    {{"assured-sum",
+      Severity::Note,
+      {2, 0},
+      Confidence::Medium,
+      "S15",
+      "ports with assured power that together make more than the product has",
+      "What a port with assured power (Port_Source_Power_Type 0) gives does not depend on the other ports, so the "
+      "product must have the sum of what such ports give (PD_Power_As_Source) in Product_Total_Source_Power_mW. If the "
+      "ports share power, say so; else check the total. Many files have this, and what exactly the total counts "
+      "is not certain."},
+     CheckAssuredSum},
 
     // Power and Type-C roles.
 
