@@ -8,6 +8,8 @@ namespace vifanalysis {
 
 // Values and their texts.
 void CheckUnanswered(const CVifView& file, CReporter& reporter);
+void CheckTextAgainstValue(const CVifView& file, CReporter& reporter);
+void CheckValueOutOfRange(const CVifView& file, CReporter& reporter);
 
 // PDO lists.
 
@@ -15,8 +17,16 @@ void CheckUnanswered(const CVifView& file, CReporter& reporter);
 void CheckPdoAboveRating(const CComponentView& component, CReporter& reporter);
 
 // Power and Type-C roles.
+void CheckRoleMismatch(const CComponentView& component, CReporter& reporter);
+void CheckRoleIncomplete(const CComponentView& component, CReporter& reporter);
+void CheckFrSwapCurrent(const CComponentView& component, CReporter& reporter);
+void CheckSwapAgainstRole(const CComponentView& component, CReporter& reporter);
+void CheckRoleLeftover(const CComponentView& component, CReporter& reporter);
 
 // Data roles.
+void CheckDrSwapRequired(const CComponentView& component, CReporter& reporter);
+void CheckCommsRole(const CComponentView& component, CReporter& reporter);
+void CheckDataRoleContradiction(const CComponentView& component, CReporter& reporter);
 
 // Alternate modes.
 
@@ -33,6 +43,8 @@ void CheckPdoAboveRating(const CComponentView& component, CReporter& reporter);
 // Kind of product.
 
 // VCONN and cable.
+void CheckVconnSourceNeeded(const CComponentView& component, CReporter& reporter);
+void CheckOver3AUnasked(const CComponentView& component, CReporter& reporter);
 
 // Notes.
 

@@ -131,6 +131,12 @@ std::vector<Finding> CExample::Findings() const {
   return findings;
 }
 
+std::vector<Finding> CExample::FindingsOf(std::string_view code) const {
+  std::vector<Finding> findings = Findings();
+  std::erase_if(findings, [&](const Finding& finding) { return finding.code != code; });
+  return findings;
+}
+
 FoundFields::iterator CExample::FindField(const Place& place, std::string_view name) {
   return std::find_if(m_fields.begin(), m_fields.end(), [&](const FoundField& found) {
     return found.field.Name() == name && found.field.Indexes() == place;

@@ -68,6 +68,9 @@ class CExample {
   /// What the rules about what a file declares find, notes included.
   std::vector<Finding> Findings() const;
 
+  /// What one of them finds. A change may concern more than one rule.
+  std::vector<Finding> FindingsOf(std::string_view code) const;
+
  private:
   FoundFields::iterator FindField(const Place& place, std::string_view name);
   CExample& Insert(const Place& place, CVIFField field);
