@@ -17,4 +17,13 @@ std::string NameAndPlace(const CVIFField& field) {
   return place.empty() ? Quoted(field.Name()) : Quoted(field.Name()) + " (" + place + ')';
 }
 
+std::string Listed(std::span<const std::string_view> words) {
+  std::string list;
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    if (i > 0) list += i + 1 < words.size() ? ", " : " and ";
+    list += words[i];
+  }
+  return list;
+}
+
 }  // namespace vifanalysis

@@ -77,4 +77,8 @@ std::span<const CGroupView> CGroupView::Groups(EVifLocation kind) const {
   return {first, last};
 }
 
+bool CGroupView::HasGroups(EVifLocation kind) const {
+  return std::any_of(m_groups.begin(), m_groups.end(), [&](const CGroupView& group) { return group.Kind() == kind; });
+}
+
 }  // namespace vifanalysis

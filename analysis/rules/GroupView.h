@@ -52,6 +52,9 @@ class CGroupView {
   /// may be several in one.
   std::span<const CGroupView> Groups(EVifLocation kind) const;
 
+  /// Whether there are groups of a kind directly in this one, with or without a number.
+  bool HasGroups(EVifLocation kind) const;
+
   /// Its own fields in alphabetical order, fields of one name in the order of the file.
   const NamedFields& Fields() const { return m_fields; }
 

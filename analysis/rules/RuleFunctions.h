@@ -8,6 +8,8 @@ namespace vifanalysis {
 
 // Values and their texts.
 void CheckUnanswered(const CVifView& file, CReporter& reporter);
+void CheckTextAgainstValue(const CVifView& file, CReporter& reporter);
+void CheckValueOutOfRange(const CVifView& file, CReporter& reporter);
 
 // PDO lists.
 void CheckFirstPdoNot5V(const CComponentView& component, CReporter& reporter);
@@ -25,8 +27,16 @@ void CheckEprConsistency(const CComponentView& component, CReporter& reporter);
 void CheckAssuredSum(const CVifView& file, CReporter& reporter);
 
 // Power and Type-C roles.
+void CheckRoleMismatch(const CComponentView& component, CReporter& reporter);
+void CheckRoleIncomplete(const CComponentView& component, CReporter& reporter);
+void CheckFrSwapCurrent(const CComponentView& component, CReporter& reporter);
+void CheckSwapAgainstRole(const CComponentView& component, CReporter& reporter);
+void CheckRoleLeftover(const CComponentView& component, CReporter& reporter);
 
 // Data roles.
+void CheckDrSwapRequired(const CComponentView& component, CReporter& reporter);
+void CheckCommsRole(const CComponentView& component, CReporter& reporter);
+void CheckDataRoleContradiction(const CComponentView& component, CReporter& reporter);
 
 // Alternate modes.
 
@@ -50,6 +60,8 @@ void CheckCaptivePlug(const CComponentView& component, CReporter& reporter);
 void CheckCableAndPort(const CVifView& file, CReporter& reporter);
 
 // VCONN and cable.
+void CheckVconnSourceNeeded(const CComponentView& component, CReporter& reporter);
+void CheckOver3AUnasked(const CComponentView& component, CReporter& reporter);
 
 // Notes.
 void CheckIgnoredFields(const CVifView& file, CReporter& reporter);

@@ -68,7 +68,7 @@ class CExample {
   /// What the rules about what a file declares find, notes included.
   std::vector<Finding> Findings() const;
 
-  /// Those of one rule.
+  /// What one of these rules finds. A change may concern more than one rule.
   std::vector<Finding> FindingsOf(std::string_view code) const;
 
  private:

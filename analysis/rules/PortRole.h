@@ -1,0 +1,37 @@
+// What a port is by its roles.
+#pragma once
+
+#include "rules/VifView.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vifanalysis {
+
+/// The roles of a PD port, with the numbers of PD_Port_Type.
+enum class PortRole : std::uint8_t { ConsumerOnly, ConsumerProvider, ProviderConsumer, ProviderOnly, Drp, EMarker };
+
+/// The state machines of a Type-C port, with the numbers of Type_C_State_Machine.
+enum class StateMachine : std::uint8_t { Source, Sink, Drp };
+
+/// The port's role; nothing when it has none that is known, or USB_PD_Support is NO.
+std::optional<PortRole> RoleOf(const CComponentView& component);
+
+/// The port's state machine; nothing when it has none that is known.
+std::optional<StateMachine> StateMachineOf(const CComponentView& component);
+
+/// Whether the component is a cable, or the eMarker of one.
+bool IsCable(const CComponentView& component);
+
+/// A number of a field and what it stands for: "3 (Provider Only)"; the number alone when that is not known.
+std::string NumberAndText(const CComponentView& component, std::string_view name, std::uint64_t number);
+
+/// The field and its number in words: "PD_Port_Type 3 (Provider Only)". The field must be there and have a number.
+std::string NameAndNumber(const CComponentView& component, std::string_view name);
+
+/// What a port of that role is called: "Provider Only".
+std::string_view RoleName(PortRole role);
+
+}  // namespace vifanalysis
