@@ -14,9 +14,9 @@ constexpr std::string_view kChargingPort = "BC_1_2_Charging_Port_Type";
 }  // namespace
 
 void CheckBc12Role(const CComponentView& component, CReporter& reporter) {
-  const std::optional<std::uint64_t> support = SoundNumber(component, kSupport, reporter);
-  const bool isDevice = support == 1U || support == 3U;
-  const bool isChargingPort = support == 2U || support == 3U;
+  const std::uint64_t support = SoundNumber(component, kSupport, reporter).value_or(0);
+  const bool isDevice = support == 1 || support == 3;
+  const bool isChargingPort = support == 2 || support == 3;
   const std::optional<std::uint64_t> stateMachine = component.Number(kStateMachine);
   if ((isChargingPort && stateMachine == 1U) || (isDevice && stateMachine == 0U)) {
     reporter.Add(*component.Find(kSupport), Says(component, kSupport) + ", but " + Says(component, kStateMachine));

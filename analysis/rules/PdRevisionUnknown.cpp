@@ -2,22 +2,18 @@
 #include "rules/RuleFunctions.h"
 
 #include <algorithm>
-#include <compare>
 #include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace vifanalysis {
 
 namespace {
 
-struct Numbers {
-  std::uint64_t major;
-  std::uint64_t minor;
-
-  friend constexpr auto operator<=>(const Numbers&, const Numbers&) = default;
-};
+/// Major and minor number.
+using Numbers = std::pair<std::uint64_t, std::uint64_t>;
 
 /// Published versions of one revision, from the first to the last.
 struct Versions {
@@ -50,7 +46,7 @@ bool IsPublished(const Numbers& revision, const Numbers& version) {
 }
 
 std::string TextOf(const Numbers& numbers) {
-  return std::to_string(numbers.major) + '.' + std::to_string(numbers.minor);
+  return std::to_string(numbers.first) + '.' + std::to_string(numbers.second);
 }
 
 }  // namespace

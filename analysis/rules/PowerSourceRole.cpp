@@ -10,7 +10,7 @@ void CheckPowerSourceRole(const CComponentView& component, CReporter& reporter) 
   constexpr std::uint64_t providerOnly = 3;
   constexpr std::uint64_t fromPort = 1;
   constexpr std::uint64_t fromBoth = 2;
-  const std::optional<std::uint64_t> source = SoundNumber(component, name, reporter);
+  const std::uint64_t source = SoundNumber(component, name, reporter).value_or(0);
   if (PdRole(component) == providerOnly && (source == fromPort || source == fromBoth)) {
     reporter.Add(*component.Find(name),
                  "a Provider Only port is never powered over itself, but " + Says(component, name));

@@ -26,7 +26,7 @@ constexpr std::uint64_t kPowerBrick = 3;
 /// A consumer, or a consumer that can also provide, is not a brick.
 bool IsConsumer(const CComponentView& component) {
   const std::optional<std::uint64_t> role = PdRole(component);
-  return role == 0U || role == 1U;
+  return role && *role <= 1;
 }
 
 /// Whether the port does not respond in the role, unless alt-mode-role has found just that.
