@@ -1,5 +1,5 @@
-#include "rules/FieldWords.h"
 #include "rules/RuleFunctions.h"
+#include "rules/SoundFields.h"
 
 #include <string_view>
 

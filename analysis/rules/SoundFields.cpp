@@ -1,4 +1,4 @@
-#include "rules/FieldWords.h"
+#include "rules/SoundFields.h"
 
 #include "files/Sentence.h"
 
