@@ -39,16 +39,28 @@ void CheckCommsRole(const CComponentView& component, CReporter& reporter);
 void CheckDataRoleContradiction(const CComponentView& component, CReporter& reporter);
 
 // Alternate modes.
+void CheckModalSvids(const CComponentView& component, CReporter& reporter);
+void CheckAltModeRole(const CComponentView& component, CReporter& reporter);
 
 // Discover Identity and announced details.
+void CheckDetailsMissing(const CComponentView& component, CReporter& reporter);
+void CheckRespondsInImpossibleRole(const CComponentView& component, CReporter& reporter);
+void CheckProductTypeAgainstRole(const CComponentView& component, CReporter& reporter);
+void CheckDfpPortNumber(const CVifView& file, CReporter& reporter);
 
 // PD revision.
+void CheckPdRevisionPair(const CComponentView& component, CReporter& reporter);
+void CheckPd3FeatureInPd2(const CComponentView& component, CReporter& reporter);
+void CheckPdRevisionUnknown(const CComponentView& component, CReporter& reporter);
 
 // Ports of one product.
 void CheckPortsDisagree(const CVifView& file, CReporter& reporter);
 void CheckPortsDiffer(const CVifView& file, CReporter& reporter);
 
 // Battery, supply, BC 1.2.
+void CheckBatteryCount(const CComponentView& component, CReporter& reporter);
+void CheckPowerSourceRole(const CComponentView& component, CReporter& reporter);
+void CheckBc12Role(const CComponentView& component, CReporter& reporter);
 
 // USB4.
 void CheckUsb4Needs(const CComponentView& component, CReporter& reporter);

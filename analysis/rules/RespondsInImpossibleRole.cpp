@@ -1,0 +1,48 @@
+#include "rules/RuleFunctions.h"
+#include "rules/SoundFields.h"
+
+#include <string>
+#include <string_view>
+
+namespace vifanalysis {
+
+namespace {
+
+/// A data role that the port does not start in, and what it takes to get there.
+struct Role {
+  std::uint64_t stateMachine;  ///< with which the port starts in the other role
+  std::string_view name;
+  std::string_view otherName;
+  std::string_view swap;
+  std::string_view responds;
+};
+
+constexpr Role kRoles[] = {
+    {1, "a DFP", "a UFP", "DR_Swap_To_DFP_Supported", "Responds_To_Discov_SOP_DFP"},
+    {0, "a UFP", "a DFP", "DR_Swap_To_UFP_Supported", "Responds_To_Discov_SOP_UFP"},
+};
+
+std::string Message(const CComponentView& component, const Role& role) {
+  return Says(component, role.responds)
+      .append(", but the port starts as ")
+      .append(role.otherName)
+      .append(" and never becomes ")
+      .append(role.name)
+      .append(": ")
+      .append(Says(component, "Type_C_State_Machine"))
+      .append(", ")
+      .append(Says(component, role.swap));
+}
+
+}  // namespace
+
+void CheckRespondsInImpossibleRole(const CComponentView& component, CReporter& reporter) {
+  for (const Role& role : kRoles) {
+    if (component.Number("Type_C_State_Machine") == role.stateMachine && component.IsNo(role.swap) &&
+        component.IsYes(role.responds)) {
+      reporter.Add(*component.Find(role.responds), Message(component, role));
+    }
+  }
+}
+
+}  // namespace vifanalysis
