@@ -21,6 +21,15 @@ std::string NumberInWords(const FieldInfo& info, std::uint64_t number, const Edi
 
 }  // namespace
 
+std::string NumberAndText(const CComponentView& component, std::string_view name, std::uint64_t number) {
+  std::string words = std::to_string(number);
+  const FieldInfo* field = FindField(name).field;
+  if (field == nullptr) return words;
+  const std::string_view text = ValueText(*field, number, component.File().GetEdition().value_or(Edition{}));
+  if (!text.empty()) words.append(" (").append(text).append(")");
+  return words;
+}
+
 std::string ValueInWords(const FoundField& found, const CVifView& file) {
   if (!HasNumber(found.field)) return Quoted(TextOf(found));
   const std::uint64_t number = found.field.GetULongNumericValue();

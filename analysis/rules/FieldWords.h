@@ -4,6 +4,7 @@
 #include "rules/VifView.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <set>
 #include <string>
 #include <string_view>
@@ -11,6 +12,9 @@
 #include <vector>
 
 namespace vifanalysis {
+
+/// A number of a field and what it stands for: "3 (Provider Only)"; the number alone when that is not known.
+std::string NumberAndText(const CComponentView& component, std::string_view name, std::uint64_t number);
 
 /// What a field says: "YES", "2 (Type-C)", "0xE94D" or "33 W", or its text in quotes where it has no number.
 std::string ValueInWords(const FoundField& found, const CVifView& file);

@@ -20,14 +20,6 @@ std::string_view SupplyName(Supply supply) {
   return {};
 }
 
-std::string NumberAndText(const CComponentView& component, std::string_view name, std::uint64_t number) {
-  const FieldInfo* field = FindField(name).field;
-  const Edition edition = component.File().GetEdition().value_or(Edition{});
-  const std::string_view text = field != nullptr ? ValueText(*field, number, edition) : std::string_view();
-  const std::string digits = std::to_string(number);
-  return text.empty() ? digits : digits + " (" + std::string(text) + ')';
-}
-
 bool HasAllPdos(const CComponentView& component, PdoSide side) {
   const std::size_t listed = component.Pdos(side).size();
   return listed != 0 && component.Number(CountName(side)).value_or(0) <= listed;

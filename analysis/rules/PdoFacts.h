@@ -26,9 +26,6 @@ constexpr std::string_view CountName(PdoSide side) { return side == PdoSide::Sou
 /// "fixed", "battery" and so on; empty for an unknown supply.
 std::string_view SupplyName(Supply supply);
 
-/// A number and what it stands for: "1 (Battery)", or "7" where that is not known.
-std::string NumberAndText(const CComponentView& component, std::string_view name, std::uint64_t number);
-
 /// Whether the side has PDOs, and no fewer than the component says.
 bool HasAllPdos(const CComponentView& component, PdoSide side);
 

@@ -1,4 +1,5 @@
 #include "power/Units.h"
+#include "rules/FieldWords.h"
 #include "rules/PdoFacts.h"
 #include "rules/RuleFunctions.h"
 

@@ -1,5 +1,7 @@
 #include "rules/PortRole.h"
 
+#include "rules/FieldWords.h"
+
 #include <analysis/FieldText.h>
 #include <analysis/Vocabulary.h>
 
@@ -23,15 +25,6 @@ bool IsCable(const CComponentView& component) {
   const FoundField* type = component.File().FindHeader("VIF_Product_Type");
   const bool isCableProduct = type != nullptr && HasNumber(type->field) && type->field.GetULongNumericValue() == cable;
   return isCableProduct || RoleOf(component) == PortRole::EMarker;
-}
-
-std::string NumberAndText(const CComponentView& component, std::string_view name, std::uint64_t number) {
-  std::string words = std::to_string(number);
-  const FieldInfo* field = FindField(name).field;
-  if (field == nullptr) return words;
-  const std::string_view text = ValueText(*field, number, component.File().GetEdition().value_or(Edition{}));
-  if (!text.empty()) words.append(" (").append(text).append(")");
-  return words;
 }
 
 std::string NameAndNumber(const CComponentView& component, std::string_view name) {

@@ -25,9 +25,6 @@ std::optional<StateMachine> StateMachineOf(const CComponentView& component);
 /// Whether the component is a cable, or the eMarker of one.
 bool IsCable(const CComponentView& component);
 
-/// A number of a field and what it stands for: "3 (Provider Only)"; the number alone when that is not known.
-std::string NumberAndText(const CComponentView& component, std::string_view name, std::uint64_t number);
-
 /// The field and its number in words: "PD_Port_Type 3 (Provider Only)". The field must be there and have a number.
 std::string NameAndNumber(const CComponentView& component, std::string_view name);
 

@@ -1,3 +1,4 @@
+#include "rules/FieldWords.h"
 #include "rules/PortRole.h"
 #include "rules/RuleFunctions.h"
 
