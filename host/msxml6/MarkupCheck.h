@@ -15,7 +15,8 @@ struct MarkupFindings {
 };
 
 /// Looks through a file for names whose prefix is not declared, which not every MSXML finds, and for mistakes after
-/// which a parser that goes on may find tags where there are none. \param end where to stop in the text
+/// which a parser that goes on may find tags where there are none.
+/// \param end where to stop in the text
 MarkupFindings CheckMarkup(const xmlfile::FileText& file, std::size_t end);
 
 }  // namespace msxml6

@@ -27,8 +27,9 @@ class CInputFile {
 
   /// Reads on. It fills the buffer unless the file ends or cannot be read on, in however small pieces the system
   /// delivers it. What was read before a failure is delivered before the failure; after that and after the end it reads
-  /// nothing more. \param context the CInputFile, which must be open \return the number of bytes read, 0 at the end, -1
-  /// on failure
+  /// nothing more.
+  /// \param context the CInputFile, which must be open
+  /// \return the number of bytes read, 0 at the end, -1 on failure
   static int Read(void* context, char* buffer, int length) noexcept;
 
 #ifndef _WIN32

@@ -59,8 +59,8 @@ INSTANTIATE_TEST_SUITE_P(All, UsageOfEveryCommand,
 
 TEST(Usage, LongDescriptionsInTheHelpAreAligned) {
   EXPECT_THAT(Vif({"check", "--help"}).output,
-              HasSubstr("\n  error    count-mismatch      a count that differs from the number of groups,"
-                        "\n                               or a minimum above its maximum\n"));
+              HasSubstr("\n  error    count-mismatch               a count that differs from the number of"
+                        "\n                                        groups, or a minimum above its maximum\n"));
 }
 
 TEST(Usage, VersionIsThatOfTheProject) {

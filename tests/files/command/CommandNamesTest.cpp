@@ -68,7 +68,8 @@ class CommandNamesTest : public testing::Test {
     EXPECT_EQ(result.error, "vif: " + reason + "\n");
   }
 
-  /// Creates a file. \return false where the file system does not allow the name
+  /// Creates a file.
+  /// \return false where the file system does not allow the name
   bool Write(const std::string& name, std::string_view content) const {
     try {
       m_dir.Write(name, content);
