@@ -40,14 +40,16 @@ constexpr std::size_t CountLocations() {
   return count;
 }
 
-// In the order of their values, which have no gaps.
-constexpr auto kLocations = [] {
+constexpr auto ListLocations() {
   std::array<VifLocTypeInfo, CountLocations()> locations{};
   for (std::size_t value = 0; value < locations.size(); ++value) {
     locations[value] = Describe(static_cast<EVifLocation>(value));
   }
   return locations;
-}();
+}
+
+// In the order of their values, which have no gaps.
+constexpr auto kLocations = ListLocations();
 
 }  // namespace
 
