@@ -9,6 +9,8 @@ from pathlib import Path
 # Optimising less saves compile time; nobody needs the debug information.
 _LESS = {"-O2": "-O1", "-O3": "-O1", "-g": "", "-g1": "", "-Werror": "-w"}
 
+_LOAD_BY_FULL_PATH = {"loading_tests"}
+
 
 @dataclass(frozen=True)
 class Linked:
@@ -46,11 +48,14 @@ class Build:
         self._objects_by_file = self._read_dependencies()
         targets = self._read_targets()
         self.libraries = [self._linked(path) for path, kind in targets.items() if "SHARED_LIBRARY" in kind]
-        # A program with a file that lists its tests is a test program. Those that are not built are left out.
+        # A program with a file that lists its tests is a test program. Those that are not built are left out, and so are
+        # those that load the libraries of the build by their full paths: they would never load a mutant.
         self.programs = [
             self._linked(path)
             for path, kind in targets.items()
-            if f"{path}[1]_tests.cmake" in targets and (directory / path).exists()
+            if f"{path}[1]_tests.cmake" in targets
+            and (directory / path).exists()
+            and Path(path).name not in _LOAD_BY_FULL_PATH
         ]
 
     def objects_of(self, name: str) -> list[str]:
