@@ -17,24 +17,24 @@ using libxml2::CFileDocument;
 
 struct CDOMDoc::Content {
   std::vector<xmlfile::SchemaSource> schemas;
-  std::string rootNamespace;  // with rootName: what the root must be; any when rootName is empty
+  std::string rootNamespace;  // with rootName: the root that is required; any when rootName is empty
   std::string rootName;
   std::filesystem::path file;
   std::vector<DOMDocProblem> problems;
   CFileDocument document;
 
-  /// Loads a file into a document; the reasons are in `problems` when that fails.
+  /// Loads a file into a document; if that fails, `problems` has the reasons.
   bool Load(const std::filesystem::path& path, CFileDocument& into);
 
-  /// Whether a document that has been loaded is valid; the reasons are in `problems` when it is not.
+  /// Whether a loaded document is valid; if not, `problems` has the reasons.
   bool Validate(CFileDocument& loaded);
 };
 
 namespace {
 
-/// Adds a problem when the root is not the element asked for.
-/// \param namespaceUri null when any will do
-/// \param name empty when any will do, whatever its namespace
+/// Adds a problem when the root is not the required element.
+/// \param namespaceUri null for any
+/// \param name empty for any, whatever its namespace
 void CheckRoot(CFileDocument& document, const std::string* namespaceUri, const std::string& name,
                xmlfile::CProblems& problems) {
   if (name.empty()) return;
@@ -56,7 +56,7 @@ bool CDOMDoc::Content::Load(const std::filesystem::path& path, CFileDocument& in
 bool CDOMDoc::Content::Validate(CFileDocument& loaded) {
   xmlfile::CProblems found;
   CheckRoot(loaded, &rootNamespace, rootName, found);
-  // An element that is not the root asked for is no use to the schemas, and what they said would only confuse.
+  // If the root is not the required element, the schemas do not apply, and their errors would only confuse.
   if (found.IsEmpty() && !schemas.empty()) loaded.Validate(schemas, found);
   problems = found.Take();
   return problems.empty();

@@ -6,8 +6,8 @@
 
 /// One reason. Texts are UTF-8.
 struct DOMDocProblem {
-  std::size_t line = 0;    ///< where, from 1; 0 when it concerns no place, such as a file that cannot be opened
-  std::size_t column = 0;  ///< the character in the line, from 1; 0 when not known
-  std::string element;     ///< the qualified name of the element concerned; empty when there is none
-  std::string reason;      ///< what is wrong, as a sentence for people, on one line
+  std::size_t line = 0;    ///< where, from 1; 0 when the problem has no place, such as a file that cannot be opened
+  std::size_t column = 0;  ///< the character in the line, from 1; 0 when unknown
+  std::string element;     ///< the qualified name of the element concerned; empty if none
+  std::string reason;      ///< what is wrong: a sentence for people, on one line
 };

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// A path names each element for people, and a file may have it in all its paths.
+/// A path names each element for people to read, and the same file could repeat a long name in every path.
 constexpr std::size_t kLongestName = 100;
 
 }  // namespace

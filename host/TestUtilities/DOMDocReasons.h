@@ -1,4 +1,4 @@
-// What CDOMDoc says, the same over every parser.
+// The messages of CDOMDoc, the same for every parser.
 #pragma once
 
 #include "TestUtilities/DOMDocProblem.h"
@@ -7,20 +7,20 @@
 #include <string>
 #include <string_view>
 
-/// Why a root element is not the one asked for. Texts are UTF-8; an empty namespace is none.
-/// \param wantedNamespace null when any would have done
+/// Why the root element is not the required one. Texts are UTF-8; an empty namespace means none.
+/// \param wantedNamespace null when any is allowed
 std::string WrongRootReason(std::string_view name, std::string_view namespaceUri, std::string_view wantedName,
                             const std::string* wantedNamespace);
 
-/// An element in a path: its name, cut where it is long, and its number in brackets unless that is 0.
+/// One step of a path: the element's name, truncated if long, and its number in brackets unless that is 0.
 std::string PathStep(std::string_view name, std::size_t number);
 
 /// \param what the schema's file and the reason
 /// \throws CZoDOMDocException "Couldn't load the schema <what>", always
 [[noreturn]] void ThrowSchemaError(const std::string& what);
 
-/// The same for a schema file that is no well-formed document.
+/// The same for a schema file that is not a well-formed document.
 [[noreturn]] void ThrowSchemaError(const std::string& file, const DOMDocProblem& problem);
 
-/// \throws CZoDOMDocException when a schema file does not describe the namespace that it is said to
+/// \throws CZoDOMDocException when a schema file does not describe the namespace that it is registered for
 void RequireNamespace(const std::string& file, const std::string& described, const std::string& wanted);

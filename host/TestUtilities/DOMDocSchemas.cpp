@@ -1,4 +1,4 @@
-// Where schema files are found.
+// The search for schema files.
 #include "BaseUtilities/PathText.h"
 #include "TestUtilities/DOMDoc.h"
 #include "TestUtilities/LibraryDirectory.h"
@@ -18,7 +18,7 @@ std::filesystem::path SchemaDirectory() {
   return g_schemaDirectory;
 }
 
-/// Where a schema may be, in the order in which it is looked for; never empty.
+/// The directories to search for schemas, in order; never empty.
 std::vector<std::filesystem::path> Directories() {
   std::vector<std::filesystem::path> directories;
   if (std::filesystem::path chosen = SchemaDirectory(); !chosen.empty()) directories.push_back(std::move(chosen));
@@ -27,7 +27,7 @@ std::vector<std::filesystem::path> Directories() {
     directories.push_back((directory / VENDORINFOFILE_SCHEMAS_FROM_LIBRARY).lexically_normal());
   }
   directories.insert(directories.end(), library.begin(), library.end());
-  // A schema that can be nowhere still gets a full path: it must not be taken from the current directory.
+  // A schema that is nowhere still gets a full path: it must not be loaded from the current directory.
   if (directories.empty()) directories.emplace_back("/");
   return directories;
 }

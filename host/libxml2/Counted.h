@@ -7,7 +7,7 @@
 
 namespace libxml2 {
 
-/// Implements the count; the object starts with one reference and deletes itself with the last.
+/// Implements reference counting; an object starts with one reference and is deleted with the last.
 template <typename Interface>
 class CCounted : public Interface {
  public:
@@ -19,8 +19,8 @@ class CCounted : public Interface {
   ULONG AddRef() override { return ++m_references; }
 
   ULONG Release() override {
-    // Whoever has the only reference shares it with nobody, so counting it down can be saved, which is dear where
-    // threads could share it.
+    // The owner of the only reference shares the object with nobody, so the atomic decrement, which is expensive, can
+    // be skipped.
     const ULONG left = m_references.load(std::memory_order_acquire) == 1 ? 0 : --m_references;
     if (left == 0) delete this;
     return left;
@@ -30,7 +30,7 @@ class CCounted : public Interface {
   std::atomic<ULONG> m_references{1};
 };
 
-/// Answers QueryInterface for an object that can be asked for it.
+/// Answers a QueryInterface call that the object supports.
 inline HRESULT Answer(IUnknown* interface, void** object) {
   interface->AddRef();
   *object = interface;

@@ -1,4 +1,4 @@
-// An XML document: parsed, validated and asked through the interfaces.
+// An XML document that is parsed, validated and queried through the interfaces.
 #pragma once
 
 #include "libxml2/Counted.h"
@@ -16,7 +16,7 @@ class CDomDocument final : public CCounted<IXMLDOMDocument2> {
  public:
   CDomDocument();
 
-  /// Replaces the content. Nodes of the former content stay as they are.
+  /// Replaces the content. Nodes of the old content remain unchanged.
   /// \param tree null for an empty document
   void SetTree(std::shared_ptr<const CXmlTree> tree);
 
@@ -37,7 +37,7 @@ class CDomDocument final : public CCounted<IXMLDOMDocument2> {
   HRESULT getProperty(BSTR name, VARIANT* value) override;
 
  private:
-  /// Of a document that has been loaded.
+  /// Only for a document that has been loaded.
   xmlNode* Node() const;
 
   StatePointer m_state;

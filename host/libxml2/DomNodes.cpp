@@ -17,21 +17,22 @@ namespace libxml2 {
 
 namespace {
 
-/// Only the nodes of this file answer to it.
+/// Only the nodes of this file support it.
 constexpr IID kNodeBehind = {0x8C4A2F10, 0x51D3, 0x4E0B, {0x9A, 0x77, 0x3D, 0x5E, 0x20, 0xB1, 0xC6, 0x48}};
 
-/// Gives an optional text: S_FALSE and null when there is none.
+/// Returns an optional text: S_FALSE and null when there is none.
 HRESULT GiveText(const xmlChar* text, BSTR* place) {
   *place = text != nullptr ? MakeBstr(View(text)) : nullptr;
   return text != nullptr ? S_OK : S_FALSE;
 }
 
-/// A document without a type declaration has no attribute whose value is in pieces.
+/// In a document without a document type declaration, no attribute value is in pieces.
 std::string_view AttributeValue(const xmlNode& attribute) { return View(attribute.children->content); }
 
 class CDomNode;
 
-/// The attributes of a node. They are a part of it and count as it, so that asking for them takes no memory.
+/// The attributes of a node. They are part of the node and share its reference count, so that getting them needs no
+/// memory.
 class CDomAttributes final : public IXMLDOMNamedNodeMap {
  public:
   explicit CDomAttributes(CDomNode& node) : m_node(node) {}
@@ -85,7 +86,7 @@ class CDomNodeList final : public CCounted<IXMLDOMNodeList> {
   std::vector<xmlNode*> m_nodes;
 };
 
-/// The list of nothing, which most elements give when they are asked for those in them. There is one for all.
+/// The empty list, which most elements return when asked for child elements. All share one.
 class CEmptyNodeList final : public IXMLDOMNodeList {
  public:
   HRESULT QueryInterface(REFIID iid, void** object) override {
@@ -93,7 +94,7 @@ class CEmptyNodeList final : public IXMLDOMNodeList {
     return iid == IID_IUnknown || iid == IID_IXMLDOMNodeList ? Answer(this, object) : RefuseInterface(object);
   }
 
-  // It never goes, so nothing is counted.
+  // It is never destroyed, so nothing is counted.
   ULONG AddRef() override { return 1; }
   ULONG Release() override { return 1; }
 
@@ -110,7 +111,7 @@ class CEmptyNodeList final : public IXMLDOMNodeList {
   }
 };
 
-/// An element or an attribute, or, where an XPath goes up to it, the document.
+/// An element or an attribute or, where an XPath reaches it, the document.
 class CDomNode final : public CCounted<IXMLDOMElement> {
  public:
   CDomNode(StatePointer state, xmlNode* node) : m_state(std::move(state)), m_node(node), m_attributes(*this) {}
@@ -121,7 +122,7 @@ class CDomNode final : public CCounted<IXMLDOMElement> {
   HRESULT QueryInterface(REFIID iid, void** object) override {
     if (object == nullptr) return E_POINTER;
     if (iid == kNodeBehind) {
-      // No interface, so it isn't counted.
+      // Not an interface, so it is not counted.
       *object = this;
       return S_OK;
     }
@@ -217,7 +218,7 @@ HRESULT CDomAttributes::getNamedItem(BSTR name, IXMLDOMNode** attribute) {
   });
 }
 
-/// The path that the expression is; null when it is something else.
+/// The parsed path when the expression is one; else null.
 const CChildPath* FindPath(const DocumentState& state, std::wstring_view xpath) {
   if (state.lastXPath != xpath || xpath.empty()) {
     state.lastXPath.clear();
@@ -227,7 +228,7 @@ const CChildPath* FindPath(const DocumentState& state, std::wstring_view xpath) 
   return state.lastPath ? &*state.lastPath : nullptr;
 }
 
-/// Selects from a node; a list that COM cannot count is out of memory.
+/// Selects from a node; a list too long for COM to count is reported as out of memory.
 std::vector<xmlNode*> Select(const DocumentState& state, xmlNode* from, std::wstring_view xpath, HRESULT& result) {
   std::vector<xmlNode*> nodes;
   if (const CChildPath* path = FindPath(state, xpath); path != nullptr) {

@@ -17,23 +17,23 @@ struct DocumentState {
   std::shared_ptr<const CXmlTree> tree;
   Prefixes prefixes;  // as they were when the node was selected
 
-  // The expression that was asked for last, which mostly is the one asked for next.
+  // The last expression evaluated, which is usually the next one too.
   mutable std::wstring lastXPath;
   mutable std::optional<CChildPath> lastPath;
 };
 using StatePointer = std::shared_ptr<const DocumentState>;
 
-/// A new object for the node, counted once; an element or an attribute.
+/// Creates an object for a node, an element or an attribute, with one reference.
 /// \throws std::bad_alloc
 DOMNodePtr MakeNode(const StatePointer& state, xmlNode* node);
 
 /// The same for an element.
 DOMElementPtr MakeElement(const StatePointer& state, xmlNode* element);
 
-/// The libxml2 node behind a node that `MakeNode` made for that tree; null for any other.
+/// The libxml2 node of a node that `MakeNode` created for that tree; null for any other.
 const xmlNode* NodeBehind(IXMLDOMNode& node, const CXmlTree& tree);
 
-/// Runs what may throw and gives the result that stands for it.
+/// Runs an action that may throw and returns the result code for its outcome.
 template <typename Action>
 HRESULT Guarded(const Action& action) noexcept {
   try {

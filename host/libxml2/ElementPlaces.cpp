@@ -18,7 +18,7 @@ const xmlNode* ElementFrom(const xmlNode* node) {
   return node;
 }
 
-/// The next element in the order of the start tags; null when there is none.
+/// The next element in the order of the start tags; null if none.
 const xmlNode* NextElement(const xmlNode* element) {
   if (const xmlNode* child = ElementFrom(element->children); child != nullptr) return child;
   for (; element->type == XML_ELEMENT_NODE; element = element->parent) {

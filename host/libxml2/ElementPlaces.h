@@ -1,4 +1,4 @@
-// Where elements of a libxml2 tree stand.
+// The places of elements of a libxml2 tree in the file.
 #pragma once
 
 #include "libxml2/XmlTree.h"
@@ -10,19 +10,19 @@
 
 namespace libxml2 {
 
-/// Finds the places of a tree's elements, and numbers them among their siblings, once, so that asking for many of them
-/// takes little time.
+/// Finds the places of all elements of a tree and numbers them among their siblings, once, so that many queries are
+/// fast.
 class CElementPlaces {
  public:
-  /// \param tree must live as long
+  /// \param tree must outlive this object
   explicit CElementPlaces(const CXmlTree& tree);
 
-  /// Where an element of the tree stands; of an attribute, where its element does. Null for anything else.
+  /// The place of an element of the tree; for an attribute, of its element. Null for anything else.
   const xmlfile::Place* Find(const xmlNode* node) const;
 
-  /// The element's local name after those of its ancestors, each with its number, from 1, where there are siblings of
-  /// the same name and namespace: "VIF/Component[2]/SrcPdoList".
-  /// \param element one of the tree
+  /// The element's local name after those of its ancestors, each numbered from 1 where there are siblings of the same
+  /// name and namespace: "VIF/Component[2]/SrcPdoList".
+  /// \param element in the tree
   std::string PathOf(const xmlNode& element) const;
 
  private:
@@ -35,7 +35,7 @@ class CElementPlaces {
   std::size_t IndexOf(const xmlNode& element) const;
   void NumberChildren(const xmlNode& parent);
 
-  std::vector<Element> m_elements;  // in the order of the nodes' addresses
+  std::vector<Element> m_elements;  // sorted by the nodes' addresses
 };
 
 }  // namespace libxml2

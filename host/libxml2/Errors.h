@@ -1,4 +1,4 @@
-// What libxml2 reports.
+// Errors that libxml2 reports.
 #pragma once
 
 #include "xmlfile/Problems.h"
@@ -10,21 +10,21 @@
 
 namespace libxml2 {
 
-/// What a function that libxml2 reports an error to is called with.
+/// The type of the error that libxml2 passes to an error handler.
 #if LIBXML_VERSION >= 21200
 using ErrorPointer = const xmlError*;
 #else
 using ErrorPointer = xmlError*;
 #endif
 
-/// Whether nothing is wrong. A namespace is a name, whether or not it has the form of a URI, and an attribute called
-/// `xml:id` is one like any other.
+/// Whether an error can be ignored. A namespace is a name, whether or not it has the form of a URI, and an attribute
+/// called `xml:id` is an ordinary attribute.
 inline bool IsHarmless(const xmlError& error) {
   return error.level == XML_ERR_WARNING || error.code == XML_WAR_NS_URI || error.domain == XML_FROM_DTD ||
          error.domain == XML_FROM_VALID;
 }
 
-/// Adds what an error says.
+/// Adds a libxml2 error.
 inline void AddError(xmlfile::CProblems& problems, const xmlError& error, std::size_t line, std::size_t column,
                      std::string_view element, const char* message) noexcept {
   if (error.code == XML_ERR_NO_MEMORY) {
@@ -34,11 +34,11 @@ inline void AddError(xmlfile::CProblems& problems, const xmlError& error, std::s
   }
 }
 
-/// While it lives, what libxml2 reports on this thread without knowing for which document, such as text that cannot be
-/// decoded, goes to a function. Otherwise it would be written to standard error.
+/// While it lives, errors that libxml2 reports on this thread without knowing the document, such as text that cannot be
+/// decoded, go to a function. Otherwise libxml2 would write them to standard error.
 class CThreadErrors {
  public:
-  /// A function for what nobody wants to know.
+  /// A handler for errors that nobody needs.
   static void Ignore(void*, ErrorPointer) {}
 
   CThreadErrors(xmlStructuredErrorFunc function, void* data)
@@ -57,7 +57,7 @@ class CThreadErrors {
   }
 
  private:
-  // What libxml2 prints without a structure says no more than what it reports with one.
+  // What libxml2 prints adds nothing to the structured errors that it reports.
   static void PrintNothing(void*, const char*, ...) {}
 
   xmlStructuredErrorFunc m_functionBefore;

@@ -14,7 +14,7 @@ constexpr std::string_view kWhiteSpace = " \t\r\n";
 
 bool IsWhiteSpace(std::string_view text) { return text.find_first_not_of(kWhiteSpace) == std::string_view::npos; }
 
-/// What the element's own `xml:space` says; nothing when it has none or one with another value.
+/// The value of the element's own `xml:space`; none when the attribute is missing or has another value.
 std::optional<bool> OwnPreserving(const xmlNode& element) {
   for (const xmlAttr* attribute = element.properties; attribute != nullptr; attribute = attribute->next) {
     if (attribute->ns == nullptr || View(attribute->ns->prefix) != "xml" || View(attribute->name) != "space") continue;
@@ -32,15 +32,16 @@ bool IsPreserving(const xmlNode& element) {
   return false;
 }
 
-/// What is known of an element's text besides the text.
+/// What is known about an element's text besides the text itself.
 struct Joined {
-  // The part from the first CDATA section to the end of the last, in which white space stays. Positions in the text.
+  // The range from the start of the first CDATA section to the end of the last, which keeps its white space. Offsets in
+  // the text.
   std::size_t cdataBegin = std::string::npos;
   std::size_t cdataEnd = 0;
-  bool isPending = false;  // white space is left over behind the text
+  bool isPending = false;  // there is white space after the text, not yet appended
 };
 
-/// Joins the texts of one tree.
+/// Joins the texts of a tree.
 class CTextJoiner {
  public:
   /// Appends the texts of an element's descendants.
@@ -64,22 +65,21 @@ class CTextJoiner {
  private:
   static bool IsLeftOver(const xmlNode& node) { return node.type == XML_TEXT_NODE && IsWhiteSpace(View(node.content)); }
 
-  /// Whether only white space stands between this CDATA section, which is not the first node, and another one before
-  /// it.
+  /// Whether only white space separates this CDATA section, which is not the first node, from another one before it.
   static bool FollowsCData(const xmlNode& section) {
     return IsLeftOver(*section.prev) && section.prev->prev != nullptr &&
            section.prev->prev->type == XML_CDATA_SECTION_NODE;
   }
 
-  /// Appends an element's text, behind a blank if one is pending and there is something before it. When there is no
-  /// text, the blank waits for the next.
+  /// Appends an element's text, after a blank if one is pending and there is text before it. If the element has no
+  /// text, the blank stays pending.
   void AppendElement(const xmlNode& element, bool isPreserving, bool hasBefore, Joined& joined) {
     const std::size_t before = m_text.size();
     if (joined.isPending && hasBefore) m_text += ' ';
     const std::size_t start = m_text.size();
     const Joined inner = Append(element, OwnPreserving(element).value_or(isPreserving));
-    // The blank is not counted in, so that the last blank of a section inside an element may go; and a section without
-    // text protects only what is behind it. So it is with DOMDocument60 under Wine, which is what this follows.
+    // The offsets do not count the blank, so that the last blank of a section inside an element may be removed; and a
+    // section without text protects only what comes after it. This follows DOMDocument60 under Wine.
     if (inner.cdataBegin != std::string::npos) {
       joined.cdataBegin = std::min(joined.cdataBegin, inner.cdataBegin - start + before);
     }
@@ -91,7 +91,7 @@ class CTextJoiner {
 
   void AppendText(const xmlNode& node, bool hasBefore, Joined& joined) {
     const bool isCData = node.type == XML_CDATA_SECTION_NODE;
-    // White space between two sections counts only behind the second.
+    // White space between two sections counts only after the second.
     const bool isHeldBack = isCData && joined.isPending && FollowsCData(node);
     if (joined.isPending && !isHeldBack && hasBefore) m_text += ' ';
     const std::size_t start = m_text.size();
@@ -106,7 +106,7 @@ class CTextJoiner {
   std::string m_text;
 };
 
-/// The text without white space at its ends, as far as that is no CDATA section's.
+/// The text without white space at its ends, except that of a CDATA section.
 std::string Trim(const std::string& text, const Joined& joined) {
   const std::size_t textBegin = std::min(text.find_first_not_of(kWhiteSpace), text.size());
   const std::size_t textEnd = text.find_last_not_of(kWhiteSpace) + 1;  // 0 when there is none

@@ -18,7 +18,8 @@ namespace {
 
 constexpr std::string_view kFileScheme = "file://";
 
-/// Where schemas say that the namespace of `xml:space` and its like is described. What it says is fixed, so it is here.
+/// Where schemas locate the schema for the namespace of `xml:space` and the like. Its content is fixed, so it is built
+/// in.
 constexpr std::string_view kXmlNamespaceUrl = "http://www.w3.org/2001/xml.xsd";
 constexpr std::string_view kXmlNamespaceSchema =
     "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' targetNamespace='http://www.w3.org/XML/1998/namespace'>"
@@ -32,17 +33,17 @@ constexpr std::string_view kXmlNamespaceSchema =
     "<xs:attribute ref='xml:space'/><xs:attribute ref='xml:id'/></xs:attributeGroup>"
     "</xs:schema>";
 
-/// The loader of the thread that is compiling schemas; null on any other.
+/// The loader of a thread that is compiling schemas; null on any other.
 thread_local CSchemaLoader* g_loader = nullptr;
 
-/// What libxml2 loaded with before, and what other threads go on to load with.
+/// The previous loader of libxml2, which other threads continue to use.
 std::atomic<xmlExternalEntityLoader> g_before = nullptr;
 
 struct FreeXml {
   void operator()(void* memory) const { xmlFree(memory); }
 };
 
-/// The file that a URL stands for; empty when it stands for none of this machine.
+/// The file of a URL; empty when the URL is not for a local file.
 std::filesystem::path FileOf(std::string_view url) {
   if (!url.starts_with(kFileScheme) || !url.substr(kFileScheme.size()).starts_with('/')) return {};
   const std::string escaped(url.substr(kFileScheme.size()));
@@ -51,9 +52,9 @@ std::filesystem::path FileOf(std::string_view url) {
   return path.get();
 }
 
-/// An input that takes over a buffer.
-/// \param url what the schema refers to is found relative to this
-/// \param buffer null when there was no memory for it
+/// Creates an input that takes over a buffer.
+/// \param url base of the references in the schema
+/// \param buffer null when memory for it ran out
 xmlParserInputPtr MakeInput(const std::string& url, xmlParserCtxtPtr context, xmlParserInputBufferPtr buffer) {
   if (buffer == nullptr) throw std::bad_alloc();
   xmlParserInput* input = xmlNewIOInputStream(context, buffer, XML_CHAR_ENCODING_NONE);
@@ -74,7 +75,7 @@ CSchemaLoader::CSchemaLoader(std::map<std::string, std::string> replaced) : m_re
 }
 
 CSchemaLoader::~CSchemaLoader() {
-  // Somebody else may have set another one meanwhile.
+  // The host may have set another one meanwhile.
   if (xmlGetExternalEntityLoader() == Load) xmlSetExternalEntityLoader(g_before);
   g_loader = nullptr;
 }
@@ -96,7 +97,7 @@ void CSchemaLoader::ReportError(void*, ErrorPointer error) {
   if (error->code == XML_ERR_NO_MEMORY) g_loader->m_isOutOfMemory = true;
   if (IsHarmless(*error) || error->message == nullptr) return;
   try {
-    // What libxml2 says of a file that it could not read to its end is that it ends too early.
+    // If a file could not be read to its end, libxml2 only reports that it ends too early.
     const bool isUnread = !g_loader->m_open.empty() && g_loader->m_open.back().HasFailed();
     if (isUnread && !g_loader->m_files.empty()) {
       g_loader->Fail(g_loader->m_files.back().path.native() + ": the file " + g_loader->m_open.back().Error());
@@ -112,7 +113,7 @@ void CSchemaLoader::ReportError(void*, ErrorPointer error) {
 std::string CSchemaLoader::Place(const xmlError& error) const {
   const std::string_view url = error.file != nullptr ? error.file : "";
   if (url.starts_with(kFileScheme)) return FileOf(url).native() + ": line " + std::to_string(error.line);
-  // An error in how the schemas are put together is about the one that was just added.
+  // An error in how the schemas fit together concerns the one added last.
   return m_files.empty() ? std::string(url) : m_files.back().path.native();
 }
 

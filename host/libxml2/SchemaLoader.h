@@ -1,4 +1,4 @@
-// What libxml2 may read while it compiles schemas.
+// Restricts what libxml2 may read while it compiles schemas.
 #pragma once
 
 #include "libxml2/Errors.h"
@@ -14,17 +14,17 @@
 
 namespace libxml2 {
 
-/// A file that was read, as it was then.
+/// A file that was read, and its state at that time.
 struct SchemaFile {
   std::filesystem::path path;
   xmlfile::CInputFile::Stamp stamp;
 };
 
-/// While it lives, what this thread has libxml2 load comes from regular files of this machine and from nowhere else;
-/// other threads load as before. Only one may live at a time in the process.
+/// While it lives, whatever libxml2 loads on this thread comes from regular local files only; other threads load as
+/// before. Only one may exist at a time in the process.
 class CSchemaLoader {
  public:
-  /// \param replaced the URLs that stand for other files than those they name, and these files' URLs
+  /// \param replaced URLs to load from other files than those they name, each with the URL of the file to use
   explicit CSchemaLoader(std::map<std::string, std::string> replaced = {});
   CSchemaLoader(const CSchemaLoader&) = delete;
   CSchemaLoader& operator=(const CSchemaLoader&) = delete;
@@ -33,11 +33,10 @@ class CSchemaLoader {
   /// The files read so far.
   const std::vector<SchemaFile>& Files() const { return m_files; }
 
-  /// Why the schemas cannot be used: the first thing that was wrong, behind the name of its file. Empty when nothing
-  /// was.
+  /// Why the schemas cannot be used: the first error, after the name of its file. Empty if there was none.
   const std::string& Failure() const { return m_failure; }
 
-  /// Takes an error of libxml2's; of this thread's loader, wherever the callback comes from.
+  /// Receives a libxml2 error for this thread's loader, whatever data the callback passes.
   static void ReportError(void* data, ErrorPointer error);
 
   bool IsOutOfMemory() const { return m_isOutOfMemory; }

@@ -43,13 +43,13 @@ std::string EscapeAttribute(std::string_view text) {
   return escaped;
 }
 
-/// An attribute with a namespace; nothing when that is none.
+/// An attribute with a namespace; empty if there is no namespace.
 std::string NamespaceAttribute(std::string_view name, std::string_view uri) {
   if (uri.empty()) return {};
   return std::string(" ").append(name).append("=\"").append(EscapeAttribute(uri)) + '"';
 }
 
-/// The last of the schemas whose namespace no other one shares; null when there is none.
+/// The last of the schemas whose namespace no other one shares; null if there is none.
 const SchemaSource* FindMain(const std::vector<SchemaSource>& sources) {
   const auto isOnly = [&](const SchemaSource& source) {
     return std::count_if(sources.begin(), sources.end(), [&](const SchemaSource& other) {
@@ -60,9 +60,9 @@ const SchemaSource* FindMain(const std::vector<SchemaSource>& sources) {
   return found != sources.rend() ? &*found : nullptr;
 }
 
-/// A schema that does nothing but take in the others: it includes the last and imports the rest. libxml2 finds what is
-/// imported by way of its namespace and what is included at once, which saves 4 % of a load when, as is usual, nearly
-/// all elements of a document are described by the last.
+/// A schema that only combines the others: it includes the last and imports the rest. libxml2 finds an imported
+/// declaration through its namespace but an included one directly, which saves 4 % of a load when, as is usual, the
+/// last schema describes nearly all elements of a document.
 std::string JoiningSchema(const std::vector<SchemaSource>& sources) {
   const SchemaSource* main = FindMain(sources);
   std::string schema = R"(<xs:schema xmlns:xs="http://www.w3.org/2001/XMLSchema")";
@@ -83,7 +83,7 @@ std::string_view AttributeOf(const xmlNode& element, std::string_view name) {
   return {};
 }
 
-/// The URL of what an import says is the schema; empty when it says nothing.
+/// The URL of the schema that an import names; empty when it names none.
 std::string ImportedUrl(const xmlNode& import, const SchemaSource& source) {
   const std::string location(AttributeOf(import, "schemaLocation"));
   if (location.empty()) return {};
@@ -91,7 +91,7 @@ std::string ImportedUrl(const xmlNode& import, const SchemaSource& source) {
   return std::string(View(url.get()));
 }
 
-/// Where a schema imports a namespace of the set, the set's schema is the one to use, wherever the import says it is.
+/// When a schema imports a namespace of the set, the set's schema is used, whatever location the import gives.
 void ReplaceImports(const xmlNode& schema, const SchemaSource& source, const std::vector<SchemaSource>& sources,
                     std::map<std::string, std::string>& replaced) {
   for (const xmlNode* child = schema.children; child != nullptr; child = child->next) {
@@ -105,7 +105,7 @@ void ReplaceImports(const xmlNode& schema, const SchemaSource& source, const std
   }
 }
 
-/// libxml2 says little of a schema that cannot be read, and nothing of one for another namespace.
+/// libxml2 says little about a schema that cannot be read, and nothing about one for another namespace.
 void CheckSource(const SchemaSource& source, const std::vector<SchemaSource>& sources,
                  std::map<std::string, std::string>& replaced) {
   xmlfile::CProblems problems;
@@ -120,10 +120,10 @@ struct Validation {
   const CXmlTree& tree;
   const std::vector<SchemaSource>& sources;
   xmlfile::CProblems& problems;
-  std::optional<CElementPlaces> places = {};  // found when there is something to say
+  std::optional<CElementPlaces> places = {};  // created for the first error
 };
 
-/// libxml2 writes names with their namespace in braces; of the schemas' own names, the local part says enough.
+/// libxml2 writes names with their namespace in braces; for the schemas' own namespaces, the local name is enough.
 std::string WithoutNamespaces(std::string text, const std::vector<SchemaSource>& sources) {
   for (const SchemaSource& source : sources) {
     const std::string braced = '{' + source.targetNamespace + '}';
@@ -176,7 +176,7 @@ bool CSchemaSet::IsCurrent() const {
 }
 
 std::shared_ptr<const CSchemaSet> CSchemaSet::Get(const std::vector<SchemaSource>& sources) {
-  // Never destroyed: threads may still load when the process ends.
+  // Never destroyed: threads may still be loading when the process ends.
   static auto& mutex = *new std::mutex;
   static auto& compiled = *new std::map<std::vector<SchemaSource>, std::shared_ptr<const CSchemaSet>>;
   const std::lock_guard lock(mutex);

@@ -1,4 +1,4 @@
-// Compiled schemas, kept for the process.
+// Compiled schemas, cached for the process.
 #pragma once
 
 #include "libxml2/SchemaLoader.h"
@@ -15,13 +15,13 @@ namespace libxml2 {
 
 using xmlfile::SchemaSource;
 
-/// Some schemas compiled together. Any number of threads may validate against them at once.
+/// Schemas compiled together. Any number of threads may validate against them concurrently.
 class CSchemaSet {
  public:
   /// The compiled schemas: those of an earlier call, unless one of the files has changed since. Threads may call this
-  /// at once; one of them compiles.
-  /// \throws CZoDOMDocException "Couldn't load the schema <file>: <reason>" when one is missing, is no schema, is for
-  ///   another namespace, or refers to something on the network
+  /// concurrently; one of them compiles.
+  /// \throws CZoDOMDocException "Couldn't load the schema <file>: <reason>" when one is missing, is not a schema, is
+  ///   for another namespace, or refers to something on the network
   static std::shared_ptr<const CSchemaSet> Get(const std::vector<SchemaSource>& sources);
 
   /// Adds every reason why the document is not valid.
@@ -29,7 +29,7 @@ class CSchemaSet {
 
   explicit CSchemaSet(const std::vector<SchemaSource>& sources);
 
-  /// Whether all files that were read for it are as they were then.
+  /// Whether all files that were read to compile it are unchanged.
   bool IsCurrent() const;
 
  private:

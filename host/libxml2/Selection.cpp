@@ -21,8 +21,7 @@ constexpr std::string_view kDeclarationStart = "xmlns:";
 
 bool IsName(const std::string& text) { return xmlValidateNCName(Xml(text.c_str()), 0) == 0; }
 
-/// Only ASCII letters, digits and underscores, which is what the format's names are made of; others are left to
-/// libxml2.
+/// Only ASCII letters, digits and underscores, which are all that the format's names contain; libxml2 handles the rest.
 bool IsPlainName(std::string_view text) {
   constexpr std::string_view letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz_";
   return !text.empty() && letters.find(text.front()) != std::string_view::npos &&
@@ -57,7 +56,7 @@ std::optional<Prefixes> ParsePrefixes(std::string_view declarations) {
   for (;;) {
     const std::size_t start = declarations.find_first_not_of(kWhiteSpace);
     if (start == std::string_view::npos) return prefixes;
-    // Between two declarations there must be white space.
+    // There must be white space between two declarations.
     if (!prefixes.empty() && start == 0) return std::nullopt;
     declarations.remove_prefix(start);
     if (!declarations.starts_with(kDeclarationStart)) return std::nullopt;
@@ -91,7 +90,7 @@ std::optional<CChildPath> CChildPath::Parse(std::string_view xpath, const Prefix
   return path;
 }
 
-/// Takes the first step off the path; nothing when it is no child step with a known prefix.
+/// Removes the first step of the path and returns it; nothing if it is not a child step with a known prefix.
 std::optional<CChildPath::Step> CChildPath::TakeStep(std::string_view& path, const Prefixes& prefixes) {
   const std::size_t end = std::min(path.find('/'), path.size());
   const std::string_view step = path.substr(0, end);
@@ -100,7 +99,7 @@ std::optional<CChildPath::Step> CChildPath::TakeStep(std::string_view& path, con
   const auto prefix = FindPrefix(prefixes, step.substr(0, colon));
   const std::string_view name = step.substr(colon + 1);
   if (prefix == prefixes.end() || (name != "*" && !IsPlainName(name))) return std::nullopt;
-  if (end + 1 == path.size()) return std::nullopt;  // a slash with nothing behind it
+  if (end + 1 == path.size()) return std::nullopt;  // nothing after the slash
   path.remove_prefix(std::min(end + 1, path.size()));
   return Step{prefix->second, name == "*" ? std::string() : std::string(name)};
 }
@@ -111,7 +110,7 @@ void CChildPath::Select(const xmlNode& from, std::vector<xmlNode*>& nodes) const
 
 void CChildPath::SelectFrom(const xmlNode& parent, std::size_t depth, std::vector<xmlNode*>& nodes) const {
   const Step& step = m_steps[depth];
-  const xmlNs* fitting = nullptr;  // mostly all children share one
+  const xmlNs* fitting = nullptr;  // usually the same for all children
   for (xmlNode* child = parent.children; child != nullptr; child = child->next) {
     if (child->type != XML_ELEMENT_NODE || child->ns == nullptr) continue;
     if (child->ns != fitting && View(child->ns->href) != step.uri) continue;

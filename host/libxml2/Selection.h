@@ -13,27 +13,27 @@
 
 namespace libxml2 {
 
-/// The prefixes that XPath expressions use, each with its namespace.
-/// So few that looking at one after the other is the fastest way to find one.
+/// The prefixes that XPath expressions use, each with its namespace. There are so few that a linear search is fastest.
 using Prefixes = std::vector<std::pair<std::string, std::string>>;
 
-/// Takes declarations of the form xmlns:prefix='URI' (or with double quotes) apart, with white space between them;
-/// nothing when the text has another form.
+/// Parses declarations of the form xmlns:prefix='URI' (or with double quotes), separated by white space; nothing if the
+/// text is malformed.
 std::optional<Prefixes> ParsePrefixes(std::string_view declarations);
 
-/// A path of child steps such as `p:A/p:B` or `p:*`, as nearly all are. It is answered from the children alone.
+/// A path of child steps such as `p:A/p:B` or `p:*`, as nearly all are. It is evaluated by walking the children alone.
 class CChildPath {
  public:
-  /// Takes an expression apart.
-  /// \param prefixes must live as long as the path
-  /// \return nothing when it is not such a path, has more steps than the library's own, or has a name that is not plain
+  /// Parses an expression.
+  /// \param prefixes must outlive the path
+  /// \return nothing when the expression is not such a path, has more steps than the library's own paths, or has a name
+  ///   that is not plain
   static std::optional<CChildPath> Parse(std::string_view xpath, const Prefixes& prefixes);
 
-  /// Adds what it finds from an element or the document to the list, in document order.
+  /// Adds the elements that it finds from an element or the document, in document order.
   void Select(const xmlNode& from, std::vector<xmlNode*>& nodes) const;
 
  private:
-  /// An element's name, or any when it is empty, in a namespace.
+  /// An element name, empty for any, in a namespace.
   struct Step {
     std::string_view uri;
     std::string name;
@@ -48,8 +48,8 @@ class CChildPath {
 
 enum class Outcome { Found, BadExpression, OutOfMemory };
 
-/// Puts the elements, attributes and the document that any expression finds from a node into a list, in document order.
-/// \param nodes is added to; whatever the outcome, what was in it stays
+/// Finds the elements, attributes and the document that any expression selects from a node, in document order.
+/// \param nodes receives them; what it already contains stays, whatever the outcome
 Outcome SelectByXPath(xmlNode* from, std::string_view xpath, const Prefixes& prefixes, std::vector<xmlNode*>& nodes);
 
 }  // namespace libxml2

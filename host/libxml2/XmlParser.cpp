@@ -22,9 +22,10 @@ namespace libxml2 {
 
 namespace {
 
-// The limits that libxml2 sets on the length of texts and names are lifted: a text takes little more memory than the
-// file has, and entities, which could multiply it, cannot be declared. That the five entities of every document are
-// replaced everywhere has to be asked for. Short texts stay in their nodes, which saves a tenth of the parsing.
+// XML_PARSE_HUGE lifts libxml2's limits on the length of texts and names: a text takes little more memory than the
+// file, and entities, which could multiply it, cannot be declared. XML_PARSE_NOENT is needed to replace the five
+// predefined entities everywhere. XML_PARSE_COMPACT keeps short texts in their nodes, which makes parsing a tenth
+// faster.
 constexpr int kOptions = XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_NOENT | XML_PARSE_COMPACT;
 
 struct FreeContext {
@@ -32,30 +33,30 @@ struct FreeContext {
 };
 using ContextPointer = std::unique_ptr<xmlParserCtxt, FreeContext>;
 
-/// An element that has begun and not ended, by its name.
+/// An element whose end tag has not been read, by its name.
 struct OpenElement {
-  const xmlChar* prefix;  // null when there is none, or it is that of a namespace
+  const xmlChar* prefix;  // null when there is none or its namespace is declared
   const xmlChar* name;
 };
 
-/// One run of the parser, over the bytes of a file up to an end.
+/// One run of the parser over the bytes of a file, which may end early.
 struct Run {
   xmlfile::CProblems& problems;
   std::string_view bytes;
-  std::size_t tagCount;  // as many elements as there may be
-  bool isWhole;          // whether the file ends where the bytes end
+  std::size_t tagCount;  // the greatest number of elements allowed
+  bool isWhole;          // whether the bytes are the whole file
   xmlParserCtxt* context = nullptr;
   std::size_t elementCount = 0;
   std::vector<OpenElement> open = {};  // NOLINT(readability-redundant-member-init): GCC asks for it
   bool isMalformed = false;
-  bool isStopped = false;  // what the parser says then is of no interest
+  bool isStopped = false;  // errors from then on are ignored
 };
 
-/// That of this thread. libxml2 does not hand the same pointer to all that it calls.
+/// The run of this thread. libxml2 does not pass the same pointer to all callbacks.
 thread_local Run* g_run = nullptr;
 
-/// Ends where the file is no longer well-formed: after that the parser, which goes on, may find tags of a kind that the
-/// look at the bounds would have refused.
+/// Ends the input where the file is no longer well-formed: the parser, which goes on after an error, might find tags
+/// there that the check of the bounds would have refused.
 int Read(void*, char* buffer, int length) noexcept {
   Run& run = *g_run;
   if (run.isMalformed) {
@@ -68,7 +69,7 @@ int Read(void*, char* buffer, int length) noexcept {
   return static_cast<int>(piece.size());
 }
 
-/// Whether the parser misses only what was cut off.
+/// Whether the parser only complains about what was cut off.
 bool IsCutOff(const Run& run, const xmlError& error) {
   return !run.isWhole && run.bytes.empty() &&
          (error.code == XML_ERR_TAG_NOT_FINISHED || error.code == XML_ERR_DOCUMENT_EMPTY);
@@ -80,7 +81,7 @@ void ReportError(void*, ErrorPointer error) {
   if ((run.isStopped || IsCutOff(run, *error)) && error->code != XML_ERR_NO_MEMORY) return;
   try {
     const OpenElement element = run.open.empty() ? OpenElement{} : run.open.back();
-    // What concerns the decoding knows no line of its own.
+    // Errors in decoding have no line of their own.
     const int line = error->line > 0 ? error->line : xmlSAX2GetLineNumber(run.context);
     AddError(run.problems, *error, static_cast<std::size_t>(std::max(line, 0)),
              static_cast<std::size_t>(std::max(error->int2, 0)), QualifiedName(element.prefix, element.name),
@@ -94,7 +95,7 @@ void StartElement(void* data, const xmlChar* name, const xmlChar* prefix, const 
                   const xmlChar** namespaces, int attributeCount, int defaultedCount, const xmlChar** attributes) {
   Run& run = *g_run;
   try {
-    // Only where the file is decoded in another way than was expected.
+    // This happens only if the file is decoded in another way than expected.
     if (++run.elementCount > run.tagCount) {
       if (!run.isStopped) run.problems.Add(1, 0, {}, "The encoding of the file is not supported here.");
       run.isStopped = true;
@@ -131,7 +132,7 @@ ContextPointer MakeContext() {
   return context;
 }
 
-/// Makes a run this thread's while it lives.
+/// Makes a run the current one of this thread while it lives.
 class CCurrentRun {
  public:
   explicit CCurrentRun(Run& run) { g_run = &run; }
@@ -140,7 +141,7 @@ class CCurrentRun {
   ~CCurrentRun() { g_run = nullptr; }
 };
 
-/// \return null when the bytes are no document
+/// \return null when the bytes are not a document
 DocumentPointer Parse(Run& run) {
   const CCurrentRun current(run);
   const CThreadErrors otherErrors(ReportError, nullptr);
@@ -176,7 +177,7 @@ void InitializeXmlLibrary() {
   std::call_once(once, [] {
     const CThreadErrors otherErrors(CThreadErrors::Ignore, nullptr);
     xmlInitParser();
-    xmlSchemaInitTypes();  // has no lock of its own
+    xmlSchemaInitTypes();  // is not thread-safe
   });
 }
 

@@ -1,4 +1,4 @@
-// Parses XML files that nobody can be trusted to have written.
+// Parses untrusted XML files.
 #pragma once
 
 #include "libxml2/XmlTree.h"
@@ -9,12 +9,12 @@
 
 namespace libxml2 {
 
-/// Parses a file: well-formed XML with namespaces that keeps within the bounds. Nothing but the file is ever read.
-/// \param problems receives the reasons when the file is not as described or cannot be read
+/// Parses a file: well-formed XML with namespaces, within the bounds. Nothing but the file is ever read.
+/// \param problems receives the reasons when the file does not qualify or cannot be read
 /// \return null when there are problems
 std::shared_ptr<const CXmlTree> ParseXmlFile(const std::filesystem::path& path, xmlfile::CProblems& problems);
 
-/// Makes libxml2 ready for use by several threads; may be called any number of times.
+/// Prepares libxml2 for use by several threads; may be called any number of times.
 void InitializeXmlLibrary();
 
 }  // namespace libxml2

@@ -1,4 +1,4 @@
-// Text as libxml2 has it, UTF-8 in unsigned characters.
+// libxml2's text: UTF-8 in unsigned characters.
 #pragma once
 
 #include <libxml/tree.h>
@@ -9,7 +9,7 @@
 
 namespace libxml2 {
 
-/// The text, borrowed; null counts as empty.
+/// The text, borrowed; null means empty.
 inline std::string_view View(const xmlChar* text) {
   return text != nullptr ? std::string_view(reinterpret_cast<const char*>(text)) : std::string_view();
 }
@@ -18,7 +18,7 @@ inline std::string_view Between(const xmlChar* begin, const xmlChar* end) {
   return {reinterpret_cast<const char*>(begin), static_cast<std::size_t>(end - begin)};
 }
 
-/// The UTF-8 text as libxml2 takes it, borrowed. It must end in a NUL where libxml2 expects that.
+/// UTF-8 text as libxml2 expects it, borrowed. It must end in a NUL where libxml2 requires one.
 inline const xmlChar* Xml(const char* text) { return reinterpret_cast<const xmlChar*>(text); }
 
 /// The name with its prefix, if there is one.
@@ -28,7 +28,7 @@ inline std::string QualifiedName(const xmlChar* prefix, const xmlChar* name) {
   return text.append(View(name));
 }
 
-/// The same of an element or an attribute.
+/// The same for an element or an attribute.
 inline std::string QualifiedName(const xmlNs* ns, const xmlChar* name) {
   return QualifiedName(ns != nullptr ? ns->prefix : nullptr, name);
 }

@@ -15,7 +15,7 @@ struct FreeDocument {
 };
 using DocumentPointer = std::unique_ptr<xmlDoc, FreeDocument>;
 
-/// A libxml2 tree and the file that it was parsed from. Nothing changes it once it has been parsed.
+/// A libxml2 tree and the file that it was parsed from. Immutable once parsed.
 class CXmlTree {
  public:
   CXmlTree(DocumentPointer document, xmlfile::FileText file)

@@ -1,10 +1,10 @@
-// What MinGW's headers declare of COM's errors and its libraries lack.
+// COM error functions that MinGW's headers declare but its libraries lack.
 #include "BaseUtilities/HostExport.h"
 #include "msxml/ComPointer.h"
 
 namespace {
 
-/// What the object says about its last failure; empty when it says nothing.
+/// The object's information about its last failure; empty when it has none.
 CComPointer<IErrorInfo> TakeErrorInfo(IUnknown* object, REFIID iid) {
   CComPointer<ISupportErrorInfo> support;
   CComPointer<IErrorInfo> info;
@@ -15,7 +15,7 @@ CComPointer<IErrorInfo> TakeErrorInfo(IUnknown* object, REFIID iid) {
   return info;
 }
 
-/// Says which interface failed, where the object does not say it. Empty when there is no memory for it.
+/// Names the interface that failed, when the object does not. Empty when memory runs out.
 CComPointer<IErrorInfo> NameInterface(REFIID iid) {
   CComPointer<ICreateErrorInfo> made;
   CComPointer<IErrorInfo> info;

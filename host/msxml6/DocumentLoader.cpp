@@ -16,7 +16,7 @@ namespace msxml6 {
 
 namespace {
 
-/// Bytes as COM takes them.
+/// Bytes in the form that COM expects.
 class CByteArray {
  public:
   /// \param bytes no more than `kLargestFile`
@@ -41,13 +41,13 @@ class CByteArray {
   VARIANT m_variant = {};
 };
 
-/// Nothing can be done when it fails for lack of memory; then the document is of no use anyway.
+/// If it fails for lack of memory, nothing can be done; the document is of no use then anyway.
 void Clear(IXMLDOMDocument2& document) {
   VARIANT_BOOL isLoaded = VARIANT_FALSE;
-  document.loadXML(CBstr(L"").get(), &isLoaded);  // fails, and leaves the document empty
+  document.loadXML(CBstr(L"").get(), &isLoaded);  // fails and leaves the document empty
 }
 
-/// Of what MSXML and the tags say, what tells more.
+/// The more informative of MSXML's error and the mismatched tag.
 DOMDocProblem Malformedness(const std::optional<DOMDocProblem>& said, const std::optional<DOMDocProblem>& mismatch) {
   if (said && said->line != 0) {
     DOMDocProblem problem = *said;
@@ -71,7 +71,7 @@ bool LoadBytes(IXMLDOMDocument2& document, const std::string& bytes, const std::
   return false;
 }
 
-/// Not every MSXML heeds "ProhibitDTD".
+/// Not every MSXML honours "ProhibitDTD".
 bool HasDocumentType(IXMLDOMDocument2& document) {
   CComPointer<IXMLDOMDocumentType> type;
   RequireSuccess(document.get_doctype(type.Receive()), document, IID_IXMLDOMDocument2);
@@ -79,7 +79,7 @@ bool HasDocumentType(IXMLDOMDocument2& document) {
 }
 
 void SetProperty(IXMLDOMDocument2& document, const wchar_t* name, VARIANT value) {
-  // A property that this MSXML does not have is one whose effect it does not have.
+  // If this MSXML lacks the property, it lacks what the property controls too.
   static_cast<void>(document.setProperty(CBstr(name).get(), value));
 }
 
@@ -110,7 +110,7 @@ DOMDocument2Ptr MakeDocument() {
   SetProperty(*document, L"ProhibitDTD", Boolean(true));
   SetProperty(*document, L"UseInlineSchema", Boolean(false));
   SetProperty(*document, L"NormalizeAttributeValues", Boolean(true));
-  SetProperty(*document, L"MaxElementDepth", Number(xmlfile::kGreatestDepth + 1));  // our own bound is the lower one
+  SetProperty(*document, L"MaxElementDepth", Number(xmlfile::kGreatestDepth + 1));  // our own limit is lower
   return document;
 }
 
@@ -129,7 +129,7 @@ std::optional<xmlfile::FileText> LoadFile(IXMLDOMDocument2& document, const std:
   if (HasDocumentType(document)) {
     problems.Add(0, 0, {}, xmlfile::kDocumentTypeReason);
   } else if (bounds.tagCount == 0) {
-    // Only in another encoding than it was taken for can a document have no tags, and so no bounds.
+    // Only in a document whose encoding was misjudged can there be no tags, and so no bounds.
     problems.Add(0, 0, {}, "The encoding of the file is not supported here.");
   } else {
     return file;

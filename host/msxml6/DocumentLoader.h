@@ -1,4 +1,4 @@
-// Loads XML files that nobody can be trusted to have written into documents of MSXML 6.
+// Loads untrusted XML files into documents of MSXML 6.
 #pragma once
 
 #include "msxml/MsXml.h"
@@ -10,19 +10,20 @@
 
 namespace msxml6 {
 
-/// A new, empty document, which reads nothing but what it is given: no document type, nothing that a file refers to.
+/// Creates an empty document that reads nothing but what it is given: no document type, and no file or URL that the
+/// content refers to.
 /// \throws _com_error when there is no MSXML 6 or COM is not initialised on this thread
 DOMDocument2Ptr MakeDocument();
 
-/// Loads a file into a document: well-formed XML with namespaces and within the bounds. Otherwise the document is empty
-/// afterwards.
-/// \param problems receives the reason when the file is not as described or cannot be read
-/// \return what the document was loaded from; nothing when there is a problem
+/// Loads a file into a document: well-formed XML with namespaces, within the bounds. If it fails, the document is
+/// empty.
+/// \param problems receives the reason when the file does not qualify or cannot be read
+/// \return the text that the document was loaded from; nothing when there is a problem
 /// \throws _com_error
 std::optional<xmlfile::FileText> LoadFile(IXMLDOMDocument2& document, const std::filesystem::path& path,
                                           xmlfile::CProblems& problems);
 
-/// What MSXML says is wrong; its reason may be empty. Nothing when all is well.
+/// The error that MSXML reports; its reason may be empty. Nothing when there is no error.
 std::optional<DOMDocProblem> ProblemOf(IXMLDOMParseError& error);
 
 }  // namespace msxml6

@@ -1,4 +1,4 @@
-// Tells whether two interfaces are those of the same element.
+// Tells whether two interfaces belong to the same element.
 #pragma once
 
 #include "msxml/MsXml.h"
@@ -6,8 +6,8 @@
 
 namespace msxml6 {
 
-/// A mark on an element, gone with this object. Not every MSXML has the same object for an element each time, so that
-/// pointers do not tell; what is done to the element through one of them can be seen through the others.
+/// Marks an element while it lives. Not every MSXML returns the same object for an element each time, so comparing
+/// pointers does not work; but a change made through one object is visible through the others.
 class CElementMark {
  public:
   /// \throws _com_error
@@ -18,7 +18,7 @@ class CElementMark {
   CElementMark(const CElementMark&) = delete;
   CElementMark& operator=(const CElementMark&) = delete;
   ~CElementMark() {
-    // Nobody is there to be told of a failure.
+    // A destructor cannot report a failure.
     if (m_before.get().vt == VT_BSTR) {
       static_cast<void>(m_element.setAttribute(m_name.get(), m_before.get()));
     } else {
@@ -30,7 +30,7 @@ class CElementMark {
   /// \throws _com_error
   bool IsOn(IXMLDOMElement& element) {
     if (!IsMarked(element, kMark)) return false;
-    // The file's own attribute may look like the mark, but does not change with it.
+    // An attribute of the file may look like the mark, but does not change with it.
     Set(kOtherMark);
     const bool isSame = IsMarked(element, kOtherMark);
     Set(kMark);
@@ -55,7 +55,7 @@ class CElementMark {
 
   IXMLDOMElement& m_element;
   CBstr m_name;
-  CVariant m_before;  // the value of the attribute that marks, where the file has one of that name
+  CVariant m_before;  // the value of the file's own attribute with the mark's name, if there is one
 };
 
 }  // namespace msxml6

@@ -14,7 +14,7 @@ namespace msxml6 {
 
 namespace {
 
-/// Empty when the node is none.
+/// Empty when the node is not an element.
 DOMElementPtr AsElement(IXMLDOMNode& node) {
   DOMElementPtr element;
   static_cast<void>(node.QueryInterface(IID_IXMLDOMElement, reinterpret_cast<void**>(element.Receive())));
@@ -29,7 +29,7 @@ DOMNodePtr Take(IXMLDOMNode& node, Step step) {
   return next;
 }
 
-/// The first element from a node on among those beside it; empty when there is none.
+/// The first element among a node and its following siblings; empty if none.
 DOMElementPtr ElementFrom(DOMNodePtr node) {
   while (node) {
     if (DOMElementPtr element = AsElement(*node)) return element;
@@ -63,7 +63,7 @@ std::wstring BaseName(IXMLDOMElement& element) {
   return std::wstring(name.View());
 }
 
-/// The namespace and the name in it.
+/// The namespace and the local name.
 std::pair<std::wstring, std::wstring> FullName(IXMLDOMElement& element) {
   CBstr uri;
   RequireSuccess(element.get_namespaceURI(uri.Receive()), element, IID_IXMLDOMNode);
@@ -97,7 +97,7 @@ bool CElementPlaces::GoTo(const DOMElementPtr& element) {
   for (DOMElementPtr around = element; around; around = ElementAround(*around)) way.push_back(around);
   std::reverse(way.begin(), way.end());
   std::size_t depth = std::min(way.size(), m_way.size());
-  // What is around an element that both ways have is the same too.
+  // If both ways contain an element, they contain the same ancestors too.
   while (depth > 0 && !CElementMark(*way[depth - 1]).IsOn(*m_way[depth - 1].element)) --depth;
   for (; depth < way.size(); ++depth) {
     if (!GoTo(depth, *way[depth])) return false;

@@ -1,4 +1,4 @@
-// The document that a file holds, over MSXML 6.
+// The document in a file, over MSXML 6.
 #pragma once
 
 #include "msxml/MsXml.h"
@@ -23,7 +23,7 @@ class CFileDocument {
 
   IXMLDOMDocument2& Document() const { return *m_document; }
 
-  /// Loads a file; when there are problems, the document is empty.
+  /// Loads a file; if there are problems, the document is empty.
   /// \throws _com_error
   void Load(const std::filesystem::path& file, xmlfile::CProblems& problems);
 
@@ -32,24 +32,24 @@ class CFileDocument {
   /// The root element of the document, which must be loaded.
   xmlfile::Root Root() const;
 
-  /// Where that element's start tag is.
+  /// The place of that element's start tag.
   xmlfile::Place RootPlace() const;
 
   /// Adds the reason why the document, which must be loaded, is not valid.
   void Validate(const std::vector<xmlfile::SchemaSource>& schemas, xmlfile::CProblems& problems) const;
 
-  /// Where the start tag of a node's element is; line 0 when the node is none of this document.
+  /// The place of the start tag of a node's element; line 0 when the node is not in this document.
   xmlfile::Place Locate(IXMLDOMNode& node);
 
-  /// The path of an element; empty when it is none of this document.
+  /// The path of an element; empty when it is not in this document.
   std::string PathOf(IXMLDOMNode& node);
 
  private:
   CElementPlaces& Places();
 
   DOMDocument2Ptr m_document;
-  std::optional<xmlfile::FileText> m_file;   // what the document was loaded from
-  std::unique_ptr<CElementPlaces> m_places;  // found when first asked for
+  std::optional<xmlfile::FileText> m_file;   // the text that the document was loaded from
+  std::unique_ptr<CElementPlaces> m_places;  // created on first use
 };
 
 }  // namespace msxml6

@@ -34,7 +34,7 @@ class CMarkupCheck {
   }
 
  private:
-  /// A parser that goes on after a mistake may find tags where there are none, so that it must not get so far.
+  /// A parser that continues after an error may find tags where there are none, so such a file must not reach one.
   void RefuseForbiddenCharacters() {
     const auto isForbidden = [](char c) { return c > 0 && c < ' ' && c != '\t' && c != '\n' && c != '\r'; };
     const auto found = std::find_if(m_text.begin(), m_text.end(), isForbidden);
@@ -104,7 +104,7 @@ class CMarkupCheck {
     return {place.line, place.column, std::string(element), reason};
   }
 
-  /// Remembers what is said first of an element with a name.
+  /// Records the first mismatch, if the element has a name.
   void Mismatch(std::size_t at, std::string_view element, const std::string& what) {
     if (m_found.mismatch || element.empty()) return;
     m_found.mismatch = Problem(at, element, "The element '" + std::string(element) + "'" + what);

@@ -1,4 +1,4 @@
-// What a look at a file's markup tells that not every MSXML does.
+// Finds errors in a file's markup that not every MSXML reports.
 #pragma once
 
 #include "TestUtilities/DOMDocProblem.h"
@@ -10,13 +10,13 @@
 namespace msxml6 {
 
 struct MarkupFindings {
-  std::optional<DOMDocProblem> problem;   ///< a mistake for which a file is not to reach MSXML
-  std::optional<DOMDocProblem> mismatch;  ///< the first start or end tag without the other
+  std::optional<DOMDocProblem> problem;   ///< an error that keeps the file from MSXML
+  std::optional<DOMDocProblem> mismatch;  ///< the first start or end tag without its counterpart
 };
 
-/// Looks through a file for names whose prefix is not declared, which not every MSXML finds, and for mistakes after
-/// which a parser that goes on may find tags where there are none.
-/// \param end where to stop in the text
+/// Searches a file for names with an undeclared prefix, which not every MSXML reports, and for errors after which a
+/// parser that continues may find tags where there are none.
+/// \param end where in the text to stop
 MarkupFindings CheckMarkup(const xmlfile::FileText& file, std::size_t end);
 
 }  // namespace msxml6

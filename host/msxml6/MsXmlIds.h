@@ -1,4 +1,4 @@
-// What MSXML 6 calls its classes and interfaces. Import libraries do not have all of them.
+// Identifiers of MSXML 6's classes and interfaces. Import libraries lack some of them.
 #pragma once
 
 #include "msxml/MsXml.h"

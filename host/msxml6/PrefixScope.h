@@ -1,4 +1,4 @@
-// The prefixes of namespaces that are in force at a place of a document.
+// The namespace prefixes in scope at a place in a document.
 #pragma once
 
 #include <cstddef>
@@ -8,22 +8,22 @@
 
 namespace msxml6 {
 
-/// Checks that every name's prefix is declared, which not every MSXML does. Texts are borrowed.
+/// Checks that the prefix of every name is declared, which not every MSXML does. Texts are borrowed.
 class CPrefixScope {
  public:
-  /// Enters an element: the attributes that follow are its own.
+  /// Enters an element; the attributes that follow belong to it.
   void Enter(std::string_view name);
 
   void TakeAttribute(std::string_view name, std::string_view value);
 
-  /// To be called behind the attributes.
-  /// \return why the names of the element and its attributes are not right; empty when they are
+  /// Call it after the last attribute.
+  /// \return what is wrong with the names of the element and its attributes; empty when nothing is
   std::string Check() const;
 
   /// Leaves the element entered last.
   void Leave();
 
-  /// The number of declarations in force, those of no prefix included.
+  /// The number of declarations in scope, including those of the default namespace.
   std::size_t Count() const { return m_declared.size(); }
 
  private:
@@ -36,8 +36,8 @@ class CPrefixScope {
   bool IsDeclared(std::string_view prefix) const;
 
   std::vector<Declaration> m_declared;
-  std::vector<std::size_t> m_before;      // for each element around: how many there were outside it
-  std::vector<std::string_view> m_names;  // of the element entered last and of its attributes with prefixes
+  std::vector<std::size_t> m_before;      // for each open element, the number of declarations outside it
+  std::vector<std::string_view> m_names;  // of the element entered last and its prefixed attributes
 };
 
 }  // namespace msxml6

@@ -70,7 +70,7 @@ struct LoadedSchema {
   std::vector<Import> imports;
 };
 
-/// The other schema of the set whose namespace is imported; null when this imports something else or nothing.
+/// The other schema of the set that describes the imported namespace; null when this imports something else or nothing.
 const SchemaSource* FindImported(IXMLDOMElement& reference, const SchemaSource& from,
                                  const std::vector<SchemaSource>& sources) {
   CBstr kind;
@@ -83,9 +83,9 @@ const SchemaSource* FindImported(IXMLDOMElement& reference, const SchemaSource& 
   return found != sources.end() ? &*found : nullptr;
 }
 
-/// Finds the imports of a schema. Where an import says that its schema is does not matter if the set has one: that is
-/// the one to use.
-/// \throws CZoDOMDocException when it has parts in files that are not of the set, which MSXML is not to open
+/// Finds the imports of a schema. If the set has a schema for the imported namespace, that one is used, whatever
+/// location the import gives.
+/// \throws CZoDOMDocException when the schema has parts in files outside the set, which MSXML must not open
 void FindImports(LoadedSchema& schema, const std::vector<SchemaSource>& sources) {
   constexpr const wchar_t* xpath =
       L"//*[namespace-uri()='http://www.w3.org/2001/XMLSchema' and "
@@ -116,7 +116,7 @@ LoadedSchema LoadSchema(const SchemaSource& source, const std::vector<SchemaSour
   return schema;
 }
 
-/// What the failed call left behind; a text of its own when it is nothing.
+/// The error that the failed call left, or a generic text if it left none.
 std::string LastErrorText() {
   CComPointer<IErrorInfo> info;
   CBstr description;
@@ -125,13 +125,13 @@ std::string LastErrorText() {
 }
 
 bool TryToAdd(const LoadedSchema& schema, IXMLDOMSchemaCollection& schemas) {
-  SetErrorInfo(0, nullptr);  // what failed before is of no interest
+  SetErrorInfo(0, nullptr);  // discards the errors of earlier calls
   const CBstr uri(Utf8ToUtf16(schema.source->targetNamespace));
   return SUCCEEDED(schemas.add(uri.get(), ObjectVariant(*schema.document)));
 }
 
 /// Adds a schema. Some versions of MSXML compile each schema on its own and need the location of what it imports;
-/// others know only the schemas added before, by their namespaces. So this tries both.
+/// others find only the schemas added before, by namespace. So this tries both.
 bool Add(const LoadedSchema& schema, IXMLDOMSchemaCollection& schemas) {
   const CBstr name(L"schemaLocation");
   for (const Import& import : schema.imports) {
@@ -146,13 +146,13 @@ bool Add(const LoadedSchema& schema, IXMLDOMSchemaCollection& schemas) {
   return TryToAdd(schema, schemas);
 }
 
-/// Adds all schemas, imported ones before those that import them.
+/// Adds all schemas, each after the ones that it imports.
 void AddAll(std::vector<LoadedSchema> pending, IXMLDOMSchemaCollection& schemas) {
   while (!pending.empty()) {
     const std::size_t before = pending.size();
     std::erase_if(pending, [&](const LoadedSchema& schema) { return Add(schema, schemas); });
     if (pending.size() < before) continue;
-    static_cast<void>(Add(pending.front(), schemas));  // so that the last error is its own
+    static_cast<void>(Add(pending.front(), schemas));  // so that the last error is this schema's
     ThrowSchemaError(pending.front().file + ": " + LastErrorText());
   }
 }

@@ -55,7 +55,7 @@ class CBoundsCheck {
         break;
       }
       case Markup::Kind::DocumentType:
-        if (m_bounds.tagCount != 0) break;  // it may stand before the root only, and is a mistake elsewhere
+        if (m_bounds.tagCount != 0) break;  // it may only come before the root; anywhere else it is an error
         Refuse(markup.begin, NameAt(m_text, m_text.find_first_not_of(kBlanks, markup.begin + 9)), kDocumentTypeReason);
         break;
       case Markup::Kind::Declaration: break;
@@ -80,7 +80,7 @@ class CBoundsCheck {
     m_open.pop_back();
   }
 
-  /// What cuts a text in pieces.
+  /// Takes markup that splits a text into pieces.
   void TakePiece(const Markup& markup, std::size_t textLength) {
     m_copied += m_textLength;
     m_textLength += textLength;
@@ -93,7 +93,7 @@ class CBoundsCheck {
     Refuse(tag.begin, NameAt(m_text, tag.begin + 1), reason);
   }
 
-  /// Without a column, because a NUL is seldom a character of any line.
+  /// Without a column, because a NUL is rarely a character of a line.
   void RefuseNul() {
     const std::size_t line = CPlaceCounter(m_file).At(m_bounds.end).line;
     m_bounds.problem = DOMDocProblem{line, 0, {}, kNulReason};
@@ -109,9 +109,9 @@ class CBoundsCheck {
   std::string_view m_text;
   Bounds m_bounds;
   std::vector<Open> m_open;
-  std::size_t m_namespaces = 0;    // in force
+  std::size_t m_namespaces = 0;    // in scope
   std::uint64_t m_textLength = 0;  // since the last tag
-  std::uint64_t m_copied = 0;      // of that text, for the pieces that it is in
+  std::uint64_t m_copied = 0;      // bytes copied of that text, for its pieces
 };
 
 }  // namespace

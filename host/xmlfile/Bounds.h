@@ -9,15 +9,15 @@
 
 namespace xmlfile {
 
-/// What a look at a file's tags has found.
+/// The result of checking a file's tags.
 struct Bounds {
-  std::optional<DOMDocProblem> problem;  ///< what goes beyond the bounds first, if anything does
-  std::size_t end = 0;                   ///< where in the text that begins; the end of the text when nothing does
-  std::size_t tagCount = 0;              ///< how many start tags there are before
+  std::optional<DOMDocProblem> problem;  ///< the first violation of the bounds, if any
+  std::size_t end = 0;                   ///< where it begins in the text; the end of the text if there is none
+  std::size_t tagCount = 0;              ///< the number of start tags before it
 };
 
-/// Looks through a file for what no parser is to see or would take too long for. If the file is malformed, what comes
-/// after the first mistake may be overlooked: a parser must not go much further than that.
+/// Searches a file for what no parser should see or what would take a parser too long. In a malformed file, it may miss
+/// what comes after the first error: a parser must not continue much further than that.
 Bounds CheckBounds(const FileText& file);
 
 }  // namespace xmlfile

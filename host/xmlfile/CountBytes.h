@@ -1,4 +1,4 @@
-// Counts bytes of a kind.
+// Counts the bytes that satisfy a predicate.
 #pragma once
 
 #include <algorithm>
@@ -9,7 +9,7 @@
 namespace xmlfile {
 
 /// The number of characters for which the predicate is true. They are counted in parts whose count fits a byte, which
-/// lets the compiler look at many at a time.
+/// lets the compiler vectorise the loop.
 template <typename Predicate>
 std::size_t CountBytes(std::string_view text, Predicate isCounted) {
   constexpr std::size_t part = 255;

@@ -13,7 +13,7 @@ namespace xmlfile {
 
 namespace {
 
-/// What a file begins with tells the order of the bytes of UTF-16.
+/// The first bytes of a file reveal the byte order of UTF-16.
 enum class Form { Bytes, LittleEndian, BigEndian };
 
 Form FormOf(std::string_view bytes) {
@@ -23,7 +23,7 @@ Form FormOf(std::string_view bytes) {
   return Form::Bytes;
 }
 
-/// Whether there is a NUL character from an offset on.
+/// Whether there is a NUL character at or after an offset.
 bool HasNul(std::string_view bytes, std::size_t from) {
   if (FormOf(bytes) == Form::Bytes) return bytes.find('\0', from) != std::string_view::npos;
   for (std::size_t i = from - from % 2; i + 1 < bytes.size(); i += 2) {
@@ -32,15 +32,15 @@ bool HasNul(std::string_view bytes, std::size_t from) {
   return false;
 }
 
-/// Reads a file to its end, or to the first NUL or somewhat further: no file with one is of any use, and one that never
-/// ends may be nothing else.
-/// \return what is wrong, as the end of a sentence; empty when nothing is
+/// Reads a file to its end, or until shortly after the first NUL: a file that contains one is useless, and an endless
+/// one may consist of nothing else.
+/// \return the error as the end of a sentence; empty if there is none
 std::string ReadBytes(const std::filesystem::path& path, std::string& bytes) {
   constexpr std::size_t least = std::size_t{1} << 16;
   constexpr std::size_t most = std::size_t{1} << 20;
   CInputFile file(path);
   if (!file.IsOpen()) return file.Error();
-  // One byte more, so that the first piece shows that there is no second.
+  // One byte more, so that the first read shows that there is nothing left.
   const std::size_t size = file.ExpectedSize();
   const auto chunk = static_cast<int>(size != 0 ? std::min(size, most) + 1 : least);
   for (;;) {
@@ -64,7 +64,7 @@ void AppendUtf8(std::uint32_t code, std::string& text) {
   append(0x80 | (code & 0x3F));
 }
 
-/// Half of a pair alone becomes a replacement character.
+/// An unpaired surrogate becomes a replacement character.
 std::string Utf8OfUtf16(std::string_view bytes, bool isBigEndian) {
   const auto unitAt = [&](std::size_t i) -> std::uint32_t {
     if (i + 1 >= bytes.size()) return 0;
@@ -89,14 +89,14 @@ std::string Utf8OfUtf16(std::string_view bytes, bool isBigEndian) {
 
 constexpr std::string_view kBlanks = " \t\r\n";
 
-/// A byte order mark in UTF-8.
+/// The byte order mark in UTF-8.
 constexpr std::string_view kMark = "\xEF\xBB\xBF";
 
-/// Where the XML declaration names the encoding.
+/// The encoding in the XML declaration.
 struct Declaration {
-  std::string name;       // in capitals; empty when there is none
+  std::string name;       // in upper case; empty when none is declared
   std::size_t begin = 0;  // of "encoding"
-  std::size_t end = 0;    // behind the closing quote
+  std::size_t end = 0;    // after the closing quote
 };
 
 /// \param text without a byte order mark
@@ -104,7 +104,7 @@ Declaration FindEncoding(std::string_view text) {
   const std::string_view declaration = text.substr(0, std::min(text.find("?>"), text.size()));
   constexpr std::string_view opening = "<?xml";
   if (!declaration.starts_with(opening)) return {};
-  // Other instructions begin so, too.
+  // Other processing instructions may begin the same way.
   if (kBlanks.find(text.substr(opening.size(), 1)) == std::string_view::npos) return {};
   constexpr std::string_view key = "encoding";
   const std::size_t begin = declaration.find(key);
@@ -120,19 +120,19 @@ Declaration FindEncoding(std::string_view text) {
   return found;
 }
 
-/// \param name in capitals
+/// \param name in upper case
 bool IsUtf8(std::string_view name) { return name == "UTF-8" || name == "UTF8"; }
 
-/// The encoding that a file is in, where that is not supported; empty where it is.
+/// The encoding of the file if it is not supported; else empty.
 std::string UnsupportedEncoding(std::string_view bytes, Form form, const std::string& declared) {
-  // The beginning of a declaration in EBCDIC, which a parser may understand.
+  // The beginning of an XML declaration in EBCDIC, which a parser may understand.
   if (bytes.starts_with("\x4C\x6F\xA7\x94")) return "EBCDIC";
   const bool isUtf16 = form != Form::Bytes;
   const bool hasMark = isUtf16 && (bytes[0] == '\xFF' || bytes[0] == '\xFE');
   if (hasMark && IsUtf8(declared)) return {};
   if (!declared.empty())
     return IsSupportedEncoding(declared) && IsUtf16(declared) == isUtf16 ? std::string() : declared;
-  // Without a mark, UTF-16 has to be declared.
+  // UTF-16 without a byte order mark must be declared.
   return isUtf16 && !hasMark ? "UTF-16" : "";
 }
 

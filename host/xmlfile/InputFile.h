@@ -1,4 +1,4 @@
-// A file that is read.
+// An input file.
 #pragma once
 
 #include <cstddef>
@@ -8,7 +8,7 @@
 
 namespace xmlfile {
 
-/// A regular file, open for reading. Directories, pipes and devices, which may never end, are not opened.
+/// A regular file, open for reading. Directories, pipes and devices, which may be endless, are not opened.
 class CInputFile {
  public:
   explicit CInputFile(const std::filesystem::path& path);
@@ -19,21 +19,21 @@ class CInputFile {
   bool IsOpen() const { return m_handle != kNoHandle; }
   bool HasFailed() const { return m_failure != Failure::None; }
 
-  /// Why it could not be opened or read to its end, as the end of a sentence; empty when neither happened.
+  /// Why it could not be opened or read to its end, as the end of a sentence; empty when there was no error.
   std::string Error() const;
 
-  /// How many bytes there should be to read, by what the system says; 0 when it does not say.
+  /// The number of bytes to read, according to the system; 0 when unknown.
   std::size_t ExpectedSize() const;
 
-  /// Reads on. It fills the buffer unless the file ends or cannot be read on, in however small pieces the system
-  /// delivers it. What was read before a failure is delivered before the failure; after that and after the end it reads
-  /// nothing more.
+  /// Reads on. It fills the buffer unless the file ends or a read fails, however small the pieces that the system
+  /// delivers. Bytes read before a failure are delivered first; after the failure, and after the end, it reads nothing
+  /// more.
   /// \param context the CInputFile, which must be open
   /// \return the number of bytes read, 0 at the end, -1 on failure
   static int Read(void* context, char* buffer, int length) noexcept;
 
 #ifndef _WIN32
-  /// The number of the file's last change: another one means that it may have other content.
+  /// The number of the file's last change: if it differs, the content may differ too.
   struct Stamp {
     std::int64_t seconds = 0;
     std::int64_t nanoseconds = 0;

@@ -10,7 +10,7 @@ namespace xmlfile {
 
 namespace {
 
-/// Opening a pipe would wait for its other end, hence without blocking; for a regular file that means nothing.
+/// Non-blocking, because opening a pipe would wait for its other end; the flag has no effect on a regular file.
 int Open(const std::filesystem::path& path) {
   for (;;) {
     const int descriptor = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);

@@ -13,7 +13,7 @@ static_assert(sizeof(HANDLE) == sizeof(std::intptr_t));
 
 HANDLE Handle(std::intptr_t handle) { return reinterpret_cast<HANDLE>(handle); }
 
-/// Others may go on reading, writing, renaming and deleting the file.
+/// Other processes may continue to read, write, rename and delete the file.
 std::intptr_t Open(const std::filesystem::path& path) {
   return reinterpret_cast<std::intptr_t>(CreateFileW(path.c_str(), GENERIC_READ,
                                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
@@ -25,7 +25,7 @@ bool IsDirectory(const std::filesystem::path& path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
-/// The system's words for an error.
+/// The system's text for an error.
 std::string SystemErrorText(DWORD code) {
   wchar_t text[512];
   constexpr DWORD flags = FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS;
@@ -33,7 +33,7 @@ std::string SystemErrorText(DWORD code) {
   return length != 0 ? Utf16ToUtf8({text, length}) : "error " + std::to_string(code);
 }
 
-/// The system's words for an error, in the form in which other systems say it where that is possible.
+/// The text for an error, worded as on other systems where possible.
 std::string ErrorText(DWORD code) {
   switch (code) {
     case ERROR_FILE_NOT_FOUND:

@@ -7,8 +7,8 @@ namespace xmlfile {
 
 namespace {
 
-/// The beginnings of the names. Shift_JIS, GBK, GB18030 and Big5 are none of them: there, a byte that is a bracket in
-/// ASCII may be the second half of a character.
+/// Prefixes of the names. Shift_JIS, GBK, GB18030 and Big5 are not among them: there, a byte that is a bracket in ASCII
+/// may be the second half of a character.
 constexpr std::string_view kEncodings[] = {"UTF-8",     "UTF8",      "UTF-16",   "UTF16",     "US-ASCII", "ASCII",
                                            "ISO-8859-", "ISO_8859-", "ISO8859-", "ISO LATIN", "LATIN",    "WINDOWS-125",
                                            "CP125",     "EUC-",      "GB2312",   "KOI8-",     "TIS-620"};

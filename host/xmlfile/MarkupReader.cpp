@@ -8,7 +8,7 @@ namespace {
 
 bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 
-/// The characters at which something changes inside a start tag.
+/// The characters that matter inside a start tag.
 struct Marks {
   bool of[256] = {};
 };
@@ -18,8 +18,8 @@ constexpr Marks kMarks = [] {
   return marks;
 }();
 
-/// The offset of the next character at which something changes; the text's size when there is none. Half of most files
-/// is start tags, so that each character counts.
+/// The offset of the next character that matters; the text's size if there is none. Half of most files is start tags,
+/// so every character counts.
 std::size_t SkipDull(std::string_view text, std::size_t at) {
   const char* const begin = text.data();
   const char* const end = begin + text.size();
@@ -107,7 +107,7 @@ void CMarkupReader::ReadStartTag(Markup& markup) const {
       at = close;
       nameBegin = close + 1;
     } else {
-      // Blanks may stand before a name and before its "=".
+      // There may be blanks before a name and before its "=".
       while (at + 1 < m_text.size() && IsBlank(m_text[at + 1])) ++at;
       if (at + 1 < m_text.size() && m_text[at + 1] != '=') nameBegin = at + 1;
     }

@@ -6,29 +6,29 @@
 
 namespace xmlfile {
 
-/// What stands from a "<" to its end.
+/// A piece of markup, from "<" to its end.
 struct Markup {
   enum class Kind { StartTag, EmptyTag, EndTag, Comment, CData, Instruction, DocumentType, Declaration };
 
   Kind kind = Kind::Declaration;
   std::size_t begin = 0;
-  std::size_t end = 0;         ///< the end of the text when it has none of its own
-  std::size_t attributes = 0;  ///< of a start tag; declarations of namespaces included
-  std::size_t namespaces = 0;  ///< how many of these are such declarations
-  bool isBroken = false;       ///< whether a start tag has a "<" in it, so that a parser may take that for the next tag
+  std::size_t end = 0;         ///< the end of the text when the markup does not end
+  std::size_t attributes = 0;  ///< of a start tag, including namespace declarations
+  std::size_t namespaces = 0;  ///< how many of these are namespace declarations
+  bool isBroken = false;       ///< whether a start tag contains a "<", which a parser may take for the next tag
 };
 
-/// The name that begins at an offset; empty when none does.
+/// The name at an offset; empty if there is none.
 std::string_view NameAt(std::string_view text, std::size_t begin);
 
-/// Goes from one piece of markup to the next. It knows just enough of XML to find the tags of a well-formed text;
-/// whether it is well-formed is for others to say. Where it is not, all is right up to the first mistake.
+/// Iterates over the markup. It knows just enough XML to find the tags of a well-formed text; it does not check whether
+/// the text is well-formed. In a malformed text, the results are right up to the first error.
 class CMarkupReader {
  public:
-  /// \param text one in which the bytes of ASCII characters stand for nothing else; borrowed
+  /// \param text in which ASCII bytes always mean ASCII characters; borrowed
   explicit CMarkupReader(std::string_view text) : m_text(text) {}
 
-  /// \return false when there is no more markup
+  /// \return false at the end
   bool Next(Markup& markup);
 
  private:

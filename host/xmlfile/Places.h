@@ -1,4 +1,4 @@
-// Where things stand in an XML file.
+// Places in an XML file.
 #pragma once
 
 #include "xmlfile/FileText.h"
@@ -10,7 +10,7 @@
 
 namespace xmlfile {
 
-/// A line, and a character in it; both from 1.
+/// A line and a character in it, both from 1.
 struct Place {
   std::uint32_t line = 1;
   std::uint32_t column = 1;
@@ -19,10 +19,10 @@ struct Place {
 /// Counts lines and characters.
 class CPlaceCounter {
  public:
-  /// \param file must live as long
+  /// \param file must outlive this object
   explicit CPlaceCounter(const FileText& file) : m_text(file.Text()), m_isUtf8(file.isUtf8) {}
 
-  /// The place of an offset in the text, which must not be smaller than the one asked for before.
+  /// The place of an offset in the text. Offsets must not decrease from call to call.
   Place At(std::size_t offset);
 
  private:
@@ -34,15 +34,15 @@ class CPlaceCounter {
 
 /// A start tag.
 struct Tag {
-  static constexpr std::uint32_t kNone = 0;  // the document stands there
+  static constexpr std::uint32_t kNone = 0;  // index 0 is the document's entry
 
-  Place place;                        ///< where it begins
-  std::uint32_t firstChild = kNone;   ///< of the elements in it
-  std::uint32_t lastChild = kNone;    ///< of these
-  std::uint32_t nextSibling = kNone;  ///< the next element beside it
+  Place place;                        ///< where the tag begins
+  std::uint32_t firstChild = kNone;   ///< the first child element
+  std::uint32_t lastChild = kNone;    ///< the last child element
+  std::uint32_t nextSibling = kNone;  ///< the next sibling element
 };
 
-/// The start tags of a well-formed file in their order, after one that stands for the document.
+/// The start tags of a well-formed file in order, after an entry for the document.
 std::vector<Tag> FindTags(const FileText& file);
 
 }  // namespace xmlfile

@@ -10,14 +10,14 @@ namespace xmlfile {
 
 namespace {
 
-/// A file with more mistakes than that is none that a person would mend one by one, and may be made to fill memory.
+/// Nobody fixes a file with more errors than that one by one, and it may be meant to exhaust memory.
 constexpr std::size_t kMostProblems = 10'000;
 
-/// A reason quotes the file's own text, which may be of any length.
+/// A reason may quote text of any length from the file.
 constexpr std::size_t kLongestText = 1'000;
 
-/// The text on one line, without blanks at its end, cut to a length that a person can read, and as valid UTF-8: a
-/// parser may quote the bytes of a file as they are.
+/// The text on one line, without trailing blanks, truncated to a readable length, and as valid UTF-8: a parser may
+/// quote the bytes of a file unchanged.
 std::string ReadableText(std::string_view text) {
   while (!text.empty() && static_cast<unsigned char>(text.back()) <= ' ') text.remove_suffix(1);
   const bool isCut = text.size() > kLongestText;

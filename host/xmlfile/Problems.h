@@ -9,23 +9,23 @@
 
 namespace xmlfile {
 
-/// Is filled from callbacks, which no exception may leave: memory that runs out is kept and raised later.
+/// It is filled from callbacks, which must not throw: if memory runs out, that is recorded and thrown later.
 class CProblems {
  public:
   void Add(std::size_t line, std::size_t column, std::string_view element, std::string_view reason) noexcept;
 
-  /// Forgets the problems, but not that memory ran out.
+  /// Discards the problems, but still remembers that memory ran out.
   void Clear() noexcept {
     m_list.clear();
     m_omitted = 0;
   }
 
-  /// Remembers that memory ran out.
+  /// Records that memory ran out.
   void RanOutOfMemory() noexcept { m_isOutOfMemory = true; }
 
   bool IsEmpty() const noexcept { return m_list.empty() && !m_isOutOfMemory; }
 
-  /// \throws std::bad_alloc when memory ran out on the way
+  /// \throws std::bad_alloc if memory ran out meanwhile
   std::vector<DOMDocProblem> Take();
 
  private:

@@ -6,8 +6,8 @@
 namespace xmlfile {
 
 struct Root {
-  std::string name;  ///< without prefix
-  std::string uri;   ///< the namespace; empty for none
+  std::string name;  ///< local name
+  std::string uri;   ///< the namespace; empty if none
 };
 
 }  // namespace xmlfile

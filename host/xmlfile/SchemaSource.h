@@ -7,7 +7,7 @@
 
 namespace xmlfile {
 
-/// A schema's file and the namespace that it describes, which is UTF-8.
+/// A schema file and the namespace that it describes, in UTF-8.
 struct SchemaSource {
   std::filesystem::path file;
   std::string targetNamespace;

@@ -1,4 +1,4 @@
-// The look at a file's bounds, held against a plain search for tags.
+// The check of a file's bounds, compared with a plain search for tags.
 #include "EncodedXml.h"
 #include "support/Random.h"
 #include "support/TempDir.h"
@@ -22,7 +22,7 @@ using testsupport::RandomBelow;
 
 using Generator = std::mt19937_64;
 
-/// The line where the first tag with an equals sign too many begins; 0 when there is none.
+/// The line where the first tag with too many equals signs begins; 0 if there is none.
 std::size_t LineOfTooMany(std::string_view xml) {
   const auto skip = [&](std::size_t from, std::string_view end) {
     return std::min(xml.find(end, from), xml.size() - end.size()) + end.size();
@@ -49,7 +49,7 @@ std::size_t LineOfTooMany(std::string_view xml) {
   return 0;
 }
 
-/// Writes documents with tags of many attributes, and much that looks like them.
+/// Writes documents with tags of many attributes, and much that looks like such tags.
 class CTagWriter {
  public:
   explicit CTagWriter(Generator& generator) : m_generator(generator) {}
@@ -93,7 +93,7 @@ class CTagWriter {
     return texts[Below(count)];
   }
 
-  /// Something that would be a tag with too many attributes, were it a tag.
+  /// Something that would be a tag with too many attributes if it were a tag.
   void AppendSigns() {
     constexpr std::array openings = {"<!--", "<!-- <x ", "<![CDATA[<x ", "<?p <x "};
     constexpr std::array closings = {"-->", "-->", "]]>", "?>"};
@@ -101,7 +101,7 @@ class CTagWriter {
     m_xml.append(openings[which]).append(Below(3000), '=').append(closings[which]);
   }
 
-  /// Mostly with few attributes, sometimes with as many as there may be, or nearly, or more.
+  /// Mostly with few attributes, sometimes with about as many as are allowed, or more.
   void AppendTag() {
     constexpr std::array values = {"''", "'1'", "\"\"", "\">'=\"", "'=\n/>\"'", "'\u20AC\u2022'"};
     constexpr std::array blanks = {" ", "\n", "\r\n", "\t "};
@@ -117,14 +117,14 @@ class CTagWriter {
   std::string m_xml;
 };
 
-/// Its lines are those of the characters, whatever the bytes are.
+/// The lines are counted in characters, whatever the bytes are.
 std::string InAnyForm(Generator& generator, const std::string& xml) {
   return Encode(xml, kForms[RandomBelow(generator, kForms.size())]);
 }
 
 class BoundsDifferentialTest : public testing::Test {
  protected:
-  /// The line where a file goes beyond the bounds of attributes; 0 when it does not.
+  /// The line where a file exceeds the limit on attributes; 0 if it does not.
   std::size_t LineOfBounds(const std::string& bytes) const {
     xmlfile::CProblems problems;
     const auto file = xmlfile::ReadFileText(m_dir.Write("x.xml", bytes), problems);
@@ -152,20 +152,20 @@ TEST_F(BoundsDifferentialTest, RefusesWhereThePlainSearchFindsTooMany) {
   EXPECT_LT(refusedCount, 360U);
 }
 
-TEST_F(BoundsDifferentialTest, EqualsSignsSideBySideAreCountedToo) {
+TEST_F(BoundsDifferentialTest, AdjacentEqualsSignsAreCountedToo) {
   for (std::size_t count = 990; count < 1010; ++count) {
     const std::string xml = "<a><b" + std::string(count, '=') + "><c/></a>";
     ASSERT_EQ(LineOfBounds(xml), count > xmlfile::kMostAttributes ? 1U : 0U) << count;
   }
 }
 
-TEST_F(BoundsDifferentialTest, NothingIsSaidOfWhatComesAfterATagInATag) {
+TEST_F(BoundsDifferentialTest, NothingIsReportedAfterATagInATag) {
   const std::string signs(600, '=');
   EXPECT_EQ(LineOfBounds("<a " + signs + "<b " + signs + signs + "/>"), 0U);
   EXPECT_EQ(LineOfBounds("<a b='<c " + signs + signs + "'/>"), 0U);
 }
 
-TEST_F(BoundsDifferentialTest, HalfAByteOrderMarkIsNone) {
+TEST_F(BoundsDifferentialTest, HalfAByteOrderMarkIsNotAMark) {
   for (const std::string begin : {"\xFF<", "\xFE<", "\xFF\xFF", "\xFE\xFE"}) {
     xmlfile::CProblems problems;
     const auto file = xmlfile::ReadFileText(m_dir.Write("x.xml", begin), problems);

@@ -1,4 +1,4 @@
-// Documents of their own in many threads, against the same schemas.
+// Documents in many threads, one each, validated against the same schemas.
 #include "BaseUtilities/Exceptions.h"
 #include "support/Schemas.h"
 #include "support/XmlDocument.h"
@@ -23,7 +23,7 @@ namespace fs = std::filesystem;
 
 constexpr int kThreadCount = 8;
 
-/// Runs the action in many threads that start together; it is given the thread's number.
+/// Runs the action in many threads that start together; it receives the thread's number.
 template <typename Action>
 void RunInThreads(const Action& action) {
   std::latch start(kThreadCount);
@@ -56,12 +56,12 @@ class DomDocConcurrentTest : public testing::Test {
     }
   }
 
-  /// Validates a valid and an invalid document of the thread's own; whether all was as it must be.
+  /// Validates a valid and an invalid document of the thread's own; returns whether the results were right.
   bool ValidateOwn(CSchemaDocument& document, int thread) const {
     const auto index = static_cast<std::size_t>(thread);
     if (!document.ValidateDoc(m_valid[index]) || document.ValidateDoc(m_invalid[index])) return false;
     if (document.Problems().size() != 1) return false;
-#ifdef _WIN32  // MSXML words its reasons as it likes
+#ifdef _WIN32  // MSXML has its own words
     return !document.Problems().front().reason.empty();
 #else
     return document.Problems().front().reason.find(std::to_string(thread) + "x'") != std::string::npos;

@@ -1,4 +1,4 @@
-// Tags where a look at the bytes sees none.
+// Tags that a check of the bytes does not see.
 #include "TestUtilities/DOMDoc.h"
 #include "support/TempDir.h"
 #include "support/Watchdog.h"
@@ -22,7 +22,7 @@ bool IsValid(const std::string& document) {
 }
 
 // A parser that compares each of so many attributes with all others takes half a minute.
-TEST(HiddenTagsTest, TagsBehindAMistakeTakeNoTime) {
+TEST(HiddenTagsTest, TagsAfterAnErrorTakeNoTime) {
   const testsupport::CWatchdog watchdog(std::chrono::seconds(60));
   const std::string tag = "<x" + Attributes(400'000) + "/></r>";
   const std::string value = "<a b=\"" + std::string(2000, ' ');

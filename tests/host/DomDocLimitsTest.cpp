@@ -1,4 +1,4 @@
-// The bounds within which documents are read, so that no file takes more time than its size justifies.
+// The limits on documents, so that no file takes more time than its size justifies.
 #include "TestUtilities/DOMDoc.h"
 #include "support/TempDir.h"
 
@@ -41,14 +41,16 @@ std::string Utf16(const std::string& text) {
 
 constexpr const char* kTooMany = "line 2: An element has more than 1000 attributes.";
 
-TEST(DomDocLimitsTest, ThousandAttributesAreRead) { EXPECT_EQ(ProblemOf("<a>\n<b" + Attributes(1000) + "/></a>"), ""); }
+TEST(DomDocLimitsTest, AThousandAttributesAreRead) {
+  EXPECT_EQ(ProblemOf("<a>\n<b" + Attributes(1000) + "/></a>"), "");
+}
 
-TEST(DomDocLimitsTest, MoreThanAThousandAttributesAreNot) {
+TEST(DomDocLimitsTest, MoreThanAThousandAttributesAreRefused) {
   EXPECT_EQ(ProblemOf("<a>\n<b" + Attributes(1001) + "/></a>"), kTooMany);
   EXPECT_EQ(ProblemOf("<a>\n<b" + Attributes(100'000) + "/></a>"), kTooMany);
 }
 
-TEST(DomDocLimitsTest, EqualsSignsBehindALongNameAreCountedQuickly) {
+TEST(DomDocLimitsTest, EqualsSignsAfterALongNameAreCountedQuickly) {
   EXPECT_NE(ProblemOf("<a " + std::string(1'000'000, 'x') + std::string(1'000'000, '=')), "");
   EXPECT_NE(ProblemOf("<a " + std::string(1'000'000, ' ') + std::string(1'000'000, '=')), "");
 }
@@ -63,12 +65,12 @@ TEST(DomDocLimitsTest, CharactersWithTheBytesOfQuotesHideNoAttributesOfUtf16File
   EXPECT_EQ(ProblemOf(Utf16("<a>") + "\x22\x27\x27\x22" + tag), kTooMany);
 }
 
-TEST(DomDocLimitsTest, FileMayNotChangeToUtf16BehindItsDeclaration) {
+TEST(DomDocLimitsTest, FileMayNotChangeToUtf16AfterItsDeclaration) {
   const std::string declaration = "<?xml version='1.0' encoding='UTF-16LE'?>";
   EXPECT_NE(ProblemOf(declaration + Utf16("<a/>").substr(2)), "");
 }
 
-TEST(DomDocLimitsTest, OtherCharactersMayNotStandBeforeADeclarationOfTheEncoding) {
+TEST(DomDocLimitsTest, StrayCharactersMayNotPrecedeADeclarationOfTheEncoding) {
   const std::string end = Utf16("' encoding='UTF-8'?><a/>").substr(2);
   EXPECT_NE(ProblemOf(Utf16("<?xml version='1.0") + Repeated("\xAC\x20", 10'000) + end), "");
 }
@@ -77,13 +79,13 @@ TEST(DomDocLimitsTest, AttributesAreCountedForEachTag) {
   EXPECT_EQ(ProblemOf("<a>" + Repeated("<b" + Attributes(400) + "></b>", 5) + "</a>"), "");
 }
 
-TEST(DomDocLimitsTest, DeclarationsOfNamespacesCountAsAttributes) {
+TEST(DomDocLimitsTest, NamespaceDeclarationsCountAsAttributes) {
   std::string declarations;
   for (int i = 0; i < 1001; ++i) declarations += " xmlns:n" + std::to_string(i) + "='u'";
   EXPECT_EQ(ProblemOf("<a>\n<b" + declarations + "/></a>"), kTooMany);
 }
 
-TEST(DomDocLimitsTest, EqualsSignsElsewhereAreNoAttributes) {
+TEST(DomDocLimitsTest, EqualsSignsElsewhereAreNotAttributes) {
   const std::string signs(5000, '=');
   EXPECT_EQ(ProblemOf("<a>" + signs + "</a>"), "");
   EXPECT_EQ(ProblemOf("<a b='" + signs + "' c=\"" + signs + "'>" + signs + "\"/>"), "");
@@ -92,7 +94,7 @@ TEST(DomDocLimitsTest, EqualsSignsElsewhereAreNoAttributes) {
   EXPECT_EQ(ProblemOf("<?p " + signs + "><x " + signs + "?><a/>"), "");
 }
 
-TEST(DomDocLimitsTest, TagsAreFoundAgainBehindEverythingElse) {
+TEST(DomDocLimitsTest, TagsAreFoundAfterEverythingElse) {
   const std::string tag = "\n<b" + Attributes(1001) + "/></a>";
   for (const char* before :
        {"<a><!-- <x a='>'> -->", "<a><![CDATA[ <x a='>']]>", "<?p <x a='>?><a>", "<a b='>' c=\">\">",
@@ -101,7 +103,7 @@ TEST(DomDocLimitsTest, TagsAreFoundAgainBehindEverythingElse) {
   }
 }
 
-TEST(DomDocLimitsTest, ThousandNamespacesAroundAnElementAreTooMany) {
+TEST(DomDocLimitsTest, AThousandNamespacesAroundAnElementAreTooMany) {
   std::string open;
   std::string close;
   for (int i = 0; i < 200; ++i) {

@@ -1,4 +1,4 @@
-// Places of elements in generated documents, held against those that the generator counted.
+// Places of elements in generated documents, compared with those that the generator counted.
 #include "support/Random.h"
 #include "support/XmlDocument.h"
 

@@ -1,4 +1,4 @@
-// Where elements stand in their files.
+// The places of elements in their files.
 #include "support/XmlDocument.h"
 
 #include <gtest/gtest.h>
@@ -18,7 +18,7 @@ using testsupport::Select;
 using testsupport::SelectOne;
 using testsupport::TempDir;
 
-/// Where the element `b` of a document stands.
+/// The place of the element `b` in a document.
 std::string PlaceOfB(std::string_view xml) {
   CTextDocument document(xml);
   return PlaceOf(document, *SelectOne(document.Root(), L"//b"));
@@ -31,12 +31,12 @@ std::string Utf16(std::string_view text, bool isBigEndian) {
   return bytes;
 }
 
-TEST(DomDocLocateTest, RootAtTheBegin) {
+TEST(DomDocLocateTest, RootAtTheBeginning) {
   CTextDocument document("<a/>");
   EXPECT_EQ(PlaceOf(document, document.Root()), "1:1");
 }
 
-TEST(DomDocLocateTest, RootBehindTheDeclaration) {
+TEST(DomDocLocateTest, RootAfterTheDeclaration) {
   CTextDocument document("<?xml version='1.0'?>\n<!-- c -->\n  <a/>");
   EXPECT_EQ(PlaceOf(document, document.Root()), "3:3");
 }
@@ -50,17 +50,17 @@ TEST(DomDocLocateTest, ElementsOnOneLine) {
 
 TEST(DomDocLocateTest, ElementsOnLines) { EXPECT_EQ(PlaceOfB("<a>\n  <x/>\n    <b/>\n</a>"), "3:5"); }
 
-TEST(DomDocLocateTest, AttributesDoNotMoveTheBegin) {
+TEST(DomDocLocateTest, AttributesDoNotMoveTheBeginning) {
   EXPECT_EQ(PlaceOfB("<a> <b value='1' other=\"&lt;&#10;&gt;>\"  >x</b></a>"), "1:5");
 }
 
-TEST(DomDocLocateTest, TagOfManyLinesStandsWhereItBegins) {
+TEST(DomDocLocateTest, TagOfManyLinesIsLocatedAtItsBeginning) {
   EXPECT_EQ(PlaceOfB("<a>\n  <b\n  x='1'\n  y='2\n3'\n/></a>"), "2:3");
 }
 
 TEST(DomDocLocateTest, TagOfManyLinesOnTheFirstLine) { EXPECT_EQ(PlaceOfB("<a> <b\nx='1'/></a>"), "1:5"); }
 
-TEST(DomDocLocateTest, ElementBehindATagOfManyLines) { EXPECT_EQ(PlaceOfB("<a\n\nx='1'> <b/></a>"), "3:8"); }
+TEST(DomDocLocateTest, ElementAfterATagOfManyLines) { EXPECT_EQ(PlaceOfB("<a\n\nx='1'> <b/></a>"), "3:8"); }
 
 TEST(DomDocLocateTest, TabIsOneCharacter) { EXPECT_EQ(PlaceOfB("<a>\n\t\t<b/></a>"), "2:3"); }
 
@@ -77,13 +77,13 @@ TEST(DomDocLocateTest, CharactersOfManyBytesAreOneEach) {
 
 TEST(DomDocLocateTest, ReferencesCountAsTheyAreWritten) { EXPECT_EQ(PlaceOfB("<a>&#xE4;&amp;<b/></a>"), "1:15"); }
 
-TEST(DomDocLocateTest, BehindCommentsCDataAndInstructions) {
+TEST(DomDocLocateTest, AfterCommentsCDataAndInstructions) {
   EXPECT_EQ(PlaceOfB("<a><!-- <c>\n\n --><b/></a>"), "3:5");
   EXPECT_EQ(PlaceOfB("<a><![CDATA[ <b>\n]] ]]><b/></a>"), "2:7");
   EXPECT_EQ(PlaceOfB("<a><?p <b>\n\n?><b/></a>"), "3:3");
 }
 
-TEST(DomDocLocateTest, ByteOrderMarkIsNoCharacter) { EXPECT_EQ(PlaceOfB("\xEF\xBB\xBF<a><b/></a>"), "1:4"); }
+TEST(DomDocLocateTest, ByteOrderMarkIsNotACharacter) { EXPECT_EQ(PlaceOfB("\xEF\xBB\xBF<a><b/></a>"), "1:4"); }
 
 TEST(DomDocLocateTest, Utf16) {
   const std::string xml = "<a>\n\n <x/><b\nx='1'/></a>";
@@ -105,17 +105,17 @@ TEST(DomDocLocateTest, Latin1) {
   EXPECT_EQ(PlaceOfB("<?xml version='1.0' encoding='ISO-8859-1'?>\n<a>\xE4\xF6<b/></a>"), "2:6");
 }
 
-TEST(DomDocLocateTest, BehindMuchText) {
+TEST(DomDocLocateTest, AfterMuchText) {
   EXPECT_EQ(PlaceOfB("<a>\n" + std::string(300'000, 'x') + "<b/></a>"), "2:300001");
   EXPECT_EQ(PlaceOfB("<a>\n" + std::string(300'000, 'x') + "\n<b/></a>"), "3:1");
 }
 
-TEST(DomDocLocateTest, BehindAMegabyteOfAttribute) {
+TEST(DomDocLocateTest, AfterAMegabyteOfAttribute) {
   EXPECT_EQ(PlaceOfB("<a x='" + std::string(1'000'000, 'x') + "'>\n <b y='" + std::string(1'000'000, 'y') + "'/></a>"),
             "2:2");
 }
 
-TEST(DomDocLocateTest, BehindManyElementsOnOneLine) {
+TEST(DomDocLocateTest, AfterManyElementsOnOneLine) {
   std::string xml = "<a>";
   for (int i = 0; i < 50'000; ++i) xml += "<x/>";
   EXPECT_EQ(PlaceOfB(xml + "<b/></a>"), "1:200004");
@@ -127,11 +127,11 @@ TEST(DomDocLocateTest, LinesBeyond65535) {
   EXPECT_EQ(PlaceOfB("<a>" + std::string(200'000, '\n') + "  <b/></a>"), "200001:3");
 }
 
-TEST(DomDocLocateTest, ColumnOfATagOfManyLinesFarBehindTheBeginOfItsLine) {
+TEST(DomDocLocateTest, ColumnOfATagOfManyLinesFarIntoItsLine) {
   EXPECT_EQ(PlaceOfB("<a>\n" + std::string(300'000, 'x') + "<b\n/></a>"), "2:300001");
 }
 
-TEST(DomDocLocateTest, ElementsMayBeAskedForInAnyOrder) {
+TEST(DomDocLocateTest, ElementsMayBeLocatedInAnyOrder) {
   CTextDocument document("<a>\n<b/><b><c/>\n<c/></b>\n<b><c/></b></a>");
   const std::vector<DOMNodePtr> nodes = Select(document.Root(), L"//*");
   constexpr const char* places[] = {"1:1", "2:1", "2:5", "2:8", "3:1", "4:1", "4:4"};
@@ -141,8 +141,8 @@ TEST(DomDocLocateTest, ElementsMayBeAskedForInAnyOrder) {
   }
 }
 
-TEST(DomDocLocateTest, ElementsThatLookAlikeAreToldApartAndStayAsTheyAre) {
-  // The attribute is one that some implementations set for a moment.
+TEST(DomDocLocateTest, ElementsThatLookAlikeAreToldApartAndStayUnchanged) {
+  // Some implementations set this attribute temporarily.
   CTextDocument document("<a>\n<b element-mark='marked'/>\n<b element-mark='marked otherwise'/>\n<b/></a>");
   std::string places;
   for (const DOMNodePtr& b : Select(document.Root(), L"b")) places += PlaceOf(document, *b) + " ";
@@ -164,18 +164,18 @@ TEST(DomDocLocateTest, ManySiblingsAreFoundQuickly) {
   }
 }
 
-TEST(DomDocLocateTest, AttributeStandsWhereItsElementDoes) {
+TEST(DomDocLocateTest, AttributeHasThePlaceOfItsElement) {
   CTextDocument document("<a>\n <b x='1'/></a>");
   EXPECT_EQ(PlaceOf(document, *SelectOne(document.Root(), L"b/@x")), "2:2");
 }
 
-TEST(DomDocLocateTest, DocumentStandsNowhere) {
+TEST(DomDocLocateTest, DocumentHasNoPlace) {
   CTextDocument document("<a/>");
   EXPECT_EQ(PlaceOf(document, document.Document()), "nowhere");
   EXPECT_EQ(PlaceOf(document, *SelectOne(document.Root(), L"/")), "nowhere");
 }
 
-TEST(DomDocLocateTest, NodeOfAnotherDocumentStandsNowhere) {
+TEST(DomDocLocateTest, NodeOfAnotherDocumentHasNoPlace) {
   CTextDocument document("<a/>");
   CTextDocument other("<a/>");
   std::size_t line = 7;
@@ -185,7 +185,7 @@ TEST(DomDocLocateTest, NodeOfAnotherDocumentStandsNowhere) {
   EXPECT_EQ(column, 0U);
 }
 
-TEST(DomDocLocateTest, NodeOfTheFormerContentStandsNowhere) {
+TEST(DomDocLocateTest, NodeOfTheFormerContentHasNoPlace) {
   const TempDir dir;
   const auto file = dir.Write("x.xml", "<a/>");
   CPlainDocument document;

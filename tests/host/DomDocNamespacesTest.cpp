@@ -1,4 +1,4 @@
-// Namespaces of any form: they are names, and only whether two are the same matters.
+// Namespaces of any form: they are names, and only whether two are equal matters.
 #include "support/Schemas.h"
 #include "support/XmlDocument.h"
 
@@ -18,7 +18,7 @@ using testsupport::NodeNames;
 using testsupport::Schema;
 using testsupport::Select;
 
-/// Texts that have not the form of a URI, or not that of an absolute one.
+/// Texts that do not have the form of a URI, or not that of an absolute one.
 constexpr const char* kTexts[] = {"a b", "C:\\x\\y", "\u00E9", "http://x/{a}", "http://[", "%", "%zz", ":", "relative"};
 
 std::string Declaration(std::string_view text) { return std::string(" xmlns:p='").append(text).append("'"); }

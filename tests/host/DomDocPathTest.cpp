@@ -1,4 +1,4 @@
-// Names of elements by their way from the root.
+// Paths of elements from the root.
 #include "support/XmlDocument.h"
 
 #include <gmock/gmock.h>
@@ -42,7 +42,7 @@ TEST(DomDocPathTest, NamesAreLocalAndNamespacesCount) {
               ElementsAre("a", "a/b[1]", "a/b", "a/b", "a/b[2]"));
 }
 
-TEST(DomDocPathTest, WhatIsNoElementHasNoPath) {
+TEST(DomDocPathTest, OnlyElementsHavePaths) {
   CTextDocument document("<a x='1'/>");
   EXPECT_EQ(document.PathOf(*SelectOne(document.Root(), L"@x")), "");
   EXPECT_EQ(document.PathOf(document.Document()), "");
@@ -77,7 +77,7 @@ TEST(DomDocPathTest, DeepestElementHasItsPath) {
   EXPECT_EQ(Paths(open + close).back(), path);
 }
 
-TEST(DomDocPathTest, HundredThousandSiblingsAreNamedQuickly) {
+TEST(DomDocPathTest, AHundredThousandSiblingsAreNamedQuickly) {
   std::string xml = "<a>";
   for (int i = 0; i < 50'000; ++i) xml += "<b/><c/>";
   const std::vector<std::string> paths = Paths(xml + "</a>");

@@ -19,7 +19,7 @@ std::vector<DOMDocProblem> ProblemsOf(const std::string& document) {
   const testsupport::TempDir dir;
   CDOMDoc doc({});
   EXPECT_FALSE(doc.ValidateDoc(dir.Write("x.xml", document)));
-  EXPECT_THAT(doc.Problems(), Not(IsEmpty()));  // or the loops over them would see nothing
+  EXPECT_THAT(doc.Problems(), Not(IsEmpty()));  // or loops over them would test nothing
   return doc.Problems();
 }
 
@@ -53,10 +53,10 @@ TEST(DomDocReasonsTest, AreOnOneLine) {
   }
 }
 
-/// UTF-16 with half of a pair of surrogates in it.
+/// UTF-16 with an unpaired surrogate.
 const std::string kHalfAPair = "\xFF\xFE<\0a\0>\0\x3D\xD8x\0<\0/\0a\0>\0"s;
 
-TEST(DomDocReasonsTest, TellOfTextThatCannotBeDecoded) {
+TEST(DomDocReasonsTest, ReportTextThatCannotBeDecoded) {
   const std::string reason = ProblemsOf(kHalfAPair).at(0).reason;
 #ifdef _WIN32  // MSXML has its own words
   EXPECT_THAT(reason, Not(IsEmpty()));
@@ -66,7 +66,7 @@ TEST(DomDocReasonsTest, TellOfTextThatCannotBeDecoded) {
 }
 
 #ifndef _WIN32  // MSXML gives the first one only
-TEST(DomDocReasonsTest, NameElementsAroundWithTheirUndeclaredPrefix) {
+TEST(DomDocReasonsTest, NameEnclosingElementsWithTheirUndeclaredPrefix) {
   const std::vector<DOMDocProblem> problems = ProblemsOf("<p:a><q:b/></p:a>");
   ASSERT_EQ(problems.size(), 2U);
   EXPECT_EQ(problems[1].element, "p:a");
@@ -85,7 +85,7 @@ TEST(DomDocReasonsTest, NameAnElementThatEndsAsAnother) {
   EXPECT_EQ(problem.element, "b");
 }
 
-TEST(DomDocReasonsTest, SayWhereAnElementEndsThatHasNotBegun) { EXPECT_EQ(ProblemsOf("<a/>\n</b>").at(0).line, 2U); }
+TEST(DomDocReasonsTest, LocateAnEndTagWithoutAStartTag) { EXPECT_EQ(ProblemsOf("<a/>\n</b>").at(0).line, 2U); }
 
 TEST(DomDocReasonsTest, AreNotWrittenToStandardError) {
   testing::internal::CaptureStderr();

@@ -1,4 +1,4 @@
-// Schemas and documents whose paths are not UTF-8, on their way through wide text.
+// Schemas and documents whose paths are not UTF-8, converted to wide text and back.
 #include "BaseUtilities/Exceptions.h"
 #include "SchemaDirectory.h"
 
@@ -21,14 +21,14 @@ class DomDocSchemaDirectoryBytesTest : public DomDocSchemaBytesTest, public test
 
 TEST_P(DomDocSchemaDirectoryBytesTest, SchemaIsUsed) { ExpectSchemaIsUsed(GetParam()); }
 
-// Bytes that begin nothing, sequences that are cut off, overlong or beyond the last character, an encoded surrogate,
-// and such bytes among good ones.
+// Stray continuation and invalid bytes, sequences that are truncated, overlong or beyond the last character, an encoded
+// surrogate, and such bytes among valid ones.
 INSTANTIATE_TEST_SUITE_P(NotUtf8, DomDocSchemaDirectoryBytesTest,
                          testing::Values("\xFF", "\x80", "\xC3", "\xE2\x82", "\xF0\x9F\x98", "\xC0\xAE", "\xE0\x80\xAE",
                                          "\xF4\x90\x80\x80", "\xED\xB3\xBF",
                                          "\xC3\xA4 \xE4 %FF \xE2\x82\xAC\xE2\x82x"));
 
-TEST_F(DomDocSchemaBytesTest, DirectoriesThatDifferInSuchAByteAreTwo) {
+TEST_F(DomDocSchemaBytesTest, DirectoriesThatDifferInSuchAByteAreDistinct) {
   UseDirectory("\xFE");
   WriteSchema("\xFE", "boolean");
   EXPECT_TRUE(IsValid("true"));
@@ -66,7 +66,7 @@ TEST_F(DomDocSchemaBytesTest, DocumentMayBeInSuchADirectory) {
   EXPECT_TRUE(document.CanLoadDoc(file, L"n", false));
 }
 
-TEST_F(DomDocSchemaBytesTest, SurrogateThatIsNoSuchByteIsAReplacementCharacter) {
+TEST_F(DomDocSchemaBytesTest, SurrogateForNoSuchByteIsAReplacementCharacter) {
   const std::wstring parent = Utf8ToUtf16(Dir().Path().native()) + L"/";
   Dir().Write("\uFFFD.xml", "<n/>");
   CDOMDoc document({});

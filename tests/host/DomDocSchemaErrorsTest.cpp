@@ -35,7 +35,7 @@ constexpr std::string_view kElement = "<xs:element name='n' type='xs:integer'/>"
 
 class DomDocSchemaErrorsTest : public testing::Test {
  protected:
-  /// The message of the error that validating against a schema ends with; "<no exception>" when there is none.
+  /// The message of the error that validating against a schema throws; "<no exception>" when it throws none.
   std::string ErrorOf(const fs::path& schema, const std::string& uri = "urn:t") const {
     CSchemaDocument document({{schema, uri}});
     try {
@@ -70,7 +70,7 @@ TEST_F(DomDocSchemaErrorsTest, DirectoryInPlaceOfASchema) {
 }
 
 TEST_F(DomDocSchemaErrorsTest, PipeOrDeviceInPlaceOfASchema) {
-#ifdef _WIN32  // has no pipes among the files of a directory
+#ifdef _WIN32  // directories contain no pipes
   const fs::path schema = "NUL";
 #else
   const fs::path schema = Dir().Path() / "t.xsd";
@@ -96,7 +96,7 @@ TEST_F(DomDocSchemaErrorsTest, MalformedSchema) {
   EXPECT_THAT(ErrorOfText(""), AllOf(StartsWith("Couldn't load the schema "), HasSubstr("t.xsd")));
 }
 
-TEST_F(DomDocSchemaErrorsTest, DocumentThatIsNoSchema) {
+TEST_F(DomDocSchemaErrorsTest, DocumentThatIsNotASchema) {
   EXPECT_THAT(ErrorOfText("<a/>"), AllOf(StartsWith("Couldn't load the schema "), HasSubstr("t.xsd")));
 }
 
@@ -116,7 +116,7 @@ TEST_F(DomDocSchemaErrorsTest, SchemaThatBreaksTheRulesOfSchemas) {
   EXPECT_THAT(missing, AllOf(StartsWith("Couldn't load the schema "), HasSubstr("t.xsd: ")));
   const std::string nonsense = ErrorOfText(Schema("urn:t", "<xs:nonsense/>"));
   EXPECT_THAT(nonsense, AllOf(StartsWith("Couldn't load the schema "), HasSubstr("t.xsd: ")));
-#ifndef _WIN32  // MSXML words the reason as it likes
+#ifndef _WIN32  // MSXML has its own words
   EXPECT_THAT(missing, AllOf(HasSubstr("line 2: "), HasSubstr("missing")));
   EXPECT_THAT(nonsense, AllOf(HasSubstr("line 1: "), HasSubstr("not valid")));
 #endif
@@ -174,7 +174,7 @@ TEST_F(DomDocSchemaErrorsTest, NothingIsLoadedFromTheCurrentDirectory) {
 }
 #endif
 
-TEST_F(DomDocSchemaErrorsTest, SchemaOnTheNetworkIsAFileThatIsMissing) {
+TEST_F(DomDocSchemaErrorsTest, SchemaOnTheNetworkIsAMissingFile) {
   const CLoopbackListener listener;
   EXPECT_THAT(ErrorOf(listener.Url("http") + "/t.xsd"), StartsWith("Couldn't load the schema "));
   EXPECT_FALSE(listener.WasCalled());
@@ -188,7 +188,7 @@ TEST_F(DomDocSchemaErrorsTest, ExternalEntityOfASchemaIsNotFetched) {
   EXPECT_FALSE(listener.WasCalled());
 }
 
-TEST_F(DomDocSchemaErrorsTest, DocumentIsThereAfterTheError) {
+TEST_F(DomDocSchemaErrorsTest, DocumentIsLoadedAfterTheError) {
   CSchemaDocument document({{Dir().Path() / "missing.xsd", "urn:t"}});
   EXPECT_THROW(document.ValidateDoc(Dir().Write("x.xml", "<n xmlns='urn:t'>1</n>")), CZoDOMDocException);
   EXPECT_EQ(testsupport::Text(*document.GetRootElement()), "1");

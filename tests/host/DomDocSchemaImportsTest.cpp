@@ -1,4 +1,4 @@
-// Schemas that import each other, as a set of schemas for more than one namespace usually does.
+// Schemas that import each other, as sets of schemas for several namespaces usually do.
 #include "BaseUtilities/Exceptions.h"
 #include "support/LoopbackListener.h"
 #include "support/Schemas.h"
@@ -24,7 +24,7 @@ constexpr std::string_view kDeclarations =
     "<xs:simpleType name='yesOrNo'><xs:restriction base='xs:string'>"
     "<xs:enumeration value='YES'/><xs:enumeration value='NO'/></xs:restriction></xs:simpleType>";
 
-/// What the schema for `urn:t` does with it.
+/// How the schema for `urn:t` uses it.
 constexpr std::string_view kUse =
     "<xs:element name='t' xmlns:u='urn:u'><xs:complexType><xs:sequence>"
     "<xs:element name='own' type='u:yesOrNo'/><xs:element ref='u:answer'/>"
@@ -33,7 +33,7 @@ constexpr std::string_view kUse =
 class DomDocSchemaImportsTest : public testing::Test {
  protected:
   /// Writes the schema for `urn:t`.
-  /// \param import the element by which it imports `urn:u`
+  /// \param import the element that imports `urn:u`
   fs::path WriteImporting(std::string_view import) const {
     return m_dir.Write("t.xsd", Schema("urn:t", std::string(import).append(kUse)));
   }
@@ -47,7 +47,7 @@ class DomDocSchemaImportsTest : public testing::Test {
         "x.xml", "<t xmlns='urn:t' xmlns:u='urn:u'><own>" + own + "</own><u:answer>" + answer + "</u:answer></t>"));
   }
 
-  /// Expects that both schemas count, in whichever order they are given.
+  /// Expects both schemas to be used, in whichever order they are given.
   void ExpectBothCount(const fs::path& importing, const fs::path& imported) const {
     for (const bool isTurned : {false, true}) {
       CSchemaDocument document(isTurned ? CSchemaDocument::Schemas{{imported, "urn:u"}, {importing, "urn:t"}}

@@ -1,4 +1,4 @@
-// Schemas and documents whose paths have unusual names, on their way through wide text.
+// Schemas and documents with unusual paths, converted to wide text and back.
 #include "BaseUtilities/Exceptions.h"
 #include "SchemaDirectory.h"
 
@@ -25,7 +25,7 @@ TEST_P(DomDocSchemaDirectoryNameTest, SchemaIsUsed) { ExpectSchemaIsUsed(Utf8Pat
 INSTANTIATE_TEST_SUITE_P(Utf8, DomDocSchemaDirectoryNameTest,
                          testing::Values("a b", "100%", "%41", "%", "\u00E4\u20AC\U0001F600", "\uFFFD", "\uE0FF"));
 
-#ifndef _WIN32  // takes blanks from the end of a name
+#ifndef _WIN32  // Windows strips blanks from the end of a name
 INSTANTIATE_TEST_SUITE_P(Blank, DomDocSchemaDirectoryNameTest, testing::Values(" "));
 #endif
 

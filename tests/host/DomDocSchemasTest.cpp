@@ -1,4 +1,4 @@
-// Validating documents against schemas, and where schemas are found.
+// Validating documents against schemas, and searching for schemas.
 #include "BaseUtilities/Exceptions.h"
 #include "support/Schemas.h"
 #include "support/XmlDocument.h"
@@ -30,7 +30,7 @@ constexpr std::string_view kNumbers =
     "</xs:sequence></xs:complexType></xs:element>"
     "<xs:element name='n' type='xs:integer'/>";
 
-/// A schema for `n`, whose content has a type, and a document that has such a content.
+/// A schema for `n` with typed content, and a document with such content.
 class DomDocSchemasTest : public testing::Test {
  protected:
   fs::path WriteSchema(std::string_view content, const fs::path& name = "t.xsd") const {
@@ -58,7 +58,7 @@ TEST_F(DomDocSchemasTest, InvalidDocumentHasAProblemWithItsPlace) {
   EXPECT_FALSE(Validate(document, "\n  <p:n xmlns:p='urn:t'>x</p:n>"));
   ASSERT_THAT(document.Problems(), SizeIs(1));
   const DOMDocProblem& problem = document.Problems().front();
-#ifdef _WIN32  // MSXML validates trees and knows no places in files
+#ifdef _WIN32  // MSXML validates trees and does not know places in files
   EXPECT_EQ(problem.line, 0U);
   EXPECT_NE(problem.reason, "");
 #else
@@ -75,7 +75,7 @@ TEST_F(DomDocSchemasTest, InvalidAttributeIsAProblemOfItsElement) {
                              "urn:t"}});
   EXPECT_FALSE(document.ValidateDoc(Dir().Write("x.xml", "\n<list xmlns='urn:t'\nx='2'/>")));
   ASSERT_THAT(document.Problems(), SizeIs(1));
-#ifndef _WIN32  // MSXML validates trees and knows no places in files
+#ifndef _WIN32  // MSXML validates trees and does not know places in files
   EXPECT_EQ(document.Problems().front().line, 2U);
   EXPECT_EQ(document.Problems().front().column, 1U);
   EXPECT_EQ(document.Problems().front().element, "list");
@@ -105,13 +105,13 @@ TEST_F(DomDocSchemasTest, RootThatNoSchemaDeclaresIsNotValid) {
   }
 }
 
-TEST_F(DomDocSchemasTest, InvalidDocumentCanBeLookedAt) {
+TEST_F(DomDocSchemasTest, InvalidDocumentCanBeExamined) {
   CSchemaDocument document({{WriteSchema(kNumbers), "urn:t"}});
   EXPECT_FALSE(Validate(document, "<n>x</n>"));
   EXPECT_EQ(Text(*document.GetRootElement()), "x");
 }
 
-TEST_F(DomDocSchemasTest, ProblemsGoWithTheNextFile) {
+TEST_F(DomDocSchemasTest, NextFileClearsTheProblems) {
   CSchemaDocument document({{WriteSchema(kNumbers), "urn:t"}});
   EXPECT_FALSE(Validate(document, "<n>x</n>"));
   EXPECT_TRUE(Validate(document, "<n>1</n>"));
@@ -164,7 +164,7 @@ TEST_F(DomDocSchemasTest, NamespaceMayBeOneThatNoDocumentCanHave) {
   EXPECT_THAT(document.Problems(), SizeIs(1));
 }
 
-#ifndef _WIN32  // up to MSXML
+#ifndef _WIN32  // depends on the MSXML
 TEST_F(DomDocSchemasTest, SchemaMayBeForElementsInNoNamespace) {
   const fs::path none = Dir().Write("none.xsd",
                                     "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'>"
@@ -185,7 +185,7 @@ TEST_F(DomDocSchemasTest, SchemaMayBeForElementsInNoNamespace) {
 }
 #endif
 
-TEST_F(DomDocSchemasTest, NamespaceMayStandBehindOtherAttributes) {
+TEST_F(DomDocSchemasTest, NamespaceMayFollowOtherAttributes) {
   const fs::path schema = Dir().Write("t.xsd",
                                       "<xs:schema xml:lang='en' elementFormDefault='qualified' targetNamespace='urn:t' "
                                       "xmlns:xs='http://www.w3.org/2001/XMLSchema'>"
@@ -205,7 +205,7 @@ TEST_F(DomDocSchemasTest, TryingValidatesOnlyWhenAskedTo) {
   EXPECT_TRUE(document.GetRootElement() == nullptr);
 }
 
-TEST_F(DomDocSchemasTest, ParsingDoesNotLookAtTheSchemas) {
+TEST_F(DomDocSchemasTest, ParsingDoesNotReadTheSchemas) {
   CSchemaDocument document({{WriteSchema(kNumbers), "urn:t"}});
   EXPECT_FALSE(Validate(document, "<n>x</n>"));
   EXPECT_TRUE(document.ParseDoc());
@@ -315,7 +315,7 @@ TEST_F(DomDocSchemaPartsTest, ChangedIncludedFileIsReadAgain) {
   EXPECT_TRUE(document.ValidateDoc(file));
 }
 
-// Schemas that change.
+// Schema files that change.
 
 TEST_F(DomDocSchemasTest, ChangedSchemaIsReadAgain) {
   const fs::path schema = WriteSchema("<xs:element name='n' type='xs:integer'/>");
@@ -327,7 +327,7 @@ TEST_F(DomDocSchemasTest, ChangedSchemaIsReadAgain) {
   EXPECT_TRUE(document.ValidateDoc(file));
 }
 
-TEST_F(DomDocSchemasTest, SchemaThatIsReplacedIsReadAgain) {
+TEST_F(DomDocSchemasTest, ReplacedSchemaIsReadAgain) {
   const fs::path schema = WriteSchema("<xs:element name='n' type='xs:integer'/>");
   CSchemaDocument document({{schema, "urn:t"}});
   const fs::path file = Dir().Write("x.xml", "<n xmlns='urn:t'>true</n>");
@@ -338,7 +338,7 @@ TEST_F(DomDocSchemasTest, SchemaThatIsReplacedIsReadAgain) {
   EXPECT_TRUE(document.ValidateDoc(file));
 }
 
-TEST_F(DomDocSchemasTest, SchemaThatIsMendedIsReadAgain) {
+TEST_F(DomDocSchemasTest, FixedSchemaIsReadAgain) {
   const fs::path schema = Dir().Path() / "t.xsd";
   CSchemaDocument document({{schema, "urn:t"}});
   const fs::path file = Dir().Write("x.xml", "<n xmlns='urn:t'>true</n>");
@@ -349,7 +349,7 @@ TEST_F(DomDocSchemasTest, SchemaThatIsMendedIsReadAgain) {
   EXPECT_TRUE(document.ValidateDoc(file));
 }
 
-TEST_F(DomDocSchemasTest, SchemaThatGoesIsAnError) {
+TEST_F(DomDocSchemasTest, DeletedSchemaIsAnError) {
   const fs::path schema = WriteSchema(kNumbers);
   CSchemaDocument document({{schema, "urn:t"}});
   EXPECT_TRUE(Validate(document, ""));
@@ -357,9 +357,9 @@ TEST_F(DomDocSchemasTest, SchemaThatGoesIsAnError) {
   EXPECT_THROW(Validate(document, ""), CZoDOMDocException);
 }
 
-// Where schemas are found.
+// Searching for schemas.
 
-/// Sets the directory of schemas for one test.
+/// Sets the schema directory for one test.
 class CSchemaDirectory {
  public:
   explicit CSchemaDirectory(const fs::path& directory) { CDOMDoc::SetSchemaDirectory(directory); }
@@ -377,7 +377,7 @@ TEST_F(DomDocSchemasTest, ShippedSchemasAreFound) {
   }
 }
 
-TEST_F(DomDocSchemasTest, DirectoryThatIsSetComesFirst) {
+TEST_F(DomDocSchemasTest, SetDirectoryComesFirst) {
   const fs::path own = Dir().Write("VendorInfoFile.xsd", "");
   const CSchemaDirectory directory(Dir().Path());
   EXPECT_EQ(fs::path(CDOMDoc::MakeFullSchemaPath(L"VendorInfoFile.xsd")), own);
@@ -400,14 +400,14 @@ TEST_F(DomDocSchemasTest, MissingSchemaHasAFullPathWithoutADirectorySet) {
   EXPECT_EQ(path.filename(), "missing.xsd");
 }
 
-TEST_F(DomDocSchemasTest, EmptyDirectoryTakesTheSettingBack) {
+TEST_F(DomDocSchemasTest, EmptyDirectoryUndoesTheSetting) {
   const fs::path shipped = CDOMDoc::MakeFullSchemaPath(L"VendorInfoFile.xsd");
   Dir().Write("VendorInfoFile.xsd", "");
   { const CSchemaDirectory directory(Dir().Path()); }
   EXPECT_EQ(fs::path(CDOMDoc::MakeFullSchemaPath(L"VendorInfoFile.xsd")), shipped);
 }
 
-/// Another current directory for one test.
+/// Changes the current directory for one test.
 class CCurrentDirectory {
  public:
   explicit CCurrentDirectory(const fs::path& directory) { fs::current_path(directory); }
@@ -419,7 +419,7 @@ class CCurrentDirectory {
   fs::path m_before = fs::current_path();
 };
 
-TEST_F(DomDocSchemasTest, RelativeDirectoryIsThatOfNow) {
+TEST_F(DomDocSchemasTest, RelativeDirectoryIsResolvedWhenSet) {
   const CCurrentDirectory current(Dir().Path().parent_path());
   const CSchemaDirectory directory(Dir().Path().filename());
   const CCurrentDirectory later(Dir().Path());

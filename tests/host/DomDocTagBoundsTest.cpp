@@ -1,4 +1,4 @@
-// The bound of attributes, wherever in a file the tag stands.
+// The limit on attributes, wherever the tag is in a file.
 #include "EncodedXml.h"
 #include "TestUtilities/DOMDoc.h"
 #include "support/Random.h"
@@ -23,7 +23,7 @@ constexpr std::array kForms = {EForm::Utf8, EForm::Utf8WithMark, EForm::Utf16Lit
 constexpr std::array kAsides = {"<!-- <x a='>'> = -->", "<![CDATA[ <x a='>' = ]>]]>", "<?p <x a='>' = ?>", "\r\n", "\n",
                                 "<b a='>=' c=\"='\"/>", "=&lt;&#61;\u20AC",           "<!---->",           "x"};
 
-/// A random document around a tag of that many attributes, which stands on a line of its own.
+/// A random document around a tag with that many attributes, which is on a line of its own.
 std::string DocumentWith(std::mt19937_64& generator, std::size_t attributeCount) {
   std::string xml = "<a>";
   for (std::size_t i = RandomBelow(generator, 30); i > 0; --i) {

@@ -19,7 +19,7 @@ using testsupport::TempDir;
 using testsupport::Text;
 using testsupport::WidePath;
 
-/// Counts how often it is asked to parse, and can refuse.
+/// Counts the calls that parse, and can refuse to parse.
 class CCountingDocument : public CPlainDocument {
  public:
   bool ParseDoc() override {
@@ -49,7 +49,7 @@ TEST(DomDocTest, NameOfTheFileDoesNotMatter) {
   const TempDir dir;
   CPlainDocument document;
 #ifdef _WIN32
-  constexpr const char8_t* name = u8"%20 \u00E4 #&.doc";  // no name may have a question mark
+  constexpr const char8_t* name = u8"%20 \u00E4 #&.doc";  // file names cannot contain a question mark on Windows
 #else
   constexpr const char8_t* name = u8"%20 \u00E4 #?&.doc";
 #endif
@@ -86,7 +86,7 @@ TEST(DomDocTest, MissingFileIsAProblemWithoutAPlace) {
               ElementsAre("0:0 : The file cannot be opened: No such file or directory."));
 }
 
-TEST(DomDocTest, DirectoryIsNoRegularFile) {
+TEST(DomDocTest, DirectoryIsNotARegularFile) {
   const TempDir dir;
   CPlainDocument document;
   EXPECT_FALSE(document.ValidateDoc(dir.Path()));
@@ -187,7 +187,7 @@ TEST(DomDocTest, TryingLeavesTheDocumentAsItWas) {
   EXPECT_EQ(NodeName(*document.GetRootElement()), "a");
 }
 
-TEST(DomDocTest, TryingTakesNamesOfAnyLetters) {
+TEST(DomDocTest, TryingAcceptsNamesOfAnyLetters) {
   const TempDir dir;
   CPlainDocument document;
   EXPECT_TRUE(document.CanLoadDoc(WidePath(dir.Write(u8"\u00E4 \U0001F600.xml", "<\u00E4/>")), L"\u00E4", true));

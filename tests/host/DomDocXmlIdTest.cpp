@@ -1,4 +1,4 @@
-// Attributes called xml:id, which are attributes like any other here.
+// Attributes called xml:id, which are ordinary attributes here.
 #include "support/XmlDocument.h"
 
 #include <gmock/gmock.h>
@@ -19,7 +19,7 @@ TEST(DomDocXmlIdTest, TwoElementsMayHaveTheSame) {
   EXPECT_THAT(NodeNames(Select(document.Root(), L"//*[@xml:id='x']")), ElementsAre("a", "b", "c"));
 }
 
-TEST(DomDocXmlIdTest, MayBeNoName) {
+TEST(DomDocXmlIdTest, MayBeOtherThanAName) {
   CTextDocument document("<a xml:id='1'><b xml:id=''/><c xml:id='a b'/><d xml:id='&lt;&#228;:'/></a>");
   ASSERT_TRUE(document.IsLoaded());
   EXPECT_TRUE(document.Problems().empty());
@@ -32,7 +32,7 @@ TEST(DomDocXmlIdTest, BlanksInItStay) {
   EXPECT_THAT(Texts(Select(document.Root(), L"//@xml:id")), ElementsAre("  x   y "));
 }
 
-TEST(DomDocXmlIdTest, TwoOfOneElementAreNotWellFormed) {
+TEST(DomDocXmlIdTest, TwoOnOneElementAreNotWellFormed) {
   EXPECT_FALSE(CTextDocument("<a xml:id='x' xml:id='y'/>").IsLoaded());
 }
 

@@ -1,4 +1,4 @@
-// XML documents in the encodings of files.
+// XML documents in various file encodings.
 #pragma once
 
 #include "BaseUtilities/StringConvert.h"

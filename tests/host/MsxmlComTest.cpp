@@ -1,4 +1,4 @@
-// What the XML interfaces need of COM: texts, variants, errors and the owners of them.
+// COM as the XML interfaces need it: texts, variants, errors and their owners.
 #include "msxml/ComTypes.h"
 #include "msxml/MsXml.h"
 #include "support/ComErrors.h"
@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Counts its references and never goes.
+/// Counts its references and is never deleted.
 struct CountedObject {
   ULONG AddRef() { return ++references; }
   ULONG Release() { return --references; }
@@ -47,7 +47,7 @@ TEST(MsxmlComTest, BstrMayHoldNuls) {
   SysFreeString(text);
 }
 
-TEST(MsxmlComTest, BstrOfALengthIsThereToBeFilled) {
+TEST(MsxmlComTest, BstrOfALengthCanBeFilled) {
   BSTR text = SysAllocStringLen(nullptr, 2);
   text[0] = L'x';
   text[1] = L'y';
@@ -101,21 +101,21 @@ TEST(MsxmlComTest, ErrorKnowsTheInterfaceThatFailed) {
 }
 
 TEST(MsxmlComTest, ErrorHasATextForKnownResults) {
-#ifndef _WIN32  // has words of its own
+#ifndef _WIN32  // Windows has its own words
   EXPECT_STREQ(_com_error(E_FAIL).ErrorMessage(), L"Unspecified error");
 #endif
   for (const HRESULT result : {E_NOTIMPL, E_NOINTERFACE, E_POINTER, E_FAIL, E_OUTOFMEMORY, E_INVALIDARG}) {
     ASSERT_NE(_com_error(result).ErrorMessage(), nullptr);
     EXPECT_STRNE(_com_error(result).ErrorMessage(), L"");
   }
-#ifdef _WIN32  // has a text for every result, if only its number
+#ifdef _WIN32  // Windows has a text for every result, if only its number
   EXPECT_STRNE(_com_error(static_cast<HRESULT>(0x8FFF0154)).ErrorMessage(), L"");
 #else
   EXPECT_EQ(_com_error(static_cast<HRESULT>(0x8FFF0154)).ErrorMessage(), nullptr);
 #endif
 }
 
-TEST(MsxmlComTest, ErrorIsNoStandardException) { EXPECT_FALSE((std::is_base_of_v<std::exception, _com_error>)); }
+TEST(MsxmlComTest, ErrorIsNotAStandardException) { EXPECT_FALSE((std::is_base_of_v<std::exception, _com_error>)); }
 
 TEST(MsxmlComTest, ResultsSucceedUnlessTheyAreNegative) {
   EXPECT_TRUE(SUCCEEDED(S_OK));
@@ -234,7 +234,7 @@ TEST(MsxmlComTest, TextOwnerFreesWhatItHeldWhenItReceives) {
   EXPECT_EQ(text.View(), L"y");
 }
 
-TEST(MsxmlComTest, TextOwnerGivesItsTextAway) {
+TEST(MsxmlComTest, TextOwnerDetachesItsText) {
   CBstr text(L"x");
   BSTR detached = text.Detach();
   EXPECT_EQ(text.get(), nullptr);

@@ -1,4 +1,4 @@
-// Names, values and attributes of nodes, their lifetimes, and wrong arguments.
+// Names, values, attributes and lifetimes of nodes, and invalid arguments.
 #include "msxml/ComTypes.h"
 #include "support/XmlDocument.h"
 
@@ -67,7 +67,7 @@ DOMNodeListPtr ListOf(IXMLDOMNode& node, std::wstring_view xpath) {
   return list;
 }
 
-/// What QueryInterface answers; the interface is released.
+/// The result of QueryInterface; the interface is released.
 HRESULT Query(IUnknown& object, REFIID iid) {
   void* found = &object;
   const HRESULT result = object.QueryInterface(iid, &found);
@@ -117,7 +117,7 @@ TEST(MsxmlNodesTest, NamespaceMayHaveAnAmpersand) {
   EXPECT_EQ(NamespaceOf(document.Root()), "urn:a?b&c");
 }
 
-TEST(MsxmlNodesTest, DefaultNamespaceIsNotThatOfAttributes) {
+TEST(MsxmlNodesTest, DefaultNamespaceDoesNotApplyToAttributes) {
   CTextDocument document(kNamespaces);
   EXPECT_EQ(NamespaceOf(*AttributeNode(document.Root(), L"x")), "<none>");
   EXPECT_EQ(NamespaceOf(*AttributeNode(document.Root(), L"p:y")), "urn:p");
@@ -156,7 +156,7 @@ TEST(MsxmlNodesTest, EmptyDocumentHasNothingInIt) {
   EXPECT_EQ(Text(document.Document()), "");
   EXPECT_TRUE(SelectOne(document.Document(), L"//*") == nullptr);
   DOMNodeListPtr list;
-#ifdef _WIN32  // MSXML has a list of nothing
+#ifdef _WIN32  // MSXML has an empty list
   EXPECT_EQ(document.Document().selectNodes(CBstr(L"//*").get(), list.Receive()), S_OK);
   LONG length = -1;
   EXPECT_EQ(list->get_length(&length), S_OK);
@@ -289,7 +289,7 @@ TEST(MsxmlNodesTest, QueriedInterfaceIsCounted) {
   EXPECT_EQ(static_cast<IXMLDOMElement*>(element)->Release(), 1U);
 }
 
-TEST(MsxmlNodesTest, EveryAnswerIsAnObjectOfItsOwn) {
+TEST(MsxmlNodesTest, EveryCallReturnsANewObject) {
   CTextDocument document("<a><b/></a>");
   const DOMNodePtr node = SelectOne(document.Root(), L"b");
   EXPECT_EQ(node->AddRef(), 2U);
@@ -319,7 +319,7 @@ TEST(MsxmlNodesTest, NodesOutliveTheirList) {
   EXPECT_EQ(Text(*node), "y");
 }
 
-TEST(MsxmlNodesTest, NodesStayWhatTheyWereWhenTheDocumentLoadsAnotherFile) {
+TEST(MsxmlNodesTest, NodesStayUnchangedWhenTheDocumentLoadsAnotherFile) {
   const testsupport::TempDir dir;
   CPlainDocument document;
   ASSERT_TRUE(document.ValidateDoc(dir.Write("1.xml", "<a>first</a>")));
@@ -329,9 +329,9 @@ TEST(MsxmlNodesTest, NodesStayWhatTheyWereWhenTheDocumentLoadsAnotherFile) {
   EXPECT_EQ(Text(*document.GetRootElement()), "second");
 }
 
-// Wrong arguments.
+// Invalid arguments.
 
-TEST(MsxmlNodesTest, NullPlaceForAnAnswerIsAnInvalidArgument) {
+TEST(MsxmlNodesTest, NullPointerForAResultIsAnInvalidArgument) {
   CTextDocument document("<a x='1'/>");
   CPlainDocument empty;
   const DOMNodePtr attribute = AttributeNode(document.Root(), L"x");
@@ -355,7 +355,7 @@ TEST(MsxmlNodesTest, NullPlaceForAnAnswerIsAnInvalidArgument) {
   EXPECT_EQ(document.Document().getProperty(CBstr(L"SelectionNamespaces").get(), nullptr), E_INVALIDARG);
 }
 
-TEST(MsxmlNodesTest, NullPlaceForAnItemIsAnInvalidArgument) {
+TEST(MsxmlNodesTest, NullPointerForAnItemIsAnInvalidArgument) {
   CTextDocument document("<a x='1'><b/></a>");
   for (const wchar_t* xpath : {L"b", L"c"}) {
     const DOMNodeListPtr list = ListOf(document.Root(), xpath);
@@ -367,7 +367,7 @@ TEST(MsxmlNodesTest, NullPlaceForAnItemIsAnInvalidArgument) {
   EXPECT_EQ(map->getNamedItem(CBstr(L"x").get(), nullptr), E_INVALIDARG);
 }
 
-TEST(MsxmlNodesTest, NullPlaceForAnInterfaceIsAnInvalidPointer) {
+TEST(MsxmlNodesTest, NullPointerForAnInterfaceIsAnInvalidPointer) {
 #ifdef _WIN32
   GTEST_SKIP() << "COM does not say what happens then, and not every MSXML survives it";
 #else
@@ -388,7 +388,7 @@ TEST(MsxmlNodesTest, NullNameIsAnInvalidArgument) {
   ASSERT_EQ(document.Root().get_attributes(map.Receive()), S_OK);
   IXMLDOMNode* node = &document.Root();
   EXPECT_EQ(map->getNamedItem(nullptr, &node), E_INVALIDARG);
-#ifndef _WIN32  // not every MSXML writes an answer when it fails
+#ifndef _WIN32  // not every MSXML writes a result when it fails
   EXPECT_EQ(node, nullptr);
 #endif
 }
@@ -401,7 +401,7 @@ TEST(MsxmlNodesTest, NullXPathIsAnInvalidArgument) {
         static_cast<IXMLDOMNode*>(&empty.Document())}) {
     IXMLDOMNode* node = from;
     EXPECT_EQ(from->selectSingleNode(nullptr, &node), E_INVALIDARG);
-#ifndef _WIN32  // not every MSXML writes an answer when it fails
+#ifndef _WIN32  // not every MSXML writes a result when it fails
     EXPECT_EQ(node, nullptr);
 #endif
     DOMNodeListPtr list;
@@ -412,10 +412,10 @@ TEST(MsxmlNodesTest, NullXPathIsAnInvalidArgument) {
 
 // Properties.
 
-TEST(MsxmlNodesTest, SelectionNamespacesAreGivenBackAsTheyWereSet) {
+TEST(MsxmlNodesTest, SelectionNamespacesAreReturnedAsSet) {
   CPlainDocument document;
   EXPECT_EQ(SelectionNamespaces(document.Document()), L"");
-#ifdef _WIN32  // not every MSXML takes more than one blank between them
+#ifdef _WIN32  // not every MSXML accepts more than one blank between them
   constexpr const wchar_t* blanks = L"  xmlns:p='urn:p' xmlns:q=\"urn:q\" ";
 #else
   constexpr const wchar_t* blanks = L"  xmlns:p='urn:p'\n\txmlns:q=\"urn:'q\" ";
@@ -439,7 +439,7 @@ TEST(MsxmlNodesTest, SelectionNamespacesStayWhenAFileIsLoaded) {
 TEST(MsxmlNodesTest, MalformedDeclarationsAreRefused) {
   CTextDocument document("<a xmlns='urn:p'/>");
   ASSERT_EQ(SetSelectionNamespaces(document.Document(), L"xmlns:p='urn:p'"), S_OK);
-#ifdef _WIN32  // MSXML is less strict with others, has an error of its own, and need not keep what was set before
+#ifdef _WIN32  // MSXML is less strict with some, reports another error, and need not keep the earlier value
   for (const wchar_t* declarations :
        {L"p='urn:x'", L"xmlns:p", L"xmlns:p=", L"xmlns:p='", L"xmlns:p='urn:x", L"xmlns:p=urn:x"}) {
     EXPECT_TRUE(FAILED(SetSelectionNamespaces(document.Document(), declarations))) << Utf16ToUtf8(declarations);
@@ -456,7 +456,7 @@ TEST(MsxmlNodesTest, MalformedDeclarationsAreRefused) {
 #endif
 }
 
-TEST(MsxmlNodesTest, ValueThatIsNoTextIsRefusedAndChangesNothing) {
+TEST(MsxmlNodesTest, ValueThatIsNotATextIsRefusedAndChangesNothing) {
   CPlainDocument document;
   ASSERT_EQ(SetSelectionNamespaces(document.Document(), L"xmlns:p='urn:p'"), S_OK);
   VARIANT value;
@@ -476,7 +476,7 @@ TEST(MsxmlNodesTest, ValueThatIsNoTextIsRefusedAndChangesNothing) {
 TEST(MsxmlNodesTest, OtherPropertiesAreRefused) {
   CPlainDocument document;
   const CVariant declarations{CBstr(L"xmlns:p='urn:p'")};
-#ifdef _WIN32  // MSXML has more of them, and an error of its own for others
+#ifdef _WIN32  // MSXML has more of them, and reports another error for the rest
   const auto isRefusal = [](HRESULT result) { return FAILED(result); };
   constexpr const wchar_t* names[] = {L"", L"SelectionNamespaces ", L"NoProperty"};
 #else

@@ -1,5 +1,5 @@
-// Paths of child steps, which are answered from the children, held against the same paths written with explicit axes,
-// which libxml2 answers.
+// Paths of child steps, which are evaluated by walking the children, compared with the same paths written with explicit
+// axes, which libxml2 evaluates.
 #include "msxml/ComTypes.h"
 #include "support/Random.h"
 #include "support/XmlDocument.h"
@@ -24,9 +24,9 @@ using testsupport::SetSelectionNamespaces;
 
 using Generator = std::mt19937_64;
 
-constexpr std::array kNames = {"A", "B", "p:A", "p:B", "q:A", "q:B", "r:A"};  // r is p's namespace too
+constexpr std::array kNames = {"A", "B", "p:A", "p:B", "q:A", "q:B", "r:A"};  // r is bound to p's namespace too
 
-/// An element with others in it, and texts and comments between them.
+/// An element with other elements in it, and texts and comments between them.
 void AppendElement(Generator& generator, int depth, std::string& xml) {
   const std::string name = kNames[RandomBelow(generator, kNames.size())];
   const bool hasDefault = RandomBelow(generator, 4) == 0;
@@ -53,7 +53,7 @@ struct Paths {
   std::wstring explicitAxes;
 };
 
-/// \param mostSteps more than four are libxml2's own business, however they are written
+/// \param mostSteps with more than four, libxml2 evaluates both spellings
 template <std::size_t count>
 Paths RandomPaths(Generator& generator, const std::array<const wchar_t*, count>& steps, std::size_t mostSteps) {
   Paths paths;
@@ -69,10 +69,10 @@ Paths RandomPaths(Generator& generator, const std::array<const wchar_t*, count>&
 
 constexpr std::array kSteps = {L"x:*", L"y:*", L"x:A", L"x:B", L"y:A", L"y:B", L"x:C"};
 
-/// Of which even long paths find something.
+/// Steps with which even long paths find something.
 constexpr std::array kMixedSteps = {L"x:*", L"x:*", L"x:*", L"*", L"*", L"*", L"x:A", L"x:B", L"y:*", L"A"};
 
-/// What a path finds, as names with places.
+/// The nodes that a path finds, as names with places.
 std::vector<std::string> Found(const CTextDocument& document, IXMLDOMNode& from, const std::wstring& path) {
   std::vector<std::string> found;
   for (const DOMNodePtr& node : Select(from, path)) found.push_back(NodeName(*node) + " " + PlaceOf(document, *node));
@@ -100,7 +100,7 @@ TEST(MsxmlSelectionDifferentialTest, ChildStepsFindWhatExplicitAxesFind) {
   EXPECT_GT(foundCount, 1000U);
 }
 
-/// A generated document with two prefixes for its expressions, and the nodes to ask.
+/// A generated document with two prefixes for its expressions, and the nodes to query.
 class CAskedDocument {
  public:
   CAskedDocument(Generator& generator, int depth) : m_document(RandomDocument(generator, depth)) {
@@ -124,7 +124,7 @@ class CAskedDocument {
 TEST(MsxmlSelectionDifferentialTest, LongPathsAndNamesWithoutPrefixesFindWhatExplicitAxesFind) {
   SCOPED_TRACE(testsupport::SeedMessage());
   Generator generator = testsupport::SeededGenerator();
-  std::array<std::size_t, 7> foundCounts{};  // by the number of steps
+  std::array<std::size_t, 7> foundCounts{};  // indexed by the number of steps
   for (int i = 0; i < 80; ++i) {
     const CAskedDocument document(generator, 6);
     for (int j = 0; j < 120; ++j) {
@@ -140,7 +140,7 @@ TEST(MsxmlSelectionDifferentialTest, LongPathsAndNamesWithoutPrefixesFindWhatExp
   for (std::size_t steps = 1; steps < foundCounts.size(); ++steps) EXPECT_GT(foundCounts[steps], 0U) << steps;
 }
 
-TEST(MsxmlSelectionDifferentialTest, TheFirstThatAPathFindsIsTheFirstOfItsList) {
+TEST(MsxmlSelectionDifferentialTest, SingleNodeOfAPathIsTheFirstOfItsList) {
   SCOPED_TRACE(testsupport::SeedMessage());
   Generator generator = testsupport::SeededGenerator();
   for (int i = 0; i < 30; ++i) {
@@ -157,7 +157,7 @@ TEST(MsxmlSelectionDifferentialTest, TheFirstThatAPathFindsIsTheFirstOfItsList) 
   }
 }
 
-TEST(MsxmlSelectionDifferentialTest, PathsAskedInTurnsFindWhatExplicitAxesFind) {
+TEST(MsxmlSelectionDifferentialTest, AlternatingPathsFindWhatExplicitAxesFind) {
   SCOPED_TRACE(testsupport::SeedMessage());
   Generator generator = testsupport::SeededGenerator();
   for (int i = 0; i < 40; ++i) {
@@ -169,13 +169,13 @@ TEST(MsxmlSelectionDifferentialTest, PathsAskedInTurnsFindWhatExplicitAxesFind) 
       const Paths& paths = turns[RandomBelow(generator, turns.size())];
       const std::vector<std::string> plain = document.Found(from, paths.plain);
       ASSERT_EQ(plain, document.Found(from, paths.plain)) << Utf16ToUtf8(paths.plain);
-      if (RandomBelow(generator, 2) == 0) continue;  // so that the same path is asked for without another between
+      if (RandomBelow(generator, 2) == 0) continue;  // so that the same path sometimes repeats with no other in between
       ASSERT_EQ(plain, document.Found(from, paths.explicitAxes)) << Utf16ToUtf8(paths.plain);
     }
   }
 }
 
-TEST(MsxmlSelectionDifferentialTest, PathsThatFailDoNotSpoilThoseBehindThem) {
+TEST(MsxmlSelectionDifferentialTest, FailingPathsDoNotSpoilLaterOnes) {
   SCOPED_TRACE(testsupport::SeedMessage());
   Generator generator = testsupport::SeededGenerator();
   const CAskedDocument document(generator, 4);
@@ -190,7 +190,7 @@ TEST(MsxmlSelectionDifferentialTest, PathsThatFailDoNotSpoilThoseBehindThem) {
   }
 }
 
-TEST(MsxmlSelectionDifferentialTest, PathsAreThoseOfThePrefixesThatAreSet) {
+TEST(MsxmlSelectionDifferentialTest, PathsUseTheCurrentPrefixes) {
   SCOPED_TRACE(testsupport::SeedMessage());
   Generator generator = testsupport::SeededGenerator();
   for (int i = 0; i < 30; ++i) {
@@ -199,7 +199,7 @@ TEST(MsxmlSelectionDifferentialTest, PathsAreThoseOfThePrefixesThatAreSet) {
     for (const wchar_t* namespaces : {L"xmlns:x='urn:q' xmlns:y='urn:p'", L"xmlns:x='urn:p' xmlns:y='urn:p'",
                                       L"xmlns:x='urn:none' xmlns:y='urn:q'", L"xmlns:x='urn:p' xmlns:y='urn:q'"}) {
       const Paths paths = RandomPaths(generator, kSteps, 4);
-      document.Found(asked, paths.plain);  // which must not be what is answered below
+      document.Found(asked, paths.plain);  // a result that must not be returned below
       ASSERT_EQ(SetSelectionNamespaces(asked, namespaces), S_OK);
       ASSERT_EQ(document.Found(asked, paths.plain), document.Found(asked, paths.explicitAxes))
           << Utf16ToUtf8(paths.plain);

@@ -1,4 +1,4 @@
-// What XPath expressions find.
+// The nodes that XPath expressions find.
 #include "msxml/ComTypes.h"
 #include "support/XmlDocument.h"
 
@@ -31,7 +31,7 @@ constexpr std::string_view kDocument = R"(<v:A xmlns:v='urn:vif' xmlns:o='urn:op
   <w:D xmlns:w='urn:vif' id='10'/>
 </v:A>)";
 
-/// The document above, with prefixes of other names than its own.
+/// The document above, queried with other prefixes than its own.
 class MsxmlSelectionTest : public testing::Test {
  protected:
   MsxmlSelectionTest() : m_document(kDocument) {
@@ -41,7 +41,7 @@ class MsxmlSelectionTest : public testing::Test {
   IXMLDOMElement& Root() { return m_document.Root(); }
   IXMLDOMDocument2& Document() { return m_document.Document(); }
 
-  /// The attributes `id` of the elements that are found.
+  /// The `id` attributes of the elements found.
   Strings Ids(std::wstring_view xpath) { return IdsFrom(Root(), xpath); }
 
   static Strings IdsFrom(IXMLDOMNode& node, std::wstring_view xpath) {
@@ -96,7 +96,7 @@ TEST_F(MsxmlSelectionTest, RootFromTheDocument) {
   EXPECT_THAT(IdsFrom(Document(), L"vif:B"), IsEmpty());
 }
 
-TEST_F(MsxmlSelectionTest, WhatIsNotThereIsAnEmptyList) {
+TEST_F(MsxmlSelectionTest, NoMatchIsAnEmptyList) {
   EXPECT_EQ(SelectResult(L"vif:X"), S_OK);
   EXPECT_EQ(SelectResult(L"vif:X/vif:Y"), S_OK);
   EXPECT_EQ(SelectResult(L"vif:X[1]"), S_OK);
@@ -117,7 +117,7 @@ TEST_F(MsxmlSelectionTest, SingleNodeIsTheFirst) {
   EXPECT_EQ(Text(*SelectOne(Root(), L"//vif:C[last()]")), "c2");
 }
 
-TEST_F(MsxmlSelectionTest, SingleNodeThatIsNotThereIsNone) {
+TEST_F(MsxmlSelectionTest, SingleNodeWithoutAMatchIsNull) {
   for (const wchar_t* xpath : {L"vif:X", L"//vif:X"}) {
     IXMLDOMNode* node = &Root();
     EXPECT_EQ(Root().selectSingleNode(CBstr(xpath).get(), &node), S_FALSE);
@@ -154,7 +154,7 @@ TEST_F(MsxmlSelectionTest, TheLastDeclarationOfAPrefixIsInForce) {
   EXPECT_THAT(IdsFrom(Document(), L"n:A"), ElementsAre("0"));
 }
 
-// Everything else of XPath.
+// The rest of XPath.
 
 TEST_F(MsxmlSelectionTest, Descendants) {
   EXPECT_THAT(Ids(L"//vif:C"), ElementsAre("2", "6", "9"));
@@ -213,7 +213,7 @@ TEST_F(MsxmlSelectionTest, TextsCommentsAndInstructions) {
   EXPECT_THAT(Texts(Select(Root(), L"//comment()")), ElementsAre("c"));
   EXPECT_THAT(NodeNames(Select(Root(), L"//processing-instruction()")), ElementsAre("p"));
   EXPECT_THAT(NodeNames(Select(Root(), L"vif:B[2]/node()")), ElementsAre("#text", "#comment", "v:C", "p"));
-#else  // are left out
+#else  // skipped
   for (const wchar_t* xpath : {L"//text()", L"//comment()", L"//processing-instruction()", L"namespace::*"}) {
     EXPECT_THAT(Select(Root(), xpath), IsEmpty()) << Utf16ToUtf8(xpath);
     EXPECT_TRUE(SelectOne(Root(), xpath) == nullptr) << Utf16ToUtf8(xpath);
@@ -230,7 +230,7 @@ TEST_F(MsxmlSelectionTest, NamesMayHaveAnyLetters) {
   EXPECT_EQ(Text(*node), "x");
 }
 
-// What is no expression that finds nodes.
+// Expressions that do not select nodes.
 
 TEST_F(MsxmlSelectionTest, MalformedExpressionsFail) {
   for (const wchar_t* xpath : {L"",       L" ",     L"vif:", L"vif:B/",  L"/vif:B/", L":B",     L"vif:B[",
@@ -240,7 +240,7 @@ TEST_F(MsxmlSelectionTest, MalformedExpressionsFail) {
   }
 }
 
-TEST_F(MsxmlSelectionTest, ExpressionsThatAreNoNodesFail) {
+TEST_F(MsxmlSelectionTest, ExpressionsThatDoNotSelectNodesFail) {
   for (const wchar_t* xpath : {L"1", L"'x'", L"count(vif:B)", L"true()", L"vif:B = 1", L"string(vif:B)"}) {
     EXPECT_EQ(SelectResult(xpath), E_FAIL) << Utf16ToUtf8(xpath);
   }

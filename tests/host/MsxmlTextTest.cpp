@@ -84,7 +84,7 @@ TEST(MsxmlTextTest, TextOfAnAttributeIsItsValueUntouched) {
   EXPECT_EQ(Text(*SelectOne(document.Root(), L"@value")), "  5  6 ");
 }
 
-TEST(MsxmlTextTest, TextOfTheDocumentIsThatOfTheRoot) {
+TEST(MsxmlTextTest, DocumentHasTheTextOfItsRoot) {
   CTextDocument document("<!--c--><a> x <b>y</b></a>");
   EXPECT_EQ(Text(document.Document()), "x y");
   EXPECT_EQ(Text(*SelectOne(document.Root(), L"/")), "x y");
@@ -95,7 +95,7 @@ TEST(MsxmlTextTest, LongTextsAreWhole) {
   EXPECT_EQ(RootText("<a>" + half + " " + half + "</a>"), half + " " + half);
 }
 
-TEST(MsxmlTextTest, TextAloneIsWhatItIsBesideAComment) {
+TEST(MsxmlTextTest, TextAloneIsTheSameAsBesideAComment) {
   SCOPED_TRACE(testsupport::SeedMessage());
   std::mt19937_64 generator = testsupport::SeededGenerator();
   constexpr const char* pieces[] = {" ", "\t", "\n", "x", "y z", "\u00A0", "\u00E4"};
@@ -113,10 +113,10 @@ TEST(MsxmlTextTest, TextAloneIsWhatItIsBesideAComment) {
 struct TextCase {
   const char* xml;
   const char* text;     // of the root
-  const char* textOfB;  // of the first `b` below it; null when there is none
+  const char* textOfB;  // of the first `b` below it; null if there is none
 };
 
-// The texts are those that MSXML's DOMDocument60, as Wine has it, gives for these documents.
+// The expected texts are what MSXML's DOMDocument60, as implemented by Wine, returns for these documents.
 constexpr TextCase kTextCases[] = {
     // clang-format off
     {"<a>  x  y \n</a>", "x  y", nullptr},

@@ -1,4 +1,4 @@
-// Tests that validate against the schema in a directory that they set.
+// Tests that set the schema directory and validate against the schema in it.
 #pragma once
 
 #include "support/Schemas.h"
@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <string>
 
-/// Documents are validated against `t.xsd` in the directory that is set.
+/// Validates documents against `t.xsd` in the directory that is set.
 class CSchemaDirectoryTest : public testing::Test {
  protected:
   void TearDown() override { CDOMDoc::SetSchemaDirectory({}); }
@@ -23,7 +23,7 @@ class CSchemaDirectoryTest : public testing::Test {
     return directory;
   }
 
-  /// Writes that directory's schema, in which the content of the root has a type of that name.
+  /// Writes that directory's schema, which gives the root's content the named type.
   void WriteSchema(const std::filesystem::path& directory, const std::string& type) const {
     m_dir.Write(directory / "t.xsd", testsupport::Schema("urn:t", "<xs:element name='n' type='xs:" + type + "'/>"));
   }

@@ -1,4 +1,4 @@
-// What a host that loads by libxml2 itself sees of the loader that is set while schemas are compiled.
+// The effect of the loader that is set while schemas are compiled on a host that uses libxml2 itself.
 #include "support/Schemas.h"
 
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ xmlExternalEntityLoader g_before = nullptr;
 xmlMallocFunc g_allocate = nullptr;
 std::function<void()> g_action;
 
-/// libxml2's, which does the action once there is another loader than before: then a schema is being compiled.
+/// libxml2's allocation function, which runs the action once the loader has changed: then a schema is being compiled.
 void* Allocate(std::size_t size) {
   if (g_action && xmlGetExternalEntityLoader() != g_before) std::exchange(g_action, nullptr)();
   return g_allocate(size);
@@ -36,7 +36,7 @@ xmlParserInputPtr HostLoad(const char* url, const char*, xmlParserCtxtPtr) {
 
 xmlExternalEntityLoader g_meanwhile = nullptr;
 
-/// Loads as ever.
+/// Loads through the loader that was set.
 xmlParserInputPtr HostLoadMeanwhile(const char* url, const char* id, xmlParserCtxtPtr context) {
   return g_meanwhile(url, id, context);
 }
@@ -46,12 +46,12 @@ class SchemaLoaderTest : public testing::Test {
   void SetUp() override { xmlSetExternalEntityLoader(HostLoad); }
   void TearDown() override { xmlSetExternalEntityLoader(m_own); }
 
-  /// Does something in the middle of compiling a schema, which must be usable all the same.
+  /// Runs an action while a schema is being compiled, which must still succeed.
   void DoWhileCompiling(std::function<void()> action) const {
     const std::filesystem::path schema =
         m_dir.Write("t.xsd", Schema("urn:t", "<xs:element name='n' type='xs:integer'/>"));
     const std::filesystem::path file = m_dir.Write("x.xml", "<n xmlns='urn:t'>1</n>");
-    ASSERT_TRUE(CSchemaDocument({}).ValidateDoc(file));  // sets what is set once in a process
+    ASSERT_TRUE(CSchemaDocument({}).ValidateDoc(file));  // performs the initialisation that happens once per process
     g_before = xmlGetExternalEntityLoader();
     g_action = std::move(action);
     xmlFreeFunc free = nullptr;
@@ -69,12 +69,12 @@ class SchemaLoaderTest : public testing::Test {
   xmlExternalEntityLoader m_own = xmlGetExternalEntityLoader();
 };
 
-TEST_F(SchemaLoaderTest, LoaderIsTheHostsAgainAfterwards) {
+TEST_F(SchemaLoaderTest, LoaderOfTheHostIsRestored) {
   DoWhileCompiling([] { EXPECT_NE(xmlGetExternalEntityLoader(), HostLoad); });
   EXPECT_EQ(xmlGetExternalEntityLoader(), HostLoad);
 }
 
-TEST_F(SchemaLoaderTest, OtherThreadsLoadByTheHostsLoader) {
+TEST_F(SchemaLoaderTest, OtherThreadsUseTheLoaderOfTheHost) {
   DoWhileCompiling([] { std::thread([] { xmlLoadExternalEntity("host:file", nullptr, nullptr); }).join(); });
   EXPECT_EQ(g_loaded, "host:file");
 }

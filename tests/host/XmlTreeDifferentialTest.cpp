@@ -1,4 +1,4 @@
-// The trees of files, held against those that libxml2 builds of them itself.
+// The trees of files, compared with those that libxml2 builds itself.
 #include "EncodedXml.h"
 #include "RandomXml.h"
 #include "libxml2/Errors.h"
@@ -33,7 +33,7 @@ using testsupport::TempDir;
 
 using Generator = std::mt19937_64;
 
-/// The text without line ends and quotes that could be taken for those around it.
+/// The text in quotes, with its line ends and quotes escaped.
 std::string Quoted(std::string_view text) {
   std::string quoted = "'";
   for (const char c : text) {
@@ -43,7 +43,7 @@ std::string Quoted(std::string_view text) {
   return quoted + "'";
 }
 
-/// How many elements further out the namespace is declared, and its URI.
+/// How many levels up the namespace is declared, and its URI.
 std::string NamespaceText(const xmlNode& element, const xmlNs* ns) {
   if (ns == nullptr) return "none";
   int distance = 0;
@@ -70,7 +70,7 @@ std::string ElementText(const xmlNode& element) {
   return text;
 }
 
-/// The nodes below a document or an element, a line each.
+/// The nodes below a document or an element, one per line.
 void AppendNodes(const xmlNode* first, std::string indent, std::string& text) {
   indent += ' ';
   for (const xmlNode* node = first; node != nullptr; node = node->next) {
@@ -116,7 +116,7 @@ testing::AssertionResult IsTreeOfReference(const TempDir& dir, std::string_view 
   return testing::AssertionFailure() << "the tree\n" << tree << "is not\n" << reference << "of\n" << bytes;
 }
 
-/// An XML declaration that fits the form, or nothing where it may be missing.
+/// An XML declaration that suits the form, or nothing where it is optional.
 std::string Declaration(Generator& generator, EForm form) {
   if (form == EForm::Latin1) return "<?xml version='1.0' encoding='ISO-8859-1'?>";
   if (RandomBelow(generator, 2) == 0) return {};
@@ -180,7 +180,7 @@ TEST_F(XmlTreeDifferentialTest, TextsInManyPiecesAreWhole) {
   }
 }
 
-TEST_F(XmlTreeDifferentialTest, SectionsSideBySideAreTheReferences) {
+TEST_F(XmlTreeDifferentialTest, AdjacentSectionsAreThoseOfTheReference) {
   for (int i = 0; i < 200; ++i) {
     std::string xml = "<a>";
     for (std::size_t count = RandomBelow(m_generator, 12); count > 0; --count) {
@@ -218,7 +218,7 @@ TEST_F(XmlTreeDifferentialTest, OddValuesOfTheXmlAttributesStay) {
   }
 }
 
-/// How many nodes do not point back at what points at them, or do not know their document.
+/// The number of nodes whose links are not mutual, or that do not know their document.
 std::size_t CountLooseNodes(const xmlNode* parent, const xmlDoc* document) {
   std::size_t count = 0;
   const xmlNode* last = nullptr;
@@ -246,7 +246,7 @@ TEST_F(XmlTreeDifferentialTest, NodesAreLinkedInAllDirections) {
   }
 }
 
-/// How many elements have elements in them, the document included.
+/// The number of elements that contain elements, including the document.
 std::size_t CountParents(const xmlNode* parent) {
   bool hasElements = false;
   std::size_t count = 0;

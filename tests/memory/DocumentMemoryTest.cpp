@@ -1,4 +1,4 @@
-// Documents: what is loaded, and what is said of it.
+// Documents: loading and querying them.
 #include "ComMemory.h"
 #include "DOMDocVIF.h"
 #include "Samples.h"
@@ -30,7 +30,7 @@ class DocumentMemoryTest : public testing::Test {
     return document;
   }
 
-  /// The document can be loaded, and then holds the whole file.
+  /// Expects the document to load and then hold the whole file.
   void ExpectUsable(CDOMDocVIF& document) const {
     EXPECT_TRUE(document.ValidateDoc(m_valid));
     ExpectWhole(document);
@@ -86,7 +86,7 @@ TEST_F(DocumentMemoryTest, CanLoadDocThatIsValid) {
                             });
 }
 
-TEST_F(DocumentMemoryTest, CanLoadDocThatIsNot) {
+TEST_F(DocumentMemoryTest, CanLoadDocThatIsNotValid) {
   const std::wstring name = testsupport::WidePath(m_invalid);
   for (const bool validate : {false, true}) {
     const wchar_t* root = validate ? L"VIF" : L"AnotherRootWithALongName";

@@ -13,16 +13,17 @@
 
 namespace testsupport {
 
-/// What a call gives: its result and its answer.
+/// What a call returns: its result and its answer.
 template <typename Answer>
 struct Given {
   HRESULT result = E_FAIL;
   Answer answer;
 };
 
-/// Makes a call with every allocation failing in turn. It must say so by E_OUTOFMEMORY and then give nothing.
-/// \param call gets an empty answer, and gives its result
-/// \param check sees whether the answer is right
+/// Makes a call with every allocation failing in turn. A call that runs out of memory must return E_OUTOFMEMORY and no
+/// answer.
+/// \param call receives an empty answer and returns its result
+/// \param check tests whether the answer is right
 template <typename Answer, typename Call, typename Check>
 void ExpectCallBearsFailures(const Call& call, const Check& check) {
   ForEveryFailingAllocation([] { return Given<Answer>(); },
@@ -41,7 +42,7 @@ void ExpectCallBearsFailures(const Call& call, const Check& check) {
                             });
 }
 
-/// The same for a call that gives a text.
+/// The same for a call that returns a text.
 template <typename Call>
 void ExpectTextBearsFailures(const std::wstring& expected, const Call& call) {
   ExpectCallBearsFailures<CBstr>([&](CBstr& text) { return call(text.Receive()); },

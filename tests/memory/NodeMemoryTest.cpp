@@ -1,4 +1,4 @@
-// The calls of the XML interfaces, but for those that select.
+// The calls of the XML interfaces, except those that select.
 #include "NodeCheck.h"
 #include "msxml/ComTypes.h"
 

@@ -1,4 +1,4 @@
-// Compiling the schemas, which happens when a process loads its first XML file and when a schema file has changed.
+// Compiling the schemas, which happens when a process loads its first XML file and after a schema file has changed.
 #include "BaseUtilities/Exceptions.h"
 #include "DOMDocVIF.h"
 #include "Samples.h"
@@ -19,11 +19,11 @@ namespace {
 using testsupport::ForEveryFailingAllocation;
 using DocumentPointer = std::unique_ptr<CDOMDocVIF>;
 
-/// Compiling takes much more than most operations take, so fewer of its allocations fail.
+/// Compiling allocates far more often than most operations, so fewer of its allocations fail.
 constexpr std::size_t kEveryUpTo = 300;
 
-/// The product's own schemas, copied. They can be put there and taken away again, so that the compiled ones go, too:
-/// how much these take is never the same, as libxml2's tables are in random order.
+/// Copies of the product's own schemas. They can be moved away and back, which discards the compiled ones: how much
+/// memory these need always varies, because libxml2's tables are in random order.
 class SchemaMemoryTest : public testing::Test {
  protected:
   SchemaMemoryTest() {

@@ -1,4 +1,4 @@
-// Selecting nodes: by paths that the library follows itself, and by XPath expressions that libxml2 evaluates.
+// Selecting nodes: by paths that the library evaluates itself, and by XPath expressions that libxml2 evaluates.
 #include "NodeCheck.h"
 #include "msxml/ComTypes.h"
 
@@ -10,7 +10,7 @@ namespace {
 
 using testsupport::ExpectCallBearsFailures;
 
-/// A document with 40 items with a number each, every fifth of which has a note.
+/// A document with 40 numbered items, every fifth of which has a note.
 std::string Document() {
   std::string text = "<a:list xmlns:a='urn:one'>";
   for (int i = 0; i < 40; ++i) {
@@ -55,7 +55,7 @@ class SelectionMemoryTest : public testing::Test {
   testsupport::CTextDocument m_document{Document()};
 
  private:
-  /// The last path is kept parsed until another one comes.
+  /// The last path stays parsed until another one is used.
   void ForgetLastPath() {
     DOMNodePtr none;
     m_document.Root().selectSingleNode(m_otherPath.get(), none.Receive());
@@ -85,7 +85,7 @@ TEST_F(SelectionMemoryTest, SelectSingleNodeByExpression) {
   ExpectFirstBearsFailures(L"a:item[last()]", "text 39");
 }
 
-TEST_F(SelectionMemoryTest, SelectNodesByWhatIsNoExpression) {
+TEST_F(SelectionMemoryTest, SelectNodesByAnExpressionThatFails) {
   for (const wchar_t* xpath : {L"a:item[", L"unknown:item[1]", L"unknown-function()", L"1 + 1"}) {
     const CBstr text(xpath);
     ExpectCallBearsFailures<DOMNodeListPtr>(

@@ -1,4 +1,4 @@
-// Constructing objects from XML files, and appending these.
+// Constructing objects from XML files, and appending XML files.
 #include "BaseUtilities/Exceptions.h"
 #include "ComMemory.h"
 #include "Samples.h"
@@ -36,7 +36,8 @@ class XmlConstructionMemoryTest : public testing::Test {
   testsupport::TempDir m_dir;
 };
 
-/// Constructs from a path. The error of COM comes out as that of the object; out-of-memory elsewhere passes as it is.
+/// Constructs from a path. A COM error surfaces as the object's own exception; running out of memory elsewhere passes
+/// through unchanged.
 std::optional<CVendorInfoFile> Construct(const std::filesystem::path& path) {
   try {
     return CVendorInfoFile(path);
@@ -47,7 +48,7 @@ std::optional<CVendorInfoFile> Construct(const std::filesystem::path& path) {
   }
 }
 
-/// What a call that ends in `CVIFInvalidFile` says; "valid" when it does not. Takes no memory.
+/// The message of a call that throws `CVIFInvalidFile`; "valid" when it does not throw. Allocates nothing.
 template <typename Call>
 std::optional<CVIFInvalidFile> Refusal(const Call& call) {
   try {
@@ -89,7 +90,7 @@ TEST_F(XmlConstructionMemoryTest, FromAnXmlFileInUtf16) {
                             });
 }
 
-/// Constructs from a file that is refused; whenever there is memory for that, all reasons are given.
+/// Constructs from a file that is refused; whenever memory suffices to refuse it, all reasons are given.
 void ExpectInvalidFileBearsFailures(const std::filesystem::path& path) {
   const auto load = [&] { return Refusal([&] { Construct(path); }); };
   const std::optional<CVIFInvalidFile> expected = load();

@@ -1,4 +1,4 @@
-// XML files that nobody writes by accident, except a broken program.
+// XML files that only a broken program would write by accident.
 #pragma once
 
 #include "VIFInvalidFile.h"

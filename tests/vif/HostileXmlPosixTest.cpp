@@ -1,4 +1,4 @@
-// Things with the names of XML VIFs that only POSIX systems have in their directories.
+// Files of kinds that only POSIX systems have, named like XML VIFs.
 #include "HostileXml.h"
 #include "support/OrdinaryUser.h"
 

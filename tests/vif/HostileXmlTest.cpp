@@ -1,4 +1,4 @@
-// XML files that nobody writes by accident, except a broken program.
+// XML files that only a broken program would write by accident.
 #include "HostileXml.h"
 
 #include "BaseUtilities/Exceptions.h"
@@ -44,7 +44,7 @@ std::string Repeated(std::string_view text, std::size_t count) {
   return all;
 }
 
-// Document types and what they could contain.
+// Document types and what they can contain.
 
 TEST_F(HostileXmlTest, AnyDocumentTypeIsRefused) {
   for (const char* type : {"<!DOCTYPE VIF>", "<!DOCTYPE VIF []>", "<!DOCTYPE VIF SYSTEM 'vif.dtd'>",
@@ -124,7 +124,7 @@ TEST_F(HostileXmlTest, UnclosedStartTagsAreRefused) { EXPECT_FALSE(Append(kBegin
 
 // Size.
 
-TEST_F(HostileXmlTest, HundredThousandSiblingsAreLoaded) {
+TEST_F(HostileXmlTest, AHundredThousandSiblingsAreLoaded) {
   EXPECT_TRUE(AppendVif("<Component>" + Repeated("<TID>1</TID>", 100'000) + "</Component>"));
   EXPECT_EQ(NewFields().size(), 100'000U);
 }
@@ -172,7 +172,7 @@ TEST_F(HostileXmlTest, CommentsBetweenElementsAreLoadedInAnyNumber) {
   EXPECT_EQ(NewFields().size(), 5'000U);
 }
 
-TEST_F(HostileXmlTest, HundredThousandAttributesAreRefused) {
+TEST_F(HostileXmlTest, AHundredThousandAttributesAreRefused) {
   std::string attributes;
   for (int i = 0; i < 100'000; ++i) attributes += " a" + std::to_string(i) + "=''";
   EXPECT_FALSE(AppendVif("<Component" + attributes + "/>"));

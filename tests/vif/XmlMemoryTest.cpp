@@ -1,4 +1,4 @@
-// The state of an object when memory runs out while it loads an XML VIF. A program of its own, because it links an
+// The state of an object after memory runs out while it loads an XML VIF. A separate program, because it links an
 // operator new and a BSTR allocation that fail.
 #include "VendorInfoFile.h"
 #include "msxml/ComTypes.h"
@@ -108,7 +108,7 @@ TEST_P(XmlMemoryTest, AppendLosesNothingAndAddsTheWholeHeaderOrNoneOfIt) {
       const CFailingMemory memory(GetParam(), failures + 1);
       const bool ranOut = RanOutOfMemory([&] { AppendFile(vif, m_xml); });
       hasFailed = memory.HasFailed();
-      // What only speeds up queries does without memory, so a failed allocation may go unnoticed.
+      // Caches that only speed up queries are optional, so a failed allocation may go unnoticed.
       EXPECT_TRUE(ranOut == hasFailed || vif.Count() == m_whole.size()) << "allocation " << failures + 1;
     }
     const std::size_t count = vif.Count();
@@ -123,7 +123,7 @@ TEST_P(XmlMemoryTest, AppendLosesNothingAndAddsTheWholeHeaderOrNoneOfIt) {
 INSTANTIATE_TEST_SUITE_P(Memory, XmlMemoryTest, testing::Values(Memory::OperatorNew, Memory::Bstr),
                          [](const auto& kind) { return kind.param == Memory::Bstr ? "OfBstrs" : "OfObjects"; });
 
-/// What the constructor throws when a BSTR cannot be allocated.
+/// The exception that the constructor throws when a BSTR cannot be allocated.
 std::string CreateError(const std::filesystem::path& path) {
   const CFailingMemory memory(Memory::Bstr, 5);
   try {

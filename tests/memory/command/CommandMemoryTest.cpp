@@ -1,5 +1,5 @@
-// The command with memory running out, as a process whose malloc fails, which includes the C library's and libxml2's
-// own allocations and those that a process makes only once.
+// The command with memory running out, as a process whose malloc fails: the C library's own allocations fail too, and
+// those that a process makes only once; only those of libxml2's code do not.
 #include "support/Random.h"
 #include "support/TempDir.h"
 #include "support/VifCommand.h"

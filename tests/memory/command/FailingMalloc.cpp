@@ -1,7 +1,7 @@
-// Stands in front of the C library's malloc in a program that is started with LD_PRELOAD. The environment says what
-// fails: VIF_TEST_FAILS_AT is the number of an allocation, counted from 1 from the beginning of `main`, because without
-// memory for the libraries no program can be loaded, and VIF_TEST_FAILS_ON, when it is there, has all behind it fail,
-// too. VIF_TEST_COUNT names a file into which the number of allocations is written at the end.
+// Replaces the C library's malloc in a program that is started with LD_PRELOAD. Environment variables say what fails:
+// VIF_TEST_FAILS_AT is the number of an allocation, counted from 1 at the start of `main`, because no program can be
+// loaded without memory for its libraries; if VIF_TEST_FAILS_ON is set, all later allocations fail too. VIF_TEST_COUNT
+// names a file that receives the number of allocations at the end.
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <link.h>
@@ -31,7 +31,7 @@ unsigned long g_failsAt = 0;
 bool g_failsOn = false;
 bool g_isSpared = false;
 
-/// Where libxml2's code is: what it does when its own memory runs out is its affair.
+/// The address range of libxml2's code, whose own allocations do not fail: how libxml2 handles that is not tested here.
 std::uintptr_t g_xmlBegin = 0;
 std::uintptr_t g_xmlEnd = 0;
 
@@ -45,7 +45,7 @@ int FindLibXml2(dl_phdr_info* library, std::size_t, void*) {
   return 1;
 }
 
-/// \param caller where the function that was called returns to
+/// \param caller the return address of the call
 bool MustFail(const void* caller) {
   if (!g_isArmed || g_isSpared) return false;
   const auto address = reinterpret_cast<std::uintptr_t>(caller);
@@ -95,7 +95,7 @@ extern "C" FRONT void* realloc(void* memory, std::size_t size) noexcept {
 
 namespace {
 
-/// Calls the function of that name that stands behind, with no allocation failing.
+/// Calls the real function of that name, with no allocation failing.
 template <typename Result, typename... Arguments>
 Result CallSpared(const char* name, Arguments... arguments) {
   const auto real = reinterpret_cast<Result (*)(Arguments...)>(dlsym(RTLD_NEXT, name));
@@ -108,13 +108,13 @@ Result CallSpared(const char* name, Arguments... arguments) {
 
 }  // namespace
 
-// The GNU C library ends the process when it has no memory to remember that an object of a thread is to be destroyed.
+// The GNU C library aborts the process when it has no memory to register a thread-local object's destructor.
 // NOLINTNEXTLINE(bugprone-reserved-identifier): it is the C library's name
 extern "C" FRONT int __cxa_thread_atexit_impl(void (*destroy)(void*), void* object, void* library) {
   return CallSpared<int>("__cxa_thread_atexit_impl", destroy, object, library);
 }
 
-/// What a program begins with.
+/// The entry point of a program.
 // NOLINTNEXTLINE(bugprone-reserved-identifier): it is the C library's name
 extern "C" FRONT int __libc_start_main(Main main, int argc, char** argv, void (*begin)(), void (*end)(),
                                        void (*endOfLoader)(), void* stack) {
