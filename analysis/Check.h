@@ -1,4 +1,4 @@
-// Checks a Vendor Info File: is it well-formed, and does what it declares agree with itself?
+// Checks whether a Vendor Info File is well-formed and whether what it declares is consistent.
 #pragma once
 
 #include <analysis/Export.h>
@@ -22,16 +22,17 @@ class VIF_ANALYSIS_API CCheckError : public std::runtime_error {
 
 /// Which findings to report.
 struct CheckOptions {
-  bool notes = false;                 ///< whether to report notes too
-  std::vector<std::string> only{};    ///< codes in any letter case; unless empty, no other finding is reported
-  std::vector<std::string> except{};  ///< codes of findings that are not reported
+  bool notes = false;                 ///< whether to report notes, too
+  std::vector<std::string> only{};    ///< codes in any letter case; unless empty, only findings with these are reported
+  std::vector<std::string> except{};  ///< codes in any letter case; findings with these are not reported
 };
 
 /// All findings of one file, in the order of the file; those without a place come last. A file that is not a valid VIF
-/// has findings too. Codes in the options that no rule has are ignored; `FindRule` tells them. May be called from any
-/// number of threads at once. On Windows the thread needs COM, such as from a `CComApartment`.
+/// has findings too. Codes in the options that no rule has are ignored; `FindRule` tells whether a rule has one. May be
+/// called from any number of threads at once. On Windows the thread must have initialised COM, for instance with a
+/// `CComApartment`.
 /// \throws CCheckError when the file is missing, is not a regular file, has another extension than .txt or .xml, or
-///   cannot be validated for a reason that is not its own
+///   cannot be validated for a reason that is not in the file
 /// \throws CZoRunTimeException, CZoDOMDocException and _com_error as `CheckTextVif` and `CheckXmlVif` do, and
 ///   std::bad_alloc
 VIF_ANALYSIS_API std::vector<Finding> CheckFile(const std::filesystem::path& path, const CheckOptions& options = {});

@@ -19,11 +19,11 @@ struct Edition {
   friend constexpr auto operator<=>(const Edition&, const Edition&) = default;
 };
 
-/// The edition that a text names, such as "3.22", or "Version 3.22" as loading an XML file has it; nothing when it is
-/// anything else than two numbers with a point between.
+/// The edition that a text names, such as "3.22", or "Version 3.22" as loading an XML file has it; nothing unless it is
+/// two numbers with a point between them.
 VIF_ANALYSIS_API std::optional<Edition> ParseEdition(std::string_view text);
 
-/// Such as "3.22"; the minor number has two digits at least, as in "2.04".
+/// The edition as text, such as "3.22"; the minor number has at least two digits, as in "2.04".
 VIF_ANALYSIS_API std::string EditionText(const Edition& edition);
 
 }  // namespace vifanalysis

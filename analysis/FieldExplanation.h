@@ -1,4 +1,4 @@
-// Everything that there is to say about one field, ready to be printed.
+// Everything known about one field, ready to be printed.
 #pragma once
 
 #include <analysis/Export.h>
@@ -16,8 +16,8 @@ namespace vifanalysis {
 struct ExplainedValue {
   std::string value;           ///< the number in decimal
   std::string text;            ///< what it stands for
-  bool seen = false;           ///< whether a file at hand has it
-  Confidence confidence = {};  ///< how sure it is
+  bool seen = false;           ///< whether a file of the corpus has it
+  Confidence confidence = {};  ///< how certain it is
 };
 
 /// Another name of the field, as `FieldExplanation` has it.
@@ -27,26 +27,26 @@ struct ExplainedSpelling {
   std::string first;           ///< the first edition seen with it, or empty
   std::string last;            ///< the last edition seen with it, or empty
   std::string why;             ///< how that is known, or empty
-  Confidence confidence = {};  ///< how sure it is
+  Confidence confidence = {};  ///< how certain it is
 };
 
-/// What there is to say about a field. Texts are UTF-8.
+/// What is known about a field. Texts are UTF-8. The corpus is explained in `Vocabulary.h`.
 struct FieldExplanation {
   NameKind asked = {};      ///< why the name asked for means this field
   std::string name;         ///< the canonical name
-  std::string alsoMeans;    ///< the other field, where the name is that of an older field split in two; else empty
+  std::string alsoMeans;    ///< the other field, where the name is that of an older field split in two; otherwise empty
   std::string group;        ///< the short name of the group, as `GetVifLocInfo` has it; empty for none
   std::string declares;     ///< what the field declares
-  std::string note;         ///< what else there is to say, or empty
+  std::string note;         ///< further remarks, or empty
   std::string type;         ///< as `FieldTypeText` gives it
   std::string unit;         ///< "50 mV", or "50 mV (fixed); 100 mV (augmented)"; empty for none or one not known
   bool unitIsWeak = false;  ///< whether part of `unit` has low confidence
   std::vector<ExplainedValue> values;        ///< in rising order
   std::string firstEdition;                  ///< the first edition seen with this name, or empty
   std::string lastEdition;                   ///< the last one
-  bool seen = false;                         ///< whether a file at hand has the field by this name
+  bool seen = false;                         ///< whether a file of the corpus has the field by this name
   std::vector<ExplainedSpelling> spellings;  ///< the other names
-  Confidence confidence = {};                ///< how sure `declares` is
+  Confidence confidence = {};                ///< how certain `declares` is
   std::vector<std::string> sources;          ///< what `declares` was taken from, in words
 };
 

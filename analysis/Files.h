@@ -1,4 +1,4 @@
-// What there is to know about a file before it is read as a VIF.
+// What can be known about a file before it is read as a VIF.
 #pragma once
 
 #include <analysis/Export.h>
@@ -11,7 +11,7 @@
 namespace vifanalysis {
 
 /// The number of the line where reading the file fails, whatever the file holds; nothing when all of it can be read.
-/// Opens nothing but a regular file and waits for nothing, even if a pipe has taken the file's name.
+/// Opens only regular files and never waits, even if a pipe has taken the file's name.
 /// \throws CZoRunTimeException when it cannot be opened
 VIF_ANALYSIS_API std::optional<std::size_t> FirstUnreadableLine(const std::filesystem::path& path);
 

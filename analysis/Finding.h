@@ -7,9 +7,9 @@
 
 namespace vifanalysis {
 
-/// How much a finding matters, least first.
+/// How serious a finding is, least first.
 enum class Severity : std::uint8_t {
-  Note,     ///< worth knowing, and often as it should be
+  Note,     ///< worth knowing, but often correct as it is
   Warning,  ///< worth a look, but may be intended
   Error,    ///< something is lost or cannot be intended
 };

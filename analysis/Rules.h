@@ -1,4 +1,4 @@
-// What a check looks for.
+// The rules that a check applies.
 #pragma once
 
 #include <analysis/Confidence.h>
@@ -15,13 +15,13 @@ namespace vifanalysis {
 
 /// The facts about one rule. The texts are never null and live as long as the library is loaded.
 struct RuleInfo {
-  const char* code;       ///< what its findings are called, such as "pdo-above-rating"
-  Severity severity;      ///< that of all its findings
+  const char* code;       ///< the code of its findings, such as "pdo-above-rating"
+  Severity severity;      ///< the severity of all its findings
   Edition first;          ///< the first edition that it is applied to; {0, 0} for every file, of a known edition or not
-  Confidence confidence;  ///< how sure it is that what it finds is wrong
+  Confidence confidence;  ///< how certain it is that what it finds is wrong
   const char* sources;    ///< where it comes from, such as "S1, S8"; empty for a rule about the form of a file
   const char* what;       ///< what it finds, as a phrase for a list
-  const char* why;        ///< what is wrong with that and what to do, in sentences
+  const char* why;        ///< why that is wrong and what to do about it, in sentences
 };
 
 /// All rules in a fixed order: first those about the form of a file, then those about what it declares. The list lives
@@ -31,10 +31,10 @@ VIF_ANALYSIS_API const std::vector<RuleInfo>& Rules();
 /// The rule with that code, in any letter case; null when there is none.
 VIF_ANALYSIS_API const RuleInfo* FindRule(std::string_view code);
 
-/// The rules whose `what` or `why` names a field, by its canonical name. Throws std::bad_alloc only.
+/// The rules whose `what` or `why` mentions the field with that canonical name. Throws std::bad_alloc only.
 VIF_ANALYSIS_API std::vector<const RuleInfo*> RulesAbout(std::string_view field);
 
-/// The code that is most like a text which is none; nothing when none is much like it.
+/// The code most similar to a text that is not a code; nothing when none is similar enough.
 VIF_ANALYSIS_API std::optional<std::string> NearestCode(std::string_view text);
 
 }  // namespace vifanalysis

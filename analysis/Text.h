@@ -22,7 +22,7 @@ constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 /// The columns of a terminal that printable text takes up.
 VIF_ANALYSIS_API size_t DisplayWidth(std::string_view text);
 
-/// Printable text, cut if necessary to that many columns with an ellipsis in the last.
+/// Printable text, cut to that many columns, an ellipsis in the last, if it is wider.
 VIF_ANALYSIS_API std::string CutToWidth(std::string_view text, size_t width);
 
 /// "1 error" or "2 errors".

@@ -2,12 +2,12 @@
 //
 // Everything here describes the format, never a file. The field definition table (VIFFieldDefs.h) alone decides what
 // loading makes of a name; the vocabulary is knowledge beside it. It was gathered from real files and public documents
-// (see `VocabularySources`, of which C, the files that everything is counted in, is "the corpus" below), so a fact can
-// be weak: `Confidence` says so, and so does a `files` of 0 for what no file of the corpus has. Show that with the
-// fact.
+// (see `VocabularySources`; source C, the files in which everything is counted, is "the corpus" below). So a fact can
+// be weak: `Confidence` says so, and so does a `files` of 0, which means that no file of the corpus has it. Show that
+// with the fact.
 //
 // All texts are UTF-8 and, like all tables and rows, live unchanged as long as the library is loaded. Texts and spans
-// are empty where there is nothing to say. Unless a function says otherwise it throws nothing, allocates nothing and
+// are empty where there is nothing to say. Unless it says otherwise, a function throws nothing, allocates nothing and
 // may be called from any number of threads at once.
 #pragma once
 
@@ -26,7 +26,7 @@
 
 namespace vifanalysis {
 
-/// Whether this is an edition at all: 0.0 stands for one that is not known.
+/// Whether the edition is known: 0.0 stands for one that is not.
 constexpr bool IsKnown(const Edition& edition) noexcept { return edition != Edition{}; }
 
 /// Two editions and those between them, both known or neither.
@@ -57,7 +57,7 @@ enum class FieldStanding : std::uint8_t {
   OptionalContent,  ///< part of the optional content of a file
 };
 
-/// What a number is a multiple of, or how it is to be read.
+/// What a number is a multiple of, or how to read it.
 enum class Unit : std::uint8_t {
   Unknown,            ///< a physical quantity in a unit that is not known
   MilliVolt,          ///< mV
@@ -81,7 +81,7 @@ struct FieldValue {
   std::string_view text;                         ///< what it stands for, in the newest edition
   std::uint32_t files = 0;                       ///< how many files of the corpus have it; 0: not seen
   EditionRange seen{};                           ///< the editions of these files; not known when there are none
-  Confidence confidence = {};                    ///< how sure it is that the number stands for the text
+  Confidence confidence = {};                    ///< how certain it is that the number stands for the text
   std::string_view sources;                      ///< codes of `VocabularySources`, separated by blanks
   std::array<std::string_view, 2> otherTexts{};  ///< other texts in use for the value; unused ones empty
   // Rows leave it out, which g++ warns about where there is no initializer.
@@ -100,7 +100,7 @@ struct FieldUnit {
   std::uint32_t scale = 1;          ///< how many units a step of 1 is; 1 for identifiers, bits and unknown units
   std::uint32_t places = 0;         ///< how often the corpus has a number and a text that confirm it
   std::uint32_t files = 0;          ///< in how many files; 0: not seen
-  Confidence confidence = {};       ///< how sure it is
+  Confidence confidence = {};       ///< how certain it is
   std::string_view sources;         ///< codes of `VocabularySources`, separated by blanks
 };
 
@@ -109,7 +109,7 @@ enum class NameKind : std::uint8_t {
   Unknown,          ///< it means none
   Canonical,        ///< it is the name of a field of the definition table
   TextForm,         ///< it has the dollar sign with which text files write a text field: `$Vendor_Name`
-  LetterCase,       ///< its letter case differs, as that of no edition does
+  LetterCase,       ///< it is in a letter case that no edition uses
   OtherSpelling,    ///< some editions spell the field like that; loading does not know the spelling
   OlderField,       ///< earlier editions had the field under this name, or had it and dropped it
   NewerField,       ///< a field that the definition table does not have yet
@@ -123,13 +123,13 @@ struct FieldSpelling {
   std::string_view spelling;   ///< the name; each `#` stands for the digits of an index, of which there may be none
   std::string_view field;      ///< the canonical name of the field that it means
   NameKind kind = {};          ///< Canonical, TextForm, OtherSpelling, OlderField or Mistake
-  Confidence confidence = {};  ///< how sure it is that this field is meant
+  Confidence confidence = {};  ///< how certain it is that this field is meant
   std::uint32_t files = 0;     ///< how many files of the corpus have it; 0: not seen
   EditionRange seen{};         ///< the editions of these files; not known when there are none
   std::string_view sources;    ///< codes of `VocabularySources`, separated by blanks
   // Rows leave it out, which g++ warns about where there is no initializer.
   // NOLINTNEXTLINE(readability-redundant-member-init)
-  std::string_view why{};  ///< how that is known, as a sentence, or empty when the kind says it all
+  std::string_view why{};  ///< how that is known, as a sentence; empty when the kind says it all
 };
 
 /// One field of the format.
@@ -140,8 +140,8 @@ struct FieldInfo {
   FieldStanding standing = {};               ///< how it stands to the definition table
   FieldType type = {};                       ///< the kind of its value
   std::string_view declares;                 ///< what it declares: a phrase, or a question that its value answers
-  std::string_view note;                     ///< what else there is to say, or empty
-  Confidence confidence = {};                ///< how sure `declares` is
+  std::string_view note;                     ///< further remarks, or empty
+  Confidence confidence = {};                ///< how certain `declares` is
   std::string_view sources;                  ///< codes of `VocabularySources` behind `declares`, separated by blanks
   std::uint32_t files = 0;                   ///< how many files of the corpus have it by this name; 0: not seen
   EditionRange seen{};                       ///< the editions of these files; not known when there are none
@@ -233,21 +233,21 @@ VIF_ANALYSIS_API const VocabularySource* FindVocabularySource(std::string_view c
 
 /// What a name means: a canonical name, with or without the digits of its indexes (`Src_PDO_Voltage3`,
 /// `SVID2_Mode1_Enter_SOP`), a text field's name with the dollar sign of the text form, or any other known spelling.
-/// A name that fits in its own letter case goes before one that does not, and a canonical name before other spellings.
-/// Letter case counts for ASCII only. The time does not grow with the number of fields.
+/// An exact match is preferred to one in another letter case, and a canonical name to other spellings. Only ASCII
+/// letters have a letter case here. The time does not grow with the number of fields.
 /// \return with the kind Unknown and no field when the name means none
 VIF_ANALYSIS_API NameMatch FindField(std::string_view name) noexcept;
 
-/// What is known of the field, by its canonical name, in an edition. A field is taken to stay until it is known to be
-/// gone, so it fits all editions that are newer than any file at hand.
+/// What is known of the field, by its canonical name, in an edition. A field is assumed to stay until it is known to be
+/// gone, so it fits all editions newer than the corpus.
 VIF_ANALYSIS_API EditionFit FitsEdition(const FieldInfo& field, const Edition& edition) noexcept;
 
 /// What is known of the name in an edition. An older name is gone after the last edition of a file that has it. Unknown
 /// for an older name that no file has, for a mistake, and for a name in a letter case that no edition has.
 VIF_ANALYSIS_API EditionFit FitsEdition(const NameMatch& match, const Edition& edition) noexcept;
 
-/// The name that was most probably meant: the canonical one for a spelling that loading does not know, or the one that
-/// differs by the fewest inserted, left out, changed or swapped characters. Index digits stay where they are:
+/// The name most probably meant: the canonical one for a spelling that loading does not know, or the one that differs
+/// by the fewest inserted, omitted, changed or swapped characters. Index digits stay where they are:
 /// `SVID1_num_modes_min_SOP` gives `SVID1_Num_Modes_Min_SOP`. Throws std::bad_alloc only.
 /// \return empty when nothing is near enough, when two fields are equally near, and for a name that exists in some
 ///   edition, which is never taken for a misspelling of another

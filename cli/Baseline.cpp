@@ -17,10 +17,10 @@ using vifanalysis::Finding;
 
 namespace {
 
-/// The name without its folders, of either system: the earlier run may have been on another.
+/// The name without its folders, with either system's separators: the earlier run may have been on the other system.
 std::string BaseName(const std::string& fileName) { return fileName.substr(fileName.find_last_of("/\\") + 1); }
 
-/// What tells a finding from another, as JSON has it, where bytes that are not UTF-8 have been replaced.
+/// What distinguishes findings, as JSON has it: there, bytes that are not UTF-8 have been replaced.
 std::string Key(const std::string& fileName, const Json& code, const Json& element, const Json& message) {
   return Dump(Json::array({BaseName(fileName), code, element, message}));
 }

@@ -39,7 +39,7 @@ void AddCheckCommand(CLI::App& app, Status& status);
 void AddExplainCommand(CLI::App& app, Status& status);
 
 /// Joins each location option of `vif get` with its number, or "any" where it has none, by an equals sign: CLI11 cannot
-/// tell whether the number that is optional follows.
+/// tell whether the optional number follows.
 /// \throws Failure for an option that ends in an equals sign
 std::vector<std::string> CompleteLocationOptions(std::vector<std::string> arguments);
 

@@ -61,7 +61,7 @@ constexpr const char* kFooter =
                        (nearest.empty() ? "" : "; did you mean '" + nearest + "'?"));
 }
 
-/// What prints the explanation of a name.
+/// A function that prints the explanation of a name.
 using Explanation = std::function<void()>;
 
 Explanation Explain(const std::string& name, bool asJson) {

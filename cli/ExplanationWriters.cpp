@@ -34,7 +34,7 @@ constexpr std::size_t kIndent = 2;
 constexpr std::size_t kLabelWidth = 12;
 constexpr std::size_t kTextWidth = 78;
 
-/// Writes a text from that column on, in lines that fit an ordinary terminal. The first begins with the label.
+/// Writes a text from that column on, in lines that fit an ordinary terminal. The first line begins with the label.
 void WriteWrapped(std::string_view label, std::size_t column, std::string_view text) {
   std::string line = std::string(kIndent, ' ').append(label);
   line.resize(std::max(column, line.size()), ' ');
@@ -58,7 +58,7 @@ void WriteItem(std::string_view label, std::string_view text) {
   if (!text.empty()) WriteWrapped(label, kIndent + kLabelWidth, text);
 }
 
-/// What to put behind a fact that is not well known.
+/// The mark after a fact that is not well known.
 std::string Mark(bool isSeen, Confidence confidence) {
   std::string mark = isSeen ? "" : "not seen";
   if (confidence == Confidence::Low) mark.append(mark.empty() ? "" : ", ").append("uncertain");

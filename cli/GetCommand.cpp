@@ -102,7 +102,7 @@ Query MakeQuery(const GetOptions& options) {
   return query;
 }
 
-/// The library compiles a pattern only if a field is in the right place; here a bad one is an error in any case.
+/// The library compiles a pattern only if a field is in the right place; here an invalid one is always an error.
 void RequireSoundPattern(const std::string& pattern) {
   try {
     CVIFField().Match(pattern.c_str(),

@@ -73,7 +73,7 @@ Status Run(int argc, char** argv) {
   return status;
 }
 
-/// Builds no text, as there is no memory for it.
+/// Builds no text, because there is no memory for it.
 Status FailWithoutMemory() {
   std::fputs("vif: out of memory\n", stderr);
   return kFailed;

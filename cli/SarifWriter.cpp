@@ -29,7 +29,7 @@ Json RuleJson(const RuleInfo& rule) {
   };
 }
 
-/// The index of the rule among those that the output describes, which are all.
+/// The index of the rule in the output, which describes all rules.
 std::size_t IndexOf(const std::string& code) {
   const auto& rules = vifanalysis::Rules();
   return static_cast<std::size_t>(

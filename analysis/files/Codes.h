@@ -5,7 +5,7 @@
 
 namespace vifanalysis::code {
 
-/// A rule that every edition has in common.
+/// A rule for all editions.
 constexpr RuleInfo FormRule(const char* code, Severity severity, const char* what, const char* why) {
   return {code, severity, {}, Confidence::High, "", what, why};
 }
@@ -48,7 +48,7 @@ inline constexpr RuleInfo kMisplaced = FormRule(
     "find it.");
 inline constexpr RuleInfo kNoField =
     FormRule("no-field", Severity::Warning, "an element that yields no field",
-             "Loading passes over the element, because of where it is or because nothing is in it.");
+             "Loading skips the element, because of where it is or because it is empty.");
 inline constexpr RuleInfo kForeign =
     FormRule("foreign-element", Severity::Error, "an element of another namespace, which is lost with its content",
              "Only elements in the namespace of the VIF, or in that of optional content, are read. Often the prefix is "

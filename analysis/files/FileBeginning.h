@@ -7,8 +7,8 @@
 
 namespace vifanalysis {
 
-/// The bytes that a file begins with, so many at most; fewer, or none, where it is shorter or cannot be read. Opens
-/// nothing but a regular file and waits for nothing, even if a pipe has taken the file's name.
+/// The first bytes of a file, at most that many; fewer, or none, where it is shorter or cannot be read. Opens only
+/// regular files and never waits, even if a pipe has taken the file's name.
 std::string FileBeginning(const std::filesystem::path& path, std::size_t most);
 
 }  // namespace vifanalysis

@@ -27,7 +27,7 @@ bool Skip(std::string_view mark, std::string_view& text) {
   return isThere;
 }
 
-/// Every other byte of UTF-16, which is all there is to its ASCII characters; nothing when the text is not UTF-16.
+/// Every other byte of UTF-16, which holds its ASCII characters; nothing when the text is not UTF-16.
 std::optional<std::string> AsciiOfUtf16(std::string_view text) {
   bool isBigEndian = Skip(kBigEndianMark, text);
   const bool isMarked = isBigEndian || Skip(kLittleEndianMark, text);

@@ -15,7 +15,7 @@ namespace vifanalysis {
 /// Fields that their group already has.
 void FindDuplicates(const FoundFields& fields, Findings& findings);
 
-/// Numeric values that are not valid numbers, or not entirely.
+/// Numeric values that are not valid numbers, or are more than a number.
 void FindBadNumbers(const FoundFields& fields, Findings& findings);
 
 /// A file that yields no field and has no other error.

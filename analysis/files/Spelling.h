@@ -18,9 +18,9 @@ struct Respelling {
 
 /// Corrects a written name if it is a misspelling of a known one.
 ///
-/// Letter case and underscores are free. Typos are allowed only in words, such as "Voltage": never in a number, an
+/// Letter case and underscores do not count. Typos are allowed only in words, such as "Voltage": never in a number, an
 /// abbreviation or a part of one or two letters, because the fields of the format differ from each other in just these.
-/// So a field of another edition is not taken for a misspelling.
+/// Thus a field of another edition is not taken for a misspelling.
 /// \param spelling the known name, with marks
 /// \return nothing when the written name is another name
 std::optional<Respelling> Respell(std::string_view written, std::string_view spelling);

@@ -14,7 +14,7 @@ namespace vifanalysis {
 
 namespace {
 
-/// What is before the colon of a line, empty when there is none.
+/// The text before the colon of a line, empty when there is none.
 std::string WrittenName(std::string_view content) {
   const std::size_t colon = content.find(':');
   if (colon == std::string_view::npos) return {};

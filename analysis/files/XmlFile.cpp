@@ -26,7 +26,7 @@ std::string_view WhyNoField(EVifElementFate fate) {
   }
 }
 
-Finding DescribePassedOver(const VifElementReport& report) {
+Finding DescribeSkipped(const VifElementReport& report) {
   const RuleInfo& code = report.fate == eVifElementForeign ? code::kForeign : code::kNoField;
   return FindingAt(code, report.line, report.column, report.path,
                    Quoted(report.path) + " yields no field: " + std::string(WhyNoField(report.fate)));
@@ -82,7 +82,7 @@ class CFollower {
     } else if (report.fate == eVifElementNotUnderstood) {
       m_failure = FindingAt(code::kNotValid, report.line, report.column, report.path, {});
     } else {
-      m_content.findings.push_back(DescribePassedOver(report));
+      m_content.findings.push_back(DescribeSkipped(report));
     }
   }
 

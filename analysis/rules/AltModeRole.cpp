@@ -10,7 +10,7 @@ namespace {
 constexpr std::string_view kAdapter = "Type_C_Is_Alt_Mode_Adapter";
 constexpr std::string_view kController = "Type_C_Is_Alt_Mode_Controller";
 
-/// A role in alternate modes takes what another field denies.
+/// Reports that a role in alternate modes needs what another field denies.
 void Report(const CComponentView& component, std::string_view role, std::string_view needed, CReporter& reporter) {
   const FoundField* denied = component.Find(needed);
   if (denied != nullptr && reporter.HasFound("modal-svids", *denied)) return;

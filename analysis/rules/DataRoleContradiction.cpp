@@ -10,7 +10,7 @@ namespace {
 struct Consequence {
   std::string_view field;
   std::string_view cause;
-  bool isEqual;  ///< whether the two must be equal; else the field may be NO where the other one is YES
+  bool isEqual;  ///< whether the two must be equal; otherwise the field may be NO where the other one is YES
 };
 
 constexpr Consequence kConsequences[] = {

@@ -47,7 +47,7 @@ void CheckSide(const CComponentView& component, PdoSide side, CReporter& reporte
   if (component.IsNo(EprName(side))) CheckRating(component, side, reporter);
 }
 
-/// That of revision 2 which has something of revision 3 is for another rule.
+/// A port of revision 2 with features of revision 3 is left to another rule.
 void CheckRevision(const CComponentView& component, CReporter& reporter) {
   const bool hasEpr = component.IsYes(EprName(PdoSide::Source)) || component.IsYes(EprName(PdoSide::Sink));
   if (!hasEpr || component.Number("PD_Specification_Revision") == kRevision2) return;

@@ -22,13 +22,13 @@ std::string ValueInWords(const FoundField& found, const CVifView& file);
 /// Such as "Captive_Cable is YES".
 std::string FieldIs(const FoundField& found, const CVifView& file);
 
-/// What one finding is about: fields, and groups of fields. No name is there twice.
+/// What one finding is about: fields, and groups of fields. No name occurs twice.
 class CMentions {
  public:
   /// The field of that name, if the group has it.
   void AddField(const CGroupView& group, std::string_view name);
 
-  /// All fields of the group whose names begin like that, except the one of that very name.
+  /// All fields of the group whose names have that beginning, except the one named `except`.
   void AddFields(const CGroupView& group, std::string_view beginning, std::string_view except = {});
 
   /// A group, if it has a field, or what it stands for.

@@ -69,7 +69,7 @@ bool NeedsEpr(const CPdoView& pdo) {
   return pdo.HighestVoltage().value_or(0) > highest;
 }
 
-/// Blames the first PDO only: if the component has EPR after all, the others are no mistakes of their own.
+/// Blames the first PDO only: if the component has EPR after all, the others are not mistakes of their own.
 void CheckEpr(const CComponentView& component, PdoSide side, CReporter& reporter) {
   if (component.IsYes(EprName(side))) return;
   for (const CPdoView& pdo : component.Pdos(side)) {

@@ -68,7 +68,7 @@ class CPdoView : public CGroupView {
   /// The greatest power in mW: declared, rated, or highest voltage times current. Nothing when it is not known.
   std::optional<std::uint64_t> GreatestPower() const;
 
-  /// What one unit more of the current, the power or the rating adds to that power, in mW.
+  /// What one more unit of the current, the power or the rating adds to that power, in mW.
   std::optional<std::uint64_t> PowerStep() const;
 
   /// The field that is most to blame for its power: that of the current, the power or the rating, or else its first.

@@ -18,7 +18,7 @@ namespace {
 /// PD role, Type-C state machine, connector and USB4 support.
 using PortKind = std::array<std::uint64_t, 4>;
 
-/// The ports of one kind that another one is compared with. With all of them it would take too long.
+/// The ports of one kind that another one is compared with. Comparing it with all of them would take too long.
 struct Earlier {
   const CComponentView* first;
   const CComponentView* last;
@@ -34,7 +34,7 @@ std::optional<PortKind> KindOf(const CComponentView& component) {
   return PortKind{*role, *machine, *connector, component.IsYes("USB4_Supported") ? 1U : 0U};
 }
 
-/// What no two ports need to have in common.
+/// What may differ from port to port.
 bool IsAPortsOwn(std::string_view name) {
   constexpr std::string_view own[] = {
       "Port_Label",
@@ -68,7 +68,7 @@ bool AreEqual(const std::vector<CPdoView>& a, const std::vector<CPdoView>& b) {
                     [](const CPdoView& one, const CPdoView& other) { return AreEqual(one, other); });
 }
 
-/// Compares ports, and leaves out what has been found to be wrong.
+/// Compares ports, leaving out what other rules have found to be wrong.
 class CComparison {
  public:
   explicit CComparison(const CReporter& reporter) : m_reporter(reporter) {}
@@ -109,7 +109,7 @@ class CComparison {
   const CReporter& m_reporter;
 };
 
-/// Reports the differences from the port that it is more like, unless they are so many that they are meant.
+/// Reports the differences from the more similar of the two ports, unless there are so many that they must be intended.
 void CheckPort(const CComponentView& port, const Earlier& earlier, CReporter& reporter) {
   constexpr std::size_t most = 6;
   const CComparison comparison(reporter);

@@ -14,7 +14,7 @@ constexpr std::uint64_t kConsumerOnly = 0;
 constexpr std::uint64_t kEMarker = 5;
 constexpr std::uint64_t kRevision3 = 2;
 constexpr std::uint64_t kLeastPower = 15'000;  // mW; up to that, 5 V are enough
-constexpr std::uint64_t kCurrent = 3000;       // mA; every cable bears it
+constexpr std::uint64_t kCurrent = 3000;       // mA; every cable carries it
 constexpr std::uint64_t kStep = 10;            // mA
 
 /// A voltage that sources above a power offer, in mV and mW.

@@ -6,7 +6,7 @@ namespace vifanalysis {
 
 namespace {
 
-/// What a group is called in a sentence; null for what goes without saying.
+/// What a group is called in a sentence; null for groups that need no mention.
 const char* GroupName(EVifLocation kind) {
   switch (kind) {
     case eVifLocComponent: return "Component ";

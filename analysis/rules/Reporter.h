@@ -1,4 +1,4 @@
-// Takes what the rules find.
+// Collects what the rules find.
 #pragma once
 
 #include "files/FoundField.h"
@@ -13,13 +13,13 @@
 
 namespace vifanalysis {
 
-/// Makes findings, each with the place of the field that is most to blame, and with its component, PDO or SVID before
+/// Creates findings, each with the place of the field that is most to blame, and with its component, PDO or SVID before
 /// the message: "Component 1, Source PDO 2: ...".
 class CReporter {
  public:
   explicit CReporter(Findings& findings) : m_findings(findings) {}
 
-  /// The rule that what follows is found by. It must live as long as the reporter.
+  /// Sets the rule that finds what follows. It must outlive the reporter.
   void SetRule(const RuleInfo& rule) { m_rule = &rule; }
 
   /// Blames a field. The message is a sentence without a full stop.
@@ -28,8 +28,8 @@ class CReporter {
   /// Blames what a group lacks, at the first field in it. The message is about the group.
   void Add(const CGroupView& group, const std::string& message);
 
-  /// Whether the rule with that code, which is further up in the table, has found something in a group or in a group in
-  /// it. So one mistake gives one finding.
+  /// Whether the rule with that code, which is further up in the table, has found something in a group, at any depth.
+  /// So one mistake gives one finding.
   bool HasFound(std::string_view code, const CGroupView& group) const;
 
   /// Whether it has blamed that field.

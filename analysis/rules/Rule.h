@@ -1,4 +1,4 @@
-// What a rule is made of.
+// A rule: its facts and its function.
 #pragma once
 
 #include "rules/Reporter.h"
@@ -9,10 +9,10 @@
 
 namespace vifanalysis {
 
-/// Looks at one component.
+/// Checks one component.
 using ComponentCheck = void (*)(const CComponentView& component, CReporter& reporter);
 
-/// Looks at a whole file, which is one product.
+/// Checks a whole file, which is one product.
 using FileCheck = void (*)(const CVifView& file, CReporter& reporter);
 
 /// A row of facts and the function beside it.
@@ -24,7 +24,7 @@ struct Rule {
 /// The rules about what a file declares, in the order in which they run and are listed.
 std::span<const Rule> ConsistencyRules();
 
-/// Applies all of them that the file's edition allows. Takes time that grows with the number of fields.
+/// Applies the rules that are for the file's edition. Takes time that grows with the number of fields.
 void FindContradictions(const FoundFields& fields, Findings& findings);
 
 }  // namespace vifanalysis

@@ -1,4 +1,4 @@
-// The functions of the rules, each in a file of its own that is named for it. The table says what they look for.
+// The functions of the rules, each in a file of its own, named after it. The rule table says what they look for.
 #pragma once
 
 #include "rules/Reporter.h"

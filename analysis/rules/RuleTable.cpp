@@ -7,24 +7,24 @@ namespace {
 
 constexpr Edition kEvery = {};
 
-// A rule that keeps silent about what another one has found comes after it.
+// A rule that is silent about what another one has found comes after it.
 constexpr Rule kRules[] = {
     // Values and their texts.
     {{"unanswered", Severity::Error, kEvery, Confidence::High, "S8", "a field that is still the editor's \"<select>\"",
-      "The editor that wrote the file has offered a choice that nobody has made. The field has a number all the same, "
-      "which stands for no answer. Choose the value that holds for the product."},
+      "The editor that wrote the file offered a choice that nobody made. The field has a number all the same, which "
+      "stands for no answer. Choose the value that holds for the product."},
      CheckUnanswered},
     {{"text-against-value", Severity::Error, kEvery, Confidence::High, "S1, S5",
       "a value and a text that say different things",
-      "Beside the value stands what it amounts to, such as \"9000 mV\" beside 180. Only the value counts, so a text "
-      "that says something else leads readers astray, or shows that the value was meant to be another. Correct "
-      "whichever is wrong."},
+      "Beside the value is a text that says what it stands for, such as \"9000 mV\" beside 180. Only the value counts, "
+      "so a text that says something else leads readers astray, or shows that the value was meant to be another. "
+      "Correct whichever is wrong."},
      CheckTextAgainstValue},
     {{"value-out-of-range", Severity::Error, kEvery, Confidence::High, "S1, S2, S3, S5",
-      "a number that is greater than the field can be",
-      "The number is beyond the last of the field's values, or has more bits than the product can announce: 10 for "
-      "a voltage, current or power in a PDO, 16 for a vendor or product ID and an SVID, 32 for an XID and the bits "
-      "of a mode. Check for a digit too many, and for a number in another unit than the field's."},
+      "a number greater than the field allows",
+      "The number is beyond the last of the field's values, or has more bits than the product can announce: 10 for a "
+      "voltage, current or power in a PDO, 16 for a vendor or product ID and an SVID, 32 for an XID and the bits of a "
+      "mode. Check for a digit too many and for a number in the wrong unit."},
      CheckValueOutOfRange},
 
     // PDO lists.
@@ -35,9 +35,9 @@ constexpr Rule kRules[] = {
       "PDO of 5 V first, or correct its type or voltage."},
      CheckFirstPdoNot5V},
     {{"pdo-limits", Severity::Error, kEvery, Confidence::High, "S3, S10, S14",
-      "more PDOs, or a PDO of another current or voltage, than USB PD allows",
-      "A port has at most 7 PDOs of a side, or 11 with the extended power range (EPR). No PDO is of more than 5 A, and "
-      "a source offers some current in each. A fixed PDO has 5 V to 20 V, any other at most 21 V, unless "
+      "more PDOs than USB PD allows, or one with a current or voltage that it does not allow",
+      "A port has at most 7 PDOs of a side, or 11 with the extended power range (EPR). No PDO has more than 5 A, and "
+      "each source PDO offers some current. A fixed PDO has 5 V to 20 V, any other at most 21 V, unless "
       "EPR_Supported_As_Src or EPR_Supported_As_Snk is YES for its side, and no range of voltages ends below its "
       "start. Correct the PDO, or declare EPR."},
      CheckPdoLimits},
@@ -64,12 +64,13 @@ constexpr Rule kRules[] = {
       "limits of voltage and current do not hold at once."},
      CheckPdoAboveRating},
     {{"rating-above-pdos", Severity::Warning, kEvery, Confidence::Medium, "S1, S8, S13",
-      "a rating of more power than any PDO of that side",
+      "a rating above the power of every PDO of that side",
       "PD_Power_As_Source and PD_Power_As_Sink are the power of the greatest PDO of their side, so one PDO must be of "
-      "that power. Correct the rating, or add the PDO that is missing. Not asked while a PDO's power is not known."},
+      "that power. Correct the rating, or add the PDO that is missing. Not checked while the power of a PDO is not "
+      "known."},
      CheckRatingAbovePdos},
     {{"power-rules", Severity::Warning, kEvery, Confidence::High, "S10",
-      "a source whose fixed PDOs are not those of its power",
+      "a source without the fixed PDOs that its power requires",
       "Under PD revision 3, a source of more than 15 W offers 5 V and 9 V, of more than 27 W also 15 V, and of more "
       "than 45 W also 20 V, each with 3 A or with all of its power. Otherwise a sink that counts on these voltages "
       "gets less than PD_Power_As_Source promises. Add the PDO, raise its current, or correct the rating."},
@@ -110,7 +111,7 @@ constexpr Rule kRules[] = {
       {2, 0},
       Confidence::Medium,
       "S15",
-      "ports with assured power that together make more than the product has",
+      "ports whose assured power adds up to more than the product has",
       "What a port with assured power (Port_Source_Power_Type 0) gives does not depend on the other ports, so the "
       "product must have the sum of what such ports give (PD_Power_As_Source) in Product_Total_Source_Power_mW. If the "
       "ports share power, say so; else check the total. Many files have this, and what exactly the total counts "
@@ -130,8 +131,8 @@ constexpr Rule kRules[] = {
      CheckRoleIncomplete},
     {{"fr-swap-current", Severity::Error, Edition{3, 0}, Confidence::High, "S1, S3",
       "a fast role swap without its current, or a current without the swap",
-      "FR_Swap_Type_C_Current_Capability_As_Initial_Sink says with which current the port can take over as source. "
-      "It is 0 just when FR_Swap_Supported_As_Initial_Sink is NO. Correct the one that is wrong."},
+      "FR_Swap_Type_C_Current_Capability_As_Initial_Sink says with which current the port can take over as source. It "
+      "is 0 exactly when FR_Swap_Supported_As_Initial_Sink is NO. Correct the one that is wrong."},
      CheckFrSwapCurrent},
     {{"swap-against-role", Severity::Error, kEvery, Confidence::High, "S1, S17, S18",
       "a swap or a preference that the port's role does not allow",
@@ -140,7 +141,7 @@ constexpr Rule kRules[] = {
       "correct PD_Port_Type or Type_C_State_Machine."},
      CheckSwapAgainstRole},
     {{"role-leftover", Severity::Warning, kEvery, Confidence::Medium, "S1",
-      "PDOs or a power of a side that the port does not have",
+      "PDOs or a power rating of a side that the port does not have",
       "A Consumer Only port has no source PDOs, a Provider Only port has no sink PDOs, and a port without USB PD "
       "has neither. What the file says of them is probably left from another product. Remove the PDOs, their number"
       " and PD_Power_As_Source or PD_Power_As_Sink, or correct PD_Port_Type or USB_PD_Support."},
@@ -155,8 +156,8 @@ constexpr Rule kRules[] = {
      CheckDrSwapRequired},
     {{"comms-role", Severity::Warning, kEvery, Confidence::High, "S9",
       "USB communication without a data role, or a data role without USB communication",
-      "USB_Comms_Capable says whether the port can be enumerated as a device or enumerate others as a host, so it "
-      "is YES just when Type_C_Can_Act_As_Host or Type_C_Can_Act_As_Device is. A port of a hub may be neither."},
+      "USB_Comms_Capable says whether the port can be enumerated as a device or enumerate others as a host, so it is "
+      "YES exactly when Type_C_Can_Act_As_Host or Type_C_Can_Act_As_Device is. A port of a hub may be neither."},
      CheckCommsRole},
     {{"data-role-contradiction", Severity::Error, kEvery, Confidence::High, "S1, S8",
       "fields about one data role that contradict each other",
@@ -176,7 +177,7 @@ constexpr Rule kRules[] = {
       "SVID_Num_Modes_Max_SOP, are equal."},
      CheckModalSvids},
     {{"alt-mode-role", Severity::Warning, Edition{1, 36}, Confidence::Medium, "S1, S2",
-      "a port for alternate modes that lacks what they take",
+      "an alternate mode adapter or controller without what it needs",
       "An adapter (Type_C_Is_Alt_Mode_Adapter) is found by its answer to Discover Identity as a UFP, in which it "
       "claims modal operation: Responds_To_Discov_SOP_UFP and Modal_Operation_Supported_SOP are YES. A controller "
       "(Type_C_Is_Alt_Mode_Controller) finds adapters by asking them: Attempts_Discov_SOP is YES. Correct the field "
@@ -185,7 +186,7 @@ constexpr Rule kRules[] = {
 
     // Discover Identity and announced details.
     {{"details-missing", Severity::Warning, Edition{1, 34}, Confidence::High, "S1, S2, S8",
-      "fields that are missing though another announces them",
+      "missing fields that another field announces",
       "Some fields say that there is more to say. A port that responds to Discover Identity declares what it "
       "answers: USB_VID_SOP, PID_SOP, bcdDevice_SOP, XID_SOP, Data_Capable_As_USB_Host_SOP, "
       "Data_Capable_As_USB_Device_SOP, Modal_Operation_Supported_SOP, the product type of each role in which it "
@@ -196,17 +197,17 @@ constexpr Rule kRules[] = {
     {{"responds-in-impossible-role", Severity::Warning, Edition{1, 30}, Confidence::High, "S8",
       "a port that responds to Discover Identity in a data role that it never has",
       "A port with Type_C_State_Machine 1 (SNK) starts as a UFP, one with 0 (SRC) as a DFP. Unless "
-      "DR_Swap_To_DFP_Supported or DR_Swap_To_UFP_Supported is YES, it stays so, and cannot respond in the other "
+      "DR_Swap_To_DFP_Supported or DR_Swap_To_UFP_Supported is YES, it keeps its role and cannot respond in the other "
       "role: Responds_To_Discov_SOP_DFP or Responds_To_Discov_SOP_UFP is NO."},
      CheckRespondsInImpossibleRole},
     {{"product-type-against-role", Severity::Warning, Edition{1, 36}, Confidence::Medium, "S2, S8",
       "a product type of a role that the port does not have",
       "Product_Type_UFP_SOP and Product_Type_DFP_SOP are what the port answers in that data role. A hub or a "
-      "peripheral acts as a device, a hub or a host as a host, a power brick provides power, and a port that does "
+      "peripheral acts as a device, a hub or a host acts as a host, a power brick provides power, and a port that does "
       "not respond in a role has product type 0 there. Correct the type, or the field that it contradicts."},
      CheckProductTypeAgainstRole},
     {{"dfp-port-number", Severity::Warning, Edition{2, 0}, Confidence::Medium, "S2, S6",
-      "a port number for the DFP VDO that does not fit, or that two ports share",
+      "a port number that does not fit into the DFP VDO, or that two ports share",
       "DFP_VDO_Port_Number tells the ports of a product apart. The DFP VDO has five bits for it, so it is 0 to 31 "
       "and different for each port."},
      CheckDfpPortNumber},
@@ -256,7 +257,7 @@ constexpr Rule kRules[] = {
 
     // Battery, supply, BC 1.2.
     {{"battery-count", Severity::Warning, Edition{1, 20}, Confidence::High, "S3, S8",
-      "numbers of batteries that do not agree with whether there is one, or are too great",
+      "numbers of batteries that are too large, or that contradict whether there is a battery",
       "If Port_Battery_Powered is YES, there is a battery in Num_Fixed_Batteries or a slot in "
       "Num_Swappable_Battery_Slots; if it is NO, both are 0. USB PD can tell four fixed batteries and four slots "
       "apart."},
@@ -281,7 +282,7 @@ constexpr Rule kRules[] = {
       {3, 0},
       Confidence::Medium,
       "S1, S7",
-      "a USB4 port without something that USB4 takes",
+      "a USB4 port without something that USB4 requires",
       "A port whose USB4_Supported is YES supports USB PD revision 3 (USB_PD_Support, PD_Specification_Revision), "
       "the Enter_USB message (Enter_USB_Supported) and USB communication (USB_Comms_Capable), has a Type-C "
       "connector (Connector_Type) and is a USB4 DFP or UFP (USB4_DFP_Supported, USB4_UFP_Supported). Off a hub, the"
@@ -293,7 +294,7 @@ constexpr Rule kRules[] = {
       {3, 0},
       Confidence::Medium,
       "S1",
-      "a USB4 port of a router that the product does not have",
+      "a USB4 port whose router the product does not declare",
       "USB4_Router_Index is the USB4_Router_ID of the router that the port belongs to. Correct the index, or "
       "declare the router."},
      CheckUsb4Router},
@@ -332,7 +333,7 @@ constexpr Rule kRules[] = {
 
     // VCONN and cable.
     {{"vconn-source-needed", Severity::Warning, kEvery, Confidence::Medium, "S8",
-      "what a port can do only as the source of VCONN",
+      "a port that does what requires VCONN, but does not source it",
       "A cable answers only when it gets VCONN, so a port that speaks to it over SOP' or SOP'', or that swaps "
       "VCONN, sources it. SOP_PP_Capable goes with SOP_P_Capable. Say YES in Type_C_Sources_VCONN, or NO in "
       "VCONN_Swap_To_On_Supported, VCONN_Swap_To_Off_Supported, SOP_P_Capable and SOP_PP_Capable."},

@@ -22,7 +22,7 @@ std::string Listed(const std::vector<std::string_view>& names);
 std::string AreMissing(const std::vector<std::string_view>& names);
 
 /// The field's number, unless a rule further up the table has found the field unanswered or its number out of range:
-/// to go by such a number would give one mistake a second finding.
+/// relying on such a number would give one mistake a second finding.
 std::optional<std::uint64_t> SoundNumber(const CGroupView& group, std::string_view name, const CReporter& reporter);
 
 /// Whether a component lacks a field that files of its edition have. Older files may have it by another name.

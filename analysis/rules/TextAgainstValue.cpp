@@ -15,7 +15,7 @@ namespace vifanalysis {
 
 namespace {
 
-/// What decides on the units in one PDO, and the field of its supply type.
+/// What decides the units in one PDO, and the field with its supply type.
 struct PdoUnits {
   PdoContext context;
   const FoundField* supplyType = nullptr;

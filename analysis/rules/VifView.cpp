@@ -36,9 +36,9 @@ FieldsByPlace SortByPlace(const FoundFields& fields) {
   return sorted;
 }
 
-/// Makes the group at a place of all fields in it and in the groups in it. An unused slot sorts before any other, so
+/// Builds the group at a place from all fields in it and in its inner groups. An unused slot sorts before any other, so
 /// that the group's own fields come first and those of each group in it stand together.
-/// \param next the first of the group's places; afterwards, the first behind them
+/// \param next the first of the group's places; on return, the first after them
 CGroupView MakeGroup(const GroupPlace& place, std::size_t depth, FieldsByPlace::iterator& next,
                      const FieldsByPlace::iterator& end) {
   const auto isInside = [&](const GroupPlace& other) {

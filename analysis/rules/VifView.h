@@ -43,7 +43,7 @@ class CVifView {
   /// All fields in the order of the file.
   const FoundFields& Fields() const { return m_fields; }
 
-  /// The edition of the format that the file says it has; nothing when it does not, or not in a way that is known.
+  /// The edition of the format that the file names; nothing when it names none, or in an unknown form.
   const std::optional<Edition>& GetEdition() const { return m_edition; }
 
   /// A field about the file as a whole, or in no group at all, such as a text of a text file; null when there is none.

@@ -47,7 +47,7 @@ bool CAlignment::TakesDigit(std::size_t i, std::size_t j) const {
 }
 
 std::string CAlignment::Corrected() const {
-  // From the end to the start along one cheapest way.
+  // From the end to the start along a cheapest path.
   std::string text;
   std::size_t i = m_name.size();
   std::size_t j = m_spelling.size();

@@ -10,7 +10,7 @@
 
 namespace vifanalysis {
 
-/// A name laid beside a spelling. The distance is the least number of characters to insert, leave out, change or swap
+/// A name laid beside a spelling. The distance is the least number of characters to insert, omit, change or swap
 /// with their neighbour so that the name matches the spelling in any letter case; digits at its marks cost nothing.
 class CAlignment {
  public:

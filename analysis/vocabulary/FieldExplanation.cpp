@@ -32,7 +32,7 @@ bool SameUnit(const FieldUnit& a, const FieldUnit& b) {
   return a.unit == b.unit && a.scale == b.scale && a.apdoTypes == b.apdoTypes && a.thresholdTypes == b.thresholdTypes;
 }
 
-/// The units with the supply types of equal ones taken together.
+/// The units, equal ones merged with their supply types.
 std::vector<FieldUnit> MergedUnits(std::span<const FieldUnit> rows) {
   std::vector<FieldUnit> merged;
   for (const FieldUnit& row : rows) {

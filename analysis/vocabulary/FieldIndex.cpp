@@ -58,7 +58,7 @@ NameKind KindOf(FieldStanding standing) noexcept {
 NameKind KindOf(const FieldInfo& field, const FieldSpelling* row, SpellingFit fit) noexcept {
   const NameKind kind = row != nullptr ? row->kind : KindOf(field.standing);
   if (fit == SpellingFit::Exact) return kind;
-  // That an older name or a mistake has another letter case, too, is the least to be said of it.
+  // Of an older name or a mistake, the letter case is the least important thing to say.
   const bool tellsMore = row != nullptr && (kind == NameKind::OlderField || kind == NameKind::Mistake);
   return tellsMore ? kind : NameKind::LetterCase;
 }
@@ -180,7 +180,7 @@ NameMatch CFieldIndex::FindWritten(std::string_view name) const noexcept {
     const SpellingFit fit =
         entry.hash == hash ? FitSpelling(name, entry.Spelling(), match.indexDigits) : SpellingFit::No;
     if (fit == SpellingFit::No) continue;
-    // The fields' own names were added first, so that they come first.
+    // The fields' own names come first, because they were added first.
     if (fit > bestFit) {
       match.kind = KindOf(*entry.field, entry.row, fit);
       best = match;

@@ -1,4 +1,4 @@
-// The tables of the vocabulary, put together and made searchable by name.
+// The tables of the vocabulary, joined and indexed by name.
 #pragma once
 
 #include "FieldTables.h"

@@ -13,7 +13,7 @@ namespace vifanalysis {
 /// Which public lists of fields have the field: that of edition 3.12, that of 3.18.
 enum class Listed : std::uint8_t { InNone, In3_12, In3_18, InBoth };
 
-/// One field. What is here is explained at `FieldInfo`.
+/// One field. `FieldInfo` explains the members.
 struct FieldRow {
   std::string_view spelling;
   EVifLocation group;

@@ -14,7 +14,7 @@ constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 constexpr char ToLowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
-/// The same for a spelling and for all names that match it in any letter case.
+/// Equal for a spelling and all names that match it in any letter case.
 std::uint32_t HashOfName(std::string_view name);
 
 enum class SpellingFit : std::uint8_t { No, InOtherCase, Exact };

@@ -1,4 +1,4 @@
-// The rules find nothing where there is nothing to find.
+// The rules find nothing in clean examples.
 #include "Example.h"
 
 #include <gtest/gtest.h>

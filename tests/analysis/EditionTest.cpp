@@ -29,7 +29,7 @@ TEST(EditionTest, IsComparedNumberByNumber) {
   EXPECT_EQ(ParseEdition("3.2"), ParseEdition("3.02"));
 }
 
-TEST(EditionTest, IsWrittenWithTwoDigitsBehindThePoint) {
+TEST(EditionTest, IsWrittenWithTwoDigitsAfterThePoint) {
   EXPECT_EQ(EditionText({2, 4}), "2.04");
   EXPECT_EQ(EditionText({3, 36}), "3.36");
 }

@@ -1,4 +1,4 @@
-// A clean example, changed in one way, and what the rules find then.
+// A clean example, changed in one way, and what the rules then find in it.
 //
 //     CExample charger("gan-charger-65w.txt");
 //     charger.Set(SrcPdo(1, 4), "Src_PDO_Max_Current", "500");
@@ -36,15 +36,15 @@ Place CableSvid(std::uint64_t component, std::uint64_t svid);
 /// The clean examples: all of examples/vif, and those beside the tests for products that are not among them.
 const std::vector<std::filesystem::path>& CleanExamples();
 
-/// The fields of an example, to be changed. A change that changes nothing throws, so that no test asks for what is not
+/// The fields of an example, to be changed. A change that changes nothing throws, so that no test relies on what is not
 /// there.
 class CExample {
  public:
   /// \param name the file's name in either folder of examples
   explicit CExample(std::string_view name);
 
-  /// Gives a field that is there another value, and the description of a file that has none: the value itself. A field
-  /// stays numeric or not.
+  /// Gives an existing field another value, which also becomes the description, as in a file without one. Whether the
+  /// field is numeric does not change.
   CExample& Set(const Place& place, std::string_view name, const std::string& value);
   CExample& Set(const Place& place, std::string_view name, const std::string& value, const std::string& description);
 
@@ -54,7 +54,7 @@ class CExample {
   /// Adds a field with a text.
   CExample& AddText(const Place& place, std::string_view name, const std::string& value);
 
-  /// Removes a field that is there.
+  /// Removes an existing field.
   CExample& Remove(const Place& place, std::string_view name);
 
   /// Removes all fields of a group and of the groups in it.
@@ -85,7 +85,7 @@ struct Expected {
   std::string message;
 };
 
-/// Matches just these findings, in any order.
+/// Matches exactly these findings, in any order.
 testing::Matcher<const std::vector<Finding>&> Are(const std::vector<Expected>& expected);
 
 std::ostream& operator<<(std::ostream& stream, const Finding& finding);

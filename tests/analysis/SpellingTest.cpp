@@ -53,12 +53,12 @@ TEST(Spelling, OfAShortNameMayHaveOneTypo) {
   EXPECT_EQ(Corrected("Mastr", "Master"), "Master");
 }
 
-TEST(Spelling, LetterCaseIsNoTypo) {
+TEST(Spelling, LetterCaseIsNotATypo) {
   EXPECT_EQ(Typos("rp_value", "RP_Value"), 0U);
   EXPECT_EQ(Corrected("type_c_sources_vconn", "Type_C_Sources_VCONN"), "Type_C_Sources_VCONN");
 }
 
-TEST(Spelling, AnUnderscoreIsNoTypo) {
+TEST(Spelling, AnUnderscoreIsNotATypo) {
   EXPECT_EQ(Corrected("SrcPDO_Voltage12", "Src_PDO_Voltage#"), "Src_PDO_Voltage12");
   EXPECT_EQ(Corrected("Src_PDO_Voltage_12", "Src_PDO_Voltage#"), "Src_PDO_Voltage12");
   EXPECT_EQ(Corrected("svid_2_mode_3_enter", "SVID#_Mode#_Enter"), "SVID2_Mode3_Enter");

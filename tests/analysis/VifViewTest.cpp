@@ -142,7 +142,7 @@ TEST(VifViewTest, KnowsTheQuantitiesOfABatteryAndOfAnAdjustableSupply) {
   EXPECT_EQ(&adjustable.PowerField(), &fields[6]);
 }
 
-TEST(VifViewTest, HasNoQuantitiesForUnknownSuppliesAndForNumbersThatNobodyMeans) {
+TEST(VifViewTest, HasNoQuantitiesForUnknownSuppliesAndForAbsurdNumbers) {
   const FoundFields fields = List({
       Numeric("Src_PDO_Supply_Type", "4", SrcPdo(1, 1)),
       Numeric("Src_PDO_Voltage", "100", SrcPdo(1, 1)),

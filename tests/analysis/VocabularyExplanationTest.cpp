@@ -1,4 +1,4 @@
-// Everything that there is to say about a field.
+// Everything known about a field.
 #include <analysis/FieldExplanation.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

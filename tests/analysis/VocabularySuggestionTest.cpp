@@ -17,7 +17,7 @@ using namespace vifanalysis;
 
 namespace {
 
-/// The distance and its correction by trying everything out, for short texts.
+/// The distance and the correction by brute force, for short texts.
 size_t ReferenceDistance(std::string_view name, std::string_view spelling) {
   if (spelling.empty()) return name.size();
   if (spelling.front() == '#') {

@@ -187,7 +187,7 @@ TEST(VocabularyTables, MarkValuesThatAreOnlyInferredAsWeak) {
 
 TEST(VocabularyTables, CountNoValueInMoreFilesThanItsField) {
   for (const FieldInfo& field : Fields()) {
-    // Other names of a field, which its values are counted with.
+    // Other names of a field, whose values are counted with its own.
     std::uint32_t files = field.files;
     for (const FieldSpelling& row : field.spellings) files += row.files;
     for (const FieldValue& value : field.values) EXPECT_LE(value.files, files) << field.name << " " << value.value;

@@ -1,4 +1,4 @@
-// Which findings `vif check` reports, and what they make of its exit status.
+// Which findings `vif check` reports, and how they decide its exit status.
 #include "support/TempDir.h"
 #include "support/VifCommand.h"
 

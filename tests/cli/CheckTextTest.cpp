@@ -249,7 +249,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 class CheckRange : public testing::TestWithParam<CountCase> {};
 
-TEST_P(CheckRange, ThatTheGroupsAreOutsideOfIsAWarning) {
+TEST_P(CheckRange, OutsideOfWhichTheGroupsAreIsAWarning) {
   const json findings = Check(GetParam().text);
   EXPECT_THAT(FindingTexts(findings), ElementsAre("1 warning count-out-of-range"));
   EXPECT_EQ(findings[0]["message"], GetParam().message);

@@ -24,8 +24,8 @@ inline std::string FindingText(const nlohmann::json& finding) {
   return line + ' ' + finding["severity"].get<std::string>() + ' ' + finding["code"].get<std::string>();
 }
 
-/// The codes of findings about the form of a file. Files that are written to bring one of these about declare next to
-/// nothing, and the rules about what a file declares have a lot to say about them.
+/// The codes of findings about the form of a file. Files written to bring one of these about declare next to
+/// nothing, about which the other rules have a lot to say.
 inline constexpr const char* kFormCodes =
     "wrong-extension,not-a-declaration,read-failed,not-valid,nothing-read,foreign-element,misplaced,declared-twice,"
     "no-number,no-value,count-mismatch,count-out-of-range,no-index,numbering-gap,no-field,text-in-group,byte-order-"

@@ -1,4 +1,4 @@
-// `vif check --format sarif`: what of SARIF 2.1.0 is used, is used as its schema says.
+// `vif check --format sarif`: it uses SARIF 2.1.0 as its schema says.
 #include "support/TempDir.h"
 #include "support/VifCommand.h"
 

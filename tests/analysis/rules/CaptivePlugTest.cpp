@@ -25,7 +25,7 @@ TEST(CaptivePlugTest, FindsAPlugWithoutACaptiveCable) {
                     "of its own is a receptacle"}}));
 }
 
-TEST(CaptivePlugTest, PassesOverFieldsThatAreMissingAndOtherTypes) {
+TEST(CaptivePlugTest, SkipsFieldsThatAreMissingAndOtherTypes) {
   CExample withoutCable("gan-charger-65w.txt");
   withoutCable.Set(Component(1), "ID_Header_Connector_Type_SOP", "3").Remove(Component(1), "Captive_Cable");
   EXPECT_THAT(withoutCable.FindingsOf("captive-plug"), Are({}));

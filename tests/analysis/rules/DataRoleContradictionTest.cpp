@@ -15,7 +15,7 @@ void ExpectContradiction(std::string_view example, std::uint64_t component, cons
   EXPECT_THAT(changed.FindingsOf(kCode), Are({{kCode, name, message}}));
 }
 
-TEST(DataRoleContradictionTest, FindsAnAnnouncedHostThatIsNone) {
+TEST(DataRoleContradictionTest, FindsAnAnnouncedHostThatIsNotOne) {
   ExpectContradiction("gan-charger-65w.txt", 1, "Data_Capable_As_USB_Host_SOP", "YES",
                       "Component 1: Data_Capable_As_USB_Host_SOP is YES, but Type_C_Can_Act_As_Host is NO");
 }
@@ -25,7 +25,7 @@ TEST(DataRoleContradictionTest, FindsAHostThatIsNotAnnounced) {
                       "Component 2: Data_Capable_As_USB_Host_SOP is NO, but Type_C_Can_Act_As_Host is YES");
 }
 
-TEST(DataRoleContradictionTest, FindsAnAnnouncedDeviceThatIsNone) {
+TEST(DataRoleContradictionTest, FindsAnAnnouncedDeviceThatIsNotOne) {
   ExpectContradiction("gan-charger-65w.txt", 1, "Data_Capable_As_USB_Device_SOP", "YES",
                       "Component 1: Data_Capable_As_USB_Device_SOP is YES, but Type_C_Can_Act_As_Device is NO");
 }
@@ -42,7 +42,7 @@ TEST(DataRoleContradictionTest, FindsDataWithoutTheRole) {
                       "Component 1: Device_Supports_USB_Data is YES, but Type_C_Can_Act_As_Device is NO");
 }
 
-TEST(DataRoleContradictionTest, FindsADfpOfAHubThatIsOnNone) {
+TEST(DataRoleContradictionTest, FindsADfpOfAHubThatIsNotOnOne) {
   ExpectContradiction("dual-role-tablet.txt", 1, "Is_DFP_On_Hub", "YES",
                       "Component 1: Is_DFP_On_Hub is YES, but Type_C_Port_On_Hub is NO");
 }

@@ -5,7 +5,7 @@
 namespace vifanalysis {
 namespace {
 
-TEST(EnterUsbWithoutUsb4Test, FindsThem) {
+TEST(EnterUsbWithoutUsb4Test, FindsIt) {
   CExample tablet("dual-role-tablet.txt");
   tablet.Set(Component(1), "Enter_USB_Supported", "YES");
   EXPECT_THAT(tablet.FindingsOf("enter-usb-without-usb4"),
@@ -14,7 +14,7 @@ TEST(EnterUsbWithoutUsb4Test, FindsThem) {
                     "message is optional"}}));
 }
 
-TEST(EnterUsbWithoutUsb4Test, PassesOverPortsThatDoNotSayWhetherTheySupportUsb4) {
+TEST(EnterUsbWithoutUsb4Test, SkipsPortsThatDoNotSayWhetherTheySupportUsb4) {
   CExample tablet("dual-role-tablet.txt");
   tablet.Set(Component(1), "Enter_USB_Supported", "YES").Remove(Component(1), "USB4_Supported");
   EXPECT_THAT(tablet.FindingsOf("enter-usb-without-usb4"), Are({}));

@@ -65,7 +65,7 @@ TEST(IgnoredFieldsTest, FindsSpeeds) {
                     "Device_Max_USB2_Speed"}}));
 }
 
-TEST(IgnoredFieldsTest, FindsTheEMarkerOfNoCable) {
+TEST(IgnoredFieldsTest, FindsAnEMarkerWithoutACable) {
   CExample tablet("dual-role-tablet.txt");
   tablet.Add(Component(1), "Captive_Cable_Is_eMarked", "NO");
   EXPECT_THAT(tablet.FindingsOf("ignored-fields"),
@@ -95,7 +95,7 @@ TEST(IgnoredFieldsTest, LeavesSvidsThatContradictTheFieldToAnotherRule) {
   EXPECT_THAT(svids.FindingsOf("ignored-fields"), Are({}));
 }
 
-TEST(IgnoredFieldsTest, FindsTheTypeOfNoChargingPort) {
+TEST(IgnoredFieldsTest, FindsATypeWithoutAChargingPort) {
   CExample tablet("dual-role-tablet.txt");
   tablet.Add(Component(1), "BC_1_2_Charging_Port_Type", "0");
   EXPECT_THAT(tablet.FindingsOf("ignored-fields"),
@@ -123,7 +123,7 @@ TEST(IgnoredFieldsTest, FindsAnIdentityThatNobodyIsTold) {
   EXPECT_THAT(charger.FindingsOf("ignored-fields"), Are({}));
 }
 
-TEST(IgnoredFieldsTest, PassesOverGovernedFieldsWhoseGovernorIsMissing) {
+TEST(IgnoredFieldsTest, SkipsGovernedFieldsWhoseGovernorIsMissing) {
   CExample tablet("dual-role-tablet.txt");
   for (const char* name : {"USB4_Supported", "Manufacturer_Info_Supported_Port", "PD_OC_Protection", "Captive_Cable",
                            "Host_Supports_USB_Data", "Device_Supports_USB_Data", "Modal_Operation_Supported_SOP"}) {

@@ -5,7 +5,7 @@
 namespace vifanalysis {
 namespace {
 
-/// The laptop, with its left port made like the right one, and of the sink PDOs only those that are alike.
+/// The laptop with its left port made like the right one, and with only those sink PDOs that are alike.
 CExample AlikePorts() {
   CExample laptop("two-port-laptop.xml");
   laptop.Set(Component(1), "FR_Swap_Supported_As_Initial_Sink", "false")
@@ -76,7 +76,7 @@ TEST(PortsDifferTest, FindsUpToSixDifferences) {
   EXPECT_THAT(laptop.FindingsOf("ports-differ"), Are({}));
 }
 
-TEST(PortsDifferTest, PassesOverWhatIsAPortsOwn) {
+TEST(PortsDifferTest, SkipsWhatIsAPortsOwn) {
   CExample laptop = AlikePorts();
   laptop.Set(Component(2), "PID_SOP", "5123")
       .Set(Component(2), "Manufacturer_Info_PID_Port", "5123")
@@ -87,7 +87,7 @@ TEST(PortsDifferTest, PassesOverWhatIsAPortsOwn) {
   EXPECT_THAT(laptop.FindingsOf("ports-differ"), Are({}));
 }
 
-TEST(PortsDifferTest, PassesOverPortsOfOtherKinds) {
+TEST(PortsDifferTest, SkipsPortsOfOtherKinds) {
   for (const char* name : {"PD_Port_Type", "Type_C_State_Machine", "Connector_Type", "USB4_Supported"}) {
     CExample laptop = AlikePorts();
     laptop.Set(Component(2), name, "1").Set(Component(2), "RP_Value", "1");

@@ -52,13 +52,13 @@ TEST(PortsDisagreeTest, FindsALabelThatTwoPortsHave) {
                     "Component 3: Port_Label is '1', as that of Component 2; each port needs a label of its own"}}));
 }
 
-TEST(PortsDisagreeTest, PassesOverPortsThatDoNotSayIt) {
+TEST(PortsDisagreeTest, SkipsPortsThatDoNotSayIt) {
   CExample laptop("two-port-laptop.xml");
   laptop.Remove(Component(2), "XID_SOP").Remove(Component(2), "Port_Label").Remove(Component(1), "Num_Fixed_Batteries");
   EXPECT_THAT(laptop.FindingsOf("ports-disagree"), Are({}));
 }
 
-TEST(PortsDisagreeTest, PassesOverPortsWithoutPd) {
+TEST(PortsDisagreeTest, SkipsPortsWithoutPd) {
   CExample withoutPd("two-port-laptop.xml");
   withoutPd.Set(Component(2), "XID_SOP", "9").Set(Component(2), "USB_PD_Support", "false");
   EXPECT_THAT(withoutPd.FindingsOf("ports-disagree"), Are({}));

@@ -101,7 +101,7 @@ TEST(PowerRulesTest, AsksNothingWhileAVoltageIsMissing) {
   EXPECT_THAT(charger.Findings(), testing::Not(testing::Contains(testing::Field(&Finding::code, "power-rules"))));
 }
 
-TEST(PowerRulesTest, KeepsSilentAboutAnAbsurdRating) {
+TEST(PowerRulesTest, IsSilentAboutAnAbsurdRating) {
   CExample charger("gan-charger-65w.txt");
   charger.Set(Component(1), "PD_Power_As_Source", "18446744073709551615");
   EXPECT_THAT(charger.Findings(), testing::Not(testing::Contains(testing::Field(&Finding::code, "power-rules"))));

@@ -27,7 +27,7 @@ TEST(SwapAgainstRoleTest, FindsASwapOfAConsumer) {
                     "YES"}}));
 }
 
-TEST(SwapAgainstRoleTest, FindsAPreferenceOfAPortThatIsNoDrp) {
+TEST(SwapAgainstRoleTest, FindsAPreferenceOfAPortThatIsNotADrp) {
   CExample charger("gan-charger-65w.txt");
   charger.Add(Component(1), "Type_C_Implements_Try_SRC", "YES");
   EXPECT_THAT(charger.FindingsOf(kCode),

@@ -29,7 +29,7 @@ TEST(Usb4RouterTest, AllowsTheIdOfAnyRouter) {
   EXPECT_THAT(dock.FindingsOf("usb4-router"), Are({}));
 }
 
-TEST(Usb4RouterTest, PassesOverPortsWithoutAnIndexOrWithoutUsb4) {
+TEST(Usb4RouterTest, SkipsPortsWithoutAnIndexOrWithoutUsb4) {
   CExample dock("usb4-dock.xml");
   dock.Remove(Component(1), "USB4_Router_Index").Add(Component(3), "USB4_Router_Index", "7");
   EXPECT_THAT(dock.FindingsOf("usb4-router"), Are({}));
