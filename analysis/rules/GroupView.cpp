@@ -23,6 +23,11 @@ bool IsEarlier(const FoundField* a, const FoundField* b) {
 
 }  // namespace
 
+bool IsUnanswered(const FoundField& found) {
+  constexpr std::string_view unanswered = "<select>";
+  return found.field.Value() == unanswered || found.field.Description() == unanswered;
+}
+
 std::string_view TextOf(const FoundField& found) {
   const std::string_view value = found.field.Value();
   return value.empty() ? found.field.Description() : value;
@@ -59,7 +64,7 @@ const FoundField* CGroupView::Find(std::string_view name) const {
 
 std::optional<std::uint64_t> CGroupView::Number(std::string_view name) const {
   const FoundField* found = Find(name);
-  if (found == nullptr || !HasNumber(found->field)) return std::nullopt;
+  if (found == nullptr || !HasNumber(found->field) || IsUnanswered(*found)) return std::nullopt;
   return found->field.GetULongNumericValue();
 }
 
@@ -69,8 +74,8 @@ std::string_view CGroupView::Text(std::string_view name) const {
 }
 
 std::span<const CGroupView> CGroupView::Groups(EVifLocation kind) const {
-  const auto first =
-      std::find_if(m_groups.begin(), m_groups.end(), [&](const CGroupView& group) { return group.Kind() == kind; });
+  const auto first = std::partition_point(m_groups.begin(), m_groups.end(),
+                                          [&](const CGroupView& group) { return group.Kind() < kind; });
   const auto last = std::find_if(first, m_groups.end(), [&](const CGroupView& group) {
     return group.Kind() != kind || group.Index() == CVIFField::INDEX_NOT_SPECIFIED;
   });

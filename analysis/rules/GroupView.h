@@ -13,6 +13,10 @@
 
 namespace vifanalysis {
 
+/// Whether a field is still the editor's choice that nobody has made. It may have a number all the same, which stands
+/// for no answer.
+bool IsUnanswered(const FoundField& found);
+
 /// What a field says in words: its value, or, where an XML element has no value, its description.
 std::string_view TextOf(const FoundField& found);
 
@@ -38,7 +42,7 @@ class CGroupView {
 
   bool Has(std::string_view name) const { return Find(name) != nullptr; }
 
-  /// The field's number; nothing when there is no field or no number.
+  /// The field's number; nothing when there is no field or no number, or the field is unanswered.
   std::optional<std::uint64_t> Number(std::string_view name) const;
 
   /// The text of a field that is not numeric, as `TextOf` has it; empty when there is no field.

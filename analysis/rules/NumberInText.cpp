@@ -102,8 +102,12 @@ std::optional<std::uint64_t> CountIn(std::string_view text, std::string_view fie
 
 std::optional<std::uint64_t> HexadecimalIn(std::string_view text) {
   SkipBlanks(text);
-  if (text.starts_with("0x") || text.starts_with("0X")) text.remove_prefix(2);
+  constexpr std::size_t digitsOfAnId = 4;
+  const bool isMarked = text.starts_with("0x") || text.starts_with("0X");
+  if (isMarked) text.remove_prefix(2);
   const std::string_view digits = Take(text, "0123456789ABCDEFabcdef");
+  const bool hasDigit = digits.find_first_of("0123456789") != std::string_view::npos;
+  if (!isMarked && !hasDigit && digits.size() < digitsOfAnId) return std::nullopt;  // "ADD" is a word
   return IsEnd(text) ? ToNumber(digits, 16) : std::nullopt;
 }
 

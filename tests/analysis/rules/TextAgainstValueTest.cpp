@@ -104,6 +104,7 @@ TEST(TextAgainstValueTest, IsSilentAboutTextsOfAnotherKind) {
   ExpectMatch(Component(1), "PD_Port_Type", "4", "a port with both roles");
   ExpectMatch(Component(1), "Captive_Cable", "1", "");
   ExpectMatch(Component(1), "USB_VID_SOP", "59725", "Decade Ltd.");
+  ExpectMatch(Component(1), "USB_VID_SOP", "59725", "ADD");  // a name, although all its letters are digits
   ExpectMatch(Component(1), "USB_VID_SOP", "59725", "FFFFFFFFFFFFFFFFF");
   ExpectMatch(Component(1), "Num_Snk_PDOs", "4", "3x");
   ExpectMatch(Component(1), "Num_Fixed_Batteries", "1", "2 cells in series");

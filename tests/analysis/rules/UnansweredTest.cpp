@@ -19,5 +19,18 @@ TEST(UnansweredTest, FindsAValueThatIsStillTheEditors) {
               Are({{"unanswered", "$Product_Revision", "'$Product_Revision' is still the editor's \"<select>\""}}));
 }
 
+// Such a field has the number 4, which other rules would take for an answer.
+TEST(UnansweredTest, IsTheOnlyFindingAboutTheField) {
+  for (const char* name : {"PD_Port_Type", "Type_C_State_Machine", "PD_Power_As_Source"}) {
+    CExample laptop("two-port-laptop.xml");
+    laptop.Set(Component(2), name, "4", "<select>");
+    for (const Finding& finding : laptop.Findings()) {
+      if (finding.severity != Severity::Note) {
+        EXPECT_EQ(finding.code, "unanswered") << name << ": " << finding.message;
+      }
+    }
+  }
+}
+
 }  // namespace
 }  // namespace vifanalysis
