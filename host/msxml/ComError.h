@@ -3,6 +3,9 @@
 
 #include "msxml/Com.h"
 
+// Where there is COM, Com.h brings its own.
+#ifndef _WIN32
+
 /// Carries the call's result and the interface that it was made on. It has COM's name, so that the same code catches it
 /// on every system. As in COM, it is not a `std::exception`.
 class ZO_API _com_error {  // NOLINT(bugprone-reserved-identifier)
@@ -33,3 +36,5 @@ class ZO_API _com_error {  // NOLINT(bugprone-reserved-identifier)
 /// \param object the object that failed; may be null
 [[noreturn]] ZO_API void _com_issue_errorex(zocom::Result result,  // NOLINT(bugprone-reserved-identifier)
                                             zocom::Unknown* object, const zocom::Guid& iid);
+
+#endif
