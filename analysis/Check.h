@@ -20,12 +20,17 @@ class VIF_ANALYSIS_API CCheckError : public std::runtime_error {
   ~CCheckError() override;
 };
 
+// Without the braces, compilers warn about callers who name only some of the members.
+// NOLINTBEGIN(readability-redundant-member-init)
+
 /// Which findings to report.
 struct CheckOptions {
   bool notes = false;                 ///< whether to report notes, too
   std::vector<std::string> only{};    ///< codes in any letter case; unless empty, only findings with these are reported
   std::vector<std::string> except{};  ///< codes in any letter case; findings with these are not reported
 };
+
+// NOLINTEND(readability-redundant-member-init)
 
 /// All findings of one file, in the order of the file; those without a place come last. A file that is not a valid VIF
 /// has findings too. Codes in the options that no rule has are ignored; `FindRule` tells whether a rule has one. May be

@@ -77,6 +77,7 @@ void RunExplain(const ExplainSettings& settings) {
   const bool asJson = settings.format == "json";
   if (settings.names.empty()) return asJson ? WriteFieldListAsJson() : WriteFieldListAsText();
   std::vector<Explanation> explanations;
+  explanations.reserve(settings.names.size());
   for (const std::string& name : settings.names) explanations.push_back(Explain(name, asJson));
   for (const Explanation& explanation : explanations) {
     if (!asJson && &explanation != &explanations.front()) Write("\n");

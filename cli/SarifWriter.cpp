@@ -58,7 +58,7 @@ std::string PercentEncoded(std::string_view text) {
 
 /// A file's name as a URI: relative as long as the name is, because a viewer looks for it in its own copy of the files.
 std::string Uri(const std::string& fileName) {
-  std::string name = fileName;
+  std::string name = fileName;  // NOLINT(performance-unnecessary-copy-initialization): changed on Windows
 #ifdef _WIN32
   std::replace(name.begin(), name.end(), '\\', '/');
 #endif

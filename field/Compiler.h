@@ -39,7 +39,7 @@ template <typename Iterator, typename Char>
 bool StepwiseRegexMatch(Iterator first, Iterator last, std::match_results<Iterator>& match,
                         const std::basic_regex<Char>& expression) {
   // libstdc++ chooses its engine when it matches, not when it compiles, and lets its own tests request either.
-  using std::__detail::_RegexExecutorPolicy;
+  using std::__detail::_RegexExecutorPolicy;  // NOLINT(bugprone-reserved-identifier): libstdc++'s own
   constexpr auto flags = std::regex_constants::match_default;
 #if _GLIBCXX_RELEASE >= 12
   return std::__detail::__regex_algo_impl(first, last, match, expression, flags, _RegexExecutorPolicy::_S_alternate,

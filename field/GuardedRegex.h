@@ -64,7 +64,7 @@ class CGuardedIterator {
   CGuardedIterator() = default;
   CGuardedIterator(const Char* position, MatchBudget& budget) : m_position(position), m_budget(&budget) {}
   CGuardedIterator(const CGuardedIterator& other) = default;
-  CGuardedIterator& operator=(const CGuardedIterator& other) {
+  CGuardedIterator& operator=(const CGuardedIterator& other) {  // NOLINT(bugprone-unhandled-self-assignment): harmless
     if (other.m_budget != nullptr) other.m_budget->CheckStack();
     m_position = other.m_position;
     m_budget = other.m_budget;

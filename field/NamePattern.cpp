@@ -72,6 +72,7 @@ CNamePattern::CNamePattern(const char* pattern)
 
 bool CNamePattern::MatchesExpression(const char* name) {
   GuardedMatch<char> match;
+  // NOLINTNEXTLINE(bugprone-unchecked-optional-access): only called where there is an expression
   return m_matcher.Match(std::string_view(name), match, *m_expression);
 }
 

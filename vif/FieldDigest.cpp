@@ -96,7 +96,7 @@ void CFieldDigests::Cover(const std::vector<CVIFField>& fields) noexcept {
     // At least doubles, or appending many short lists would copy the digests each time.
     if (fields.size() > m_digests.capacity()) m_digests.reserve(std::max(fields.size(), 2 * m_digests.capacity()));
     for (std::size_t i = m_digests.size(); i < fields.size(); ++i) m_digests.push_back(DigestOf(fields[i]));
-  } catch (const std::bad_alloc&) {
+  } catch (const std::bad_alloc&) {  // NOLINT(bugprone-empty-catch)
     // Where there are no digests, queries read the fields themselves.
   }
 }

@@ -46,7 +46,7 @@ void ReserveForText(const std::filesystem::path& fileName, std::vector<CVIFField
   if (error) return;
   try {
     fields.reserve(static_cast<std::size_t>(std::min(size / bytesPerField, mostFields)));
-  } catch (const std::bad_alloc&) {
+  } catch (const std::bad_alloc&) {  // NOLINT(bugprone-empty-catch)
     // There may still be enough memory for the fields that the file really has.
   }
 }

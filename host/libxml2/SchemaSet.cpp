@@ -120,7 +120,8 @@ struct Validation {
   const CXmlTree& tree;
   const std::vector<SchemaSource>& sources;
   xmlfile::CProblems& problems;
-  std::optional<CElementPlaces> places = {};  // created for the first error
+  // Created for the first error. Without the braces, g++ warns where the rest is initialised.
+  std::optional<CElementPlaces> places = {};  // NOLINT(readability-redundant-member-init)
 };
 
 /// libxml2 writes names with their namespace in braces; for the schemas' own namespaces, the local name is enough.
