@@ -76,7 +76,7 @@ void CheckEpr(const CComponentView& component, PdoSide side, CReporter& reporter
     if (!NeedsEpr(pdo)) continue;
     const bool isFixed = pdo.GetSupply() == Supply::Fixed;
     Blame(pdo, isFixed ? "Voltage" : "Max_Voltage",
-          Volts(*pdo.HighestVoltage())
+          Volts(pdo.HighestVoltage().value_or(0))
               .append(isFixed ? ", but a fixed PDO of more than 20 V" : ", but a PDO of more than 21 V")
               .append(" needs EPR, and ")
               .append(EprName(side))

@@ -3,6 +3,7 @@
 #include "rules/PdoFacts.h"
 #include "rules/RuleFunctions.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -48,17 +49,17 @@ std::string OfferOf(const CPdoView& pdo) {
 bool BeginsExtendedRange(const CPdoView& pdo) { return pdo.Quantities().voltage.value_or(0) > kHighestWithoutEpr; }
 
 void CompareTypes(const CComponentView& component, const CPdoView& before, const CPdoView& pdo, CReporter& reporter) {
-  const std::uint64_t type = *pdo.OwnNumber("Supply_Type");
-  const std::uint64_t typeBefore = *before.OwnNumber("Supply_Type");
-  if (type > typeBefore || typeBefore > kLastSupplyType || BeginsExtendedRange(pdo)) return;
+  const std::optional<std::uint64_t> type = pdo.OwnNumber("Supply_Type");
+  const std::optional<std::uint64_t> typeBefore = before.OwnNumber("Supply_Type");
+  if (!type || !typeBefore || *type > *typeBefore || *typeBefore > kLastSupplyType || BeginsExtendedRange(pdo)) return;
   const std::string name = pdo.FullName("Supply_Type");
   reporter.Add(*pdo.FindOwn("Supply_Type"),
                std::string("PDOs come in the order fixed, battery, variable, augmented, but ")
                    .append(name)
                    .append(" ")
-                   .append(NumberAndText(component, name, type))
+                   .append(NumberAndText(component, name, *type))
                    .append(" follows ")
-                   .append(NumberAndText(component, name, typeBefore)));
+                   .append(NumberAndText(component, name, *typeBefore)));
 }
 
 void CompareVoltages(const CPdoView& before, const CPdoView& pdo, CReporter& reporter) {
