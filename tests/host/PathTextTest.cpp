@@ -3,6 +3,7 @@
 
 #include "BaseUtilities/StringConvert.h"
 #include "BaseUtilities/SystemText.h"
+#include "support/Random.h"
 
 #include <gtest/gtest.h>
 
@@ -63,10 +64,10 @@ TEST(PathText, NameThatIsNotUtf8IsReadWithReplacementCharacters) {
 
 TEST(PathText, LosslessWideTextKeepsEveryByte) {
   EXPECT_EQ(PathToLosslessWide("a\xFF\xC3\xB6.txt"), L"a\xDCFF\u00F6.txt");
-  std::mt19937 generator(1);
+  std::mt19937_64 generator = testsupport::SeededGenerator();
   for (int i = 0; i < 1000; ++i) {
-    std::string name(1 + generator() % 12, '\0');
-    for (char& c : name) c = static_cast<char>(1 + generator() % 255);
+    std::string name(1 + testsupport::RandomBelow(generator, 12), '\0');
+    for (char& c : name) c = static_cast<char>(1 + testsupport::RandomBelow(generator, 255));
     EXPECT_EQ(PathFromLosslessWide(PathToLosslessWide(name)).native(), name);
   }
 }
