@@ -155,7 +155,7 @@ TEST(Sarif, HasTheColumnsOfXmlFiles) {
 
 TEST(Sarif, NamesFilesByUris) {
   const TempDir dir;
-  dir.Write("a b%\u00E4#.txt", "PID: 1\nPID: 2\n");
+  dir.Write(u8"a b%\u00E4#.txt", "PID: 1\nPID: 2\n");
   const auto uri = [&](const std::string& name) {
     return Sarif(dir, {name})["runs"][0]["results"][0]["locations"][0]["physicalLocation"]["artifactLocation"]["uri"]
         .get<std::string>();
