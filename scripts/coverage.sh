@@ -12,7 +12,7 @@ cd "$(dirname "$0")/.."
 
 least_lines=98
 least_branches=95
-folders=(field host include readers testsuite vif)
+folders=(analysis field host include readers testsuite vif)
 
 tests=yes
 list=()
