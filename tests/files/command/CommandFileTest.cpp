@@ -146,6 +146,16 @@ TEST_F(CommandFileTest, CheckSaysWhereReadingFailed) {
   }
 }
 
+TEST_F(CommandFileTest, CheckMissesNothingAfterTheLineWhereReadingFailed) {
+  const std::string text = "$VIF_Specification: \"3.22\"\nPD_Port_Type: 3\nNum_Src_PDOs: 1\nSrc_PDO_Voltage2: 180\n";
+  const fs::path file = Write("x.txt", text + "PID_SOP: 1\n");
+  EXPECT_EQ(Lines(Run({"check"}, file, {}).output).size(), 6U);
+  EXPECT_THAT(Lines(Run({"check"}, file, FailsAfter(text.size())).output),
+              testing::ElementsAre(
+                  file.native() + ":5: error: reading the file failed; the rest of it is not checked [read-failed]",
+                  "1 error"));
+}
+
 TEST_F(CommandFileTest, XmlThatCannotBeReadToItsEnd) {
   const fs::path file = WriteXml();
   const std::string reason = "The file cannot be read: " + ErrorText(EIO) + ".";
