@@ -18,15 +18,17 @@ struct Announcement {
   std::string_view field;
   std::uint64_t value;
   std::array<std::string_view, 2> details;  // the second may be empty
+  Edition
+      since{};  // the first edition to have them, where that is known better than from the files that have been seen
 };
 
 constexpr Announcement kAnnouncements[] = {
     {"Manufacturer_Info_Supported_Port", 1, {"Manufacturer_Info_VID_Port", "Manufacturer_Info_PID_Port"}},
     {"BC_1_2_Support", 2, {"BC_1_2_Charging_Port_Type"}},
     {"BC_1_2_Support", 3, {"BC_1_2_Charging_Port_Type"}},
-    {"Type_C_Can_Act_As_Host", 1, {"Host_Supports_USB_Data"}},
+    {"Type_C_Can_Act_As_Host", 1, {"Host_Supports_USB_Data"}, {3, 0}},
     {"Host_Supports_USB_Data", 1, {"Host_Speed"}},
-    {"Type_C_Can_Act_As_Device", 1, {"Device_Supports_USB_Data"}},
+    {"Type_C_Can_Act_As_Device", 1, {"Device_Supports_USB_Data"}, {3, 0}},
     {"Device_Supports_USB_Data", 1, {"Device_Speed"}},
     {"PD_OC_Protection", 1, {"PD_OCP_Method"}},
 };
@@ -41,11 +43,16 @@ constexpr std::string_view kIdentity[] = {
     "Modal_Operation_Supported_SOP",
 };
 
+bool IsMissing(const CComponentView& component, std::string_view detail, const Edition& since) {
+  if (!IsKnown(since)) return vifanalysis::IsMissing(component, detail);
+  return !detail.empty() && !component.Has(detail) && component.File().GetEdition() >= since;
+}
+
 void CheckAnnouncement(const CComponentView& component, const Announcement& announcement, CReporter& reporter) {
   if (component.Number(announcement.field) != announcement.value) return;
   Names missing;
   for (const std::string_view detail : announcement.details) {
-    if (IsMissing(component, detail)) missing.push_back(detail);
+    if (IsMissing(component, detail, announcement.since)) missing.push_back(detail);
   }
   if (missing.empty()) return;
   reporter.Add(*component.Find(announcement.field),

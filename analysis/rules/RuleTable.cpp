@@ -59,9 +59,8 @@ constexpr Rule kRules[] = {
     {{"pdo-above-rating", Severity::Error, kEvery, Confidence::High, "S1, S8, S13",
       "a PDO of more power than the port's rating",
       "PD_Power_As_Source and PD_Power_As_Sink are the power of the greatest PDO of their side, so none can be of "
-      "more. "
-      "Correct the rating, or the voltage, current or power of the PDO. An augmented PDO may exceed the rating: its "
-      "limits of voltage and current do not hold at once."},
+      "more. Correct the rating, or the voltage, current or power of the PDO. An augmented PDO may exceed the rating: "
+      "its limits of voltage and current do not hold at once."},
      CheckPdoAboveRating},
     {{"rating-above-pdos", Severity::Warning, kEvery, Confidence::Medium, "S1, S8, S13",
       "a rating above the power of every PDO of that side",

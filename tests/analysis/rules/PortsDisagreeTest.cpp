@@ -69,6 +69,12 @@ TEST(PortsDisagreeTest, SkipsPortsThatDoNotSayIt) {
   EXPECT_THAT(laptop.FindingsOf("ports-disagree"), Are({}));
 }
 
+TEST(PortsDisagreeTest, SaysNothingOfLabelsThatNobodyHasChosen) {
+  CExample laptop("two-port-laptop.xml");
+  for (const std::uint64_t port : {1U, 2U}) laptop.Set(Component(port), "Port_Label", "<select>");
+  EXPECT_THAT(laptop.FindingsOf("ports-disagree"), Are({}));
+}
+
 TEST(PortsDisagreeTest, SkipsPortsWithoutPd) {
   CExample withoutPd("two-port-laptop.xml");
   withoutPd.Set(Component(2), "XID_SOP", "9").Set(Component(2), "USB_PD_Support", "false");
