@@ -6,8 +6,19 @@
 #include <analysis/Vocabulary.h>
 
 #include <optional>
+#include <vector>
 
 namespace vifanalysis {
+
+namespace {
+
+/// A name from a file, printable, and shortened if it is long.
+std::string Readable(std::string_view name) {
+  const std::string quoted = Quoted(name);
+  return quoted.substr(1, quoted.size() - 2);
+}
+
+}  // namespace
 
 std::string NumberInWords(const CVifView& file, std::string_view name, std::uint64_t number) {
   const FieldInfo* info = FindField(name).field;
@@ -62,13 +73,12 @@ void CMentions::Add(const FoundField& found, std::string_view name) {
 std::string CMentions::InWords() const {
   constexpr std::size_t most = 6;
   const std::size_t shown = Size() > most ? most - 1 : Size();
-  std::vector<std::string_view> words;
+  std::vector<std::string> words;
   for (const auto& [found, name] : m_mentions) {
-    if (words.size() < shown) words.emplace_back(name);
+    if (words.size() < shown) words.push_back(Readable(name));
   }
-  const std::string others = std::to_string(Size() - shown) + " more";
-  if (shown < Size()) words.emplace_back(others);
-  return Listed(words);
+  if (shown < Size()) words.push_back(std::to_string(Size() - shown) + " more");
+  return Listed(std::vector<std::string_view>(words.begin(), words.end()));
 }
 
 }  // namespace vifanalysis
