@@ -3,8 +3,10 @@
 #include "files/Sentence.h"
 
 #include <analysis/FieldText.h>
+#include <analysis/Text.h>
 #include <analysis/Vocabulary.h>
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -12,10 +14,18 @@ namespace vifanalysis {
 
 namespace {
 
-/// A name from a file, printable, and shortened if it is long.
+bool IsLetterOrDigit(char c) { return IsDigit(c) || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
+
+/// A name as part of a sentence. One from a file can be anything, and is quoted unless it looks like those of the
+/// format.
 std::string Readable(std::string_view name) {
-  const std::string quoted = Quoted(name);
-  return quoted.substr(1, quoted.size() - 2);
+  constexpr std::size_t longest = 60;
+  constexpr std::string_view others = "_ ()'/";
+  const bool isPlain =
+      name.size() <= longest && (name.ends_with(')') || (!name.empty() && IsLetterOrDigit(name.back())));
+  const bool isHarmless = std::all_of(
+      name.begin(), name.end(), [&](char c) { return IsLetterOrDigit(c) || others.find(c) != std::string_view::npos; });
+  return isPlain && isHarmless ? std::string(name) : Quoted(name);
 }
 
 }  // namespace
