@@ -10,7 +10,7 @@
 namespace vifanalysis {
 
 /// One PDO as text. A text is empty where the PDO has no field for it, and "?" where the field cannot be converted
-/// because the supply type is not known or the value is not a number.
+/// because the supply type is not known, such a supply has no such number, or the value is not a number.
 struct PowerProfile {
   std::string supply;                    ///< "Fixed", "Battery", "Variable", "PPS", or "?"
   std::string voltage;                   ///< "5 V", or "3.3 to 11 V"

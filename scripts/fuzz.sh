@@ -21,11 +21,11 @@ else
   exit 2
 fi
 
-fuzzers=(text_reader xml_reader query name number format text_conversion command)
-# Limits on the length of inputs, because long ones mostly just take longer. The readers' leave room for the examples
-# with one component.
+fuzzers=(text_reader xml_reader query name number format text_conversion rules command)
+# Limits on the length of inputs, because long ones mostly just take longer. Those of the readers and the rules leave
+# room for the examples with one component.
 declare -A longest=([text_reader]=8192 [xml_reader]=12288 [query]=256 [name]=128 [number]=64 [format]=256
-  [text_conversion]=256 [command]=2048)
+  [text_conversion]=256 [rules]=12288 [command]=2048)
 cores=$(nproc)
 rounds=$(((${#fuzzers[@]} + cores - 1) / cores))
 share=$((seconds > rounds ? seconds / rounds : 1))
@@ -41,7 +41,7 @@ trap 'rm -rf "$TMPDIR"' EXIT
 run_fuzzer() {
   local fuzzer=$1 name=${1%_reader}
   local seeds=("$build/corpus/$name" "fuzz/corpus/$name")
-  [ "$name" = "$fuzzer" ] || seeds+=(examples/vif)
+  [[ "$fuzzer" != *_reader && "$fuzzer" != rules ]] || seeds+=(examples/vif)
   mkdir -p "${seeds[0]}"
   timeout --signal=INT $((share + 5)) "$build/fuzz/${fuzzer}_fuzzer" "${seeds[@]}" \
     -dict="fuzz/dictionaries/$name.dict" -max_len="${longest[$fuzzer]}" -max_total_time="$share" -runs="$runs" -seed="$seed" \

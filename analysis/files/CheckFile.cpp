@@ -16,11 +16,9 @@ namespace vifanalysis {
 namespace {
 
 void CheckTextFields(const FoundFields& fields, Findings& findings) {
-  FindBadNumbering(fields, findings);
   FindTextsForGroups(fields, findings);
   FindDuplicates(fields, findings);
   FindBadNumbers(fields, findings);
-  FindWrongCounts(fields, findings);
 }
 
 void CheckXmlFields(const FoundFields& fields, Findings& findings) {
@@ -29,7 +27,13 @@ void CheckXmlFields(const FoundFields& fields, Findings& findings) {
   FindDuplicates(fields, findings);
   FindBadNumbers(fields, findings);
   FindMissingValues(fields, findings);
+}
+
+/// The rules that compare fields. In half of a file, fields would seem to be missing, or not to agree with the rest.
+void CheckWhole(const FoundFields& fields, bool isText, Findings& findings) {
+  if (isText) FindBadNumbering(fields, findings);
   FindWrongCounts(fields, findings);
+  FindContradictions(fields, findings);
 }
 
 Findings CheckPath(const std::filesystem::path& path) {
@@ -40,14 +44,14 @@ Findings CheckPath(const std::filesystem::path& path) {
   const bool isText = HasExtension(path, ".txt");
   if (!isText && !HasExtension(path, ".xml")) throw CCheckError("a VIF is a text (*.txt) or XML (*.xml) file");
   if (!std::filesystem::is_regular_file(status)) throw CCheckError("only a regular file can be read");
-  auto [fields, findings] = isText ? ReadTextFile(path) : ReadXmlFile(path);
+  auto [fields, findings, isComplete] = isText ? ReadTextFile(path) : ReadXmlFile(path);
   if (fields.empty()) {
     const std::optional<std::string> advice = AdviceOnExtension(path);
     if (advice) return {FindingAt(code::kWrongExtension, 0, 0, {}, *advice)};
   }
   (isText ? CheckTextFields : CheckXmlFields)(fields, findings);
   FindNothing(fields, findings);
-  FindContradictions(fields, findings);
+  if (isComplete) CheckWhole(fields, isText, findings);
   return findings;
 }
 

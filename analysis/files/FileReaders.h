@@ -11,6 +11,7 @@ namespace vifanalysis {
 struct FileContent {
   FoundFields fields;
   Findings findings;
+  bool isComplete = true;  ///< whether these are all fields of the file; a finding says why they are not
 };
 
 /// Reads a text file.

@@ -45,7 +45,12 @@ Finding DescribeLine(const VifLineReport& report) {
 FileContent ReadTextFile(const std::filesystem::path& path) {
   FileContent content;
   CheckTextVif(
-      path, [&](const VifLineReport& report) { content.findings.push_back(DescribeLine(report)); }, nullptr,
+      path,
+      [&](const VifLineReport& report) {
+        content.findings.push_back(DescribeLine(report));
+        if (report.problem == eVifLineReadFailed) content.isComplete = false;
+      },
+      nullptr,
       [&](std::size_t line, const CVIFField& field) {
         content.fields.push_back({field, line, 0, field.Name()});
       });

@@ -66,7 +66,7 @@ class CFollower {
     try {
       CheckXmlVif(path, [this](const VifElementReport& report) { Take(report); });
     } catch (const CVIFInvalidFile& error) {
-      return {{}, DescribeProblems(error.Problems(), path)};
+      return {{}, DescribeProblems(error.Problems(), path), false};
     } catch (const CZoRunTimeException& error) {
       TakeFailure(error);
     } catch (const CZoDOMDocException& error) {
@@ -91,6 +91,7 @@ class CFollower {
     if (!m_failure) throw;
     m_failure->message = "loading fails at the group " + Quoted(m_failure->element) + ": " + Printable(error.what());
     m_content.findings.push_back(*m_failure);
+    m_content.isComplete = false;
   }
 
   FileContent m_content;

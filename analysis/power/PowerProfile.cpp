@@ -1,3 +1,4 @@
+#include "power/Supply.h"
 #include "power/Units.h"
 
 #include <analysis/FieldText.h>
@@ -5,7 +6,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <initializer_list>
 #include <optional>
 #include <string_view>
 
@@ -14,22 +14,6 @@ namespace vifanalysis {
 namespace {
 
 constexpr const char* kUnknown = "?";
-
-/// A kind of supply and the units that its PDO counts in.
-struct Supply {
-  const char* name;
-  std::uint64_t milliVolt;
-  std::uint64_t milliAmpere;
-  std::uint64_t milliWatt;
-};
-
-constexpr Supply kFixed = {"Fixed", 50, 10, 250};
-constexpr Supply kBattery = {"Battery", 50, 10, 250};
-constexpr Supply kVariable = {"Variable", 50, 10, 250};
-constexpr Supply kProgrammable = {"PPS", 100, 50, 250};
-
-/// Larger numbers are mistakes, and products of them might overflow.
-constexpr std::uint64_t kLargest = 1'000'000;
 
 /// The fields of one PDO by the ends of their names.
 class CPdoFields {
@@ -53,86 +37,92 @@ class CPdoFields {
 };
 
 std::optional<std::uint64_t> Number(const CVIFField* field) {
-  if (field == nullptr || !HasNumber(*field) || field->GetULongNumericValue() > kLargest) return std::nullopt;
+  if (field == nullptr || !HasNumber(*field)) return std::nullopt;
   return field->GetULongNumericValue();
 }
 
-/// Whether an augmented supply is a programmable one; the units of the others are not settled here. Up to edition 3.12
-/// there was no other, and no field to tell. A PDP rating is of an adjustable voltage supply.
-bool IsProgrammable(const CPdoFields& fields) {
+Supply FindSupply(const CPdoFields& fields) {
   const CVIFField* kind = fields.Find("APDO_Type");
-  return kind != nullptr ? Number(kind) == 0U : fields.Find("PDP_Rating") == nullptr;
+  return SupplyOf(
+      {Number(fields.Find("Supply_Type")), kind != nullptr, Number(kind), fields.Find("PDP_Rating") != nullptr});
 }
 
-const Supply* FindSupply(const CPdoFields& fields) {
-  const std::optional<std::uint64_t> type = Number(fields.Find("Supply_Type"));
-  if (!type) return nullptr;
-  switch (*type) {
-    case 0: return &kFixed;
-    case 1: return &kBattery;
-    case 2: return &kVariable;
-    case 3: return IsProgrammable(fields) ? &kProgrammable : nullptr;
-    default: return nullptr;
+/// The units of adjustable supplies are not settled here.
+const char* SupplyText(Supply supply) {
+  switch (supply) {
+    case Supply::Fixed: return "Fixed";
+    case Supply::Battery: return "Battery";
+    case Supply::Variable: return "Variable";
+    case Supply::Programmable: return "PPS";
+    case Supply::EprAdjustable:
+    case Supply::SprAdjustable:
+    case Supply::Unknown: break;
   }
+  return kUnknown;
 }
 
-/// The first field that exists, converted with what one of its units is worth.
-std::string Amount(std::initializer_list<const CVIFField*> candidates, std::uint64_t worth, bool unitIsKnown) {
-  for (const CVIFField* field : candidates) {
-    if (field == nullptr) continue;
-    const std::optional<std::uint64_t> number = Number(field);
-    return unitIsKnown && number ? Decimal(*number * worth) : kUnknown;
-  }
-  return {};
+bool IsSettled(Supply supply) { return supply >= Supply::Fixed && supply <= Supply::Programmable; }
+
+/// The amount that a field stands for, in thousandths of its unit.
+std::optional<std::uint64_t> Amount(const CVIFField* field, Supply supply) {
+  const std::optional<std::uint64_t> number = Number(field);
+  if (!number || !IsSettled(supply)) return std::nullopt;
+  const std::optional<Quantity> quantity = PdoQuantity(field->Name(), *number, supply);
+  return quantity ? std::optional(quantity->amount) : std::nullopt;
 }
 
-std::string WithUnit(const std::string& amount, const char* unit) {
-  return amount.empty() || amount == kUnknown ? amount : amount + ' ' + unit;
+/// The field's amount in words, empty when there is no field.
+std::string AmountText(const CVIFField* field, Supply supply, std::string (*inWords)(std::uint64_t)) {
+  if (field == nullptr) return {};
+  const std::optional<std::uint64_t> amount = Amount(field, supply);
+  return amount ? inWords(*amount) : kUnknown;
 }
 
-std::string VoltageText(const std::string& fixed, const std::string& lowest, const std::string& highest) {
-  if (lowest.empty() && highest.empty()) return WithUnit(fixed, "V");
-  const auto orUnknown = [](const std::string& text) { return text.empty() ? kUnknown : text; };
-  return orUnknown(lowest) + " to " + orUnknown(highest) + " V";
+/// "3.3 to 11 V" of "3.3 V" and "11 V"; either may be unknown or empty.
+std::string RangeText(const std::string& lowest, const std::string& highest) {
+  const auto withoutUnit = [](const std::string& text) {
+    return text.empty() ? std::string(kUnknown) : text.substr(0, text.find(' '));
+  };
+  return withoutUnit(lowest).append(" to ").append(withoutUnit(highest)).append(" V");
 }
 
 }  // namespace
 
 PowerProfile DescribePdo(const std::vector<const CVIFField*>& list) {
   const CPdoFields fields(list);
-  const Supply* supply = FindSupply(fields);
-  const bool isKnown = supply != nullptr;
-  const Supply units = isKnown ? *supply : Supply{kUnknown, 0, 0, 0};
+  const Supply supply = FindSupply(fields);
   const CVIFField* voltage = fields.Find("Voltage");
   const CVIFField* lowest = fields.Find("Min_Voltage");
   const CVIFField* highest = fields.Find("Max_Voltage");
-  const CVIFField* current = fields.Find("Max_Current");
-  const CVIFField* operatingCurrent = fields.Find("Op_Current");
-  const CVIFField* power = fields.Find("Max_Power");
-  const CVIFField* operatingPower = fields.Find("Op_Power");
+  const CVIFField* maxCurrent = fields.Find("Max_Current");
+  const CVIFField* opCurrent = fields.Find("Op_Current");
+  const CVIFField* maxPower = fields.Find("Max_Power");
+  const CVIFField* opPower = fields.Find("Op_Power");
+  const CVIFField* current = maxCurrent != nullptr ? maxCurrent : opCurrent;
+  const CVIFField* power = maxPower != nullptr ? maxPower : opPower;
 
   PowerProfile profile;
-  profile.supply = units.name;
-  profile.voltage = VoltageText(Amount({voltage}, units.milliVolt, isKnown), Amount({lowest}, units.milliVolt, isKnown),
-                                Amount({highest}, units.milliVolt, isKnown));
-  profile.current = WithUnit(Amount({current, operatingCurrent}, units.milliAmpere, isKnown), "A");
-  profile.power = WithUnit(Amount({power, operatingPower}, units.milliWatt, isKnown), "W");
-
-  const std::optional<std::uint64_t> volts = Number(voltage);
-  const std::optional<std::uint64_t> amperes = Number(current != nullptr ? current : operatingCurrent);
-  if (supply == &kFixed && profile.power.empty() && volts && amperes) {
-    profile.power = Decimal(*volts * units.milliVolt * *amperes * units.milliAmpere / 1000) + " W";
+  profile.supply = SupplyText(supply);
+  profile.voltage = lowest == nullptr && highest == nullptr
+                        ? AmountText(voltage, supply, Volts)
+                        : RangeText(AmountText(lowest, supply, Volts), AmountText(highest, supply, Volts));
+  profile.current = AmountText(current, supply, Amperes);
+  profile.power = AmountText(power, supply, Watts);
+  const std::optional<std::uint64_t> milliVolt = Amount(voltage, supply);
+  const std::optional<std::uint64_t> milliAmpere = Amount(current, supply);
+  if (supply == Supply::Fixed && profile.power.empty() && milliVolt && milliAmpere) {
+    profile.power = Watts(*milliVolt * *milliAmpere / 1000);
   }
 
   const auto shown = {fields.Find("Supply_Type"),
                       voltage,
                       lowest,
                       highest,
-                      current,
-                      operatingCurrent,
-                      power,
-                      operatingPower,
-                      isKnown ? fields.Find("APDO_Type") : nullptr};
+                      maxCurrent,
+                      opCurrent,
+                      maxPower,
+                      opPower,
+                      IsSettled(supply) ? fields.Find("APDO_Type") : nullptr};
   for (const CVIFField* field : list) {
     if (std::find(shown.begin(), shown.end(), field) == shown.end()) profile.others.push_back(field);
   }

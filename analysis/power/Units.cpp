@@ -1,19 +1,13 @@
 #include "power/Units.h"
 
+#include <analysis/Vocabulary.h>
+
 namespace vifanalysis {
 
-std::string Volts(std::uint64_t milliVolt) { return Decimal(milliVolt) + " V"; }
+std::string Volts(std::uint64_t milliVolt) { return QuantityText({milliVolt, Unit::MilliVolt}); }
 
-std::string Amperes(std::uint64_t milliAmpere) { return Decimal(milliAmpere) + " A"; }
+std::string Amperes(std::uint64_t milliAmpere) { return QuantityText({milliAmpere, Unit::MilliAmpere}); }
 
-std::string Watts(std::uint64_t milliWatt) { return Decimal(milliWatt) + " W"; }
-
-std::string Decimal(std::uint64_t thousandths) {
-  std::string text = std::to_string(thousandths / 1000);
-  if (thousandths % 1000 == 0) return text;
-  std::string fraction = std::to_string(1000 + thousandths % 1000).substr(1);
-  fraction.erase(fraction.find_last_not_of('0') + 1);
-  return text + '.' + fraction;
-}
+std::string Watts(std::uint64_t milliWatt) { return QuantityText({milliWatt, Unit::MilliWatt}); }
 
 }  // namespace vifanalysis

@@ -15,7 +15,4 @@ std::string Amperes(std::uint64_t milliAmpere);
 /// Milliwatts as "65 W" or "7.5 W".
 std::string Watts(std::uint64_t milliWatt);
 
-/// Thousandths as a decimal number without trailing zeros.
-std::string Decimal(std::uint64_t thousandths);
-
 }  // namespace vifanalysis

@@ -1,5 +1,6 @@
+#include "rules/FieldWords.h"
+#include "rules/MissingFields.h"
 #include "rules/RuleFunctions.h"
-#include "rules/SoundFields.h"
 
 #include <string_view>
 
@@ -15,7 +16,7 @@ void Report(const CComponentView& component, std::string_view role, std::string_
   const FoundField* denied = component.Find(needed);
   if (denied != nullptr && reporter.HasFound("modal-svids", *denied)) return;
   reporter.Add(denied != nullptr ? *denied : *component.Find(role),
-               Says(component, role) + ", but " + Says(component, needed));
+               FieldIs(component, role) + ", but " + FieldIs(component, needed));
 }
 
 }  // namespace

@@ -41,7 +41,9 @@ std::optional<Assured> FindAssured(const CVifView& file) {
 void CheckAssuredSum(const CVifView& file, CReporter& reporter) {
   const std::optional<Assured> assured = FindAssured(file);
   if (!assured || assured->ports.size() < 2 || assured->sum <= assured->total) return;
-  const auto isFound = [&](const CComponentView* port) { return reporter.HasFound("product-power", *port); };
+  const auto isFound = [&](const CComponentView* port) {
+    return reporter.HasFound("product-power", *port) || reporter.HasFound("rating-above-pdos", *port->Find(kRating));
+  };
   if (std::any_of(assured->ports.begin(), assured->ports.end(), isFound)) return;
   reporter.Add(*assured->ports.front()->Find(kTotal),
                std::to_string(assured->ports.size())

@@ -1,5 +1,6 @@
+#include "rules/FieldWords.h"
+#include "rules/PortRole.h"
 #include "rules/RuleFunctions.h"
-#include "rules/SoundFields.h"
 
 #include <string_view>
 
@@ -14,15 +15,16 @@ constexpr std::string_view kChargingPort = "BC_1_2_Charging_Port_Type";
 }  // namespace
 
 void CheckBc12Role(const CComponentView& component, CReporter& reporter) {
-  const std::uint64_t support = SoundNumber(component, kSupport, reporter).value_or(0);
+  const std::uint64_t support = component.Number(kSupport).value_or(0);
   const bool isDevice = support == 1 || support == 3;
   const bool isChargingPort = support == 2 || support == 3;
-  const std::optional<std::uint64_t> stateMachine = component.Number(kStateMachine);
-  if ((isChargingPort && stateMachine == 1U) || (isDevice && stateMachine == 0U)) {
-    reporter.Add(*component.Find(kSupport), Says(component, kSupport) + ", but " + Says(component, kStateMachine));
+  const std::optional<StateMachine> machine = SettledStateMachine(component, reporter);
+  if ((isChargingPort && machine == StateMachine::Sink) || (isDevice && machine == StateMachine::Source)) {
+    reporter.Add(*component.Find(kSupport),
+                 FieldIs(component, kSupport) + ", but " + FieldIs(component, kStateMachine));
   } else if (isChargingPort && component.Number(kChargingPort) == 1U && component.IsNo("Type_C_Can_Act_As_Host")) {
-    reporter.Add(*component.Find(kChargingPort), Says(component, kChargingPort) + ", which carries USB data, but " +
-                                                     Says(component, "Type_C_Can_Act_As_Host"));
+    reporter.Add(*component.Find(kChargingPort), FieldIs(component, kChargingPort) + ", which carries USB data, but " +
+                                                     FieldIs(component, "Type_C_Can_Act_As_Host"));
   }
 }
 

@@ -1,8 +1,6 @@
 #include "rules/FieldWords.h"
 #include "rules/RuleFunctions.h"
 
-#include <analysis/FieldText.h>
-
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -16,12 +14,6 @@ enum ProductType : std::uint8_t { PortProduct = 0, Cable = 1, Repeater = 2 };
 
 constexpr std::uint64_t kEMarker = 5;  // PD_Port_Type
 
-std::optional<std::uint64_t> TypeOf(const CVifView& file) {
-  const FoundField* found = file.FindHeader("VIF_Product_Type");
-  if (found == nullptr || !HasNumber(found->field)) return std::nullopt;
-  return found->field.GetULongNumericValue();
-}
-
 CMentions OfACable(const CComponentView& component) {
   CMentions mentions;
   for (const std::string_view beginning : {"Cable_", "Active_Cable_", "Type_C_To_", "SBU_"}) {
@@ -30,27 +22,26 @@ CMentions OfACable(const CComponentView& component) {
   for (const std::string_view name : {"VBUS_Through_Cable", "Max_VBUS_Voltage_Vdm_V2", "EPR_Mode_Capable"}) {
     mentions.AddField(component, name);
   }
-  for (const CGroupView& svid : component.Groups(eVifLocCableSvid)) mentions.AddGroup(svid, "a cable's SVID");
+  for (const CGroupView& svid : component.AllGroups(eVifLocCableSvid)) mentions.AddGroup(svid, "a cable's SVID");
   return mentions;
 }
 
-CMentions OfAPort(const CComponentView& component, const CVifView& file) {
+CMentions OfAPort(const CComponentView& component) {
   CMentions mentions;
   if (component.Number("PD_Port_Type").value_or(kEMarker) != kEMarker) {
-    const FoundField& role = *component.Find("PD_Port_Type");
-    mentions.Add(role, "PD_Port_Type " + ValueInWords(role, file));
+    mentions.Add(*component.Find("PD_Port_Type"), NameAndValue(component, "PD_Port_Type"));
   }
   for (const std::string_view rating : {"PD_Power_As_Source", "PD_Power_As_Sink"}) {
     if (component.Number(rating).value_or(0) != 0) mentions.AddField(component, rating);
   }
-  for (const CPdoView& pdo : component.Pdos(PdoSide::Source)) mentions.AddGroup(pdo, "a source PDO");
-  for (const CPdoView& pdo : component.Pdos(PdoSide::Sink)) mentions.AddGroup(pdo, "a sink PDO");
-  for (const CGroupView& svid : component.Groups(eVifLocSopSvid)) mentions.AddGroup(svid, "a port's SVID");
+  for (const CGroupView& pdo : component.AllGroups(eVifLocSrcPdo)) mentions.AddGroup(pdo, "a source PDO");
+  for (const CGroupView& pdo : component.AllGroups(eVifLocSnkPdo)) mentions.AddGroup(pdo, "a sink PDO");
+  for (const CGroupView& svid : component.AllGroups(eVifLocSopSvid)) mentions.AddGroup(svid, "a port's SVID");
   return mentions;
 }
 
 bool IsOfAnEMarker(const CComponentView& component) {
-  return component.IsYes("Captive_Cable_Is_eMarked") || component.Number("PD_Port_Type") == kEMarker;
+  return component.MayBeYes("Captive_Cable_Is_eMarked") || component.Number("PD_Port_Type") == kEMarker;
 }
 
 void Report(const CMentions& mentions, const CVifView& file, std::string_view what, CReporter& reporter) {
@@ -81,12 +72,12 @@ void CheckCertification(const CVifView& file, std::uint64_t type, CReporter& rep
 }  // namespace
 
 void CheckCableAndPort(const CVifView& file, CReporter& reporter) {
-  const std::optional<std::uint64_t> type = TypeOf(file);
+  const std::optional<std::uint64_t> type = file.HeaderNumber("VIF_Product_Type");
   if (!type) return;
   CheckCertification(file, *type, reporter);
   for (const CComponentView& component : file.Components()) {
     if (type == PortProduct && !IsOfAnEMarker(component)) Report(OfACable(component), file, "a cable", reporter);
-    if (type == Cable) Report(OfAPort(component, file), file, "a port", reporter);
+    if (type == Cable) Report(OfAPort(component), file, "a port", reporter);
   }
 }
 

@@ -1,5 +1,6 @@
+#include "rules/FieldWords.h"
+#include "rules/MissingFields.h"
 #include "rules/RuleFunctions.h"
-#include "rules/SoundFields.h"
 
 #include <array>
 #include <string>
@@ -17,15 +18,17 @@ struct Announcement {
   std::string_view field;
   std::uint64_t value;
   std::array<std::string_view, 2> details;  // the second may be empty
+  Edition
+      since{};  // the first edition to have them, where that is known better than from the files that have been seen
 };
 
 constexpr Announcement kAnnouncements[] = {
     {"Manufacturer_Info_Supported_Port", 1, {"Manufacturer_Info_VID_Port", "Manufacturer_Info_PID_Port"}},
     {"BC_1_2_Support", 2, {"BC_1_2_Charging_Port_Type"}},
     {"BC_1_2_Support", 3, {"BC_1_2_Charging_Port_Type"}},
-    {"Type_C_Can_Act_As_Host", 1, {"Host_Supports_USB_Data"}},
+    {"Type_C_Can_Act_As_Host", 1, {"Host_Supports_USB_Data"}, {3, 0}},
     {"Host_Supports_USB_Data", 1, {"Host_Speed"}},
-    {"Type_C_Can_Act_As_Device", 1, {"Device_Supports_USB_Data"}},
+    {"Type_C_Can_Act_As_Device", 1, {"Device_Supports_USB_Data"}, {3, 0}},
     {"Device_Supports_USB_Data", 1, {"Device_Speed"}},
     {"PD_OC_Protection", 1, {"PD_OCP_Method"}},
 };
@@ -40,29 +43,34 @@ constexpr std::string_view kIdentity[] = {
     "Modal_Operation_Supported_SOP",
 };
 
+bool IsMissing(const CComponentView& component, std::string_view detail, const Edition& since) {
+  if (!IsKnown(since)) return vifanalysis::IsMissing(component, detail);
+  return !detail.empty() && !component.Has(detail) && component.File().GetEdition() >= since;
+}
+
 void CheckAnnouncement(const CComponentView& component, const Announcement& announcement, CReporter& reporter) {
   if (component.Number(announcement.field) != announcement.value) return;
   Names missing;
   for (const std::string_view detail : announcement.details) {
-    if (IsMissing(component, detail)) missing.push_back(detail);
+    if (IsMissing(component, detail, announcement.since)) missing.push_back(detail);
   }
   if (missing.empty()) return;
   reporter.Add(*component.Find(announcement.field),
-               Says(component, announcement.field) + ", but " + AreMissing(missing));
+               FieldIs(component, announcement.field) + ", but " + AreMissing(missing));
 }
 
 /// A hub, a host or a power brick answers with a DFP VDO, which has the port's number.
-bool HasDfpVdo(const CComponentView& component, const CReporter& reporter) {
-  const std::uint64_t type = SoundNumber(component, "Product_Type_DFP_SOP", reporter).value_or(0);
+bool HasDfpVdo(const CComponentView& component) {
+  const std::uint64_t type = component.Number("Product_Type_DFP_SOP").value_or(0);
   return type >= 1 && type <= 3;
 }
 
-Names IdentityDetails(const CComponentView& component, const CReporter& reporter) {
+Names IdentityDetails(const CComponentView& component) {
   Names details(std::begin(kIdentity), std::end(kIdentity));
   if (component.IsYes("Responds_To_Discov_SOP_UFP")) details.push_back("Product_Type_UFP_SOP");
   if (!component.IsYes("Responds_To_Discov_SOP_DFP")) return details;
   details.push_back("Product_Type_DFP_SOP");
-  if (HasDfpVdo(component, reporter)) details.push_back("DFP_VDO_Port_Number");
+  if (HasDfpVdo(component)) details.push_back("DFP_VDO_Port_Number");
   return details;
 }
 
@@ -77,7 +85,7 @@ void CheckIdentity(const CComponentView& component, CReporter& reporter) {
   const bool asUfp = component.IsYes("Responds_To_Discov_SOP_UFP");
   if (!asUfp && !component.IsYes("Responds_To_Discov_SOP_DFP")) return;
   Names missing;
-  for (const std::string_view detail : IdentityDetails(component, reporter)) {
+  for (const std::string_view detail : IdentityDetails(component)) {
     if (IsMissing(component, detail) && !IsFound(component, detail, reporter)) missing.push_back(detail);
   }
   if (missing.empty()) return;
@@ -95,16 +103,17 @@ Names ThresholdNames(std::uint64_t method) {
 }
 
 void CheckThresholds(const CComponentView& component, CReporter& reporter) {
-  const std::optional<std::uint64_t> method = SoundNumber(component, "PD_OCP_Method", reporter);
+  const std::optional<std::uint64_t> method = component.Number("PD_OCP_Method");
   if (!component.IsYes("PD_OC_Protection") || !method) return;
   const Names names = ThresholdNames(*method);
   for (const CPdoView& pdo : component.Pdos(PdoSide::Source)) {
-    if (pdo.OwnNumber("Supply_Type") == 3U) continue;
+    constexpr std::uint64_t augmented = 3;
+    if (pdo.OwnNumber("Supply_Type").value_or(augmented) == augmented) continue;
     Names missing;
     for (const std::string_view name : names) {
       if (!pdo.Has(name)) missing.push_back(name);
     }
-    if (!missing.empty()) reporter.Add(pdo, Says(component, "PD_OCP_Method") + ", but " + AreMissing(missing));
+    if (!missing.empty()) reporter.Add(pdo, FieldIs(component, "PD_OCP_Method") + ", but " + AreMissing(missing));
   }
 }
 

@@ -48,8 +48,8 @@ void Require(const CComponentView& component, std::string_view name, const char*
 }  // namespace
 
 void CheckDrSwapRequired(const CComponentView& component, CReporter& reporter) {
-  if (!component.IsYes("USB_PD_Support") || IsCable(component)) return;
-  const std::optional<StateMachine> machine = StateMachineOf(component);
+  if (!IsPdPort(component) || IsCable(component)) return;
+  const std::optional<StateMachine> machine = SettledStateMachine(component, reporter);
   const char* whyDfp = machine ? WhyDfp(component, *machine) : nullptr;
   Require(component, "DR_Swap_To_DFP_Supported", whyDfp != nullptr ? whyDfp : WhyDfpForUsb4(component), reporter);
   if (machine) Require(component, "DR_Swap_To_UFP_Supported", WhyUfp(component, *machine), reporter);

@@ -20,9 +20,15 @@ bool MayBeEpr(const CPdoView& pdo) {
          pdo.HighestVoltage().value_or(kHighestWithoutEpr + 1) > kHighestWithoutEpr;
 }
 
+bool HasDoubtfulPdo(const CComponentView& component, PdoSide side, const CReporter& reporter) {
+  const std::vector<CPdoView>& pdos = component.Pdos(side);
+  return std::any_of(pdos.begin(), pdos.end(), [&](const CPdoView& pdo) { return IsDoubtful(pdo, reporter); });
+}
+
 void CheckHasEprPdo(const CComponentView& component, PdoSide side, CReporter& reporter) {
   const std::vector<CPdoView>& pdos = component.Pdos(side);
   if (!HasAllPdos(component, side) || std::any_of(pdos.begin(), pdos.end(), MayBeEpr)) return;
+  if (HasDoubtfulPdo(component, side, reporter)) return;
   reporter.Add(*component.Find(EprName(side)), std::string(EprName(side))
                                                    .append(" is YES, but no ")
                                                    .append(SideName(side))
@@ -31,9 +37,7 @@ void CheckHasEprPdo(const CComponentView& component, PdoSide side, CReporter& re
 
 void CheckRating(const CComponentView& component, PdoSide side, CReporter& reporter) {
   const std::optional<std::uint64_t> rating = component.Number(RatingName(side));
-  const std::vector<CPdoView>& pdos = component.Pdos(side);
-  const auto isDoubtful = [&](const CPdoView& pdo) { return IsDoubtful(pdo, reporter); };
-  if (!rating || *rating <= kMostWithoutEpr || std::any_of(pdos.begin(), pdos.end(), isDoubtful)) return;
+  if (!rating || *rating <= kMostWithoutEpr || HasDoubtfulPdo(component, side, reporter)) return;
   reporter.Add(*component.Find(EprName(side)), std::string(EprName(side))
                                                    .append(" is NO, but ")
                                                    .append(RatingName(side))
@@ -47,13 +51,16 @@ void CheckSide(const CComponentView& component, PdoSide side, CReporter& reporte
   if (component.IsNo(EprName(side))) CheckRating(component, side, reporter);
 }
 
-/// A port of revision 2 with features of revision 3 is left to another rule.
+/// A port of revision 2 with features of revision 3 is left to pd3-feature-in-pd2, and fields that name different
+/// revisions to pd-revision-pair.
 void CheckRevision(const CComponentView& component, CReporter& reporter) {
   const bool hasEpr = component.IsYes(EprName(PdoSide::Source)) || component.IsYes(EprName(PdoSide::Sink));
-  if (!hasEpr || component.Number("PD_Specification_Revision") == kRevision2) return;
+  if (!hasEpr) return;
   const std::optional<std::uint64_t> major = component.Number("PD_Spec_Revision_Major");
   const std::optional<std::uint64_t> minor = component.Number("PD_Spec_Revision_Minor");
   if (!major || !minor || *major > 3 || (*major == 3 && *minor >= 1)) return;
+  const std::optional<std::uint64_t> code = component.Number("PD_Specification_Revision");
+  if (code && (*code == kRevision2 || *code + 1 != *major)) return;
   reporter.Add(*component.Find(*major == 3 ? "PD_Spec_Revision_Minor" : "PD_Spec_Revision_Major"),
                std::string("EPR came with PD revision 3.1, but PD_Spec_Revision is ")
                    .append(std::to_string(*major))

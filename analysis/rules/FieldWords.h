@@ -13,14 +13,22 @@
 
 namespace vifanalysis {
 
-/// A number of a field and what it stands for: "3 (Provider Only)"; the number alone when that is not known.
-std::string NumberAndText(const CComponentView& component, std::string_view name, std::uint64_t number);
+/// What a number of the field with that name stands for: "YES", "3 (Provider Only)", "0xE94D" or "33 W"; the number
+/// alone when that is not known.
+std::string NumberInWords(const CVifView& file, std::string_view name, std::uint64_t number);
 
-/// What a field says: "YES", "2 (Type-C)", "0xE94D" or "33 W", or its text in quotes where it has no number.
+/// What a field says: its number in words, or its text in quotes where it has no number.
 std::string ValueInWords(const FoundField& found, const CVifView& file);
 
 /// Such as "Captive_Cable is YES".
 std::string FieldIs(const FoundField& found, const CVifView& file);
+
+/// Such as "Captive_Cable is YES" or "PID_SOP is missing".
+std::string FieldIs(const CGroupView& group, std::string_view name, const CVifView& file);
+std::string FieldIs(const CComponentView& component, std::string_view name);
+
+/// Such as "PD_Port_Type 3 (Provider Only)", of a field that is there.
+std::string NameAndValue(const CComponentView& component, std::string_view name);
 
 /// What one finding is about: fields, and groups of fields. No name occurs twice.
 class CMentions {

@@ -14,18 +14,16 @@ constexpr std::uint64_t kFixed = 0;
 constexpr std::uint64_t kFiveVolts = 100;  // units of 50 mV
 
 void Report(const CPdoView& pdo, std::string_view ending, const std::string& has, CReporter& reporter) {
-  const FoundField& blamed = *pdo.FindOwn(ending);
-  if (IsImproper(blamed, reporter)) return;
-  reporter.Add(blamed, std::string("the first ")
-                           .append(SideName(pdo.Side()))
-                           .append(" PDO must be fixed at 5 V (")
-                           .append(pdo.FullName("Supply_Type"))
-                           .append(" 0, ")
-                           .append(pdo.FullName("Voltage"))
-                           .append(" 100), but it has ")
-                           .append(pdo.FullName(ending))
-                           .append(" ")
-                           .append(has));
+  reporter.Add(*pdo.FindOwn(ending), std::string("the first ")
+                                         .append(SideName(pdo.Side()))
+                                         .append(" PDO must be fixed at 5 V (")
+                                         .append(pdo.FullName("Supply_Type"))
+                                         .append(" 0, ")
+                                         .append(pdo.FullName("Voltage"))
+                                         .append(" 100), but it has ")
+                                         .append(pdo.FullName(ending))
+                                         .append(" ")
+                                         .append(has));
 }
 
 std::string VoltageText(const CPdoView& pdo, std::uint64_t number) {
@@ -41,7 +39,7 @@ void CheckSide(const CComponentView& component, PdoSide side, CReporter& reporte
   const std::optional<std::uint64_t> type = first.OwnNumber("Supply_Type");
   const std::optional<std::uint64_t> voltage = first.OwnNumber("Voltage");
   if (type && *type != kFixed) {
-    Report(first, "Supply_Type", NumberAndText(component, first.FullName("Supply_Type"), *type), reporter);
+    Report(first, "Supply_Type", NumberInWords(component.File(), first.FullName("Supply_Type"), *type), reporter);
   } else if (voltage && *voltage != kFiveVolts) {
     Report(first, "Voltage", VoltageText(first, *voltage), reporter);
   }

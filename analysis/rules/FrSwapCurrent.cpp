@@ -14,7 +14,7 @@ void CheckFrSwapCurrent(const CComponentView& component, CReporter& reporter) {
   if (!isMissing && !isLeftOver) return;
   reporter.Add(*component.Find(current), std::string(supported) + (isMissing ? " is YES, but " : " is NO, but ") +
                                              std::string(current) + " is " +
-                                             NumberAndText(component, current, *number));
+                                             NumberInWords(component.File(), current, *number));
 }
 
 }  // namespace vifanalysis

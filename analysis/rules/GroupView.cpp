@@ -35,15 +35,16 @@ std::string_view TextOf(const FoundField& found) {
 
 CGroupView::CGroupView(const GroupPlace& place, NamedFields fields, std::vector<CGroupView> groups)
     : m_place(place), m_fields(std::move(fields)), m_groups(std::move(groups)) {
-  for (const auto& [name, field] : m_fields) {
-    if (IsEarlier(field, m_first)) m_first = field;
+  for (const NamedField& named : m_fields) {
+    if (IsEarlier(named.field, m_first)) m_first = named.field;
   }
   if (m_first == nullptr) {
     for (const CGroupView& group : m_groups) {
       if (IsEarlier(group.FirstField(), m_first)) m_first = group.FirstField();
     }
   }
-  std::stable_sort(m_fields.begin(), m_fields.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+  std::stable_sort(m_fields.begin(), m_fields.end(),
+                   [](const NamedField& a, const NamedField& b) { return a.name < b.name; });
 }
 
 EVifLocation CGroupView::Kind() const {
@@ -56,16 +57,29 @@ std::uint64_t CGroupView::Index() const {
   return own != nullptr ? std::get<1>(*own) : CVIFField::INDEX_NOT_SPECIFIED;
 }
 
+const NamedField* CGroupView::FindNamed(std::string_view name) const {
+  const auto found =
+      std::lower_bound(m_fields.begin(), m_fields.end(), name,
+                       [](const NamedField& named, std::string_view wanted) { return named.name < wanted; });
+  return found != m_fields.end() && found->name == name ? &*found : nullptr;
+}
+
 const FoundField* CGroupView::Find(std::string_view name) const {
-  const auto found = std::lower_bound(m_fields.begin(), m_fields.end(), name,
-                                      [](const auto& entry, std::string_view wanted) { return entry.first < wanted; });
-  return found != m_fields.end() && found->first == name ? found->second : nullptr;
+  const NamedField* found = FindNamed(name);
+  return found != nullptr ? found->field : nullptr;
 }
 
 std::optional<std::uint64_t> CGroupView::Number(std::string_view name) const {
-  const FoundField* found = Find(name);
-  if (found == nullptr || !HasNumber(found->field) || IsUnanswered(*found)) return std::nullopt;
-  return found->field.GetULongNumericValue();
+  const NamedField* found = FindNamed(name);
+  if (found == nullptr || !found->isSound || !HasNumber(found->field->field) || IsUnanswered(*found->field)) {
+    return std::nullopt;
+  }
+  return found->field->field.GetULongNumericValue();
+}
+
+bool CGroupView::IsUnsound(std::string_view name) const {
+  const NamedField* found = FindNamed(name);
+  return found != nullptr && !found->isSound;
 }
 
 std::string_view CGroupView::Text(std::string_view name) const {
@@ -74,16 +88,18 @@ std::string_view CGroupView::Text(std::string_view name) const {
 }
 
 std::span<const CGroupView> CGroupView::Groups(EVifLocation kind) const {
-  const auto first = std::partition_point(m_groups.begin(), m_groups.end(),
-                                          [&](const CGroupView& group) { return group.Kind() < kind; });
-  const auto last = std::find_if(first, m_groups.end(), [&](const CGroupView& group) {
-    return group.Kind() != kind || group.Index() == CVIFField::INDEX_NOT_SPECIFIED;
-  });
-  return {first, last};
+  const std::span<const CGroupView> all = AllGroups(kind);
+  const auto last = std::partition_point(
+      all.begin(), all.end(), [](const CGroupView& group) { return group.Index() != CVIFField::INDEX_NOT_SPECIFIED; });
+  return {all.begin(), last};
 }
 
-bool CGroupView::HasGroups(EVifLocation kind) const {
-  return std::any_of(m_groups.begin(), m_groups.end(), [&](const CGroupView& group) { return group.Kind() == kind; });
+std::span<const CGroupView> CGroupView::AllGroups(EVifLocation kind) const {
+  const auto first = std::partition_point(m_groups.begin(), m_groups.end(),
+                                          [&](const CGroupView& group) { return group.Kind() < kind; });
+  const auto last =
+      std::partition_point(first, m_groups.end(), [&](const CGroupView& group) { return group.Kind() == kind; });
+  return {first, last};
 }
 
 }  // namespace vifanalysis

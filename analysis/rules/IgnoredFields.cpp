@@ -28,7 +28,7 @@ void Report(const CMentions& ignored, const std::string& why, CReporter& reporte
 }
 
 void Report(const CMentions& ignored, const CComponentView& component, std::string_view governor, CReporter& reporter) {
-  Report(ignored, FieldIs(*component.Find(governor), component.File()), reporter);
+  Report(ignored, FieldIs(component, governor), reporter);
 }
 
 void CheckUsb4(const CComponentView& component, CReporter& reporter) {
@@ -58,7 +58,7 @@ void CheckOverCurrent(const CComponentView& component, CReporter& reporter) {
 /// SVIDs that are there contradict the field, which another rule is about.
 void CheckSvidCounts(const CComponentView& component, CReporter& reporter) {
   if (!component.IsNo("Modal_Operation_Supported_SOP") || component.Number("Num_SVIDs_Max_SOP").value_or(0) != 0 ||
-      !component.Groups(eVifLocSopSvid).empty()) {
+      component.HasGroups(eVifLocSopSvid)) {
     return;
   }
   CMentions ignored;
@@ -95,7 +95,7 @@ void CheckProduct(const CVifView& file, CReporter& reporter) {
   if (!isWithoutUsb4 || file.Product() == nullptr) return;
   CMentions ignored;
   ignored.AddFields(*file.Product(), "USB4_");
-  for (const CGroupView& router : file.Product()->Groups(eVifLocRouter)) ignored.AddGroup(router, "the routers");
+  for (const CGroupView& router : file.Product()->AllGroups(eVifLocRouter)) ignored.AddGroup(router, "the routers");
   Report(ignored, "USB4_Supported is NO for every component", reporter);
 }
 

@@ -64,13 +64,20 @@ std::optional<std::uint64_t> TakeThousandths(std::string_view& text) {
 
 char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
-/// Whether the next word of a text occurs in a field's name, in any letter case.
+bool AreSameWord(std::string_view a, std::string_view b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) { return Lower(x) == Lower(y); });
+}
+
+/// Whether the next word of a text is one of those between the underscores of a field's name, in any letter case.
 bool BeginsWithWordOf(std::string_view text, std::string_view fieldName) {
   SkipBlanks(text);
-  const std::string_view word = text.substr(0, text.find(' '));
-  const auto isSame = [](char a, char b) { return Lower(a) == Lower(b); };
-  return word.size() <= fieldName.size() &&
-         std::search(fieldName.begin(), fieldName.end(), word.begin(), word.end(), isSame) != fieldName.end();
+  const std::string_view word = text.substr(0, text.find_first_of(" \t,.;:()"));
+  while (!fieldName.empty()) {
+    const std::string_view part = fieldName.substr(0, fieldName.find('_'));
+    if (AreSameWord(part, word)) return true;
+    fieldName.remove_prefix(std::min(part.size() + 1, fieldName.size()));
+  }
+  return false;
 }
 
 const UnitName* FindUnitName(std::string_view name) {

@@ -30,7 +30,7 @@ void CheckPdo(const CPdoView& pdo, CReporter& reporter) {
 }  // namespace
 
 void CheckOcpBelowRating(const CComponentView& component, CReporter& reporter) {
-  if (component.IsNo("PD_OC_Protection")) return;
+  if (component.MayBeNo("PD_OC_Protection")) return;
   for (const CPdoView& pdo : component.Pdos(PdoSide::Source)) {
     if (!IsDoubtful(pdo, reporter) && !reporter.HasFound("pdo-above-rating", pdo)) CheckPdo(pdo, reporter);
   }

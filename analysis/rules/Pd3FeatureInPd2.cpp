@@ -1,5 +1,6 @@
+#include "files/Sentence.h"
+#include "rules/FieldWords.h"
 #include "rules/RuleFunctions.h"
-#include "rules/SoundFields.h"
 
 #include <algorithm>
 #include <string_view>
@@ -43,7 +44,7 @@ void CheckPd3FeatureInPd2(const CComponentView& component, CReporter& reporter) 
   const std::vector<std::string_view> features = NewerFeatures(component);
   if (features.empty()) return;
   reporter.Add(*component.Find(revision),
-               Says(component, revision) + ", but " + Listed(features) + " came with revision 3");
+               FieldIs(component, revision) + ", but " + Listed(features) + " came with revision 3");
 }
 
 }  // namespace vifanalysis

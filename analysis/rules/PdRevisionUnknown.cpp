@@ -1,5 +1,4 @@
 #include "rules/RuleFunctions.h"
-#include "rules/SoundFields.h"
 
 #include <algorithm>
 #include <limits>
@@ -31,10 +30,9 @@ constexpr Versions kPublished[] = {
     {{3, 1}, {1, 0}, {1, 8}}, {{3, 2}, {1, 0}, {1, kAny}},
 };
 
-std::optional<Numbers> Read(const CComponentView& component, std::string_view major, std::string_view minor,
-                            const CReporter& reporter) {
-  const std::optional<std::uint64_t> first = SoundNumber(component, major, reporter);
-  const std::optional<std::uint64_t> second = SoundNumber(component, minor, reporter);
+std::optional<Numbers> Read(const CComponentView& component, std::string_view major, std::string_view minor) {
+  const std::optional<std::uint64_t> first = component.Number(major);
+  const std::optional<std::uint64_t> second = component.Number(minor);
   if (!first || !second) return std::nullopt;
   return Numbers{*first, *second};
 }
@@ -52,8 +50,8 @@ std::string TextOf(const Numbers& numbers) {
 }  // namespace
 
 void CheckPdRevisionUnknown(const CComponentView& component, CReporter& reporter) {
-  const auto revision = Read(component, "PD_Spec_Revision_Major", "PD_Spec_Revision_Minor", reporter);
-  const auto version = Read(component, "PD_Spec_Version_Major", "PD_Spec_Version_Minor", reporter);
+  const auto revision = Read(component, "PD_Spec_Revision_Major", "PD_Spec_Revision_Minor");
+  const auto version = Read(component, "PD_Spec_Version_Major", "PD_Spec_Version_Minor");
   if (!revision || !version || *revision > kLatestRevision || IsPublished(*revision, *version)) return;
   if (reporter.HasFound("pd-revision-pair", component)) return;
   reporter.Add(*component.Find("PD_Spec_Revision_Minor"),

@@ -1,7 +1,5 @@
 #include "rules/PdoFacts.h"
 
-#include <analysis/Vocabulary.h>
-
 #include <algorithm>
 #include <iterator>
 
@@ -22,16 +20,13 @@ std::string_view SupplyName(Supply supply) {
 
 bool HasAllPdos(const CComponentView& component, PdoSide side) {
   const std::size_t listed = component.Pdos(side).size();
-  return listed != 0 && component.Number(CountName(side)).value_or(0) <= listed;
-}
-
-bool IsImproper(const FoundField& field, const CReporter& reporter) {
-  return reporter.HasFound("unanswered", field) || reporter.HasFound("value-out-of-range", field);
+  const std::optional<std::uint64_t> count = component.Number(CountName(side));
+  if (listed == 0 || component.HasUnnumbered(PdoGroup(side))) return false;
+  return count ? *count <= listed : !component.Has(CountName(side));
 }
 
 bool IsDoubtful(const CPdoView& pdo, const CReporter& reporter) {
-  constexpr std::string_view rules[] = {"unanswered", "value-out-of-range", "first-pdo-not-5v",
-                                        "pdo-limits", "pdo-order",          "pdo-fields-for-type"};
+  constexpr std::string_view rules[] = {"first-pdo-not-5v", "pdo-limits", "pdo-order", "pdo-fields-for-type"};
   return std::any_of(std::begin(rules), std::end(rules),
                      [&](std::string_view rule) { return reporter.HasFound(rule, pdo); });
 }

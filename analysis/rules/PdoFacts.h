@@ -4,8 +4,6 @@
 #include "rules/Reporter.h"
 #include "rules/VifView.h"
 
-#include <cstdint>
-#include <string>
 #include <string_view>
 
 namespace vifanalysis {
@@ -26,13 +24,13 @@ constexpr std::string_view CountName(PdoSide side) { return side == PdoSide::Sou
 /// "fixed", "battery" and so on; empty for an unknown supply.
 std::string_view SupplyName(Supply supply);
 
-/// Whether the side has PDOs, and no fewer than the component says.
+/// Where the PDOs of a side stand in a component.
+constexpr EVifLocation PdoGroup(PdoSide side) { return side == PdoSide::Source ? eVifLocSrcPdo : eVifLocSnkPdo; }
+
+/// Whether the side has PDOs, all of them with a number, and no fewer than the component says.
 bool HasAllPdos(const CComponentView& component, PdoSide side);
 
-/// Whether another rule has found that the field has no proper value.
-bool IsImproper(const FoundField& field, const CReporter& reporter);
-
-/// Whether a rule about values or PDO lists has found a mistake in the PDO, so that its numbers are in doubt.
+/// Whether a rule about PDO lists has found a mistake in the PDO, so that its numbers are in doubt.
 bool IsDoubtful(const CPdoView& pdo, const CReporter& reporter);
 
 }  // namespace vifanalysis

@@ -1,3 +1,4 @@
+#include "files/Sentence.h"
 #include "rules/PdoFacts.h"
 #include "rules/RuleFunctions.h"
 
@@ -38,12 +39,7 @@ Names Select(const CPdoView& pdo, std::span<const std::string_view> endings, boo
   return names;
 }
 
-/// "A", "A and B", "A, B and C".
-std::string List(const Names& names) {
-  std::string list = names.front();
-  for (std::size_t i = 1; i < names.size(); ++i) list.append(i + 1 == names.size() ? " and " : ", ").append(names[i]);
-  return list;
-}
+std::string List(const Names& names) { return Listed(std::vector<std::string_view>(names.begin(), names.end())); }
 
 std::string Sentence(Supply supply, const Names& missing, const Names& extra) {
   std::string sentence = std::string("a ").append(SupplyName(supply)).append(" PDO ");

@@ -2,6 +2,7 @@
 #include "rules/PdoFacts.h"
 #include "rules/RuleFunctions.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -16,16 +17,34 @@ constexpr std::uint64_t kLowestFixedVoltage = 5000;     // mV
 constexpr std::uint64_t kHighestFixedVoltage = 20'000;  // mV, without EPR
 constexpr std::uint64_t kHighestOtherVoltage = 21'000;  // mV, without EPR
 
-/// Blames a field of a PDO, unless another rule has done so already.
-void Blame(const CPdoView& pdo, std::string_view ending, const std::string& says, CReporter& reporter) {
-  const FoundField* blamed = pdo.FindOwn(ending);
-  if (blamed == nullptr || IsImproper(*blamed, reporter) || reporter.HasFound("first-pdo-not-5v", *blamed)) return;
-  reporter.Add(*blamed, pdo.FullName(ending) + " is " + says);
+bool IsBlamed(const CPdoView& pdo, std::string_view ending, const CReporter& reporter) {
+  const FoundField* field = pdo.FindOwn(ending);
+  return field != nullptr && reporter.HasFound("first-pdo-not-5v", *field);
 }
 
+/// Blames a field of a PDO, unless another rule has done so already.
+void Blame(const CPdoView& pdo, std::string_view ending, const std::string& says, CReporter& reporter) {
+  if (!IsBlamed(pdo, ending, reporter)) reporter.Add(*pdo.FindOwn(ending), pdo.FullName(ending) + " is " + says);
+}
+
+std::string_view HighestVoltageEnding(const CPdoView& pdo) {
+  return pdo.GetSupply() == Supply::Fixed ? "Voltage" : "Max_Voltage";
+}
+
+/// The first PDO with a voltage that takes EPR; null when there is none.
+const CPdoView* FindEprPdo(const CComponentView& component, PdoSide side, const CReporter& reporter) {
+  const std::vector<CPdoView>& pdos = component.Pdos(side);
+  const auto found = std::find_if(pdos.begin(), pdos.end(), [&](const CPdoView& pdo) {
+    const std::uint64_t highest = pdo.GetSupply() == Supply::Fixed ? kHighestFixedVoltage : kHighestOtherVoltage;
+    return pdo.HighestVoltage().value_or(0) > highest && !IsBlamed(pdo, HighestVoltageEnding(pdo), reporter);
+  });
+  return found != pdos.end() ? &*found : nullptr;
+}
+
+/// Where the voltages take EPR but the component does not declare it, that is the mistake, and not the number of PDOs.
 void CheckCount(const CComponentView& component, PdoSide side, CReporter& reporter) {
   const std::vector<CPdoView>& pdos = component.Pdos(side);
-  const bool isEpr = component.IsYes(EprName(side));
+  const bool isEpr = component.MayBeYes(EprName(side)) || FindEprPdo(component, side, reporter) != nullptr;
   const std::size_t most = isEpr ? kMostPdosWithEpr : kMostPdos;
   if (pdos.size() <= most) return;
   const std::string message = std::to_string(pdos.size())
@@ -64,26 +83,18 @@ void CheckVoltages(const CPdoView& pdo, CReporter& reporter) {
   }
 }
 
-bool NeedsEpr(const CPdoView& pdo) {
-  const std::uint64_t highest = pdo.GetSupply() == Supply::Fixed ? kHighestFixedVoltage : kHighestOtherVoltage;
-  return pdo.HighestVoltage().value_or(0) > highest;
-}
-
 /// Blames the first PDO only: if the component has EPR after all, the others are not mistakes of their own.
 void CheckEpr(const CComponentView& component, PdoSide side, CReporter& reporter) {
-  if (component.IsYes(EprName(side))) return;
-  for (const CPdoView& pdo : component.Pdos(side)) {
-    if (!NeedsEpr(pdo)) continue;
-    const bool isFixed = pdo.GetSupply() == Supply::Fixed;
-    Blame(pdo, isFixed ? "Voltage" : "Max_Voltage",
-          Volts(pdo.HighestVoltage().value_or(0))
-              .append(isFixed ? ", but a fixed PDO of more than 20 V" : ", but a PDO of more than 21 V")
-              .append(" needs EPR, and ")
-              .append(EprName(side))
-              .append(" is not YES"),
-          reporter);
-    return;
-  }
+  const CPdoView* pdo = FindEprPdo(component, side, reporter);
+  if (pdo == nullptr || component.MayBeYes(EprName(side))) return;
+  Blame(*pdo, HighestVoltageEnding(*pdo),
+        Volts(pdo->HighestVoltage().value_or(0))
+            .append(pdo->GetSupply() == Supply::Fixed ? ", but a fixed PDO of more than 20 V"
+                                                      : ", but a PDO of more than 21 V")
+            .append(" needs EPR, and ")
+            .append(EprName(side))
+            .append(" is not YES"),
+        reporter);
 }
 
 void CheckSide(const CComponentView& component, PdoSide side, CReporter& reporter) {

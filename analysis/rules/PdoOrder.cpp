@@ -11,7 +11,6 @@ namespace vifanalysis {
 
 namespace {
 
-constexpr std::uint64_t kLastSupplyType = 3;
 constexpr std::uint64_t kHighestWithoutEpr = 20'000;  // mV
 
 /// The voltage that PDOs of one supply are sorted by.
@@ -51,15 +50,15 @@ bool BeginsExtendedRange(const CPdoView& pdo) { return pdo.Quantities().voltage.
 void CompareTypes(const CComponentView& component, const CPdoView& before, const CPdoView& pdo, CReporter& reporter) {
   const std::optional<std::uint64_t> type = pdo.OwnNumber("Supply_Type");
   const std::optional<std::uint64_t> typeBefore = before.OwnNumber("Supply_Type");
-  if (!type || !typeBefore || *type > *typeBefore || *typeBefore > kLastSupplyType || BeginsExtendedRange(pdo)) return;
+  if (!type || !typeBefore || *type > *typeBefore || BeginsExtendedRange(pdo)) return;
   const std::string name = pdo.FullName("Supply_Type");
   reporter.Add(*pdo.FindOwn("Supply_Type"),
                std::string("PDOs come in the order fixed, battery, variable, augmented, but ")
                    .append(name)
                    .append(" ")
-                   .append(NumberAndText(component, name, *type))
+                   .append(NumberInWords(component.File(), name, *type))
                    .append(" follows ")
-                   .append(NumberAndText(component, name, *typeBefore)));
+                   .append(NumberInWords(component.File(), name, *typeBefore)));
 }
 
 void CompareVoltages(const CPdoView& before, const CPdoView& pdo, CReporter& reporter) {

@@ -1,6 +1,7 @@
 // PDOs with their numbers in units.
 #pragma once
 
+#include "power/Supply.h"
 #include "rules/GroupView.h"
 
 #include <cstdint>
@@ -14,17 +15,6 @@ enum class PdoSide : std::uint8_t { Source, Sink };
 
 /// "source" or "sink".
 constexpr std::string_view SideName(PdoSide side) { return side == PdoSide::Source ? "source" : "sink"; }
-
-/// What kind of supply a PDO describes.
-enum class Supply : std::uint8_t {
-  Unknown,        ///< Supply_Type or APDO_Type is missing or no known value
-  Fixed,          ///< one voltage
-  Battery,        ///< a range of voltages and a power
-  Variable,       ///< a range of voltages and a current
-  Programmable,   ///< PPS: a range of voltages and a current, chosen by the sink
-  EprAdjustable,  ///< AVS of the extended power range: a range of voltages and a power rating
-  SprAdjustable,  ///< AVS of the standard power range
-};
 
 /// The numbers of a PDO, in mV, mA and mW. What the PDO does not say, or says in units that are not known, is empty; so
 /// is a number of more than a million units, which no product means.
@@ -76,7 +66,8 @@ class CPdoView : public CGroupView {
 
  private:
   Supply FindSupply() const;
-  std::optional<std::uint64_t> InUnits(std::string_view ending, std::uint64_t unit) const;
+  std::optional<std::uint64_t> InUnits(std::string_view ending) const;
+  std::optional<std::uint64_t> Amount(std::string_view ending, std::uint64_t number) const;
 
   PdoSide m_side;
   Supply m_supply;

@@ -1,16 +1,22 @@
 #include "rules/PortRole.h"
 
-#include "rules/FieldWords.h"
-
-#include <analysis/FieldText.h>
 #include <analysis/Vocabulary.h>
 
 namespace vifanalysis {
 
+namespace {
+
+/// Whether the number of PD_Port_Type or Type_C_State_Machine is in doubt.
+bool IsMismatched(const CComponentView& component, const CReporter& reporter) {
+  return reporter.HasFound("role-mismatch", component);
+}
+
+}  // namespace
+
 std::optional<PortRole> RoleOf(const CComponentView& component) {
   const std::optional<std::uint64_t> number = component.Number("PD_Port_Type");
   if (!number || *number > static_cast<std::uint64_t>(PortRole::EMarker)) return std::nullopt;
-  if (component.IsNo("USB_PD_Support")) return std::nullopt;
+  if (component.MayBeNo("USB_PD_Support")) return std::nullopt;
   return static_cast<PortRole>(*number);
 }
 
@@ -20,15 +26,22 @@ std::optional<StateMachine> StateMachineOf(const CComponentView& component) {
   return static_cast<StateMachine>(*number);
 }
 
-bool IsCable(const CComponentView& component) {
-  constexpr std::uint64_t cable = 1;
-  const FoundField* type = component.File().FindHeader("VIF_Product_Type");
-  const bool isCableProduct = type != nullptr && HasNumber(type->field) && type->field.GetULongNumericValue() == cable;
-  return isCableProduct || RoleOf(component) == PortRole::EMarker;
+std::optional<PortRole> SettledRole(const CComponentView& component, const CReporter& reporter) {
+  return IsMismatched(component, reporter) ? std::nullopt : RoleOf(component);
 }
 
-std::string NameAndNumber(const CComponentView& component, std::string_view name) {
-  return std::string(name).append(" ").append(NumberAndText(component, name, component.Number(name).value_or(0)));
+std::optional<StateMachine> SettledStateMachine(const CComponentView& component, const CReporter& reporter) {
+  return IsMismatched(component, reporter) ? std::nullopt : StateMachineOf(component);
+}
+
+bool IsPdPort(const CComponentView& component) {
+  const std::optional<PortRole> role = RoleOf(component);
+  return role && role != PortRole::EMarker;
+}
+
+bool IsCable(const CComponentView& component) {
+  constexpr std::uint64_t cable = 1;
+  return component.File().HeaderNumber("VIF_Product_Type") == cable || RoleOf(component) == PortRole::EMarker;
 }
 
 std::string_view RoleName(PortRole role) {

@@ -1,11 +1,11 @@
 // What a port is by its roles.
 #pragma once
 
+#include "rules/Reporter.h"
 #include "rules/VifView.h"
 
 #include <cstdint>
 #include <optional>
-#include <string>
 #include <string_view>
 
 namespace vifanalysis {
@@ -22,11 +22,16 @@ std::optional<PortRole> RoleOf(const CComponentView& component);
 /// The port's state machine; nothing when it has none that is known.
 std::optional<StateMachine> StateMachineOf(const CComponentView& component);
 
+// The same for rules after role-mismatch: nothing where it has found that the two contradict each other, because nobody
+// knows then which of them is wrong.
+std::optional<PortRole> SettledRole(const CComponentView& component, const CReporter& reporter);
+std::optional<StateMachine> SettledStateMachine(const CComponentView& component, const CReporter& reporter);
+
+/// Whether the component is a port that supports PD: it has a role that is known, and is not an eMarker.
+bool IsPdPort(const CComponentView& component);
+
 /// Whether the component is a cable, or the eMarker of one.
 bool IsCable(const CComponentView& component);
-
-/// The field and its number in words: "PD_Port_Type 3 (Provider Only)". The field must be there and have a number.
-std::string NameAndNumber(const CComponentView& component, std::string_view name);
 
 /// What a port of that role is called: "Provider Only".
 std::string_view RoleName(PortRole role);

@@ -58,7 +58,7 @@ bool AreEqual(const CGroupView& a, const CGroupView& b, std::string_view name) {
 bool AreEqual(const CGroupView& a, const CGroupView& b) {
   const auto areIn = [](const CGroupView& group, const CGroupView& other) {
     return std::all_of(group.Fields().begin(), group.Fields().end(),
-                       [&](const auto& entry) { return AreEqual(group, other, entry.first); });
+                       [&](const NamedField& named) { return AreEqual(group, other, named.name); });
   };
   return areIn(a, b) && areIn(b, a);
 }
@@ -86,7 +86,8 @@ class CComparison {
   /// \param blamed the port whose fields are mentioned, or its first field for one that it does not have
   void AddFields(const CComponentView& port, const CComponentView& other, const CComponentView& blamed,
                  CMentions& differences) const {
-    for (const auto& [name, field] : port.Fields()) {
+    for (const NamedField& named : port.Fields()) {
+      const std::string_view name = named.name;
       if (IsAPortsOwn(name) || AreEqual(port, other, name) || IsFound(port, name) || IsFound(other, name)) continue;
       const FoundField* found = blamed.Find(name);
       differences.Add(found != nullptr ? *found : *blamed.FirstField(), name);
@@ -102,8 +103,7 @@ class CComparison {
 
   bool IsFound(const CComponentView& component, std::string_view name) const {
     const FoundField* found = component.Find(name);
-    return found != nullptr &&
-           (m_reporter.HasFound("unanswered", *found) || m_reporter.HasFound("ports-disagree", *found));
+    return component.IsUnsound(name) || (found != nullptr && m_reporter.HasFound("ports-disagree", *found));
   }
 
   const CReporter& m_reporter;

@@ -1,5 +1,6 @@
 #include "files/Sentence.h"
 #include "rules/FieldWords.h"
+#include "rules/PortRole.h"
 #include "rules/RuleFunctions.h"
 
 #include <map>
@@ -24,14 +25,14 @@ constexpr std::string_view kOfTheProduct[] = {
     "Num_Swappable_Battery_Slots",
 };
 
-bool IsPdPort(const CComponentView& component) {
-  constexpr std::uint64_t drp = 4;  // the last role of a port
-  const std::optional<std::uint64_t> role = component.Number("PD_Port_Type");
-  return role && *role <= drp && !component.IsNo("USB_PD_Support");
+/// Whether other rules have found that the port names a wrong revision of PD.
+bool HasWrongRevision(const CComponentView& component, const CReporter& reporter) {
+  return reporter.HasFound("pd-revision-pair", component) || reporter.HasFound("pd-revision-unknown", component);
 }
 
 bool CanBeCompared(const CComponentView& component, std::string_view name, const CReporter& reporter) {
-  return component.Number(name) && IsPdPort(component) && !reporter.HasFound("unanswered", *component.Find(name));
+  if (name.starts_with("PD_Spec") && HasWrongRevision(component, reporter)) return false;
+  return component.Number(name) && IsPdPort(component);
 }
 
 /// Reports the first port that does not say what the first one says.
@@ -57,7 +58,7 @@ void CheckLabels(const CVifView& file, CReporter& reporter) {
   std::map<std::string_view, const CComponentView*> labelled;
   for (const CComponentView& component : file.Components()) {
     const std::string_view label = component.Text("Port_Label");
-    if (label.empty()) continue;
+    if (label.empty() || IsUnanswered(*component.Find("Port_Label"))) continue;
     const auto [other, isNew] = labelled.try_emplace(label, &component);
     if (isNew) continue;
     reporter.Add(*component.Find("Port_Label"), std::string("Port_Label is ")

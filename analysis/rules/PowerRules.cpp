@@ -1,5 +1,5 @@
 #include "power/Units.h"
-#include "rules/PdoFacts.h"
+#include "rules/RoleSide.h"
 #include "rules/RuleFunctions.h"
 
 #include <string>
@@ -10,8 +10,6 @@ namespace vifanalysis {
 namespace {
 
 constexpr std::string_view kRating = "PD_Power_As_Source";
-constexpr std::uint64_t kConsumerOnly = 0;
-constexpr std::uint64_t kEMarker = 5;
 constexpr std::uint64_t kRevision3 = 2;
 constexpr std::uint64_t kLeastPower = 15'000;  // mW; up to that, 5 V are enough
 constexpr std::uint64_t kCurrent = 3000;       // mA; every cable carries it
@@ -32,9 +30,8 @@ struct Offer {
 };
 
 bool IsRevision3Source(const CComponentView& component) {
-  const std::optional<std::uint64_t> role = component.Number("PD_Port_Type");
-  return role && *role > kConsumerOnly && *role < kEMarker && !component.IsNo("USB_PD_Support") &&
-         component.Number("PD_Specification_Revision") == kRevision3;
+  const std::optional<PortRole> role = RoleOf(component);
+  return role && HasSide(*role, PdoSide::Source) && component.Number("PD_Specification_Revision") == kRevision3;
 }
 
 bool HasKnownVoltage(const CPdoView& pdo) {

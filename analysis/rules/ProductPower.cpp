@@ -105,7 +105,8 @@ void CheckShared(const CComponentView& component, CReporter& reporter) {
 void CheckGangPorts(const Common& gang, CReporter& reporter) {
   for (const CComponentView* component : gang.components) {
     const std::optional<std::uint64_t> rating = component->Number(kRating);
-    if (!rating || *rating <= gang.greatest) continue;
+    // More than the product has is found already.
+    if (!rating || *rating <= gang.greatest || reporter.HasFound("product-power", *component->Find(kRating))) continue;
     reporter.Add(*component->Find(kGangPower), NameAndPower(kGangPower, gang.greatest)
                                                    .append(", but this port of the gang alone has ")
                                                    .append(Watts(*rating))

@@ -1,5 +1,6 @@
+#include "rules/FieldWords.h"
+#include "rules/PortRole.h"
 #include "rules/RuleFunctions.h"
-#include "rules/SoundFields.h"
 
 #include <string_view>
 
@@ -24,9 +25,9 @@ constexpr std::uint64_t kReservedUfp = 4;
 constexpr std::uint64_t kPowerBrick = 3;
 
 /// A consumer, or a consumer that can also provide, is not a brick.
-bool IsConsumer(const CComponentView& component) {
-  const std::optional<std::uint64_t> role = PdRole(component);
-  return role && *role <= 1;
+bool IsConsumer(const CComponentView& component, const CReporter& reporter) {
+  const std::optional<PortRole> role = SettledRole(component, reporter);
+  return role == PortRole::ConsumerOnly || role == PortRole::ConsumerProvider;
 }
 
 /// Whether the port does not respond in the role, unless alt-mode-role has found just that.
@@ -38,21 +39,21 @@ bool IsSilent(const CComponentView& component, std::string_view responds, const 
 std::string_view Contradicted(const CComponentView& component, const TypeField& field, std::uint64_t type,
                               const CReporter& reporter) {
   if (TakesData(type) && component.IsNo(field.carriesData)) return field.carriesData;
-  if (&field == &kDfp && type == kPowerBrick && IsConsumer(component)) return "PD_Port_Type";
+  if (&field == &kDfp && type == kPowerBrick && IsConsumer(component, reporter)) return "PD_Port_Type";
   return IsSilent(component, field.responds, reporter) ? field.responds : "";
 }
 
 void CheckType(const CComponentView& component, const TypeField& field, CReporter& reporter) {
-  const std::uint64_t type = SoundNumber(component, field.name, reporter).value_or(0);
+  const std::uint64_t type = component.Number(field.name).value_or(0);
   if (type == 0) return;
   const FoundField& blamed = *component.Find(field.name);
-  const std::string says = Says(component, field.name);
+  const std::string says = FieldIs(component, field.name);
   if (&field == &kUfp && type == kReservedUfp) {
     reporter.Add(blamed, says + ", which stands for no type of product");
     return;
   }
   const std::string_view contradicted = Contradicted(component, field, type, reporter);
-  if (!contradicted.empty()) reporter.Add(blamed, says + ", but " + Says(component, contradicted));
+  if (!contradicted.empty()) reporter.Add(blamed, says + ", but " + FieldIs(component, contradicted));
 }
 
 }  // namespace

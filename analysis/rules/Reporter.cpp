@@ -55,6 +55,12 @@ bool CReporter::HasFound(std::string_view code, const FoundField& field) const {
   return m_blamed.contains({code, &field});
 }
 
+UnsoundFields CReporter::BlamedFields() const {
+  UnsoundFields fields;
+  for (const auto& [code, field] : m_blamed) fields.insert(field);
+  return fields;
+}
+
 void CReporter::Add(const GroupPlace& place, const FoundField& blamed, const std::string& message) {
   m_findings.push_back(About(blamed, *m_rule, PlacePrefix(place) + message));
   m_blamed.emplace(m_rule->code, &blamed);

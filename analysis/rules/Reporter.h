@@ -35,6 +35,9 @@ class CReporter {
   /// Whether it has blamed that field.
   bool HasFound(std::string_view code, const FoundField& field) const;
 
+  /// The fields that rules have blamed so far.
+  UnsoundFields BlamedFields() const;
+
  private:
   void Add(const GroupPlace& place, const FoundField& blamed, const std::string& message);
 

@@ -1,5 +1,6 @@
+#include "rules/FieldWords.h"
+#include "rules/PortRole.h"
 #include "rules/RuleFunctions.h"
-#include "rules/SoundFields.h"
 
 #include <string>
 #include <string_view>
@@ -10,7 +11,7 @@ namespace {
 
 /// A data role that the port does not start in, and what it takes to get there.
 struct Role {
-  std::uint64_t stateMachine;  ///< with which the port starts in the other role
+  StateMachine stateMachine;  ///< with which the port starts in the other role
   std::string_view name;
   std::string_view otherName;
   std::string_view swap;
@@ -18,30 +19,30 @@ struct Role {
 };
 
 constexpr Role kRoles[] = {
-    {1, "a DFP", "a UFP", "DR_Swap_To_DFP_Supported", "Responds_To_Discov_SOP_DFP"},
-    {0, "a UFP", "a DFP", "DR_Swap_To_UFP_Supported", "Responds_To_Discov_SOP_UFP"},
+    {StateMachine::Sink, "a DFP", "a UFP", "DR_Swap_To_DFP_Supported", "Responds_To_Discov_SOP_DFP"},
+    {StateMachine::Source, "a UFP", "a DFP", "DR_Swap_To_UFP_Supported", "Responds_To_Discov_SOP_UFP"},
 };
 
 std::string Message(const CComponentView& component, const Role& role) {
-  return Says(component, role.responds)
+  return FieldIs(component, role.responds)
       .append(", but the port starts as ")
       .append(role.otherName)
       .append(" and never becomes ")
       .append(role.name)
       .append(": ")
-      .append(Says(component, "Type_C_State_Machine"))
+      .append(FieldIs(component, "Type_C_State_Machine"))
       .append(", ")
-      .append(Says(component, role.swap));
+      .append(FieldIs(component, role.swap));
 }
 
 }  // namespace
 
 void CheckRespondsInImpossibleRole(const CComponentView& component, CReporter& reporter) {
+  const std::optional<StateMachine> machine = SettledStateMachine(component, reporter);
   for (const Role& role : kRoles) {
-    if (component.Number("Type_C_State_Machine") == role.stateMachine && component.IsNo(role.swap) &&
-        component.IsYes(role.responds)) {
-      reporter.Add(*component.Find(role.responds), Message(component, role));
-    }
+    if (machine != role.stateMachine || !component.IsNo(role.swap) || !component.IsYes(role.responds)) continue;
+    if (reporter.HasFound("dr-swap-required", *component.Find(role.swap))) continue;
+    reporter.Add(*component.Find(role.responds), Message(component, role));
   }
 }
 

@@ -14,8 +14,8 @@ std::string Need(PortRole role, std::string_view what, std::string_view why) {
 
 void CheckSide(const CComponentView& component, PortRole role, PdoSide side, CReporter& reporter) {
   const FoundField& type = *component.Find("PD_Port_Type");
-  if (!HasPdoGroups(component, side) && component.Number(CountName(side)).value_or(0) == 0) {
-    const FoundField* count = component.Find(CountName(side));
+  const FoundField* count = component.Find(CountName(side));
+  if (!HasPdoGroups(component, side) && (count == nullptr || component.Number(CountName(side)) == 0U)) {
     reporter.Add(count != nullptr ? *count : type, Need(role, std::string(SideName(side)) + " PDOs", "there is none"));
   }
   if (!component.Has(RatingName(side))) reporter.Add(type, Need(role, RatingName(side), "it is missing"));
@@ -24,7 +24,7 @@ void CheckSide(const CComponentView& component, PortRole role, PdoSide side, CRe
 }  // namespace
 
 void CheckRoleIncomplete(const CComponentView& component, CReporter& reporter) {
-  const std::optional<PortRole> role = RoleOf(component);
+  const std::optional<PortRole> role = SettledRole(component, reporter);
   if (!role) return;
   for (const PdoSide side : {PdoSide::Source, PdoSide::Sink}) {
     if (HasSide(*role, side)) CheckSide(component, *role, side, reporter);

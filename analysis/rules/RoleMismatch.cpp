@@ -27,9 +27,10 @@ void CheckRoleMismatch(const CComponentView& component, CReporter& reporter) {
   if (!role || !number) return;
   const std::optional<StateMachine> wanted = StateMachineFor(*role);
   if (!wanted || *number == static_cast<std::uint64_t>(*wanted)) return;
-  reporter.Add(*component.Find(name), NameAndNumber(component, "PD_Port_Type") + " goes with " + std::string(name) +
-                                          ' ' + NumberAndText(component, name, static_cast<std::uint64_t>(*wanted)) +
-                                          ", but it is " + NumberAndText(component, name, *number));
+  reporter.Add(*component.Find(name), NameAndValue(component, "PD_Port_Type") + " goes with " + std::string(name) +
+                                          ' ' +
+                                          NumberInWords(component.File(), name, static_cast<std::uint64_t>(*wanted)) +
+                                          ", but it is " + NumberInWords(component.File(), name, *number));
 }
 
 }  // namespace vifanalysis

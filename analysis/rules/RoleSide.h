@@ -13,8 +13,6 @@ constexpr bool HasSide(PortRole role, PdoSide side) {
 }
 
 /// Whether the port has groups of PDOs of the side, those without a number included.
-inline bool HasPdoGroups(const CComponentView& component, PdoSide side) {
-  return component.HasGroups(side == PdoSide::Source ? eVifLocSrcPdo : eVifLocSnkPdo);
-}
+inline bool HasPdoGroups(const CComponentView& component, PdoSide side) { return component.HasGroups(PdoGroup(side)); }
 
 }  // namespace vifanalysis

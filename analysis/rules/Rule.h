@@ -9,6 +9,12 @@
 
 namespace vifanalysis {
 
+/// Checks the values of single fields. These rules come first, and the others take no number from a field that they
+/// have blamed.
+struct ValueCheck {
+  void (*check)(const CVifView& file, CReporter& reporter);
+};
+
 /// Checks one component.
 using ComponentCheck = void (*)(const CComponentView& component, CReporter& reporter);
 
@@ -18,7 +24,7 @@ using FileCheck = void (*)(const CVifView& file, CReporter& reporter);
 /// A row of facts and the function beside it.
 struct Rule {
   RuleInfo info;
-  std::variant<ComponentCheck, FileCheck> check;
+  std::variant<ValueCheck, ComponentCheck, FileCheck> check;
 };
 
 /// The rules about what a file declares, in the order in which they run and are listed.

@@ -13,19 +13,19 @@ constexpr Rule kRules[] = {
     {{"unanswered", Severity::Error, kEvery, Confidence::High, "S8", "a field that is still the editor's \"<select>\"",
       "The editor that wrote the file offered a choice that nobody made. The field has a number all the same, which "
       "stands for no answer. Choose the value that holds for the product."},
-     CheckUnanswered},
+     ValueCheck{CheckUnanswered}},
     {{"text-against-value", Severity::Error, kEvery, Confidence::High, "S1, S5",
       "a value and a text that say different things",
       "Beside the value is a text that says what it stands for, such as \"9000 mV\" beside 180. Only the value counts, "
       "so a text that says something else leads readers astray, or shows that the value was meant to be another. "
       "Correct whichever is wrong."},
-     CheckTextAgainstValue},
+     ValueCheck{CheckTextAgainstValue}},
     {{"value-out-of-range", Severity::Error, kEvery, Confidence::High, "S1, S2, S3, S5",
       "a number greater than the field allows",
       "The number is beyond the last of the field's values, or has more bits than the product can announce: 10 for a "
       "voltage, current or power in a PDO, 16 for a vendor or product ID and an SVID, 32 for an XID and the bits of a "
       "mode. Check for a digit too many and for a number in the wrong unit."},
-     CheckValueOutOfRange},
+     ValueCheck{CheckValueOutOfRange}},
 
     // PDO lists.
     {{"first-pdo-not-5v", Severity::Error, kEvery, Confidence::High, "S3, S4",
@@ -59,9 +59,8 @@ constexpr Rule kRules[] = {
     {{"pdo-above-rating", Severity::Error, kEvery, Confidence::High, "S1, S8, S13",
       "a PDO of more power than the port's rating",
       "PD_Power_As_Source and PD_Power_As_Sink are the power of the greatest PDO of their side, so none can be of "
-      "more. "
-      "Correct the rating, or the voltage, current or power of the PDO. An augmented PDO may exceed the rating: its "
-      "limits of voltage and current do not hold at once."},
+      "more. Correct the rating, or the voltage, current or power of the PDO. An augmented PDO may exceed the rating: "
+      "its limits of voltage and current do not hold at once."},
      CheckPdoAboveRating},
     {{"rating-above-pdos", Severity::Warning, kEvery, Confidence::Medium, "S1, S8, S13",
       "a rating above the power of every PDO of that side",

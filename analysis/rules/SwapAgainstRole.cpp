@@ -1,3 +1,4 @@
+#include "rules/FieldWords.h"
 #include "rules/PortRole.h"
 #include "rules/RuleFunctions.h"
 
@@ -22,17 +23,17 @@ void CheckPowerRoleSwaps(const CComponentView& component, PortRole role, CReport
 void CheckTryFields(const CComponentView& component, CReporter& reporter) {
   for (const std::string_view name : {kTrySource, kTrySink}) {
     if (!component.IsYes(name)) continue;
-    reporter.Add(*component.Find(name), std::string(name) + " is YES, but " +
-                                            NameAndNumber(component, "Type_C_State_Machine") + " is not DRP");
+    reporter.Add(*component.Find(name),
+                 std::string(name) + " is YES, but " + NameAndValue(component, "Type_C_State_Machine") + " is not DRP");
   }
 }
 
 }  // namespace
 
 void CheckSwapAgainstRole(const CComponentView& component, CReporter& reporter) {
-  const std::optional<PortRole> role = RoleOf(component);
+  const std::optional<PortRole> role = SettledRole(component, reporter);
   if (role == PortRole::ConsumerOnly || role == PortRole::ProviderOnly) CheckPowerRoleSwaps(component, *role, reporter);
-  const std::optional<StateMachine> machine = StateMachineOf(component);
+  const std::optional<StateMachine> machine = SettledStateMachine(component, reporter);
   if (machine == StateMachine::Source || machine == StateMachine::Sink) {
     CheckTryFields(component, reporter);
   } else if (component.IsYes(kTrySource) && component.IsYes(kTrySink)) {

@@ -15,11 +15,13 @@ namespace vifanalysis {
 
 namespace {
 
-/// What decides the units in one PDO, and the field with its supply type.
+/// What decides the units in one PDO, and the fields that say so; null where there is none.
 struct PdoUnits {
   PdoContext context;
-  const FoundField* supplyType = nullptr;
+  std::array<const FoundField*, 3> deciding{};
 };
+
+constexpr std::string_view kThresholdType = "Src_PD_OCP_UV_Threshold_Type";
 
 using UnitsByPlace = std::map<GroupPlace, PdoUnits>;
 
@@ -28,9 +30,11 @@ UnitsByPlace CollectUnits(const CVifView& file) {
   for (const CComponentView& component : file.Components()) {
     for (const PdoSide side : {PdoSide::Source, PdoSide::Sink}) {
       for (const CPdoView& pdo : component.Pdos(side)) {
-        units[pdo.Place()] = {{pdo.OwnNumber("Supply_Type"), pdo.OwnNumber("APDO_Type"),
-                               pdo.Number("Src_PD_OCP_UV_Threshold_Type"), file.GetEdition().value_or(Edition{})},
-                              pdo.FindOwn("Supply_Type")};
+        units[pdo.Place()] = {
+            {pdo.OwnNumber("Supply_Type"), pdo.OwnNumber("APDO_Type"), pdo.Number(kThresholdType),
+             file.GetEdition().value_or(Edition{})},
+            {pdo.FindOwn("Supply_Type"), pdo.FindOwn("APDO_Type"), pdo.Find(kThresholdType)},
+        };
       }
     }
   }
@@ -118,17 +122,33 @@ void CheckField(const FoundField& found, const PdoContext& context, CReporter& r
                           Quoted(text));
 }
 
+void CheckDeciding(const PdoUnits& units, CReporter& reporter) {
+  for (const FoundField* field : units.deciding) {
+    if (field != nullptr) CheckField(*field, units.context, reporter);
+  }
+}
+
+bool IsDeciding(const FoundField& found, const PdoUnits& units) {
+  return std::find(units.deciding.begin(), units.deciding.end(), &found) != units.deciding.end();
+}
+
+/// With a wrong supply type, for instance, the units are wrong, too, wherever in the PDO it stands.
+bool AreInDoubt(const PdoUnits& units, const CReporter& reporter) {
+  return std::any_of(units.deciding.begin(), units.deciding.end(), [&](const FoundField* field) {
+    return field != nullptr && reporter.HasFound("text-against-value", *field);
+  });
+}
+
 }  // namespace
 
 void CheckTextAgainstValue(const CVifView& file, CReporter& reporter) {
   const UnitsByPlace unitsByPlace = CollectUnits(file);
   const PdoUnits noPdo = {{{}, {}, {}, file.GetEdition().value_or(Edition{})}};
+  for (const auto& [place, units] : unitsByPlace) CheckDeciding(units, reporter);
   for (const FoundField& found : file.Fields()) {
     const auto place = unitsByPlace.find(found.field.Indexes());
     const PdoUnits& units = place != unitsByPlace.end() ? place->second : noPdo;
-    // With the wrong supply type the units are wrong, too.
-    const bool isInDoubt = units.supplyType != nullptr && reporter.HasFound("text-against-value", *units.supplyType);
-    if (!isInDoubt) CheckField(found, units.context, reporter);
+    if (!IsDeciding(found, units) && !AreInDoubt(units, reporter)) CheckField(found, units.context, reporter);
   }
 }
 

@@ -20,8 +20,14 @@ constexpr Need kNeeds[] = {
     {"USB_Comms_Capable", "; USB4 is USB communication"},
 };
 
-void Report(const FoundField& blamed, const CVifView& file, std::string_view why, CReporter& reporter) {
-  reporter.Add(blamed, ("USB4_Supported is YES, but " + FieldIs(blamed, file)).append(why));
+void Report(const CComponentView& component, std::string_view name, std::string_view why, CReporter& reporter) {
+  const FoundField& blamed = *component.Find(name);
+  reporter.Add(blamed, ("USB4_Supported is YES, but " + FieldIs(component, name)).append(why));
+}
+
+/// Whether other rules have found that the port names a wrong revision of PD.
+bool HasWrongRevision(const CComponentView& component, const CReporter& reporter) {
+  return reporter.HasFound("pd-revision-pair", component) || reporter.HasFound("pd3-feature-in-pd2", component);
 }
 
 void CheckDirections(const CComponentView& component, CReporter& reporter) {
@@ -46,17 +52,16 @@ void CheckDirections(const CComponentView& component, CReporter& reporter) {
 
 void CheckUsb4Needs(const CComponentView& component, CReporter& reporter) {
   if (!component.IsYes("USB4_Supported")) return;
-  const CVifView& file = component.File();
   for (const Need& need : kNeeds) {
-    if (component.IsNo(need.field)) Report(*component.Find(need.field), file, need.why, reporter);
+    if (component.IsNo(need.field)) Report(component, need.field, need.why, reporter);
   }
   const std::optional<std::uint64_t> revision = component.Number("PD_Specification_Revision");
-  if (revision && *revision < 2) {
-    Report(*component.Find("PD_Specification_Revision"), file, "; USB4 takes revision 3", reporter);
+  if (revision && *revision < 2 && !HasWrongRevision(component, reporter)) {
+    Report(component, "PD_Specification_Revision", "; USB4 takes revision 3", reporter);
   }
   const std::optional<std::uint64_t> connector = component.Number("Connector_Type");
   if (connector && *connector != 2) {
-    Report(*component.Find("Connector_Type"), file, "; USB4 takes 2 (Type-C)", reporter);
+    Report(component, "Connector_Type", "; USB4 takes 2 (Type-C)", reporter);
   }
   CheckDirections(component, reporter);
 }

@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <optional>
 #include <set>
-#include <span>
 #include <string>
 
 namespace vifanalysis {
@@ -11,9 +10,11 @@ namespace vifanalysis {
 namespace {
 
 /// The IDs of all routers; nothing when one of them is not known.
-std::optional<std::set<std::uint64_t>> FindIds(std::span<const CGroupView> routers) {
+std::optional<std::set<std::uint64_t>> FindIds(const CGroupView* product) {
   std::set<std::uint64_t> ids;
-  for (const CGroupView& router : routers) {
+  if (product == nullptr) return ids;
+  if (product->HasUnnumbered(eVifLocRouter)) return std::nullopt;  // it may be several in one
+  for (const CGroupView& router : product->Groups(eVifLocRouter)) {
     const std::optional<std::uint64_t> id = router.Number("USB4_Router_ID");
     if (!id) return std::nullopt;
     ids.insert(*id);
@@ -24,9 +25,7 @@ std::optional<std::set<std::uint64_t>> FindIds(std::span<const CGroupView> route
 }  // namespace
 
 void CheckUsb4Router(const CVifView& file, CReporter& reporter) {
-  const CGroupView* product = file.Product();
-  const std::optional<std::set<std::uint64_t>> ids =
-      FindIds(product != nullptr ? product->Groups(eVifLocRouter) : std::span<const CGroupView>());
+  const std::optional<std::set<std::uint64_t>> ids = FindIds(file.Product());
   if (!ids) return;
   for (const CComponentView& component : file.Components()) {
     const std::optional<std::uint64_t> index = component.Number("USB4_Router_Index");

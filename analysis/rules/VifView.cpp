@@ -25,13 +25,13 @@ std::string_view NameOf(const CVIFField& field) {
   return name.starts_with('$') ? name.substr(1) : name;
 }
 
-FieldsByPlace SortByPlace(const FoundFields& fields) {
+FieldsByPlace SortByPlace(const FoundFields& fields, const UnsoundFields& unsound) {
   FieldsByPlace sorted;
   auto last = sorted.end();  // fields of one group usually stand together
   for (const FoundField& found : fields) {
     const GroupPlace place = PlaceOf(found.field);
     if (last == sorted.end() || last->first != place) last = sorted.try_emplace(place).first;
-    last->second.emplace_back(NameOf(found.field), &found);
+    last->second.push_back({NameOf(found.field), &found, !unsound.contains(&found)});
   }
   return sorted;
 }
@@ -59,8 +59,8 @@ CGroupView MakeGroup(const GroupPlace& place, std::size_t depth, FieldsByPlace::
   return {place, std::move(fields), std::move(groups)};
 }
 
-CGroupView MakeRoot(const FoundFields& fields) {
-  FieldsByPlace sorted = SortByPlace(fields);
+CGroupView MakeRoot(const FoundFields& fields, const UnsoundFields& unsound) {
+  FieldsByPlace sorted = SortByPlace(fields, unsound);
   GroupPlace nowhere;
   nowhere.fill(CVIFField::UNSPECIFIED_INDEX);
   auto next = sorted.begin();
@@ -81,7 +81,8 @@ CComponentView::CComponentView(CGroupView group, const CVifView& file)
       m_sourcePdos(MakePdos(*this, eVifLocSrcPdo, PdoSide::Source)),
       m_sinkPdos(MakePdos(*this, eVifLocSnkPdo, PdoSide::Sink)) {}
 
-CVifView::CVifView(const FoundFields& fields) : m_fields(fields), m_root(MakeRoot(fields)) {
+CVifView::CVifView(const FoundFields& fields, const UnsoundFields& unsound)
+    : m_fields(fields), m_root(MakeRoot(fields, unsound)) {
   if (const FoundField* found = FindHeader("VIF_Specification")) m_edition = ParseEdition(TextOf(*found));
   for (const CGroupView& group : m_root.Groups(eVifLocComponent)) m_components.emplace_back(group, *this);
 }
@@ -90,6 +91,11 @@ const FoundField* CVifView::FindHeader(std::string_view name) const {
   const CGroupView* header = First(eVifLocVif);
   const FoundField* found = header != nullptr ? header->Find(name) : nullptr;
   return found != nullptr ? found : m_root.Find(name);
+}
+
+std::optional<std::uint64_t> CVifView::HeaderNumber(std::string_view name) const {
+  const CGroupView* header = First(eVifLocVif);
+  return header != nullptr && header->Has(name) ? header->Number(name) : m_root.Number(name);
 }
 
 const CGroupView* CVifView::First(EVifLocation kind) const {

@@ -6,6 +6,7 @@
 
 #include <analysis/Edition.h>
 
+#include <cstdint>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -35,7 +36,8 @@ class CComponentView : public CGroupView {
 /// A file. It borrows the list of fields, and takes time and memory that grow with its length.
 class CVifView {
  public:
-  explicit CVifView(const FoundFields& fields);
+  /// \param unsound fields of the list that are not to have a number; not kept
+  explicit CVifView(const FoundFields& fields, const UnsoundFields& unsound = {});
   CVifView(const CVifView&) = delete;
   CVifView& operator=(const CVifView&) = delete;
   ~CVifView() = default;
@@ -48,6 +50,9 @@ class CVifView {
 
   /// A field about the file as a whole, or in no group at all, such as a text of a text file; null when there is none.
   const FoundField* FindHeader(std::string_view name) const;
+
+  /// That field's number, as `CGroupView::Number` has it.
+  std::optional<std::uint64_t> HeaderNumber(std::string_view name) const;
 
   /// The product; null when the file has no field of it. Its routers are `Groups(eVifLocRouter)`.
   const CGroupView* Product() const { return First(eVifLocProduct); }

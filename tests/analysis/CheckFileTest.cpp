@@ -1,5 +1,6 @@
 // Checking a file by the public interface.
 #include "support/TempDir.h"
+#include "support/XmlVif.h"
 
 #include <analysis/Check.h>
 
@@ -35,6 +36,18 @@ TEST(CheckFileTest, HasFindingsOfTheFormAndOfWhatIsDeclared) {
   const testsupport::TempDir dir;
   EXPECT_THAT(Codes(dir.Write("a.txt", std::string(kFlawed) + "Product_Revision: 1\nCaptive_Cable: 4 ; <select>\n")),
               testing::IsSupersetOf({"declared-twice", "unknown-name", "unanswered"}));
+}
+
+TEST(CheckFileTest, DoesNotMissAnythingInAFileThatLoadsOnlyInPart) {
+  const testsupport::TempDir dir;
+  const std::string port =
+      "<vif:VIF_Specification>3.22</vif:VIF_Specification><vif:Component><vif:PD_Port_Type value=\"3\"/>"
+      "<vif:Num_Src_PDOs value=\"1\"/>";
+  const std::string broken = "<vif:FooList><vif:Foo/></vif:FooList>";
+  EXPECT_THAT(Codes(dir.Write("a.xml", testsupport::XmlVif(port + "</vif:Component>"))),
+              testing::UnorderedElementsAre("role-incomplete", "count-mismatch"));
+  EXPECT_THAT(Codes(dir.Write("a.xml", testsupport::XmlVif(port + broken + "</vif:Component>"))),
+              ElementsAre("not-valid"));
 }
 
 TEST(CheckFileTest, KeepsWhatTheOptionsSay) {

@@ -47,6 +47,15 @@ TEST(DataRoleContradictionTest, FindsADfpOfAHubThatIsNotOnOne) {
                       "Component 1: Is_DFP_On_Hub is YES, but Type_C_Port_On_Hub is NO");
 }
 
+TEST(DataRoleContradictionTest, BlamesTheRoleThatTwoFieldsContradict) {
+  CExample charger("gan-charger-65w.txt");
+  charger.Set(Component(1), "Data_Capable_As_USB_Host_SOP", "YES").Set(Component(1), "Host_Supports_USB_Data", "YES");
+  EXPECT_THAT(charger.FindingsOf(kCode),
+              Are({{kCode, "Type_C_Can_Act_As_Host",
+                    "Component 1: Data_Capable_As_USB_Host_SOP and Host_Supports_USB_Data are YES, but "
+                    "Type_C_Can_Act_As_Host is NO"}}));
+}
+
 TEST(DataRoleContradictionTest, AllowsARoleWithoutDataAndAUfpOfAHub) {
   EXPECT_THAT(CExample("dual-role-tablet.txt").Set(Component(1), "Host_Supports_USB_Data", "NO").FindingsOf(kCode),
               Are({}));

@@ -53,6 +53,25 @@ TEST(DetailsMissingTest, AsksNothingOfAPortThatDoesNotRespond) {
   EXPECT_THAT(charger.Findings(), Are({}));
 }
 
+TEST(DetailsMissingTest, AsksWhetherARoleCarriesDataFromEdition3_0) {
+  CExample tablet("dual-role-tablet.txt");
+  tablet.Remove(Component(1), "Host_Supports_USB_Data");
+  const Expected missing =
+      Missing("Type_C_Can_Act_As_Host", "Type_C_Can_Act_As_Host is YES, but Host_Supports_USB_Data is missing");
+  EXPECT_THAT(CExample(tablet).SetEdition("3.00").FindingsOf("details-missing"),
+              testing::Contains(testing::Field(&Finding::message, missing.message)));
+  EXPECT_THAT(CExample(tablet).SetEdition("2.04").FindingsOf("details-missing"),
+              testing::Not(testing::Contains(testing::Field(&Finding::message, missing.message))));
+}
+
+TEST(DetailsMissingTest, AsksNoThresholdsOfAPdoWithoutASupplyType) {
+  CExample laptop("two-port-laptop.xml");
+  laptop.Remove(SrcPdo(1, 2), "Src_PD_OCP_OC_Threshold");
+  EXPECT_EQ(laptop.FindingsOf("details-missing").size(), 1U);
+  laptop.Remove(SrcPdo(1, 2), "Src_PDO_Supply_Type");
+  EXPECT_THAT(laptop.FindingsOf("details-missing"), Are({}));
+}
+
 TEST(DetailsMissingTest, AsksNoFieldOfAnEditionBeforeIt) {
   CExample charger("gan-charger-65w.txt");
   charger.SetEdition("2.04").Remove(Component(1), "DFP_VDO_Port_Number");

@@ -69,11 +69,17 @@ TEST(DrSwapRequiredTest, AllowsASourceThatIsAHostAndASinkThatIsADevice) {
               Are({}));
 }
 
+TEST(DrSwapRequiredTest, TakesAPortWithARoleForAPdPortUnlessItSaysNo) {
+  CExample charger("gan-charger-65w.txt");
+  charger.Set(Component(1), "Type_C_Can_Act_As_Device", "YES");
+  EXPECT_EQ(CExample(charger).Remove(Component(1), "USB_PD_Support").FindingsOf(kCode).size(), 2U);
+  EXPECT_THAT(CExample(charger).Remove(Component(1), "PD_Port_Type").FindingsOf(kCode), Are({}));
+}
+
 TEST(DrSwapRequiredTest, IsNotForCablesOrWithoutUsbPd) {
   CExample charger("gan-charger-65w.txt");
   charger.Set(Component(1), "Type_C_Can_Act_As_Device", "YES");
   EXPECT_THAT(CExample(charger).Set(Component(1), "USB_PD_Support", "NO").FindingsOf(kCode), Are({}));
-  EXPECT_THAT(CExample(charger).Remove(Component(1), "USB_PD_Support").FindingsOf(kCode), Are({}));
   EXPECT_THAT(CExample(charger).Set(Component(1), "PD_Port_Type", "5").FindingsOf(kCode), Are({}));
   EXPECT_THAT(CExample(charger).Set(Header(), "VIF_Product_Type", "1").FindingsOf(kCode), Are({}));
 }

@@ -69,6 +69,13 @@ TEST(EprConsistencyTest, NeedsAWholeRevision) {
   EXPECT_THAT(charger.Findings(), testing::Not(testing::Contains(testing::Field(&Finding::code, "epr-consistency"))));
 }
 
+TEST(EprConsistencyTest, LeavesRevisionsThatDifferToTheirRule) {
+  CExample charger("epr-charger-140w.txt");
+  charger.Set(Component(1), "PD_Spec_Revision_Major", "2");
+  EXPECT_EQ(charger.FindingsOf("pd-revision-pair").size(), 1U);
+  EXPECT_THAT(charger.FindingsOf("epr-consistency"), Are({}));
+}
+
 TEST(EprConsistencyTest, LeavesRevision2ToItsRule) {
   CExample charger("epr-charger-140w.txt");
   charger.Set(Component(1), "PD_Spec_Revision_Major", "2").Set(Component(1), "PD_Specification_Revision", "1");

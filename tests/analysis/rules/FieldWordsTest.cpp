@@ -43,6 +43,17 @@ TEST(FieldWordsTest, MakeALeadingPartOfASentence) {
   EXPECT_EQ(FieldIs(fields.front(), CVifView(fields)), "Captive_Cable is YES");
 }
 
+TEST(FieldWordsTest, QuoteNamesThatAreNotOfTheFormat) {
+  const std::string longName(1000, 'x');
+  const FoundFields fields = FileOf({{"X_\x1b[31m\xff", "1"}, {longName.c_str(), "1"}});
+  const CVifView file(fields);
+  CMentions mentions;
+  mentions.AddFields(file.Components().front(), "X_");
+  EXPECT_EQ(mentions.InWords(), "'X_\\x1b[31m\xEF\xBF\xBD'");
+  mentions.AddFields(file.Components().front(), "x");
+  EXPECT_LT(mentions.InWords().size(), 100U);
+}
+
 TEST(FieldWordsTest, ListWhatAFindingIsAboutInTheOrderOfTheFile) {
   const FoundFields fields = FileOf({{"X_3", "1"}, {"X_1", "1"}, {"Y", "1"}, {"X_2", "1"}, {"X_1", "1"}});
   const CVifView file(fields);

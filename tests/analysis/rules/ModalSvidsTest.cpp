@@ -88,6 +88,23 @@ TEST(ModalSvidsTest, FindsSvidsThatHaveNoModes) {
                     "Component 1, SOP SVID 2: SVID_SOP is 0xFF00, which is USB PD itself and has no modes"}}));
 }
 
+TEST(ModalSvidsTest, SeesSvidsWithoutANumber) {
+  CExample charger("gan-charger-65w.txt");
+  charger.Set(Component(1), "Modal_Operation_Supported_SOP", "YES")
+      .Add(SopSvid(1, CVIFField::INDEX_NOT_SPECIFIED), "SVID_SOP", "0xFF01");
+  EXPECT_THAT(charger.Findings(), Are({}));
+  charger.Set(Component(1), "Modal_Operation_Supported_SOP", "NO");
+  EXPECT_THAT(charger.Findings(),
+              Are({{"modal-svids", "Modal_Operation_Supported_SOP",
+                    "Component 1: Modal_Operation_Supported_SOP is NO, but the port lists SVIDs"}}));
+}
+
+TEST(ModalSvidsTest, LeavesAMinimumAboveItsMaximumToTheCounts) {
+  CExample tablet("dual-role-tablet.txt");
+  tablet.Set(Component(1), "Num_SVIDs_Min_SOP", "3");
+  EXPECT_THAT(tablet.FindingsOf("modal-svids"), Are({}));
+}
+
 TEST(ModalSvidsTest, FindsAnSvidThatIsListedTwice) {
   CExample tablet("dual-role-tablet.txt");
   tablet.Set(SopSvid(1, 2), "SVID_SOP", "0xFF01");

@@ -116,6 +116,31 @@ TEST(PdoLimitsTest, FindsMissingEprOnce) {
                     "and EPR_Supported_As_Src is not YES"}}));
 }
 
+TEST(PdoLimitsTest, FindsMissingEprOnceInAListThatOnlyEprAllows) {
+  CExample charger("epr-charger-140w.txt");
+  const auto addAvs = [&](std::uint64_t pdo) {
+    charger.Add(SrcPdo(1, pdo), "Src_PDO_Supply_Type", "3")
+        .Add(SrcPdo(1, pdo), "Src_PDO_APDO_Type", "1")
+        .Add(SrcPdo(1, pdo), "Src_PDO_PDP_Rating", "140");
+  };
+  addAvs(8);
+  EXPECT_THAT(charger.Findings(), Are({}));
+  charger.Set(Component(1), "EPR_Supported_As_Src", "NO");
+  const Expected missing = {"pdo-limits", "Src_PDO_Voltage",
+                            "Component 1, Source PDO 6: Src_PDO_Voltage is 28 V, but a fixed PDO of more than 20 V "
+                            "needs EPR, and EPR_Supported_As_Src is not YES"};
+  EXPECT_THAT(charger.FindingsOf("pdo-limits"), Are({missing}));
+  for (std::uint64_t pdo = 9; pdo <= 12; ++pdo) addAvs(pdo);
+  EXPECT_THAT(charger.FindingsOf("pdo-limits"),
+              Are({missing, {"pdo-limits", "Num_Src_PDOs", "Component 1: 12 source PDOs; there can be at most 11"}}));
+}
+
+TEST(PdoLimitsTest, DoesNotRelyOnAnEprFieldThatIsUnanswered) {
+  CExample charger("epr-charger-140w.txt");
+  charger.Set(Component(1), "EPR_Supported_As_Src", "4", "<select>");
+  EXPECT_THAT(charger.FindingsOf("pdo-limits"), Are({}));
+}
+
 TEST(PdoLimitsTest, FindsARangeThatEndsBelowItsStart) {
   CExample tablet("dual-role-tablet.txt");
   tablet.Set(SnkPdo(1, 5), "Snk_PDO_Min_Voltage", "301");

@@ -16,7 +16,11 @@ TEST(PortsDisagreeTest, FindsIdsThatDiffer) {
 
 TEST(PortsDisagreeTest, FindsRevisionsThatDiffer) {
   CExample laptop("two-port-laptop.xml");
-  laptop.Set(Component(1), "PD_Specification_Revision", "1");
+  laptop.Set(Component(1), "PD_Specification_Revision", "1").Set(Component(1), "PD_Spec_Revision_Major", "2");
+  for (const char* name : {"PD_Spec_Revision_Minor", "PD_Spec_Version_Major", "PD_Spec_Version_Minor"}) {
+    laptop.Remove(Component(1), name);
+  }
+  laptop.Remove(Component(2), "PD_Spec_Revision_Major");
   EXPECT_THAT(laptop.FindingsOf("ports-disagree"),
               Are({{"ports-disagree", "Component[2]/PD_Specification_Revision",
                     "Component 2: PD_Specification_Revision is a matter of the product, but it is 2 (Revision 3) here "
@@ -24,15 +28,22 @@ TEST(PortsDisagreeTest, FindsRevisionsThatDiffer) {
 }
 
 TEST(PortsDisagreeTest, ComparesWhatHoldsForTheProduct) {
-  for (const char* name :
-       {"PD_Spec_Revision_Major", "PD_Spec_Revision_Minor", "PD_Spec_Version_Major", "PD_Spec_Version_Minor", "XID_SOP",
-        "Manufacturer_Info_VID_Port", "Num_Fixed_Batteries", "Num_Swappable_Battery_Slots"}) {
+  for (const auto& [name, value] :
+       {std::pair("PD_Spec_Revision_Minor", "2"), std::pair("PD_Spec_Version_Minor", "1"), std::pair("XID_SOP", "9"),
+        std::pair("Manufacturer_Info_VID_Port", "9"), std::pair("Num_Fixed_Batteries", "9"),
+        std::pair("Num_Swappable_Battery_Slots", "9")}) {
     CExample laptop("two-port-laptop.xml");
-    laptop.Set(Component(2), name, "9");
+    laptop.Set(Component(2), name, value);
     const std::vector<Finding> findings = laptop.FindingsOf("ports-disagree");
     ASSERT_EQ(findings.size(), 1U) << name;
     EXPECT_THAT(findings.front().element, testing::EndsWith(name));
   }
+}
+
+TEST(PortsDisagreeTest, LeavesAWrongRevisionToTheRulesAboutIt) {
+  CExample laptop("two-port-laptop.xml");
+  EXPECT_THAT(CExample(laptop).Set(Component(2), "PD_Spec_Revision_Major", "2").FindingsOf("ports-disagree"), Are({}));
+  EXPECT_THAT(CExample(laptop).Set(Component(2), "PD_Spec_Version_Minor", "99").FindingsOf("ports-disagree"), Are({}));
 }
 
 TEST(PortsDisagreeTest, ReportsOnlyTheFirstPortThatDiffers) {
@@ -55,6 +66,12 @@ TEST(PortsDisagreeTest, FindsALabelThatTwoPortsHave) {
 TEST(PortsDisagreeTest, SkipsPortsThatDoNotSayIt) {
   CExample laptop("two-port-laptop.xml");
   laptop.Remove(Component(2), "XID_SOP").Remove(Component(2), "Port_Label").Remove(Component(1), "Num_Fixed_Batteries");
+  EXPECT_THAT(laptop.FindingsOf("ports-disagree"), Are({}));
+}
+
+TEST(PortsDisagreeTest, SaysNothingOfLabelsThatNobodyHasChosen) {
+  CExample laptop("two-port-laptop.xml");
+  for (const std::uint64_t port : {1U, 2U}) laptop.Set(Component(port), "Port_Label", "<select>");
   EXPECT_THAT(laptop.FindingsOf("ports-disagree"), Are({}));
 }
 

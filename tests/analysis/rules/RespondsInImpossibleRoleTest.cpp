@@ -23,6 +23,13 @@ TEST(RespondsInImpossibleRoleTest, FindsASinkThatRespondsAsDfp) {
                     "DFP: Type_C_State_Machine is 1 (SNK), DR_Swap_To_DFP_Supported is NO"}}));
 }
 
+TEST(RespondsInImpossibleRoleTest, LeavesASwapThatIsRequiredToItsRule) {
+  CExample charger("gan-charger-65w.txt");
+  charger.Set(Component(1), "Responds_To_Discov_SOP_UFP", "YES").Set(Component(1), "Type_C_Can_Act_As_Device", "YES");
+  EXPECT_EQ(charger.FindingsOf("dr-swap-required").size(), 2U);
+  EXPECT_THAT(charger.FindingsOf("responds-in-impossible-role"), Are({}));
+}
+
 TEST(RespondsInImpossibleRoleTest, AllowsARoleThatThePortSwapsTo) {
   CExample charger("gan-charger-65w.txt");
   charger.Set(Component(1), "Responds_To_Discov_SOP_UFP", "YES").Set(Component(1), "DR_Swap_To_UFP_Supported", "YES");

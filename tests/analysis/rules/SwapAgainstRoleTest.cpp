@@ -40,6 +40,15 @@ TEST(SwapAgainstRoleTest, FindsAPreferenceOfAPortThatIsNotADrp) {
                     "Component 1: Type_C_Implements_Try_SNK is YES, but Type_C_State_Machine 1 (SNK) is not DRP"}}));
 }
 
+TEST(SwapAgainstRoleTest, LeavesAMismatchOfRolesToItsRule) {
+  CExample tablet("dual-role-tablet.txt");
+  tablet.Set(Component(1), "PD_Port_Type", "3");
+  EXPECT_EQ(tablet.FindingsOf("role-mismatch").size(), 1U);
+  for (const char* code : {"swap-against-role", "role-incomplete", "role-leftover", "power-source-role"}) {
+    EXPECT_THAT(tablet.FindingsOf(code), Are({})) << code;
+  }
+}
+
 TEST(SwapAgainstRoleTest, FindsTwoPreferences) {
   CExample tablet("dual-role-tablet.txt");
   tablet.Set(Component(1), "Type_C_Implements_Try_SRC", "YES");

@@ -85,6 +85,40 @@ TEST(TextAgainstValueTest, BlamesTheSupplyTypeAloneForUnitsThatDoNotFit) {
                     "Component 1, Source PDO 2: 'Src_PDO_Supply_Type' is 3 (Augmented), but its text says 'Fixed'"}}));
 }
 
+TEST(TextAgainstValueTest, IsTheOnlyFindingAboutAValue) {
+  const auto expectOne = [](const Place& place, const std::string& name, const std::string& value,
+                            const std::string& text) {
+    CExample laptop("two-port-laptop.xml");
+    laptop.Set(place, name, value, text);
+    const std::vector<Finding> findings = laptop.Findings();
+    ASSERT_EQ(findings.size(), 1U) << name << findings.back();
+    EXPECT_EQ(findings.front().code, kCode) << name;
+  };
+  expectOne(SrcPdo(1, 2), "Src_PDO_Max_Current", "500", "2250 mA");  // or pdo-above-rating
+  expectOne(SrcPdo(1, 2), "Src_PDO_Voltage", "60", "9 V");           // or pdo-limits
+  expectOne(SrcPdo(1, 1), "Src_PDO_Voltage", "60", "5000 mV");       // or first-pdo-not-5v
+  expectOne(SrcPdo(1, 2), "Src_PDO_Supply_Type", "3", "Fixed");      // or pdo-fields-for-type
+  expectOne(Component(1), "PD_Power_As_Sink", "650000", "65 W");     // or rating-above-pdos
+  expectOne(Component(1), "PD_Port_Type", "3", "DRP");               // or role-mismatch
+  expectOne(Component(1), "USB_PD_Support", "0", "YES");             // or role-leftover
+  expectOne(Component(1), "USB_Comms_Capable", "0", "YES");          // or comms-role
+}
+
+TEST(TextAgainstValueTest, BlamesTheSupplyTypeAloneWhereverItStands) {
+  CExample charger("gan-charger-65w.xml");
+  charger.Remove(SrcPdo(1, 2), "Src_PDO_Supply_Type").Add(SrcPdo(1, 2), "Src_PDO_Supply_Type", "2");
+  charger.Set(SrcPdo(1, 2), "Src_PDO_Supply_Type", "3", "Fixed").Add(SrcPdo(1, 2), "Src_PDO_APDO_Type", "0");
+  EXPECT_EQ(charger.FindingsOf(kCode).size(), 1U);
+}
+
+TEST(TextAgainstValueTest, ReadsACountBeforeAWholeWordOfTheName) {
+  ExpectMatch(Component(1), "Num_Snk_PDOs", "4", "3 S");
+  ExpectMatch(Component(1), "Num_Snk_PDOs", "4", "3 PDO");
+  ExpectMatch(Component(1), "Num_Fixed_Batteries", "1", "2 bat");
+  ExpectMismatch(Component(1), "Num_Snk_PDOs", "4", "3 PDOs, all fixed",
+                 "Component 1: 'Num_Snk_PDOs' is 4, but its text says '3 PDOs, all fixed'");
+}
+
 TEST(TextAgainstValueTest, TakesOtherUnitsAndOtherNamesForTheSame) {
   ExpectMatch(SrcPdo(1, 2), "Src_PDO_Voltage", "180", "9 V");
   ExpectMatch(SrcPdo(1, 2), "Src_PDO_Max_Current", "225", "2.25 A");

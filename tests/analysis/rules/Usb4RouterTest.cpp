@@ -35,6 +35,13 @@ TEST(Usb4RouterTest, SkipsPortsWithoutAnIndexOrWithoutUsb4) {
   EXPECT_THAT(dock.FindingsOf("usb4-router"), Are({}));
 }
 
+TEST(Usb4RouterTest, SaysNothingWhenARouterHasNoNumber) {
+  CExample dock("usb4-dock.xml");
+  dock.Set(Component(2), "USB4_Router_Index", "2");
+  dock.Add(Router(CVIFField::INDEX_NOT_SPECIFIED), "USB4_Router_ID", "2");
+  EXPECT_THAT(dock.FindingsOf("usb4-router"), Are({}));
+}
+
 TEST(Usb4RouterTest, SaysNothingWhenARouterHasNoId) {
   CExample dock("usb4-dock.xml");
   dock.Remove(Router(1), "USB4_Router_ID").Set(Component(2), "USB4_Router_Index", "2");

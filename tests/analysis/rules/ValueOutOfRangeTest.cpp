@@ -13,7 +13,7 @@ TEST(ValueOutOfRangeTest, FindsAnEnumerationBeyondItsLastValue) {
   EXPECT_THAT(
       charger.FindingsOf(kCode),
       Are({{kCode, "BC_1_2_Support", "Component 1: 'BC_1_2_Support' is 4, but there are only the values 0 to 3"}}));
-  charger.Set(Component(1), "BC_1_2_Support", "3");
+  charger.Set(Component(1), "BC_1_2_Support", "3").Set(Component(1), "BC_1_2_Charging_Port_Type", "1");
   EXPECT_THAT(charger.FindingsOf(kCode), Are({}));
 }
 
@@ -78,6 +78,12 @@ TEST(ValueOutOfRangeTest, FindsAQuantityOfAPdoOfMoreThan10Bits) {
                     "greatest value"}}));
   charger.Set(SrcPdo(1, 4), "Src_PDO_Voltage", "1023");
   EXPECT_THAT(charger.FindingsOf(kCode), Are({}));
+}
+
+TEST(ValueOutOfRangeTest, AllowsValuesWhereTheLastIsNotCertain) {
+  CExample cable("active-cable.txt");
+  cable.Set(Component(1), "SBU_Type", "2").Set(Component(1), "Cable_VBUS_Current", "3");
+  EXPECT_THAT(cable.FindingsOf(kCode), Are({}));
 }
 
 TEST(ValueOutOfRangeTest, AllowsSpeedsThatAreNotKnownYet) {

@@ -51,7 +51,7 @@ class CommandFileTest : public testing::Test {
 #endif
   }
 
-  fs::path WriteText() const { return Write("x.txt", kText); }
+  fs::path WriteText(const std::string& text = kText) const { return Write("x.txt", text); }
   fs::path WriteXml() const { return Write("x.xml", kXml); }
 
   /// Runs the command while the environment variables control the calls on the file.
@@ -144,6 +144,16 @@ TEST_F(CommandFileTest, CheckSaysWhereReadingFailed) {
                     file.native() + ":3: error: reading the file failed; the rest of it is not checked [read-failed]",
                     "1 error"));
   }
+}
+
+TEST_F(CommandFileTest, CheckMissesNothingAfterTheLineWhereReadingFailed) {
+  const std::string text = "$VIF_Specification: \"3.22\"\nPD_Port_Type: 3\nNum_Src_PDOs: 1\nSrc_PDO_Voltage2: 180\n";
+  const fs::path file = WriteText(text + "PID_SOP: 1\n");
+  EXPECT_EQ(Lines(Run({"check"}, file, {}).output).size(), 4U);
+  EXPECT_THAT(Lines(Run({"check"}, file, FailsAfter(text.size())).output),
+              testing::ElementsAre(
+                  file.native() + ":5: error: reading the file failed; the rest of it is not checked [read-failed]",
+                  "1 error"));
 }
 
 TEST_F(CommandFileTest, XmlThatCannotBeReadToItsEnd) {
