@@ -89,7 +89,7 @@ HRESULT CDomDocument::get_documentElement(IXMLDOMElement** root) {
   *root = nullptr;
   if (Tree() == nullptr) return S_FALSE;
   return Guarded([&] {
-    *root = MakeElement(m_state, Tree()->Root()).Detach();
+    *root = MakeNode(m_state, Tree()->Root()).Detach();
     return S_OK;
   });
 }

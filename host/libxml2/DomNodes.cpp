@@ -47,43 +47,16 @@ class CDomAttributes final : public IXMLDOMNamedNodeMap {
   HRESULT getNamedItem(BSTR name, IXMLDOMNode** attribute) override;
 
  private:
-  static bool IsNamed(const xmlAttr& attribute, std::string_view wanted) {
-    if (attribute.ns == nullptr) return View(attribute.name) == wanted;
-    return QualifiedName(attribute.ns, attribute.name) == wanted;
+  static bool IsNamed(const xmlAttr& attribute, std::wstring_view wanted) {
+    const std::string_view name = View(attribute.name);
+    const auto isSame = [](char a, wchar_t b) { return a > 0 && static_cast<wchar_t>(a) == b; };  // ASCII
+    if (attribute.ns == nullptr && std::equal(name.begin(), name.end(), wanted.begin(), wanted.end(), isSame)) {
+      return true;  // as nearly always, and without memory
+    }
+    return QualifiedName(attribute.ns, attribute.name) == Utf16ToUtf8(wanted);
   }
 
   CDomNode& m_node;
-};
-
-class CDomNodeList final : public CCounted<IXMLDOMNodeList> {
- public:
-  CDomNodeList(StatePointer state, std::vector<xmlNode*> nodes)
-      : m_state(std::move(state)), m_nodes(std::move(nodes)) {}
-
-  HRESULT QueryInterface(REFIID iid, void** object) override {
-    if (object == nullptr) return E_POINTER;
-    return iid == IID_IUnknown || iid == IID_IXMLDOMNodeList ? Answer(this, object) : RefuseInterface(object);
-  }
-
-  HRESULT get_item(LONG index, IXMLDOMNode** node) override {
-    if (node == nullptr) return E_INVALIDARG;
-    *node = nullptr;
-    if (index < 0 || static_cast<std::size_t>(index) >= m_nodes.size()) return S_FALSE;
-    return Guarded([&] {
-      *node = MakeNode(m_state, m_nodes[static_cast<std::size_t>(index)]).Detach();
-      return S_OK;
-    });
-  }
-
-  HRESULT get_length(LONG* length) override {
-    if (length == nullptr) return E_INVALIDARG;
-    *length = static_cast<LONG>(m_nodes.size());
-    return S_OK;
-  }
-
- private:
-  StatePointer m_state;
-  std::vector<xmlNode*> m_nodes;
 };
 
 /// The empty list, which most elements return when asked for child elements. All share one.
@@ -111,10 +84,16 @@ class CEmptyNodeList final : public IXMLDOMNodeList {
   }
 };
 
-/// An element or an attribute or, where an XPath reaches it, the document.
-class CDomNode final : public CCounted<IXMLDOMElement> {
+/// An element or an attribute or, where an XPath reaches it, the document. It is part of an object that counts the
+/// references to it, so that the nodes of a list need no memory of their own.
+class CDomNode final : public IXMLDOMElement {
  public:
-  CDomNode(StatePointer state, xmlNode* node) : m_state(std::move(state)), m_node(node), m_attributes(*this) {}
+  /// \param owner counts the references
+  /// \param state the owner's
+  CDomNode(IUnknown& owner, const StatePointer& state, xmlNode* node)
+      : m_owner(owner), m_state(state), m_node(node), m_attributes(*this) {}
+  CDomNode(CDomNode&& other) noexcept : CDomNode(other.m_owner, other.m_state, other.m_node) {}
+  ~CDomNode() = default;
 
   const StatePointer& State() const { return m_state; }
   const xmlNode* Node() const { return m_node; }
@@ -130,6 +109,9 @@ class CDomNode final : public CCounted<IXMLDOMElement> {
                         (iid == IID_IXMLDOMElement && m_node->type == XML_ELEMENT_NODE);
     return isMine ? Answer(this, object) : RefuseInterface(object);
   }
+
+  ULONG AddRef() override { return m_owner.AddRef(); }
+  ULONG Release() override { return m_owner.Release(); }
 
   HRESULT get_nodeName(BSTR* name) override {
     if (name == nullptr) return E_INVALIDARG;
@@ -194,7 +176,8 @@ class CDomNode final : public CCounted<IXMLDOMElement> {
   bool IsDocument() const { return m_node->type == XML_DOCUMENT_NODE; }
   bool HasNamespace() const { return !IsDocument() && m_node->ns != nullptr; }
 
-  StatePointer m_state;
+  IUnknown& m_owner;
+  const StatePointer& m_state;
   xmlNode* m_node;
   CDomAttributes m_attributes;
 };
@@ -208,7 +191,7 @@ HRESULT CDomAttributes::getNamedItem(BSTR name, IXMLDOMNode** attribute) {
   *attribute = nullptr;
   if (name == nullptr) return E_INVALIDARG;
   return Guarded([&] {
-    const std::string wanted = Utf16ToUtf8({name, SysStringLen(name)});
+    const std::wstring_view wanted(name, SysStringLen(name));
     for (xmlAttr* candidate = m_node.Node()->properties; candidate != nullptr; candidate = candidate->next) {
       if (!IsNamed(*candidate, wanted)) continue;
       *attribute = MakeNode(m_node.State(), reinterpret_cast<xmlNode*>(candidate)).Detach();
@@ -217,6 +200,53 @@ HRESULT CDomAttributes::getNamedItem(BSTR name, IXMLDOMNode** attribute) {
     return S_FALSE;
   });
 }
+
+/// A list and its nodes, which share the list's reference count.
+class CDomNodeList final : public CCounted<IXMLDOMNodeList> {
+ public:
+  CDomNodeList(StatePointer state, const std::vector<xmlNode*>& nodes) : m_state(std::move(state)) {
+    m_nodes.reserve(nodes.size());
+    for (xmlNode* node : nodes) m_nodes.emplace_back(*this, m_state, node);
+  }
+
+  HRESULT QueryInterface(REFIID iid, void** object) override {
+    if (object == nullptr) return E_POINTER;
+    return iid == IID_IUnknown || iid == IID_IXMLDOMNodeList ? Answer(this, object) : RefuseInterface(object);
+  }
+
+  HRESULT get_item(LONG index, IXMLDOMNode** node) override {
+    if (node == nullptr) return E_INVALIDARG;
+    *node = nullptr;
+    if (index < 0 || static_cast<std::size_t>(index) >= m_nodes.size()) return S_FALSE;
+    AddRef();
+    *node = &m_nodes[static_cast<std::size_t>(index)];
+    return S_OK;
+  }
+
+  HRESULT get_length(LONG* length) override {
+    if (length == nullptr) return E_INVALIDARG;
+    *length = static_cast<LONG>(m_nodes.size());
+    return S_OK;
+  }
+
+ private:
+  StatePointer m_state;
+  std::vector<CDomNode> m_nodes;
+};
+
+/// A node that is not in a list.
+class CSingleNode final : public CCounted<IUnknown> {
+ public:
+  CSingleNode(StatePointer state, xmlNode* node) : m_state(std::move(state)), m_node(*this, m_state, node) {}
+
+  HRESULT QueryInterface(REFIID iid, void** object) override { return m_node.QueryInterface(iid, object); }
+
+  CDomNode& Node() { return m_node; }
+
+ private:
+  StatePointer m_state;
+  CDomNode m_node;
+};
 
 /// The parsed path when the expression is one; else null.
 const CChildPath* FindPath(const DocumentState& state, std::wstring_view xpath) {
@@ -255,10 +285,8 @@ BSTR MakeBstr(std::string_view utf8) {
   return CBstr(Utf8ToUtf16(utf8)).Detach();
 }
 
-DOMNodePtr MakeNode(const StatePointer& state, xmlNode* node) { return DOMNodePtr(new CDomNode(state, node), false); }
-
-DOMElementPtr MakeElement(const StatePointer& state, xmlNode* element) {
-  return DOMElementPtr(new CDomNode(state, element), false);
+DOMElementPtr MakeNode(const StatePointer& state, xmlNode* node) {
+  return DOMElementPtr(&(new CSingleNode(state, node))->Node(), false);
 }
 
 const xmlNode* NodeBehind(IXMLDOMNode& node, const CXmlTree& tree) {
@@ -275,9 +303,9 @@ HRESULT SelectList(const StatePointer& state, xmlNode* from, BSTR xpath, IXMLDOM
   static CEmptyNodeList emptyList;
   return Guarded([&] {
     HRESULT result = S_OK;
-    std::vector<xmlNode*> found = Select(*state, from, {xpath, SysStringLen(xpath)}, result);
+    const std::vector<xmlNode*> found = Select(*state, from, {xpath, SysStringLen(xpath)}, result);
     if (FAILED(result)) return result;
-    *nodes = found.empty() ? static_cast<IXMLDOMNodeList*>(&emptyList) : new CDomNodeList(state, std::move(found));
+    *nodes = found.empty() ? static_cast<IXMLDOMNodeList*>(&emptyList) : new CDomNodeList(state, found);
     return result;
   });
 }

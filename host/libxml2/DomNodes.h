@@ -23,12 +23,9 @@ struct DocumentState {
 };
 using StatePointer = std::shared_ptr<const DocumentState>;
 
-/// Creates an object for a node, an element or an attribute, with one reference.
+/// Creates an object for an element or, if it is used as an IXMLDOMNode only, for any node.
 /// \throws std::bad_alloc
-DOMNodePtr MakeNode(const StatePointer& state, xmlNode* node);
-
-/// The same for an element.
-DOMElementPtr MakeElement(const StatePointer& state, xmlNode* element);
+DOMElementPtr MakeNode(const StatePointer& state, xmlNode* node);
 
 /// The libxml2 node of a node that `MakeNode` created for that tree; null for any other.
 const xmlNode* NodeBehind(IXMLDOMNode& node, const CXmlTree& tree);
