@@ -3,7 +3,7 @@
 #include "BaseUtilities/Ascii.h"
 #include "BaseUtilities/StringConvert.h"
 #include "libxml2/Counted.h"
-#include "libxml2/NodeText.h"
+#include "libxml2/NodeCalls.h"
 #include "libxml2/XmlText.h"
 
 #include <algorithm>
@@ -19,15 +19,6 @@ namespace {
 
 /// Only the nodes of this file support it.
 constexpr IID kNodeBehind = {0x8C4A2F10, 0x51D3, 0x4E0B, {0x9A, 0x77, 0x3D, 0x5E, 0x20, 0xB1, 0xC6, 0x48}};
-
-/// Returns an optional text: S_FALSE and null when there is none.
-HRESULT GiveText(const xmlChar* text, BSTR* place) {
-  *place = text != nullptr ? MakeBstr(View(text)) : nullptr;
-  return text != nullptr ? S_OK : S_FALSE;
-}
-
-/// In a document without a document type declaration, no attribute value is in pieces.
-std::string_view AttributeValue(const xmlNode& attribute) { return View(attribute.children->content); }
 
 class CDomNode;
 
@@ -86,17 +77,14 @@ class CEmptyNodeList final : public IXMLDOMNodeList {
 
 /// An element or an attribute or, where an XPath reaches it, the document. It is part of an object that counts the
 /// references to it, so that the nodes of a list need no memory of their own.
-class CDomNode final : public IXMLDOMElement {
+class CDomNode final : public CNodeCalls<IXMLDOMElement> {
  public:
   /// \param owner counts the references
   /// \param state the owner's
   CDomNode(IUnknown& owner, const StatePointer& state, xmlNode* node)
-      : m_owner(owner), m_state(state), m_node(node), m_attributes(*this) {}
-  CDomNode(CDomNode&& other) noexcept : CDomNode(other.m_owner, other.m_state, other.m_node) {}
+      : CNodeCalls(state, node), m_owner(owner), m_attributes(*this) {}
+  CDomNode(CDomNode&& other) noexcept : CDomNode(other.m_owner, other.State(), other.Node()) {}
   ~CDomNode() = default;
-
-  const StatePointer& State() const { return m_state; }
-  const xmlNode* Node() const { return m_node; }
 
   HRESULT QueryInterface(REFIID iid, void** object) override {
     if (object == nullptr) return E_POINTER;
@@ -105,80 +93,24 @@ class CDomNode final : public IXMLDOMElement {
       *object = this;
       return S_OK;
     }
-    const bool isMine = iid == IID_IUnknown || iid == IID_IXMLDOMNode ||
-                        (iid == IID_IXMLDOMElement && m_node->type == XML_ELEMENT_NODE);
+    const bool isMine = iid == IID_IUnknown || iid == IID_IXMLDOMNode || (iid == IID_IXMLDOMElement && IsElement());
     return isMine ? Answer(this, object) : RefuseInterface(object);
   }
 
   ULONG AddRef() override { return m_owner.AddRef(); }
   ULONG Release() override { return m_owner.Release(); }
 
-  HRESULT get_nodeName(BSTR* name) override {
-    if (name == nullptr) return E_INVALIDARG;
-    return Guarded([&] {
-      *name = IsDocument() ? MakeBstr("#document") : MakeBstr(QualifiedName(m_node->ns, m_node->name));
-      return S_OK;
-    });
-  }
-
-  HRESULT get_nodeValue(VARIANT* value) override {
-    if (value == nullptr) return E_INVALIDARG;
-    VariantInit(value);
-    if (m_node->type != XML_ATTRIBUTE_NODE) {
-      value->vt = VT_NULL;
-      return S_FALSE;
-    }
-    return Guarded([&] {
-      value->bstrVal = MakeBstr(AttributeValue(*m_node));
-      value->vt = VT_BSTR;
-      return S_OK;
-    });
-  }
-
   HRESULT get_attributes(IXMLDOMNamedNodeMap** attributes) override {
-    if (attributes == nullptr) return E_INVALIDARG;
-    *attributes = nullptr;
-    if (m_node->type != XML_ELEMENT_NODE) return S_FALSE;
+    if (attributes == nullptr || !IsElement()) return CNodeCalls::get_attributes(attributes);
     AddRef();
     *attributes = &m_attributes;
     return S_OK;
   }
 
-  HRESULT get_text(BSTR* text) override {
-    if (text == nullptr) return E_INVALIDARG;
-    return Guarded([&] {
-      const std::optional<std::string_view> plain =
-          m_node->type == XML_ATTRIBUTE_NODE ? AttributeValue(*m_node) : PlainText(*m_node);
-      *text = plain ? MakeBstr(*plain) : MakeBstr(NodeText(*m_node));
-      return S_OK;
-    });
-  }
-
-  HRESULT selectNodes(BSTR xpath, IXMLDOMNodeList** nodes) override {
-    return SelectList(m_state, m_node, xpath, nodes);
-  }
-
-  HRESULT selectSingleNode(BSTR xpath, IXMLDOMNode** node) override {
-    return SelectFirst(m_state, m_node, xpath, node);
-  }
-
-  HRESULT get_namespaceURI(BSTR* uri) override {
-    if (uri == nullptr) return E_INVALIDARG;
-    return Guarded([&] { return GiveText(HasNamespace() ? m_node->ns->href : nullptr, uri); });
-  }
-
-  HRESULT get_baseName(BSTR* name) override {
-    if (name == nullptr) return E_INVALIDARG;
-    return Guarded([&] { return GiveText(IsDocument() ? nullptr : m_node->name, name); });
-  }
-
  private:
-  bool IsDocument() const { return m_node->type == XML_DOCUMENT_NODE; }
-  bool HasNamespace() const { return !IsDocument() && m_node->ns != nullptr; }
+  bool IsElement() const { return Node()->type == XML_ELEMENT_NODE; }
 
   IUnknown& m_owner;
-  const StatePointer& m_state;
-  xmlNode* m_node;
   CDomAttributes m_attributes;
 };
 
@@ -300,6 +232,7 @@ HRESULT SelectList(const StatePointer& state, xmlNode* from, BSTR xpath, IXMLDOM
   if (nodes == nullptr) return E_INVALIDARG;
   *nodes = nullptr;
   if (xpath == nullptr) return E_INVALIDARG;
+  if (from == nullptr) return S_FALSE;
   static CEmptyNodeList emptyList;
   return Guarded([&] {
     HRESULT result = S_OK;
@@ -314,6 +247,7 @@ HRESULT SelectFirst(const StatePointer& state, xmlNode* from, BSTR xpath, IXMLDO
   if (node == nullptr) return E_INVALIDARG;
   *node = nullptr;
   if (xpath == nullptr) return E_INVALIDARG;
+  if (from == nullptr) return S_FALSE;
   return Guarded([&] {
     HRESULT result = S_OK;
     const std::vector<xmlNode*> found = Select(*state, from, {xpath, SysStringLen(xpath)}, result);

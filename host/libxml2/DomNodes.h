@@ -48,7 +48,7 @@ HRESULT Guarded(const Action& action) noexcept {
 /// \throws _com_error E_OUTOFMEMORY
 BSTR MakeBstr(std::string_view utf8);
 
-/// `selectNodes` and `selectSingleNode` from a node of a document.
+/// `selectNodes` and `selectSingleNode` from a node of a document; null finds nothing.
 HRESULT SelectList(const StatePointer& state, xmlNode* from, BSTR xpath, IXMLDOMNodeList** nodes);
 HRESULT SelectFirst(const StatePointer& state, xmlNode* from, BSTR xpath, IXMLDOMNode** node);
 
