@@ -1,9 +1,6 @@
 #include "xmlfile/MarkupReader.h"
 
 #include <algorithm>
-#include <bit>
-#include <cstdint>
-#include <cstring>
 
 namespace xmlfile {
 
@@ -21,30 +18,14 @@ constexpr Marks kMarks = [] {
   return marks;
 }();
 
-/// How many of the next eight characters are sure not to matter: those before the first with a code below 0x40, where
-/// all that matter are. Letters are above.
-std::size_t CountDull(const char* text) {
-  constexpr std::uint64_t highBits = 0x8080'8080'8080'8080;
-  std::uint64_t word = 0;
-  std::memcpy(&word, text, sizeof word);
-  const std::uint64_t low = ~(word | word << 1) & highBits;
-  const int bits = std::endian::native == std::endian::little ? std::countr_zero(low) : std::countl_zero(low);
-  return static_cast<std::size_t>(bits) / 8;
-}
-
 /// The offset of the next character that matters; the text's size if there is none. Half of most files is start tags,
-/// so every instruction counts.
+/// so every character counts.
 std::size_t SkipDull(std::string_view text, std::size_t at) {
-  const auto isDull = [&] { return !kMarks.of[static_cast<unsigned char>(text[at])]; };
-  while (at + 8 < text.size()) {
-    const std::size_t count = CountDull(text.data() + at);
-    at += count;
-    if (count == 8) continue;
-    if (!isDull()) return at;
-    ++at;
-  }
-  while (at < text.size() && isDull()) ++at;
-  return std::min(at, text.size());
+  const char* const begin = text.data();
+  const char* const end = begin + text.size();
+  const char* next = begin + std::min(at, text.size());
+  while (next != end && !kMarks.of[static_cast<unsigned char>(*next)]) ++next;
+  return static_cast<std::size_t>(next - begin);
 }
 
 }  // namespace
