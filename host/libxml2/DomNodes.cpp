@@ -1,6 +1,6 @@
 #include "libxml2/DomNodes.h"
 
-#include "BaseUtilities/Ascii.h"
+#include "BaseUtilities/Encode.h"
 #include "BaseUtilities/StringConvert.h"
 #include "libxml2/Counted.h"
 #include "libxml2/NodeCalls.h"

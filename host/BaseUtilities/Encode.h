@@ -1,7 +1,8 @@
-// A fast path for ASCII text.
+// The parts of text conversions.
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 /// Copies ASCII text into characters of another width. Nearly all text of a VIF is ASCII, and copying it many
@@ -25,4 +26,16 @@ bool CopyAscii(std::basic_string_view<From> text, To* copy) {
     copy[i] = static_cast<To>(text[i]);
   }
   return (bits & ~ascii) == 0;
+}
+
+/// Appends a character as UTF-8.
+/// \param code a Unicode code point
+inline void AppendUtf8(std::string& text, char32_t code) {
+  const auto append = [&](char32_t byte) { text += static_cast<char>(byte); };
+  if (code < 0x80) return append(code);
+  if (code >= 0x10000) append(0xF0 | code >> 18);
+  if (code >= 0x10000) append(0x80 | (code >> 12 & 0x3F));
+  if (code >= 0x800 && code < 0x10000) append(0xE0 | code >> 12);
+  append(code >= 0x800 ? 0x80 | (code >> 6 & 0x3F) : 0xC0 | code >> 6);
+  append(0x80 | (code & 0x3F));
 }
