@@ -18,23 +18,15 @@ std::filesystem::path SchemaDirectory() {
   return g_schemaDirectory;
 }
 
-/// The directories that are known from where this library is.
-std::vector<std::filesystem::path> FindOwnDirectories() {
-  std::vector<std::filesystem::path> directories = LibraryDirectories();
-  for (std::filesystem::path& directory : directories) {
-    directory = (directory / VENDORINFOFILE_SCHEMAS_FROM_LIBRARY).lexically_normal();
-  }
-  directories.insert(directories.end(), LibraryDirectories().begin(), LibraryDirectories().end());
-  return directories;
-}
-
 /// The directories to search for schemas, in order; never empty.
 std::vector<std::filesystem::path> Directories() {
-  static const std::vector<std::filesystem::path> own = FindOwnDirectories();
-  std::vector<std::filesystem::path> directories = own;
-  if (std::filesystem::path chosen = SchemaDirectory(); !chosen.empty()) {
-    directories.insert(directories.begin(), std::move(chosen));
+  std::vector<std::filesystem::path> directories;
+  if (std::filesystem::path chosen = SchemaDirectory(); !chosen.empty()) directories.push_back(std::move(chosen));
+  const std::vector<std::filesystem::path>& library = LibraryDirectories();
+  for (const std::filesystem::path& directory : library) {
+    directories.push_back((directory / VENDORINFOFILE_SCHEMAS_FROM_LIBRARY).lexically_normal());
   }
+  directories.insert(directories.end(), library.begin(), library.end());
   // A schema that is nowhere still gets a full path: it must not be loaded from the current directory.
   if (directories.empty()) directories.emplace_back("/");
   return directories;

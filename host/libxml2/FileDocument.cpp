@@ -13,8 +13,8 @@ using libxml2::CElementPlaces;
 using libxml2::View;
 
 struct CFileDocument::Content {
-  CComPointer<libxml2::CDomDocument> document{new libxml2::CDomDocument, false};
-  std::unique_ptr<const CElementPlaces> places = nullptr;  // created on first use
+  // Not in the member's own initialiser: there, GCC does not free the document if its constructor throws.
+  Content() : document(new libxml2::CDomDocument, false) {}
 
   const libxml2::CXmlTree& Tree() const { return *document->Tree(); }
 
@@ -22,6 +22,9 @@ struct CFileDocument::Content {
     if (places == nullptr) places = std::make_unique<const CElementPlaces>(Tree());
     return *places;
   }
+
+  CComPointer<libxml2::CDomDocument> document;
+  std::unique_ptr<const CElementPlaces> places;  // created on first use
 };
 
 CFileDocument::CFileDocument() : m_content(std::make_unique<Content>()) {}
