@@ -60,19 +60,21 @@ StackBounds ThreadStack() noexcept { return kUnknown; }
 
 std::uintptr_t Below(std::uintptr_t address, std::uintptr_t bytes) { return address - std::min(address, bytes); }
 
-}  // namespace
-
-std::uintptr_t LowestFrame() noexcept {
-  const std::uintptr_t here = VIF_FRAME_ADDRESS();
+/// The lowest address that a frame may have, seen from the frame at an address.
+std::uintptr_t LowestFrameFrom(std::uintptr_t here) noexcept {
   const StackBounds stack = ThreadStack();
   const bool isOnIt = stack.lowest <= here && here < stack.end;
   if (!isOnIt) return Below(here, kAssumedStack);
   return std::max(stack.lowest + kStackReserve, Below(here, kMostStack));
 }
 
+}  // namespace
+
+std::uintptr_t LowestFrame() noexcept { return LowestFrameFrom(VIF_FRAME_ADDRESS()); }
+
 std::uintptr_t StackLeft() noexcept {
   const std::uintptr_t here = VIF_FRAME_ADDRESS();
-  return here - std::min(here, LowestFrame());
+  return here - std::min(here, LowestFrameFrom(here));
 }
 
 }  // namespace vif

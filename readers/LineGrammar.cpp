@@ -54,12 +54,14 @@ SplitLine SplitContentAndComment(std::string_view line) {
 CLineGrammar::CLineGrammar() {
   const std::locale locale;
   const auto& ctype = std::use_facet<std::ctype<char>>(locale);
+  // libc++'s `is` has no classes for characters beyond ASCII, whatever the locale's table says.
+  const auto isOf = [&](size_t i, std::ctype_base::mask mask) { return (ctype.table()[i] & mask) != 0; };
   for (size_t i = 0; i < m_characters.size(); ++i) {
     const char c = static_cast<char>(i);
     const char lowerCase = ctype.tolower(c);
     const bool isNameMark = lowerCase == ctype.tolower('_') || lowerCase == ctype.tolower('\'');
-    m_characters[i] = {isNameMark || ctype.is(std::ctype_base::alnum, c), ctype.is(std::ctype_base::space, c),
-                       ctype.is(std::ctype_base::digit, c), ctype.is(std::ctype_base::xdigit, c), lowerCase};
+    m_characters[i] = {isNameMark || isOf(i, std::ctype_base::alnum), isOf(i, std::ctype_base::space),
+                       isOf(i, std::ctype_base::digit), isOf(i, std::ctype_base::xdigit), lowerCase};
   }
 }
 

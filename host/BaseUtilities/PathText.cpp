@@ -82,6 +82,7 @@ std::wstring PathToLosslessWide(const std::filesystem::path& path) {
 }
 
 std::filesystem::path PathFromLosslessWide(std::wstring_view wide) {
+  if (std::none_of(wide.begin(), wide.end(), IsByte)) return Utf16ToUtf8(wide);  // as for almost every path
   std::string bytes;
   for (const wchar_t& character : wide) {
     if (IsByte(character)) {

@@ -1,6 +1,6 @@
 #include "BaseUtilities/StringConvert.h"
 
-#include "BaseUtilities/Ascii.h"
+#include "BaseUtilities/Encode.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -76,25 +76,6 @@ Decoded DecodeWide(std::wstring_view text) {
   }
   if (IsHighSurrogate(first) || IsLowSurrogate(first) || first > kLastCodePoint) return {kReplacement, 1};
   return {first, 1};
-}
-
-void AppendUtf8(std::string& out, char32_t codePoint) {
-  if (codePoint < 0x80) {
-    out += static_cast<char>(codePoint);
-    return;
-  }
-  if (codePoint < 0x800) {
-    out += static_cast<char>(0xC0 | (codePoint >> 6));
-  } else {
-    if (codePoint < 0x10000) {
-      out += static_cast<char>(0xE0 | (codePoint >> 12));
-    } else {
-      out += static_cast<char>(0xF0 | (codePoint >> 18));
-      out += static_cast<char>(0x80 | ((codePoint >> 12) & 0x3F));
-    }
-    out += static_cast<char>(0x80 | ((codePoint >> 6) & 0x3F));
-  }
-  out += static_cast<char>(0x80 | (codePoint & 0x3F));
 }
 
 }  // namespace

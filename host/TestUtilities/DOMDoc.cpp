@@ -4,16 +4,11 @@
 #include "BaseUtilities/StringConvert.h"
 #include "TestUtilities/DOMDocReasons.h"
 #include "msxml/ComTypes.h"
+#include "xmlfile/FileDocument.h"
 
 #include <utility>
 
-#ifdef _WIN32
-#include "msxml6/FileDocument.h"
-using msxml6::CFileDocument;
-#else
-#include "libxml2/FileDocument.h"
-using libxml2::CFileDocument;
-#endif
+using xmlfile::CFileDocument;
 
 struct CDOMDoc::Content {
   std::vector<xmlfile::SchemaSource> schemas;

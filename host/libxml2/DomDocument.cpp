@@ -1,7 +1,6 @@
 #include "libxml2/DomDocument.h"
 
 #include "BaseUtilities/StringConvert.h"
-#include "libxml2/NodeText.h"
 
 #include <optional>
 #include <string_view>
@@ -17,13 +16,12 @@ std::wstring_view View(BSTR text) { return {text != nullptr ? text : L"", SysStr
 
 }  // namespace
 
-CDomDocument::CDomDocument() : m_state(std::make_shared<const DocumentState>()) {}
+CDomDocument::CDomDocument() : CNodeCalls(m_state, nullptr), m_state(std::make_shared<const DocumentState>()) {}
 
 void CDomDocument::SetTree(std::shared_ptr<const CXmlTree> tree) {
   m_state = std::make_shared<const DocumentState>(DocumentState{std::move(tree), m_state->prefixes, {}, {}});
+  SetNode(Tree() != nullptr ? reinterpret_cast<xmlNode*>(Tree()->Document()) : nullptr);
 }
-
-xmlNode* CDomDocument::Node() const { return reinterpret_cast<xmlNode*>(Tree()->Document()); }
 
 HRESULT CDomDocument::QueryInterface(REFIID iid, void** object) {
   if (object == nullptr) return E_POINTER;
@@ -31,65 +29,12 @@ HRESULT CDomDocument::QueryInterface(REFIID iid, void** object) {
   return isMine ? Answer(this, object) : RefuseInterface(object);
 }
 
-HRESULT CDomDocument::get_nodeName(BSTR* name) {
-  if (name == nullptr) return E_INVALIDARG;
-  return Guarded([&] {
-    *name = MakeBstr("#document");
-    return S_OK;
-  });
-}
-
-HRESULT CDomDocument::get_nodeValue(VARIANT* value) {
-  if (value == nullptr) return E_INVALIDARG;
-  VariantInit(value);
-  value->vt = VT_NULL;
-  return S_FALSE;
-}
-
-HRESULT CDomDocument::get_attributes(IXMLDOMNamedNodeMap** attributes) {
-  if (attributes == nullptr) return E_INVALIDARG;
-  *attributes = nullptr;
-  return S_FALSE;
-}
-
-HRESULT CDomDocument::get_text(BSTR* text) {
-  if (text == nullptr) return E_INVALIDARG;
-  return Guarded([&] {
-    *text = MakeBstr(Tree() != nullptr ? NodeText(*Tree()->Root()) : std::string());
-    return S_OK;
-  });
-}
-
-HRESULT CDomDocument::selectNodes(BSTR xpath, IXMLDOMNodeList** nodes) {
-  if (Tree() != nullptr) return SelectList(m_state, Node(), xpath, nodes);
-  if (nodes != nullptr) *nodes = nullptr;
-  return nodes != nullptr && xpath != nullptr ? S_FALSE : E_INVALIDARG;
-}
-
-HRESULT CDomDocument::selectSingleNode(BSTR xpath, IXMLDOMNode** node) {
-  if (Tree() != nullptr) return SelectFirst(m_state, Node(), xpath, node);
-  if (node != nullptr) *node = nullptr;
-  return node != nullptr && xpath != nullptr ? S_FALSE : E_INVALIDARG;
-}
-
-HRESULT CDomDocument::get_namespaceURI(BSTR* uri) {
-  if (uri == nullptr) return E_INVALIDARG;
-  *uri = nullptr;
-  return S_FALSE;
-}
-
-HRESULT CDomDocument::get_baseName(BSTR* name) {
-  if (name == nullptr) return E_INVALIDARG;
-  *name = nullptr;
-  return S_FALSE;
-}
-
 HRESULT CDomDocument::get_documentElement(IXMLDOMElement** root) {
   if (root == nullptr) return E_INVALIDARG;
   *root = nullptr;
   if (Tree() == nullptr) return S_FALSE;
   return Guarded([&] {
-    *root = MakeElement(m_state, Tree()->Root()).Detach();
+    *root = MakeNode(m_state, Tree()->Root()).Detach();
     return S_OK;
   });
 }

@@ -1,9 +1,9 @@
 #include "libxml2/DomNodes.h"
 
-#include "BaseUtilities/Ascii.h"
+#include "BaseUtilities/Encode.h"
 #include "BaseUtilities/StringConvert.h"
 #include "libxml2/Counted.h"
-#include "libxml2/NodeText.h"
+#include "libxml2/NodeCalls.h"
 #include "libxml2/XmlText.h"
 
 #include <algorithm>
@@ -19,15 +19,6 @@ namespace {
 
 /// Only the nodes of this file support it.
 constexpr IID kNodeBehind = {0x8C4A2F10, 0x51D3, 0x4E0B, {0x9A, 0x77, 0x3D, 0x5E, 0x20, 0xB1, 0xC6, 0x48}};
-
-/// Returns an optional text: S_FALSE and null when there is none.
-HRESULT GiveText(const xmlChar* text, BSTR* place) {
-  *place = text != nullptr ? MakeBstr(View(text)) : nullptr;
-  return text != nullptr ? S_OK : S_FALSE;
-}
-
-/// In a document without a document type declaration, no attribute value is in pieces.
-std::string_view AttributeValue(const xmlNode& attribute) { return View(attribute.children->content); }
 
 class CDomNode;
 
@@ -47,43 +38,16 @@ class CDomAttributes final : public IXMLDOMNamedNodeMap {
   HRESULT getNamedItem(BSTR name, IXMLDOMNode** attribute) override;
 
  private:
-  static bool IsNamed(const xmlAttr& attribute, std::string_view wanted) {
-    if (attribute.ns == nullptr) return View(attribute.name) == wanted;
-    return QualifiedName(attribute.ns, attribute.name) == wanted;
+  static bool IsNamed(const xmlAttr& attribute, std::wstring_view wanted) {
+    const std::string_view name = View(attribute.name);
+    const auto isSame = [](char a, wchar_t b) { return a > 0 && static_cast<wchar_t>(a) == b; };  // ASCII
+    if (attribute.ns == nullptr && std::equal(name.begin(), name.end(), wanted.begin(), wanted.end(), isSame)) {
+      return true;  // as nearly always, and without memory
+    }
+    return QualifiedName(attribute.ns, attribute.name) == Utf16ToUtf8(wanted);
   }
 
   CDomNode& m_node;
-};
-
-class CDomNodeList final : public CCounted<IXMLDOMNodeList> {
- public:
-  CDomNodeList(StatePointer state, std::vector<xmlNode*> nodes)
-      : m_state(std::move(state)), m_nodes(std::move(nodes)) {}
-
-  HRESULT QueryInterface(REFIID iid, void** object) override {
-    if (object == nullptr) return E_POINTER;
-    return iid == IID_IUnknown || iid == IID_IXMLDOMNodeList ? Answer(this, object) : RefuseInterface(object);
-  }
-
-  HRESULT get_item(LONG index, IXMLDOMNode** node) override {
-    if (node == nullptr) return E_INVALIDARG;
-    *node = nullptr;
-    if (index < 0 || static_cast<std::size_t>(index) >= m_nodes.size()) return S_FALSE;
-    return Guarded([&] {
-      *node = MakeNode(m_state, m_nodes[static_cast<std::size_t>(index)]).Detach();
-      return S_OK;
-    });
-  }
-
-  HRESULT get_length(LONG* length) override {
-    if (length == nullptr) return E_INVALIDARG;
-    *length = static_cast<LONG>(m_nodes.size());
-    return S_OK;
-  }
-
- private:
-  StatePointer m_state;
-  std::vector<xmlNode*> m_nodes;
 };
 
 /// The empty list, which most elements return when asked for child elements. All share one.
@@ -111,13 +75,16 @@ class CEmptyNodeList final : public IXMLDOMNodeList {
   }
 };
 
-/// An element or an attribute or, where an XPath reaches it, the document.
-class CDomNode final : public CCounted<IXMLDOMElement> {
+/// An element or an attribute or, where an XPath reaches it, the document. It is part of an object that counts the
+/// references to it, so that the nodes of a list need no memory of their own.
+class CDomNode final : public CNodeCalls<IXMLDOMElement> {
  public:
-  CDomNode(StatePointer state, xmlNode* node) : m_state(std::move(state)), m_node(node), m_attributes(*this) {}
-
-  const StatePointer& State() const { return m_state; }
-  const xmlNode* Node() const { return m_node; }
+  /// \param owner counts the references
+  /// \param state the owner's
+  CDomNode(IUnknown& owner, const StatePointer& state, xmlNode* node)
+      : CNodeCalls(state, node), m_owner(owner), m_attributes(*this) {}
+  CDomNode(CDomNode&& other) noexcept : CDomNode(other.m_owner, other.State(), other.Node()) {}
+  ~CDomNode() = default;
 
   HRESULT QueryInterface(REFIID iid, void** object) override {
     if (object == nullptr) return E_POINTER;
@@ -126,76 +93,24 @@ class CDomNode final : public CCounted<IXMLDOMElement> {
       *object = this;
       return S_OK;
     }
-    const bool isMine = iid == IID_IUnknown || iid == IID_IXMLDOMNode ||
-                        (iid == IID_IXMLDOMElement && m_node->type == XML_ELEMENT_NODE);
+    const bool isMine = iid == IID_IUnknown || iid == IID_IXMLDOMNode || (iid == IID_IXMLDOMElement && IsElement());
     return isMine ? Answer(this, object) : RefuseInterface(object);
   }
 
-  HRESULT get_nodeName(BSTR* name) override {
-    if (name == nullptr) return E_INVALIDARG;
-    return Guarded([&] {
-      *name = IsDocument() ? MakeBstr("#document") : MakeBstr(QualifiedName(m_node->ns, m_node->name));
-      return S_OK;
-    });
-  }
-
-  HRESULT get_nodeValue(VARIANT* value) override {
-    if (value == nullptr) return E_INVALIDARG;
-    VariantInit(value);
-    if (m_node->type != XML_ATTRIBUTE_NODE) {
-      value->vt = VT_NULL;
-      return S_FALSE;
-    }
-    return Guarded([&] {
-      value->bstrVal = MakeBstr(AttributeValue(*m_node));
-      value->vt = VT_BSTR;
-      return S_OK;
-    });
-  }
+  ULONG AddRef() override { return m_owner.AddRef(); }
+  ULONG Release() override { return m_owner.Release(); }
 
   HRESULT get_attributes(IXMLDOMNamedNodeMap** attributes) override {
-    if (attributes == nullptr) return E_INVALIDARG;
-    *attributes = nullptr;
-    if (m_node->type != XML_ELEMENT_NODE) return S_FALSE;
+    if (attributes == nullptr || !IsElement()) return CNodeCalls::get_attributes(attributes);
     AddRef();
     *attributes = &m_attributes;
     return S_OK;
   }
 
-  HRESULT get_text(BSTR* text) override {
-    if (text == nullptr) return E_INVALIDARG;
-    return Guarded([&] {
-      const std::optional<std::string_view> plain =
-          m_node->type == XML_ATTRIBUTE_NODE ? AttributeValue(*m_node) : PlainText(*m_node);
-      *text = plain ? MakeBstr(*plain) : MakeBstr(NodeText(*m_node));
-      return S_OK;
-    });
-  }
-
-  HRESULT selectNodes(BSTR xpath, IXMLDOMNodeList** nodes) override {
-    return SelectList(m_state, m_node, xpath, nodes);
-  }
-
-  HRESULT selectSingleNode(BSTR xpath, IXMLDOMNode** node) override {
-    return SelectFirst(m_state, m_node, xpath, node);
-  }
-
-  HRESULT get_namespaceURI(BSTR* uri) override {
-    if (uri == nullptr) return E_INVALIDARG;
-    return Guarded([&] { return GiveText(HasNamespace() ? m_node->ns->href : nullptr, uri); });
-  }
-
-  HRESULT get_baseName(BSTR* name) override {
-    if (name == nullptr) return E_INVALIDARG;
-    return Guarded([&] { return GiveText(IsDocument() ? nullptr : m_node->name, name); });
-  }
-
  private:
-  bool IsDocument() const { return m_node->type == XML_DOCUMENT_NODE; }
-  bool HasNamespace() const { return !IsDocument() && m_node->ns != nullptr; }
+  bool IsElement() const { return Node()->type == XML_ELEMENT_NODE; }
 
-  StatePointer m_state;
-  xmlNode* m_node;
+  IUnknown& m_owner;
   CDomAttributes m_attributes;
 };
 
@@ -208,7 +123,7 @@ HRESULT CDomAttributes::getNamedItem(BSTR name, IXMLDOMNode** attribute) {
   *attribute = nullptr;
   if (name == nullptr) return E_INVALIDARG;
   return Guarded([&] {
-    const std::string wanted = Utf16ToUtf8({name, SysStringLen(name)});
+    const std::wstring_view wanted(name, SysStringLen(name));
     for (xmlAttr* candidate = m_node.Node()->properties; candidate != nullptr; candidate = candidate->next) {
       if (!IsNamed(*candidate, wanted)) continue;
       *attribute = MakeNode(m_node.State(), reinterpret_cast<xmlNode*>(candidate)).Detach();
@@ -217,6 +132,53 @@ HRESULT CDomAttributes::getNamedItem(BSTR name, IXMLDOMNode** attribute) {
     return S_FALSE;
   });
 }
+
+/// A list and its nodes, which share the list's reference count.
+class CDomNodeList final : public CCounted<IXMLDOMNodeList> {
+ public:
+  CDomNodeList(StatePointer state, const std::vector<xmlNode*>& nodes) : m_state(std::move(state)) {
+    m_nodes.reserve(nodes.size());
+    for (xmlNode* node : nodes) m_nodes.emplace_back(*this, m_state, node);
+  }
+
+  HRESULT QueryInterface(REFIID iid, void** object) override {
+    if (object == nullptr) return E_POINTER;
+    return iid == IID_IUnknown || iid == IID_IXMLDOMNodeList ? Answer(this, object) : RefuseInterface(object);
+  }
+
+  HRESULT get_item(LONG index, IXMLDOMNode** node) override {
+    if (node == nullptr) return E_INVALIDARG;
+    *node = nullptr;
+    if (index < 0 || static_cast<std::size_t>(index) >= m_nodes.size()) return S_FALSE;
+    AddRef();
+    *node = &m_nodes[static_cast<std::size_t>(index)];
+    return S_OK;
+  }
+
+  HRESULT get_length(LONG* length) override {
+    if (length == nullptr) return E_INVALIDARG;
+    *length = static_cast<LONG>(m_nodes.size());
+    return S_OK;
+  }
+
+ private:
+  StatePointer m_state;
+  std::vector<CDomNode> m_nodes;
+};
+
+/// A node that is not in a list.
+class CSingleNode final : public CCounted<IUnknown> {
+ public:
+  CSingleNode(StatePointer state, xmlNode* node) : m_state(std::move(state)), m_node(*this, m_state, node) {}
+
+  HRESULT QueryInterface(REFIID iid, void** object) override { return m_node.QueryInterface(iid, object); }
+
+  CDomNode& Node() { return m_node; }
+
+ private:
+  StatePointer m_state;
+  CDomNode m_node;
+};
 
 /// The parsed path when the expression is one; else null.
 const CChildPath* FindPath(const DocumentState& state, std::wstring_view xpath) {
@@ -255,10 +217,8 @@ BSTR MakeBstr(std::string_view utf8) {
   return CBstr(Utf8ToUtf16(utf8)).Detach();
 }
 
-DOMNodePtr MakeNode(const StatePointer& state, xmlNode* node) { return DOMNodePtr(new CDomNode(state, node), false); }
-
-DOMElementPtr MakeElement(const StatePointer& state, xmlNode* element) {
-  return DOMElementPtr(new CDomNode(state, element), false);
+DOMElementPtr MakeNode(const StatePointer& state, xmlNode* node) {
+  return DOMElementPtr(&(new CSingleNode(state, node))->Node(), false);
 }
 
 const xmlNode* NodeBehind(IXMLDOMNode& node, const CXmlTree& tree) {
@@ -272,12 +232,13 @@ HRESULT SelectList(const StatePointer& state, xmlNode* from, BSTR xpath, IXMLDOM
   if (nodes == nullptr) return E_INVALIDARG;
   *nodes = nullptr;
   if (xpath == nullptr) return E_INVALIDARG;
+  if (from == nullptr) return S_FALSE;
   static CEmptyNodeList emptyList;
   return Guarded([&] {
     HRESULT result = S_OK;
-    std::vector<xmlNode*> found = Select(*state, from, {xpath, SysStringLen(xpath)}, result);
+    const std::vector<xmlNode*> found = Select(*state, from, {xpath, SysStringLen(xpath)}, result);
     if (FAILED(result)) return result;
-    *nodes = found.empty() ? static_cast<IXMLDOMNodeList*>(&emptyList) : new CDomNodeList(state, std::move(found));
+    *nodes = found.empty() ? static_cast<IXMLDOMNodeList*>(&emptyList) : new CDomNodeList(state, found);
     return result;
   });
 }
@@ -286,6 +247,7 @@ HRESULT SelectFirst(const StatePointer& state, xmlNode* from, BSTR xpath, IXMLDO
   if (node == nullptr) return E_INVALIDARG;
   *node = nullptr;
   if (xpath == nullptr) return E_INVALIDARG;
+  if (from == nullptr) return S_FALSE;
   return Guarded([&] {
     HRESULT result = S_OK;
     const std::vector<xmlNode*> found = Select(*state, from, {xpath, SysStringLen(xpath)}, result);

@@ -23,12 +23,9 @@ struct DocumentState {
 };
 using StatePointer = std::shared_ptr<const DocumentState>;
 
-/// Creates an object for a node, an element or an attribute, with one reference.
+/// Creates an object for an element or, if it is used as an IXMLDOMNode only, for any node.
 /// \throws std::bad_alloc
-DOMNodePtr MakeNode(const StatePointer& state, xmlNode* node);
-
-/// The same for an element.
-DOMElementPtr MakeElement(const StatePointer& state, xmlNode* element);
+DOMElementPtr MakeNode(const StatePointer& state, xmlNode* node);
 
 /// The libxml2 node of a node that `MakeNode` created for that tree; null for any other.
 const xmlNode* NodeBehind(IXMLDOMNode& node, const CXmlTree& tree);
@@ -51,7 +48,7 @@ HRESULT Guarded(const Action& action) noexcept {
 /// \throws _com_error E_OUTOFMEMORY
 BSTR MakeBstr(std::string_view utf8);
 
-/// `selectNodes` and `selectSingleNode` from a node of a document.
+/// `selectNodes` and `selectSingleNode` from a node of a document; null finds nothing.
 HRESULT SelectList(const StatePointer& state, xmlNode* from, BSTR xpath, IXMLDOMNodeList** nodes);
 HRESULT SelectFirst(const StatePointer& state, xmlNode* from, BSTR xpath, IXMLDOMNode** node);
 

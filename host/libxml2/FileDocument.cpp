@@ -1,45 +1,67 @@
-#include "libxml2/FileDocument.h"
+#include "xmlfile/FileDocument.h"
 
+#include "libxml2/DomDocument.h"
+#include "libxml2/ElementPlaces.h"
 #include "libxml2/SchemaSet.h"
 #include "libxml2/XmlParser.h"
 #include "libxml2/XmlText.h"
+#include "msxml/ComPointer.h"
 
-namespace libxml2 {
+namespace xmlfile {
 
-CFileDocument::CFileDocument() : m_document(new CDomDocument, false) {}
+using libxml2::CElementPlaces;
+using libxml2::View;
 
-void CFileDocument::Load(const std::filesystem::path& file, xmlfile::CProblems& problems) {
-  m_places = nullptr;
-  m_document->SetTree(nullptr);
-  m_document->SetTree(ParseXmlFile(file, problems));
+struct CFileDocument::Content {
+  // Not in the member's own initialiser: there, GCC does not free the document if its constructor throws.
+  Content() : document(new libxml2::CDomDocument, false) {}
+
+  const libxml2::CXmlTree& Tree() const { return *document->Tree(); }
+
+  const CElementPlaces& Places() {
+    if (places == nullptr) places = std::make_unique<const CElementPlaces>(Tree());
+    return *places;
+  }
+
+  CComPointer<libxml2::CDomDocument> document;
+  std::unique_ptr<const CElementPlaces> places;  // created on first use
+};
+
+CFileDocument::CFileDocument() : m_content(std::make_unique<Content>()) {}
+
+CFileDocument::~CFileDocument() = default;
+
+IXMLDOMDocument2& CFileDocument::Document() const { return *m_content->document; }
+
+void CFileDocument::Load(const std::filesystem::path& file, CProblems& problems) {
+  m_content->places = nullptr;
+  m_content->document->SetTree(nullptr);
+  m_content->document->SetTree(libxml2::ParseXmlFile(file, problems));
 }
 
+bool CFileDocument::IsLoaded() const { return m_content->document->Tree() != nullptr; }
+
 xmlfile::Root CFileDocument::Root() const {
-  const xmlNode& root = *m_document->Tree()->Root();
+  const xmlNode& root = *m_content->Tree().Root();
   return {std::string(View(root.name)), root.ns != nullptr ? std::string(View(root.ns->href)) : std::string()};
 }
 
-xmlfile::Place CFileDocument::RootPlace() const { return xmlfile::FindTags(m_document->Tree()->File()).at(1).place; }
+Place CFileDocument::RootPlace() const { return FindTags(m_content->Tree().File()).at(1).place; }
 
-void CFileDocument::Validate(const std::vector<xmlfile::SchemaSource>& schemas, xmlfile::CProblems& problems) const {
-  CSchemaSet::Get(schemas)->Validate(*m_document->Tree(), problems);
+void CFileDocument::Validate(const std::vector<SchemaSource>& schemas, CProblems& problems) const {
+  libxml2::CSchemaSet::Get(schemas)->Validate(m_content->Tree(), problems);
 }
 
-xmlfile::Place CFileDocument::Locate(IXMLDOMNode& node) {
-  const xmlNode* found = IsLoaded() ? NodeBehind(node, *m_document->Tree()) : nullptr;
-  const xmlfile::Place* place = found != nullptr ? Places().Find(found) : nullptr;
-  return place != nullptr ? *place : xmlfile::Place{0, 0};
+Place CFileDocument::Locate(IXMLDOMNode& node) {
+  const xmlNode* found = IsLoaded() ? libxml2::NodeBehind(node, m_content->Tree()) : nullptr;
+  const Place* place = found != nullptr ? m_content->Places().Find(found) : nullptr;
+  return place != nullptr ? *place : Place{0, 0};
 }
 
 std::string CFileDocument::PathOf(IXMLDOMNode& node) {
-  const xmlNode* element = IsLoaded() ? NodeBehind(node, *m_document->Tree()) : nullptr;
+  const xmlNode* element = IsLoaded() ? libxml2::NodeBehind(node, m_content->Tree()) : nullptr;
   if (element == nullptr || element->type != XML_ELEMENT_NODE) return {};
-  return Places().PathOf(*element);
+  return m_content->Places().PathOf(*element);
 }
 
-const CElementPlaces& CFileDocument::Places() {
-  if (m_places == nullptr) m_places = std::make_unique<const CElementPlaces>(*m_document->Tree());
-  return *m_places;
-}
-
-}  // namespace libxml2
+}  // namespace xmlfile

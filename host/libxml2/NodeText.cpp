@@ -18,7 +18,7 @@ bool IsWhiteSpace(std::string_view text) { return text.find_first_not_of(kWhiteS
 std::optional<bool> OwnPreserving(const xmlNode& element) {
   for (const xmlAttr* attribute = element.properties; attribute != nullptr; attribute = attribute->next) {
     if (attribute->ns == nullptr || View(attribute->ns->prefix) != "xml" || View(attribute->name) != "space") continue;
-    const std::string_view value = View(attribute->children->content);
+    const std::string_view value = AttributeValue(*attribute);
     if (value == "preserve") return true;
     if (value == "default") return false;
   }

@@ -39,10 +39,6 @@ thread_local CSchemaLoader* g_loader = nullptr;
 /// The previous loader of libxml2, which other threads continue to use.
 std::atomic<xmlExternalEntityLoader> g_before = nullptr;
 
-struct FreeXml {
-  void operator()(void* memory) const { xmlFree(memory); }
-};
-
 /// The file of a URL; empty when the URL is not for a local file.
 std::filesystem::path FileOf(std::string_view url) {
   if (!url.starts_with(kFileScheme) || !url.substr(kFileScheme.size()).starts_with('/')) return {};

@@ -20,15 +20,8 @@ namespace libxml2 {
 
 namespace {
 
-struct FreeXml {
-  void operator()(void* memory) const { xmlFree(memory); }
-};
-struct FreeParserContext {
-  void operator()(xmlSchemaParserCtxt* context) const { xmlSchemaFreeParserCtxt(context); }
-};
-struct FreeValidContext {
-  void operator()(xmlSchemaValidCtxt* context) const { xmlSchemaFreeValidCtxt(context); }
-};
+using ParserPointer = std::unique_ptr<xmlSchemaParserCtxt, Freeing<xmlSchemaFreeParserCtxt>>;
+using ValidatorPointer = std::unique_ptr<xmlSchemaValidCtxt, Freeing<xmlSchemaFreeValidCtxt>>;
 
 std::string EscapeAttribute(std::string_view text) {
   std::string escaped;
@@ -77,8 +70,7 @@ std::string JoiningSchema(const std::vector<SchemaSource>& sources) {
 
 std::string_view AttributeOf(const xmlNode& element, std::string_view name) {
   for (const xmlAttr* attribute = element.properties; attribute != nullptr; attribute = attribute->next) {
-    if (attribute->ns != nullptr || View(attribute->name) != name) continue;
-    return attribute->children != nullptr ? View(attribute->children->content) : std::string_view();
+    if (attribute->ns == nullptr && View(attribute->name) == name) return AttributeValue(*attribute);
   }
   return {};
 }
@@ -159,8 +151,7 @@ CSchemaSet::CSchemaSet(const std::vector<SchemaSource>& sources) : m_sources(sou
   CSchemaLoader loader(std::move(replaced));
   const CThreadErrors otherErrors(CSchemaLoader::ReportError, nullptr);
   const std::string driver = JoiningSchema(sources);
-  const std::unique_ptr<xmlSchemaParserCtxt, FreeParserContext> context(
-      xmlSchemaNewMemParserCtxt(driver.data(), static_cast<int>(driver.size())));
+  const ParserPointer context(xmlSchemaNewMemParserCtxt(driver.data(), static_cast<int>(driver.size())));
   if (context == nullptr) throw std::bad_alloc();
   xmlSchemaSetParserStructuredErrors(context.get(), CSchemaLoader::ReportError, nullptr);
   m_schema.reset(xmlSchemaParse(context.get()));
@@ -192,7 +183,7 @@ std::shared_ptr<const CSchemaSet> CSchemaSet::Get(const std::vector<SchemaSource
 void CSchemaSet::Validate(const CXmlTree& tree, xmlfile::CProblems& problems) const {
   Validation validation{tree, m_sources, problems};
   const CThreadErrors otherErrors(CollectInvalidity, &validation);
-  const std::unique_ptr<xmlSchemaValidCtxt, FreeValidContext> context(xmlSchemaNewValidCtxt(m_schema.get()));
+  const ValidatorPointer context(xmlSchemaNewValidCtxt(m_schema.get()));
   if (context == nullptr) throw std::bad_alloc();
   xmlSchemaSetValidStructuredErrors(context.get(), CollectInvalidity, &validation);
   const int result = xmlSchemaValidateDoc(context.get(), tree.Document());

@@ -33,13 +33,9 @@ class CSchemaSet {
   bool IsCurrent() const;
 
  private:
-  struct FreeSchema {
-    void operator()(xmlSchema* schema) const { xmlSchemaFree(schema); }
-  };
-
   std::vector<SchemaSource> m_sources;
   std::vector<SchemaFile> m_files;
-  std::unique_ptr<xmlSchema, FreeSchema> m_schema;
+  std::unique_ptr<xmlSchema, Freeing<xmlSchemaFree>> m_schema;
 };
 
 }  // namespace libxml2

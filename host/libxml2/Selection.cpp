@@ -34,13 +34,6 @@ auto FindPrefix(Pairs& prefixes, std::string_view prefix) {
   return std::find_if(prefixes.begin(), prefixes.end(), [&](const auto& pair) { return pair.first == prefix; });
 }
 
-struct FreeXPathContext {
-  void operator()(xmlXPathContext* context) const { xmlXPathFreeContext(context); }
-};
-struct FreeXPathObject {
-  void operator()(xmlXPathObject* object) const { xmlXPathFreeObject(object); }
-};
-
 void NoteMemory(void* hasRunOut, ErrorPointer error) {
   if (error->code == XML_ERR_NO_MEMORY) *static_cast<bool*>(hasRunOut) = true;
 }
@@ -127,7 +120,7 @@ void CChildPath::SelectFrom(const xmlNode& parent, std::size_t depth, std::vecto
 Outcome SelectByXPath(xmlNode* from, std::string_view xpath, const Prefixes& prefixes, std::vector<xmlNode*>& nodes) {
   bool hasRunOut = false;
   const CThreadErrors otherErrors(NoteMemory, &hasRunOut);
-  const std::unique_ptr<xmlXPathContext, FreeXPathContext> context(xmlXPathNewContext(from->doc));
+  const std::unique_ptr<xmlXPathContext, Freeing<xmlXPathFreeContext>> context(xmlXPathNewContext(from->doc));
   if (context == nullptr) return Outcome::OutOfMemory;
   if (xmlXPathSetContextNode(from, context.get()) != 0) return Outcome::BadExpression;
 #if LIBXML_VERSION >= 21300
@@ -140,7 +133,7 @@ Outcome SelectByXPath(xmlNode* from, std::string_view xpath, const Prefixes& pre
     if (xmlXPathRegisterNs(context.get(), Xml(prefix.c_str()), Xml(uri.c_str())) != 0) return Outcome::OutOfMemory;
   }
   const std::string expression(xpath);
-  const std::unique_ptr<xmlXPathObject, FreeXPathObject> result(
+  const std::unique_ptr<xmlXPathObject, Freeing<xmlXPathFreeObject>> result(
       xmlXPathEvalExpression(Xml(expression.c_str()), context.get()));
   if (hasRunOut) return Outcome::OutOfMemory;
   if (result == nullptr || result->type != XPATH_NODESET) return Outcome::BadExpression;

@@ -28,10 +28,7 @@ namespace {
 // faster.
 constexpr int kOptions = XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_NOENT | XML_PARSE_COMPACT;
 
-struct FreeContext {
-  void operator()(xmlParserCtxt* context) const { xmlFreeParserCtxt(context); }
-};
-using ContextPointer = std::unique_ptr<xmlParserCtxt, FreeContext>;
+using ContextPointer = std::unique_ptr<xmlParserCtxt, Freeing<xmlFreeParserCtxt>>;
 
 /// An element whose end tag has not been read, by its name.
 struct OpenElement {

@@ -18,8 +18,19 @@ inline std::string_view Between(const xmlChar* begin, const xmlChar* end) {
   return {reinterpret_cast<const char*>(begin), static_cast<std::size_t>(end - begin)};
 }
 
+/// The value of an attribute, which is never in pieces: there are no document type declarations.
+template <typename Attribute>
+std::string_view AttributeValue(const Attribute& attribute) {
+  return attribute.children != nullptr ? View(attribute.children->content) : std::string_view();
+}
+
 /// UTF-8 text as libxml2 expects it, borrowed. It must end in a NUL where libxml2 requires one.
 inline const xmlChar* Xml(const char* text) { return reinterpret_cast<const xmlChar*>(text); }
+
+/// Frees memory that libxml2 has allocated for the caller. Its function for that is a variable.
+struct FreeXml {
+  void operator()(void* memory) const { xmlFree(memory); }
+};
 
 /// The name with its prefix, if there is one.
 inline std::string QualifiedName(const xmlChar* prefix, const xmlChar* name) {

@@ -10,10 +10,16 @@
 
 namespace libxml2 {
 
-struct FreeDocument {
-  void operator()(xmlDoc* document) const { xmlFreeDoc(document); }
+/// Frees an object of libxml2 with the function for its type.
+template <auto Free>
+struct Freeing {
+  template <typename Object>
+  void operator()(Object* object) const {
+    Free(object);
+  }
 };
-using DocumentPointer = std::unique_ptr<xmlDoc, FreeDocument>;
+
+using DocumentPointer = std::unique_ptr<xmlDoc, Freeing<xmlFreeDoc>>;
 
 /// A libxml2 tree and the file that it was parsed from. Immutable once parsed.
 class CXmlTree {

@@ -101,7 +101,7 @@ class CBstr {
 
   /// Empties this and returns the place where a call stores its answer, which this then owns.
   zocom::Text* Receive() noexcept {
-    zocom::SysFreeString(std::exchange(m_text, nullptr));
+    if (m_text != nullptr) zocom::SysFreeString(std::exchange(m_text, nullptr));
     return &m_text;
   }
 

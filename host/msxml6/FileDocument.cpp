@@ -1,22 +1,44 @@
-#include "msxml6/FileDocument.h"
+#include "xmlfile/FileDocument.h"
 
 #include "BaseUtilities/StringConvert.h"
 #include "msxml6/DocumentLoader.h"
+#include "msxml6/ElementPlaces.h"
 #include "msxml6/SchemaCache.h"
 
-namespace msxml6 {
+#include <optional>
 
-CFileDocument::CFileDocument() : m_document(MakeDocument()) {}
+namespace xmlfile {
 
-void CFileDocument::Load(const std::filesystem::path& file, xmlfile::CProblems& problems) {
-  m_places = nullptr;
-  m_file.reset();
-  m_file = LoadFile(*m_document, file, problems);
+using msxml6::CElementPlaces;
+
+struct CFileDocument::Content {
+  DOMDocument2Ptr document = msxml6::MakeDocument();
+  std::optional<FileText> file;            // the text that the document was loaded from
+  std::unique_ptr<CElementPlaces> places;  // created on first use
+
+  CElementPlaces& Places() {
+    if (places == nullptr) places = std::make_unique<CElementPlaces>(*document, FindTags(*file));
+    return *places;
+  }
+};
+
+CFileDocument::CFileDocument() : m_content(std::make_unique<Content>()) {}
+
+CFileDocument::~CFileDocument() = default;
+
+IXMLDOMDocument2& CFileDocument::Document() const { return *m_content->document; }
+
+void CFileDocument::Load(const std::filesystem::path& file, CProblems& problems) {
+  m_content->places = nullptr;
+  m_content->file.reset();
+  m_content->file = msxml6::LoadFile(Document(), file, problems);
 }
+
+bool CFileDocument::IsLoaded() const { return m_content->file.has_value(); }
 
 xmlfile::Root CFileDocument::Root() const {
   DOMElementPtr root;
-  RequireSuccess(m_document->get_documentElement(root.Receive()), *m_document, IID_IXMLDOMDocument2);
+  RequireSuccess(Document().get_documentElement(root.Receive()), Document(), IID_IXMLDOMDocument2);
   CBstr name;
   RequireSuccess(root->get_baseName(name.Receive()), *root, IID_IXMLDOMNode);
   CBstr uri;
@@ -24,22 +46,19 @@ xmlfile::Root CFileDocument::Root() const {
   return {Utf16ToUtf8(name.View()), Utf16ToUtf8(uri.View())};
 }
 
-xmlfile::Place CFileDocument::RootPlace() const { return xmlfile::FindTags(*m_file).at(1).place; }
+Place CFileDocument::RootPlace() const { return FindTags(*m_content->file).at(1).place; }
 
-void CFileDocument::Validate(const std::vector<xmlfile::SchemaSource>& schemas, xmlfile::CProblems& problems) const {
-  msxml6::Validate(*m_document, schemas, problems);
+void CFileDocument::Validate(const std::vector<SchemaSource>& schemas, CProblems& problems) const {
+  msxml6::Validate(Document(), schemas, problems);
 }
 
-xmlfile::Place CFileDocument::Locate(IXMLDOMNode& node) {
-  const xmlfile::Tag* tag = IsLoaded() ? Places().Find(node) : nullptr;
-  return tag != nullptr ? tag->place : xmlfile::Place{0, 0};
+Place CFileDocument::Locate(IXMLDOMNode& node) {
+  const Tag* tag = IsLoaded() ? m_content->Places().Find(node) : nullptr;
+  return tag != nullptr ? tag->place : Place{0, 0};
 }
 
-std::string CFileDocument::PathOf(IXMLDOMNode& node) { return IsLoaded() ? Places().PathOf(node) : std::string(); }
-
-CElementPlaces& CFileDocument::Places() {
-  if (m_places == nullptr) m_places = std::make_unique<CElementPlaces>(*m_document, xmlfile::FindTags(*m_file));
-  return *m_places;
+std::string CFileDocument::PathOf(IXMLDOMNode& node) {
+  return IsLoaded() ? m_content->Places().PathOf(node) : std::string();
 }
 
-}  // namespace msxml6
+}  // namespace xmlfile

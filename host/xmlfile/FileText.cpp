@@ -1,7 +1,7 @@
 #include "xmlfile/FileText.h"
 
+#include "BaseUtilities/Encode.h"
 #include "BaseUtilities/StringConvert.h"
-#include "xmlfile/CountBytes.h"
 #include "xmlfile/InputFile.h"
 #include "xmlfile/Limits.h"
 
@@ -54,16 +54,6 @@ std::string ReadBytes(const std::filesystem::path& path, std::string& bytes) {
   }
 }
 
-void AppendUtf8(std::uint32_t code, std::string& text) {
-  const auto append = [&](std::uint32_t byte) { text += static_cast<char>(byte); };
-  if (code < 0x80) return append(code);
-  if (code >= 0x10000) append(0xF0 | code >> 18);
-  if (code >= 0x10000) append(0x80 | (code >> 12 & 0x3F));
-  if (code >= 0x800 && code < 0x10000) append(0xE0 | code >> 12);
-  append(code >= 0x800 ? 0x80 | (code >> 6 & 0x3F) : 0xC0 | code >> 6);
-  append(0x80 | (code & 0x3F));
-}
-
 /// An unpaired surrogate becomes a replacement character.
 std::string Utf8OfUtf16(std::string_view bytes, bool isBigEndian) {
   const auto unitAt = [&](std::size_t i) -> std::uint32_t {
@@ -78,10 +68,10 @@ std::string Utf8OfUtf16(std::string_view bytes, bool isBigEndian) {
     const std::uint32_t unit = unitAt(i);
     const std::uint32_t next = unitAt(i + 2);
     if (unit >= 0xD800 && unit < 0xDC00 && next >= 0xDC00 && next < 0xE000) {
-      AppendUtf8(0x10000 + (unit - 0xD800) * 0x400 + (next - 0xDC00), text);
+      AppendUtf8(text, 0x10000 + (unit - 0xD800) * 0x400 + (next - 0xDC00));
       i += 2;
     } else {
-      AppendUtf8(unit >= 0xD800 && unit < 0xE000 ? 0xFFFD : unit, text);
+      AppendUtf8(text, unit >= 0xD800 && unit < 0xE000 ? 0xFFFD : unit);
     }
   }
   return text;
@@ -143,7 +133,8 @@ std::size_t FileText::ByteOffset(std::size_t offset) const {
   const std::string_view before = Text().substr(0, offset);
   const auto isFirst = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
   const auto isPair = [](char c) { return static_cast<unsigned char>(c) >= 0xF0; };
-  return mark + 2 * (CountBytes(before, isFirst) + CountBytes(before, isPair));
+  const auto count = [&](auto isCounted) { return std::count_if(before.begin(), before.end(), isCounted); };
+  return mark + 2 * static_cast<std::size_t>(count(isFirst) + count(isPair));
 }
 
 std::optional<FileText> ReadFileText(const std::filesystem::path& path, CProblems& problems) {

@@ -44,7 +44,7 @@ bool CMarkupReader::Next(Markup& markup) {
   const char next = m_at + 1 < m_text.size() ? m_text[m_at + 1] : '\0';
   if (next == '/') {
     markup.kind = Markup::Kind::EndTag;
-    markup.end = EndOf(">", m_at);
+    markup.end = std::min(m_text.find('>', m_at), m_text.size() - 1) + 1;
   } else if (next == '!' || next == '?') {
     ReadOther(markup);
   } else {

@@ -1,7 +1,8 @@
 #include "xmlfile/Places.h"
 
-#include "xmlfile/CountBytes.h"
 #include "xmlfile/MarkupReader.h"
+
+#include <algorithm>
 
 namespace xmlfile {
 
@@ -9,14 +10,14 @@ Place CPlaceCounter::At(std::size_t offset) {
   std::string_view passed = m_text.substr(m_at, offset - m_at);
   m_at = offset;
   if (const std::size_t lineFeed = passed.rfind('\n'); lineFeed != std::string_view::npos) {
-    m_place.line += static_cast<std::uint32_t>(CountBytes(passed, [](char c) { return c == '\n'; }));
+    m_place.line += static_cast<std::uint32_t>(std::count(passed.begin(), passed.end(), '\n'));
     m_place.column = 1;
     passed.remove_prefix(lineFeed + 1);
   }
   const auto isCharacter = [isUtf8 = m_isUtf8](char c) {
     return !isUtf8 || (static_cast<unsigned char>(c) & 0xC0) != 0x80;
   };
-  m_place.column += static_cast<std::uint32_t>(CountBytes(passed, isCharacter));
+  m_place.column += static_cast<std::uint32_t>(std::count_if(passed.begin(), passed.end(), isCharacter));
   return m_place;
 }
 

@@ -1,5 +1,6 @@
 #include "FieldResolver.h"
 
+#include "Compiler.h"
 #include "ReferenceNames.h"
 #include "RunOnStack.h"
 #include "support/Latin1Locale.h"
@@ -176,7 +177,12 @@ TEST_P(BuiltInTable, IgnoresTheGlobalLocale) {
 
 TEST_P(BuiltInTable, TerminatesOnANameOfAMillionCharacters) {
   const std::string unknown(1'000'000, 'x');
-  EXPECT_EQ(Resolve(unknown), "?" + unknown + " - - -");
+  try {
+    EXPECT_EQ(Resolve(unknown), "?" + unknown + " - - -");
+  } catch (const std::regex_error& error) {
+    EXPECT_FALSE(vif::kHasStepwiseEngine);
+    EXPECT_EQ(error.code(), std::regex_constants::error_complexity);
+  }
 }
 
 TEST_P(BuiltInTable, MayBeUsedByManyThreadsAtOnce) {
@@ -375,6 +381,9 @@ TEST(OwnTable, FailsOnAnUnknownLocationInEverySlot) {
   }
 }
 
+// Other standard libraries match such names on the heap or give up, each in its own way.
+#if defined(__GLIBCXX__)
+
 /// Resolves a name of 100,000 times "a" followed by `end`, using a table of one pattern.
 std::string TextOfLongName(const wchar_t* pattern, const std::string& end = "") {
   const Table table = {{L"Long", std::wregex(pattern), {eVifLocComponent, eVifLocSrcPdo}}};
@@ -402,17 +411,15 @@ void ExpectAnswersOnLongNames() {
   EXPECT_EQ(TextOfLongName(L"a*b", ""), "unknown");
 }
 
-#if defined(__GLIBCXX__)
-
 TEST(OwnTable, ResolvesLongNames) { ExpectAnswersOnLongNames(); }
 
 TEST(OwnTable, ResolvesLongNamesOnASmallStack) { testsupport::RunOnSmallStack(ExpectAnswersOnLongNames); }
 
-#endif
-
 TEST(OwnTable, FailsOnLongNamesWhenAPatternHasABackReferenceOnASmallStack) {
   testsupport::RunOnSmallStack([] { EXPECT_EQ(ErrorOnLongName(L"(a)\\1*"), std::regex_constants::error_stack); });
 }
+
+#endif
 
 TEST(OwnTable, FollowsBackReferencesAsFarAsTheStackAllows) {
   const Table table = {{L"Twice", std::wregex(L"(a)\\1.*"), {}}};
@@ -428,7 +435,8 @@ TEST(OwnTable, TerminatesOnAPatternThatRecursesDeeplyWithoutReadingAnything) {
       try {
         EXPECT_EQ(Resolved(&table, "Abc"), "Deep - - -");
       } catch (const std::regex_error& error) {
-        EXPECT_EQ(error.code(), std::regex_constants::error_stack);
+        EXPECT_EQ(error.code(),
+                  vif::kHasStepwiseEngine ? std::regex_constants::error_stack : std::regex_constants::error_complexity);
       }
     });
   }

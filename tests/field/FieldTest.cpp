@@ -742,7 +742,11 @@ TEST(Match, ComparesLocationsAndName) {
 }
 
 TEST(Match, ThrowsTheErrorOfAnInvalidPatternWhenTheLocationsMatch) {
-  for (const char* pattern : {"(", "[", "*", "a{2", "\\", "a)", "[z-a]"}) {
+  std::vector<const char*> patterns = {"(", "[", "*", "a{2", "\\", "a)"};
+#if !defined(_LIBCPP_VERSION)
+  patterns.push_back("[z-a]");  // for libc++, a range that contains nothing
+#endif
+  for (const char* pattern : patterns) {
     EXPECT_THROW(Voltage().Match(pattern, kUnused, kUnused, kUnused), std::regex_error) << pattern;
     EXPECT_THROW(Voltage().Match(pattern, {eVifLocSrcPdo, 3}, kUnused, kUnused), std::regex_error) << pattern;
     EXPECT_THROW(Voltage().Match(pattern, {{kUnused, kUnused, kUnused}}), std::regex_error) << pattern;

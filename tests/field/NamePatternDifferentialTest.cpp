@@ -1,6 +1,7 @@
 // Name patterns against the standard library's plain engine, and on names that overwhelm it.
 #include "NamePattern.h"
 
+#include "RandomExpression.h"
 #include "RegexGrammar.h"
 #include "RegexOutcome.h"
 #include "RunOnStack.h"
@@ -29,7 +30,8 @@ using testsupport::RunOnStack;
 using vif::CGuardedIterator;
 using vif::MatchBudget;
 
-constexpr std::size_t kLong = 200'000;
+// Where only the length of the text limits the steps, a hostile pattern may take minutes on a long one.
+constexpr std::size_t kLong = kHasStepwise ? 200'000 : 2'000;
 
 // Long names
 
@@ -122,12 +124,14 @@ void ExpectAgreementWithPlainEngine(CPatternGenerator& generator, const MakeMatc
   for (int i = 0; i < 4000; ++i) {
     const std::string text = generator.Pattern();
     if (text.empty()) continue;
-    const std::regex expression(text, kNameSyntax);
+    // libc++ rejects a reference to a group that is still open.
+    const std::optional<std::regex> expression = randomexpression::Compiled(text, kNameSyntax);
+    if (!expression) continue;
     auto matches = makeMatches(text);
     for (int j = 0; j < 12; ++j) {
       const std::string name = generator.Name(7, kNameCharacters);
-      if (!PlainAnswer(expression, name)) continue;
-      const bool expected = std::regex_match(name, expression);
+      if (!PlainAnswer(*expression, name)) continue;
+      const bool expected = std::regex_match(name, *expression);
       ASSERT_EQ(matches(name), expected) << text << " on " << name;
       fitting += expected ? 1U : 0U;
     }

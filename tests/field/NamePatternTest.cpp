@@ -64,9 +64,12 @@ TEST(NamePattern, IsCompiledOnceForManyNames) {
 }
 
 TEST(NamePattern, ThrowsTheErrorOfAnInvalidExpressionOnConstruction) {
-  for (const char* pattern : {"(", ")", "[", "[b-a]", "*", "+", "?", "a{", "a{2,1}", "\\", "(?", "[[:none:]]"}) {
+  for (const char* pattern : {"(", ")", "[", "*", "+", "?", "a{", "a{2,1}", "\\", "(?", "[[:none:]]"}) {
     EXPECT_THROW(vif::CNamePattern{pattern}, std::regex_error) << pattern;
   }
+#if !defined(_LIBCPP_VERSION)  // for libc++, a range that contains nothing
+  EXPECT_THROW(vif::CNamePattern{"[b-a]"}, std::regex_error);
+#endif
 }
 
 TEST(NamePattern, RecognisesEverySpecialCharacter) {
@@ -216,6 +219,10 @@ TEST(NamePattern, AgreesWithTheExpressionOnPlainPatternsInAnotherLocale) {
   ExpectAgreementOnPlainPatterns();
 }
 
+/// What a match of a long name may run out of: stack in libstdc++, steps in libc++.
+constexpr auto kTooMuch =
+    vif::kHasStepwiseEngine ? std::regex_constants::error_stack : std::regex_constants::error_complexity;
+
 /// Compares on random expressions and names. With `lengthened`, the pattern first sees a name too long for the engine
 /// that it starts with.
 void ExpectAgreementOnExpressions(bool lengthened) {
@@ -232,7 +239,7 @@ void ExpectAgreementOnExpressions(bool lengthened) {
       try {
         namePattern->Matches(longName.c_str());
       } catch (const std::regex_error& error) {
-        ASSERT_EQ(error.code(), std::regex_constants::error_stack) << reference::Shown(pattern);
+        ASSERT_EQ(error.code(), kTooMuch) << reference::Shown(pattern);
       }
     }
     for (int j = 0; j < 8; ++j) {
@@ -328,7 +335,7 @@ TEST(NamePatternOnLongNames, RemainsUsableForShortNames) {
     try {
       EXPECT_TRUE(pattern.Matches(longName.c_str()));
     } catch (const std::regex_error& error) {
-      EXPECT_EQ(error.code(), std::regex_constants::error_stack);
+      EXPECT_EQ(error.code(), kTooMuch);
     }
     EXPECT_TRUE(pattern.Matches("aaa"));
     EXPECT_FALSE(pattern.Matches("aac"));
@@ -353,13 +360,23 @@ TEST(NamePatternOnLongNames, KeepsTheLocaleOfItsConstruction) {
 
 TEST(NamePatternOfRepeatedNothing, TerminatesAlthoughItReadsNoCharacter) {
   for (const char* pattern : {"(()+){20}", "((()+){5}){5}", "(()*|()+){15}x"}) {
-    EXPECT_FALSE(vif::CNamePattern(pattern).Matches("aaa")) << pattern;
+    try {
+      EXPECT_FALSE(Matches(pattern, "aaa")) << pattern;
+    } catch (const std::regex_error& error) {
+      EXPECT_FALSE(vif::kHasStepwiseEngine) << pattern;
+      EXPECT_EQ(error.code(), std::regex_constants::error_complexity) << pattern;
+    }
   }
 }
+
+// libc++ allows one quantifier only.
+#if defined(__GLIBCXX__)
 
 TEST(NamePatternOfRepeatedNothing, IsAnsweredHoweverManyStatesItHas) {
   EXPECT_FALSE(Matches("()+{20}{20}", "aaa"));
   EXPECT_TRUE(Matches("()+{20}{20}a*", "aaa"));
 }
+
+#endif
 
 }  // namespace

@@ -16,6 +16,7 @@
 
 namespace {
 
+using testsupport::kHasStepwise;
 using testsupport::kNameSyntax;
 using testsupport::kOrdinaryStack;
 using testsupport::kSmallStack;
@@ -65,6 +66,7 @@ TEST_P(ValidPattern, GivesThePlainEnginesAnswerOnAnOrdinaryStack) {
   RunOnStack(enoughForThePlainEngine, [&] {
     const std::regex expression(question.pattern, kNameSyntax);
     for (std::size_t i = 0; i < answers.size(); ++i) {
+      if (!kHasStepwise && !answers[i]) continue;  // too deep for libc++, where every character counts, or too long
       EXPECT_EQ(answers[i], std::regex_match(question.names[i], expression)) << question.names[i].substr(0, 40);
     }
   });
@@ -111,13 +113,20 @@ TEST(PatternErrorText, ForTooLittleStackDoesNotBlameMemory) {
   constexpr const char* expected = "The regular expression needs more stack than this thread has left.";
   RunOnStack(kSmallStack, [&] {
     EXPECT_EQ(ErrorText(std::string(100'000, 'a') + ".*", "a"), expected);
+#if defined(__GLIBCXX__)  // others match this on the heap
     EXPECT_EQ(ErrorText("(a)\\1.*", std::string(100'000, 'a')), expected);
+#endif
   });
 }
+
+// libc++ counts the steps itself and has its own text.
+#if defined(__GLIBCXX__)
 
 TEST(PatternErrorText, ForTooLittleTimeMentionsSteps) {
   EXPECT_EQ(ErrorText("(a|aa)*\\1x", std::string(60, 'a')), "The regular expression takes too many steps.");
 }
+
+#endif
 
 // Hostile patterns
 
@@ -233,7 +242,9 @@ TEST_P(PatternOfEverySize, TerminatesOnStacksOfEverySize) {
       }
     });
   }
-  EXPECT_GT(answers, 0U);
+  if (kHasStepwise) {
+    EXPECT_GT(answers, 0U);  // libc++ gives up on some even when they are short
+  }
   EXPECT_GT(errors, 0U);
 }
 

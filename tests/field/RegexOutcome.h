@@ -17,7 +17,9 @@ namespace testsupport {
 /// The syntax of name patterns.
 constexpr auto kNameSyntax = std::regex_constants::ECMAScript | std::regex_constants::icase;
 
-/// Whether names of any length can be matched with this standard library.
+/// Whether names of any length can be matched with this standard library. That is libstdc++; libc++ copies the text
+/// before it matches, keeps its states on the heap, and gives up (`error_complexity`) after 4,096 steps for each
+/// character of the text.
 constexpr bool kHasStepwise = vif::kHasStepwiseEngine;
 
 /// An answer, or the code of the error thrown instead.

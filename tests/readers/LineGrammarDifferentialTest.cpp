@@ -221,6 +221,9 @@ class UnusualTables : public testsupport::CustomCtype::Tables {
 TEST(LineGrammarDifferentialTest, AgreesWithTheExpressionsInTheClassicLocale) { CompareGeneratedContents(); }
 
 TEST(LineGrammarDifferentialTest, AgreesWithTheExpressionsInAnUnusualLocale) {
+#if defined(_LIBCPP_VERSION)
+  GTEST_SKIP() << "libc++'s expressions look up the class of the lower-case character, and know none beyond ASCII.";
+#endif
   Generator generator = testsupport::SeededGenerator();
   const UnusualTables tables(generator);
   const testsupport::CScopedGlobalLocale locale(LocaleWith(tables));

@@ -242,12 +242,17 @@ TEST(TextReaderTest, UnknownLocationEndsTheReadAndKeepsWhatCameBefore) {
   EXPECT_EQ(sink.ComponentCount(), 1U);
 }
 
+#if defined(__GLIBCXX__)
+constexpr const char* kErrorOfALongName = "The regular expression needs more stack than this thread has left.";
+#else
+constexpr const char* kErrorOfALongName = "The regular expression takes too many steps.";
+#endif
+
 TEST(TextReaderTest, ErrorOfAnOwnPatternIsThrownUnchangedAndKeepsWhatCameBefore) {
   const std::vector<VifFieldDef> table = {{L"Twice", std::wregex(L"(.)\\1.*"), {eVifLocComponent}}};
   Sink sink;
   const std::string text = "AA: 1\n" + std::string(1'000'000, 'B') + ": 2\nCC: 3";
-  EXPECT_EQ(RunTimeErrorOf([&] { sink.Read(text, &table); }),
-            "The regular expression needs more stack than this thread has left.");
+  EXPECT_EQ(RunTimeErrorOf([&] { sink.Read(text, &table); }), kErrorOfALongName);
   EXPECT_THAT(sink.Texts(), ElementsAre("Twice=1 @6.1"));
   EXPECT_EQ(sink.ComponentCount(), 1U);
 }

@@ -25,7 +25,8 @@ constexpr int kRounds = 40;
 
 void ExpectAnswersInFreshLocales(const std::function<std::locale()>& makeLocale) {
   const std::array slots = {kUnused, kUnused, kUnused};
-  const CVendorInfoFile vif({CVIFField(true, "Src_PDO_Voltage1", "1", slots), CVIFField(true, "Src_PDO", "2", slots)});
+  const CVendorInfoFile vif(
+      std::vector<CVIFField>{CVIFField(true, "Src_PDO_Voltage1", "1", slots), CVIFField(true, "Src_PDO", "2", slots)});
   for (int round = 0; round < kRounds; ++round) {
     const testsupport::CScopedGlobalLocale global(makeLocale());
     const auto counts = InAllThreads([&](std::size_t) { return vif.Count("Src_[[:alpha:]]+_.*[0-9]", slots); });

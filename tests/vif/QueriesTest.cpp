@@ -916,7 +916,11 @@ std::string ErrorOf(const std::string& pattern) {
 
 TEST(InvalidPattern, ThrowsInEveryQueryWhenAFieldsLocationsMatch) {
   const CVendorInfoFile vif = WithComponents(1, {Field("a", "1", Component(0), SrcPdo(1))});
-  for (const char* pattern : {"(", ")", "[", "[b-a]", "*", "a{", "a{2,1}", "\\", "(?", "[[:none:]]"}) {
+  std::vector<const char*> patterns = {"(", ")", "[", "*", "a{", "a{2,1}", "\\", "(?", "[[:none:]]"};
+#if !defined(_LIBCPP_VERSION)
+  patterns.push_back("[b-a]");  // for libc++, a range that contains nothing
+#endif
+  for (const char* pattern : patterns) {
     const std::string error = ErrorOf(pattern);
     ASSERT_THAT(error, testing::StartsWith("std::regex_error")) << pattern;
     EXPECT_THAT(OutcomesOfAllQueries(vif, pattern, kAnywhere), Each(error)) << pattern;

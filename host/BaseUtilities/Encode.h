@@ -1,0 +1,41 @@
+// The parts of text conversions.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+/// Copies ASCII text into characters of another width. Nearly all text of a VIF is ASCII, and copying it many
+/// characters at a time is much faster than decoding them one by one.
+/// \param copy room for as many characters as the text has
+/// \return whether the text was ASCII; if not, the copy is useless
+template <typename From, typename To>
+bool CopyAscii(std::basic_string_view<From> text, To* copy) {
+  constexpr auto ascii = static_cast<From>(0x7F);
+  // Most texts are so short that preparing to copy many at a time takes longer.
+  if (text.size() < 16) {
+    for (std::size_t i = 0; i < text.size(); ++i) {
+      if ((text[i] & ~ascii) != 0) return false;
+      copy[i] = static_cast<To>(text[i]);
+    }
+    return true;
+  }
+  From bits = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    bits = static_cast<From>(bits | text[i]);
+    copy[i] = static_cast<To>(text[i]);
+  }
+  return (bits & ~ascii) == 0;
+}
+
+/// Appends a character as UTF-8.
+/// \param code a Unicode code point
+inline void AppendUtf8(std::string& text, char32_t code) {
+  const auto append = [&](char32_t byte) { text += static_cast<char>(byte); };
+  if (code < 0x80) return append(code);
+  if (code >= 0x10000) append(0xF0 | code >> 18);
+  if (code >= 0x10000) append(0x80 | (code >> 12 & 0x3F));
+  if (code >= 0x800 && code < 0x10000) append(0xE0 | code >> 12);
+  append(code >= 0x800 ? 0x80 | (code >> 6 & 0x3F) : 0xC0 | code >> 6);
+  append(0x80 | (code & 0x3F));
+}
