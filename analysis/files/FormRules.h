@@ -4,9 +4,6 @@
 #include "FoundField.h"
 #include "KnownNames.h"
 
-#include <string>
-#include <string_view>
-
 namespace vifanalysis {
 
 // Each rule takes all fields of one file, in the order of the file, and adds its findings to the list. The time it
@@ -34,16 +31,15 @@ void FindTextsForGroups(const FoundFields& fields, Findings& findings);
 
 // In an XML file, a field of any name can be in any place.
 
-/// Names without a definition.
-void FindUnknownNames(const FoundFields& fields, Findings& findings);
-
 /// Numeric or boolean fields without a value.
 void FindMissingValues(const FoundFields& fields, Findings& findings);
 
 /// Fields in another place than their definition says.
 void FindMisplaced(const FoundFields& fields, Findings& findings);
 
-/// "unknown name", with similar names that are known.
-std::string UnknownNameMessage(std::string_view name, NameStyle style);
+/// Names that nobody knows, those of other editions, and fields that came after the file's edition. Of the latter, only
+/// the first with each name.
+/// \param edition the file's; {0, 0} when it is not known
+void FindUndefinedNames(const UndefinedNames& names, NameStyle style, const Edition& edition, Findings& findings);
 
 }  // namespace vifanalysis

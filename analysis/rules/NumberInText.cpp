@@ -1,5 +1,7 @@
 #include "rules/NumberInText.h"
 
+#include <analysis/Text.h>
+
 #include <algorithm>
 #include <charconv>
 #include <iterator>
@@ -62,13 +64,11 @@ std::optional<std::uint64_t> TakeThousandths(std::string_view& text) {
   return ToNumber(digits, 10);
 }
 
-char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
 /// Whether the next word of a text occurs in a field's name, in any letter case.
 bool BeginsWithWordOf(std::string_view text, std::string_view fieldName) {
   SkipBlanks(text);
   const std::string_view word = text.substr(0, text.find(' '));
-  const auto isSame = [](char a, char b) { return Lower(a) == Lower(b); };
+  const auto isSame = [](char a, char b) { return ToLowerAscii(a) == ToLowerAscii(b); };
   return word.size() <= fieldName.size() &&
          std::search(fieldName.begin(), fieldName.end(), word.begin(), word.end(), isSame) != fieldName.end();
 }
