@@ -1,5 +1,6 @@
 #include "power/Units.h"
 
+#include <analysis/FieldMeaning.h>
 #include <analysis/FieldText.h>
 #include <analysis/PowerProfile.h>
 
@@ -7,6 +8,7 @@
 #include <cstdint>
 #include <initializer_list>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace vifanalysis {
@@ -15,18 +17,9 @@ namespace {
 
 constexpr const char* kUnknown = "?";
 
-/// A kind of supply and the units that its PDO counts in.
-struct Supply {
-  const char* name;
-  std::uint64_t milliVolt;
-  std::uint64_t milliAmpere;
-  std::uint64_t milliWatt;
-};
-
-constexpr Supply kFixed = {"Fixed", 50, 10, 250};
-constexpr Supply kBattery = {"Battery", 50, 10, 250};
-constexpr Supply kVariable = {"Variable", 50, 10, 250};
-constexpr Supply kProgrammable = {"PPS", 100, 50, 250};
+// Supply types.
+constexpr std::uint64_t kFixed = 0;
+constexpr std::uint64_t kAugmented = 3;
 
 /// Larger numbers are mistakes, and products of them might overflow.
 constexpr std::uint64_t kLargest = 1'000'000;
@@ -57,31 +50,45 @@ std::optional<std::uint64_t> Number(const CVIFField* field) {
   return field->GetULongNumericValue();
 }
 
-/// Whether an augmented supply is a programmable one; the units of the others are not settled here. Up to edition 3.12
-/// there was no other, and no field to tell. A PDP rating is of an adjustable voltage supply.
-bool IsProgrammable(const CPdoFields& fields) {
-  const CVIFField* kind = fields.Find("APDO_Type");
-  return kind != nullptr ? Number(kind) == 0U : fields.Find("PDP_Rating") == nullptr;
+/// What decides on the units. An augmented supply without an APDO type is a programmable one, as there was no other up
+/// to edition 3.12, but one with a PDP rating is of adjustable voltage.
+PdoContext ContextOf(const CPdoFields& fields, const Edition& edition) {
+  constexpr std::uint64_t programmable = 0;
+  PdoContext context;
+  context.supplyType = Number(fields.Find("Supply_Type"));
+  context.apdoType = Number(fields.Find("APDO_Type"));
+  const bool leavesTypeOpen = fields.Find("APDO_Type") == nullptr && fields.Find("PDP_Rating") == nullptr;
+  if (context.supplyType == kAugmented && leavesTypeOpen) context.apdoType = programmable;
+  context.edition = edition;
+  return context;
 }
 
-const Supply* FindSupply(const CPdoFields& fields) {
-  const std::optional<std::uint64_t> type = Number(fields.Find("Supply_Type"));
-  if (!type) return nullptr;
-  switch (*type) {
-    case 0: return &kFixed;
-    case 1: return &kBattery;
-    case 2: return &kVariable;
-    case 3: return IsProgrammable(fields) ? &kProgrammable : nullptr;
-    default: return nullptr;
-  }
+bool IsProgrammable(const PdoContext& context) { return context.supplyType == kAugmented && context.apdoType == 0U; }
+
+std::string SupplyText(const CPdoFields& fields, const PdoContext& context) {
+  if (IsProgrammable(context)) return "PPS";
+  const CVIFField* type = fields.Find("Supply_Type");
+  if (type == nullptr) return kUnknown;
+  const std::string text = MeaningOf(*type).text;
+  return text.empty() ? kUnknown : text;
 }
 
-/// The first field that exists, converted with what one of its units is worth.
-std::string Amount(std::initializer_list<const CVIFField*> candidates, std::uint64_t worth, bool unitIsKnown) {
+/// The number of a PDO's field in mV, mA or mW.
+std::optional<std::uint64_t> Thousandths(const CVIFField& field, const PdoContext& context) {
+  const FieldInfo* info = FindField(field.Name()).field;
+  const std::optional<std::uint64_t> number = Number(&field);
+  // Without a supply type, nothing is settled, even where all kinds of supply have the same unit.
+  if (info == nullptr || !number || !context.supplyType) return std::nullopt;
+  const std::optional<Quantity> quantity = QuantityOf(*info, *number, context);
+  return quantity ? std::optional(quantity->amount) : std::nullopt;
+}
+
+/// The first field that exists, in thousandths of the amount's unit.
+std::string Amount(std::initializer_list<const CVIFField*> candidates, const PdoContext& context) {
   for (const CVIFField* field : candidates) {
     if (field == nullptr) continue;
-    const std::optional<std::uint64_t> number = Number(field);
-    return unitIsKnown && number ? Decimal(*number * worth) : kUnknown;
+    const std::optional<std::uint64_t> thousandths = Thousandths(*field, context);
+    return thousandths ? Decimal(*thousandths) : kUnknown;
   }
   return {};
 }
@@ -98,11 +105,9 @@ std::string VoltageText(const std::string& fixed, const std::string& lowest, con
 
 }  // namespace
 
-PowerProfile DescribePdo(const std::vector<const CVIFField*>& list) {
+PowerProfile DescribePdo(const std::vector<const CVIFField*>& list, const Edition& edition) {
   const CPdoFields fields(list);
-  const Supply* supply = FindSupply(fields);
-  const bool isKnown = supply != nullptr;
-  const Supply units = isKnown ? *supply : Supply{kUnknown, 0, 0, 0};
+  const PdoContext context = ContextOf(fields, edition);
   const CVIFField* voltage = fields.Find("Voltage");
   const CVIFField* lowest = fields.Find("Min_Voltage");
   const CVIFField* highest = fields.Find("Max_Voltage");
@@ -112,18 +117,20 @@ PowerProfile DescribePdo(const std::vector<const CVIFField*>& list) {
   const CVIFField* operatingPower = fields.Find("Op_Power");
 
   PowerProfile profile;
-  profile.supply = units.name;
-  profile.voltage = VoltageText(Amount({voltage}, units.milliVolt, isKnown), Amount({lowest}, units.milliVolt, isKnown),
-                                Amount({highest}, units.milliVolt, isKnown));
-  profile.current = WithUnit(Amount({current, operatingCurrent}, units.milliAmpere, isKnown), "A");
-  profile.power = WithUnit(Amount({power, operatingPower}, units.milliWatt, isKnown), "W");
+  profile.context = context;
+  profile.supply = SupplyText(fields, context);
+  profile.voltage = VoltageText(Amount({voltage}, context), Amount({lowest}, context), Amount({highest}, context));
+  profile.current = WithUnit(Amount({current, operatingCurrent}, context), "A");
+  profile.power = WithUnit(Amount({power, operatingPower}, context), "W");
 
-  const std::optional<std::uint64_t> volts = Number(voltage);
-  const std::optional<std::uint64_t> amperes = Number(current != nullptr ? current : operatingCurrent);
-  if (supply == &kFixed && profile.power.empty() && volts && amperes) {
-    profile.power = Decimal(*volts * units.milliVolt * *amperes * units.milliAmpere / 1000) + " W";
+  const CVIFField* drawn = current != nullptr ? current : operatingCurrent;
+  if (context.supplyType == kFixed && profile.power.empty() && voltage != nullptr && drawn != nullptr) {
+    const std::optional<std::uint64_t> milliVolts = Thousandths(*voltage, context);
+    const std::optional<std::uint64_t> milliAmperes = Thousandths(*drawn, context);
+    if (milliVolts && milliAmperes) profile.power = Watts(*milliVolts * *milliAmperes / 1000);
   }
 
+  const bool isSettled = profile.supply != kUnknown && (context.supplyType != kAugmented || IsProgrammable(context));
   const auto shown = {fields.Find("Supply_Type"),
                       voltage,
                       lowest,
@@ -132,7 +139,7 @@ PowerProfile DescribePdo(const std::vector<const CVIFField*>& list) {
                       operatingCurrent,
                       power,
                       operatingPower,
-                      isKnown ? fields.Find("APDO_Type") : nullptr};
+                      isSettled ? fields.Find("APDO_Type") : nullptr};
   for (const CVIFField* field : list) {
     if (std::find(shown.begin(), shown.end(), field) == shown.end()) profile.others.push_back(field);
   }
