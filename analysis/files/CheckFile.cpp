@@ -18,19 +18,21 @@ namespace vifanalysis {
 namespace {
 
 void CheckTextFields(const FoundFields& fields, Findings& findings) {
-  FindBadNumbering(fields, findings);
+  const GroupTree tree = MakeGroupTree(fields);
+  FindBadNumbering(fields, tree, findings);
   FindTextsForGroups(fields, findings);
-  FindDuplicates(fields, findings);
+  FindDuplicates(fields, tree, findings);
   FindBadNumbers(fields, findings);
-  FindWrongCounts(fields, findings);
+  FindWrongCounts(tree, findings);
 }
 
 void CheckXmlFields(const FoundFields& fields, Findings& findings) {
+  const GroupTree tree = MakeGroupTree(fields);
   FindMisplaced(fields, findings);
-  FindDuplicates(fields, findings);
+  FindDuplicates(fields, tree, findings);
   FindBadNumbers(fields, findings);
   FindMissingValues(fields, findings);
-  FindWrongCounts(fields, findings);
+  FindWrongCounts(tree, findings);
 }
 
 /// {0, 0} for a file that names no edition.

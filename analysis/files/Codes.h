@@ -91,8 +91,9 @@ inline constexpr RuleInfo kUnknownName = FormRule(
 inline constexpr RuleInfo kOtherSpelling = FormRule(
     "other-spelling", Severity::Note, "a field's name as some editions or a common mistake spell it",
     "Early editions spell some names otherwise, such as PD_Power_as_Sink, and some programs that write VIFs have had "
-    "mistakes in names. Loading takes only the spelling of the later editions: the field is kept, but a query for the "
-    "name does not find it, and in a text VIF it is in no group. Correct the name if programs are to find the field.");
+    "mistakes in names. Loading takes only the spelling of the later editions: the field is kept, but a query for that "
+    "spelling does not find it, and in a text VIF it is in no group. Correct the name if programs are to find the "
+    "field.");
 inline constexpr RuleInfo kOlderName = FormRule(
     "older-name", Severity::Note, "the name of a field that has been renamed, split or dropped since",
     "Early editions have fields that later ones call otherwise, such as Externally_Powered, or no longer have. Loading "

@@ -2,15 +2,16 @@
 #pragma once
 
 #include "FoundField.h"
+#include "GroupTree.h"
 #include "KnownNames.h"
 
 namespace vifanalysis {
 
-// Each rule takes all fields of one file, in the order of the file, and adds its findings to the list. The time it
-// takes is linear in the number of fields, but for a logarithm.
+// Each rule takes all fields of one file, in the order of the file, or its groups, and adds its findings to the list.
+// The time it takes is linear in the number of fields, but for a logarithm.
 
 /// Fields that their group already has.
-void FindDuplicates(const FoundFields& fields, Findings& findings);
+void FindDuplicates(const FoundFields& fields, const GroupTree& tree, Findings& findings);
 
 /// Numeric values that are not valid numbers, or are more than a number.
 void FindBadNumbers(const FoundFields& fields, Findings& findings);
@@ -19,12 +20,12 @@ void FindBadNumbers(const FoundFields& fields, Findings& findings);
 void FindNothing(const FoundFields& fields, Findings& findings);
 
 /// Counts, such as Num_Src_PDOs, that differ from the number of groups.
-void FindWrongCounts(const FoundFields& fields, Findings& findings);
+void FindWrongCounts(const GroupTree& tree, Findings& findings);
 
 // In a text file, the name of a field decides its place.
 
 /// Groups without a number, and gaps in their numbers.
-void FindBadNumbering(const FoundFields& fields, Findings& findings);
+void FindBadNumbering(const FoundFields& fields, const GroupTree& tree, Findings& findings);
 
 /// Texts with the name of a field in a numbered group.
 void FindTextsForGroups(const FoundFields& fields, Findings& findings);
