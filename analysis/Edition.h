@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+class CVIFField;
+
 namespace vifanalysis {
 
 /// An edition of the format, as VIF_Specification gives it: "3.22" is {3, 22}, and later than {3, 3}.
@@ -22,6 +24,10 @@ struct Edition {
 /// The edition that a text names, such as "3.22", or "Version 3.22" as loading an XML file has it; nothing unless it is
 /// two numbers with a point between them.
 VIF_ANALYSIS_API std::optional<Edition> ParseEdition(std::string_view text);
+
+/// The edition that a field of a file says the file follows; nothing unless the field is VIF_Specification, of the file
+/// as a whole, and names one.
+VIF_ANALYSIS_API std::optional<Edition> EditionNamedBy(const CVIFField& field);
 
 /// The edition as text, such as "3.22"; the minor number has at least two digits, as in "2.04".
 VIF_ANALYSIS_API std::string EditionText(const Edition& edition);

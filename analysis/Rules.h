@@ -19,7 +19,7 @@ struct RuleInfo {
   Severity severity;      ///< the severity of all its findings
   Edition first;          ///< the first edition that it is applied to; {0, 0} for every file, of a known edition or not
   Confidence confidence;  ///< how certain it is that what it finds is wrong
-  const char* sources;    ///< where it comes from, such as "S1, S8"; empty for a rule about the form of a file
+  const char* sources;    ///< codes of `Sources`, separated by blanks; empty for a rule about the form of a file
   const char* what;       ///< what it finds, as a phrase for a list
   const char* why;        ///< why that is wrong and what to do about it, in sentences
 };

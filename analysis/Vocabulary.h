@@ -2,7 +2,7 @@
 //
 // Everything here describes the format, never a file. The field definition table (VIFFieldDefs.h) alone decides what
 // loading makes of a name; the vocabulary is knowledge beside it. It was gathered from real files and public documents
-// (see `VocabularySources`; source C, the files in which everything is counted, is "the corpus" below). So a fact can
+// (see `Sources.h`; source C, the files in which everything is counted, is "the corpus" below). So a fact can
 // be weak: `Confidence` says so, and so does a `files` of 0, which means that no file of the corpus has it. Show that
 // with the fact.
 //
@@ -82,7 +82,7 @@ struct FieldValue {
   std::uint32_t files = 0;                       ///< how many files of the corpus have it; 0: not seen
   EditionRange seen{};                           ///< the editions of these files; not known when there are none
   Confidence confidence = {};                    ///< how certain it is that the number stands for the text
-  std::string_view sources;                      ///< codes of `VocabularySources`, separated by blanks
+  std::string_view sources;                      ///< codes of `Sources`, separated by blanks
   std::array<std::string_view, 2> otherTexts{};  ///< other texts in use for the value; unused ones empty
   // Rows leave it out, which g++ warns about where there is no initializer.
   // NOLINTNEXTLINE(readability-redundant-member-init)
@@ -101,7 +101,7 @@ struct FieldUnit {
   std::uint32_t places = 0;         ///< how often the corpus has a number and a text that confirm it
   std::uint32_t files = 0;          ///< in how many files; 0: not seen
   Confidence confidence = {};       ///< how certain it is
-  std::string_view sources;         ///< codes of `VocabularySources`, separated by blanks
+  std::string_view sources;         ///< codes of `Sources`, separated by blanks
 };
 
 /// Why a name means a field.
@@ -126,7 +126,7 @@ struct FieldSpelling {
   Confidence confidence = {};  ///< how certain it is that this field is meant
   std::uint32_t files = 0;     ///< how many files of the corpus have it; 0: not seen
   EditionRange seen{};         ///< the editions of these files; not known when there are none
-  std::string_view sources;    ///< codes of `VocabularySources`, separated by blanks
+  std::string_view sources;    ///< codes of `Sources`, separated by blanks
   // Rows leave it out, which g++ warns about where there is no initializer.
   // NOLINTNEXTLINE(readability-redundant-member-init)
   std::string_view why{};  ///< how that is known, as a sentence; empty when the kind says it all
@@ -142,7 +142,7 @@ struct FieldInfo {
   std::string_view declares;                 ///< what it declares: a phrase, or a question that its value answers
   std::string_view note;                     ///< further remarks, or empty
   Confidence confidence = {};                ///< how certain `declares` is
-  std::string_view sources;                  ///< codes of `VocabularySources` behind `declares`, separated by blanks
+  std::string_view sources;                  ///< codes of `Sources` behind `declares`, separated by blanks
   std::uint32_t files = 0;                   ///< how many files of the corpus have it by this name; 0: not seen
   EditionRange seen{};                       ///< the editions of these files; not known when there are none
   bool listedIn3_12 = false;                 ///< a public list of the fields of edition 3.12 has it
@@ -194,13 +194,6 @@ struct FieldGroup {
   std::span<const FieldInfo* const> fields;  ///< its fields, in the order of `Fields`
 };
 
-/// Where facts of the vocabulary come from.
-struct VocabularySource {
-  std::string_view code;      ///< as rows name it, such as "S2"
-  std::string_view what;      ///< what it is
-  std::string_view editions;  ///< the editions of the format that it covers, or empty
-};
-
 /// What decides which unit a number of a PDO is in.
 struct PdoContext {
   std::optional<std::uint64_t> supplyType;     ///< the PDO's `Src_PDO_Supply_Type` or `Snk_PDO_Supply_Type`
@@ -224,12 +217,6 @@ VIF_ANALYSIS_API std::span<const FieldGroup> FieldGroups() noexcept;
 
 /// All names of fields other than the canonical ones. An older field that was split in two has two rows.
 VIF_ANALYSIS_API std::span<const FieldSpelling> Spellings() noexcept;
-
-/// All sources.
-VIF_ANALYSIS_API std::span<const VocabularySource> VocabularySources() noexcept;
-
-/// The source with a code; null when there is none.
-VIF_ANALYSIS_API const VocabularySource* FindVocabularySource(std::string_view code) noexcept;
 
 /// What a name means: a canonical name, with or without the digits of its indexes (`Src_PDO_Voltage3`,
 /// `SVID2_Mode1_Enter_SOP`), a text field's name with the dollar sign of the text form, or any other known spelling.

@@ -162,22 +162,25 @@ void CRatioTable::PrintRatio(const RowBenchmarks& row) {
 }
 
 void CRatioTable::PrintSizes() {
-  bool hasHead = false;
+  const std::vector<std::string>* head = nullptr;  // of the table that the row before is in
   for (const RowBenchmarks& row : m_rows) {
     if (row.sizes.empty() || !IsMeasured(row)) continue;
+    if (head == nullptr || *head != row.sizes) PrintSizesHead(row.sizes);
+    head = &row.sizes;
     std::ostream& out = GetOutputStream();
-    if (!hasHead) {
-      out << "\n| what |";
-      for (const std::string& size : row.sizes) out << ' ' << size << " |";
-      out << "\n|---|";
-      for (std::size_t i = 0; i < row.sizes.size(); ++i) out << "--:|";
-      out << '\n';
-      hasHead = true;
-    }
     out << "| " << row.row.what << " |";
     for (const std::string& benchmark : row.ours) out << ' ' << MedianText(benchmark) << " |";
     out << '\n';
   }
+}
+
+void CRatioTable::PrintSizesHead(const std::vector<std::string>& sizes) {
+  std::ostream& out = GetOutputStream();
+  out << "\n| what |";
+  for (const std::string& size : sizes) out << ' ' << size << " |";
+  out << "\n|---|";
+  for (std::size_t i = 0; i < sizes.size(); ++i) out << "--:|";
+  out << '\n';
 }
 
 }  // namespace bench

@@ -54,7 +54,7 @@ class CRatioTable : public benchmark::BenchmarkReporter {
   /// Adds a row that compares two benchmarks, which the caller may adjust.
   Pair AddPair(Row row, const Work& ours, const Work& other);
 
-  /// Adds a row that compares the largest result of the sizes with the smallest, and a row in the table of sizes. The
+  /// Adds a row that compares the largest result of the sizes with the smallest, and a row in a table of sizes. The
   /// caller may adjust the benchmarks.
   std::vector<Benchmark*> AddSpread(Row row, const std::vector<std::pair<std::string, Work>>& sizes);
 
@@ -87,6 +87,7 @@ class CRatioTable : public benchmark::BenchmarkReporter {
   void PrintRatios();
   void PrintRatio(const RowBenchmarks& row);
   void PrintSizes();
+  void PrintSizesHead(const std::vector<std::string>& sizes);
 
   std::vector<RowBenchmarks> m_rows;
   std::map<std::string, Results> m_results;

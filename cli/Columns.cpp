@@ -1,6 +1,7 @@
 #include "Columns.h"
 
 #include "Output.h"
+#include "Style.h"
 
 #include <analysis/Text.h>
 
@@ -38,27 +39,28 @@ void CColumns::Write() const {
   const std::optional<std::size_t> lineWidth = TerminalWidth();
   std::vector<std::size_t> widths = NaturalWidths(lineWidth.value_or(kWidestColumn));
   if (lineWidth) Fit(widths, *lineWidth > m_indent ? *lineWidth - m_indent : 0);
-  for (const std::vector<std::string>& row : m_rows) WriteRow(row, widths, lineWidth.has_value());
+  for (const Row& row : m_rows) WriteRow(row, widths, lineWidth.has_value());
 }
 
 std::vector<std::size_t> CColumns::NaturalWidths(std::size_t widest) const {
-  std::vector<std::size_t> widths(m_rows.front().size());
-  for (const std::vector<std::string>& row : m_rows) {
-    for (std::size_t i = 0; i < row.size(); ++i) {
-      widths[i] = std::max(widths[i], std::min(DisplayWidth(row[i]), widest));
+  std::vector<std::size_t> widths(m_rows.front().cells.size());
+  for (const Row& row : m_rows) {
+    for (std::size_t i = 0; i < row.cells.size(); ++i) {
+      widths[i] = std::max(widths[i], std::min(DisplayWidth(row.cells[i]), widest));
     }
   }
   return widths;
 }
 
-void CColumns::WriteRow(const std::vector<std::string>& row, const std::vector<std::size_t>& widths, bool cut) const {
+void CColumns::WriteRow(const Row& row, const std::vector<std::size_t>& widths, bool cut) const {
   std::string line;
   std::size_t pending = m_indent;  // blanks before the next cell that is not empty
-  for (std::size_t i = 0; i < row.size(); ++i) {
-    const std::string cell = cut ? CutToWidth(row[i], widths[i]) : row[i];
+  for (std::size_t i = 0; i < row.cells.size(); ++i) {
+    const std::string cell = cut ? CutToWidth(row.cells[i], widths[i]) : row.cells[i];
     const std::size_t width = DisplayWidth(cell);
     if (!cell.empty()) {
-      line.append(pending, ' ').append(cell);
+      const bool isDimmed = row.lastCell == CellStyle::Dimmed && i + 1 == row.cells.size();
+      line.append(pending, ' ').append(isDimmed ? Dimmed(cell) : cell);
       pending = 0;
     }
     pending += (widths[i] > width ? widths[i] - width : 0) + kGap;

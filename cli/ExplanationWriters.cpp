@@ -6,6 +6,7 @@
 #include "Style.h"
 
 #include <analysis/Edition.h>
+#include <analysis/Sources.h>
 #include <analysis/Text.h>
 #include <analysis/Vocabulary.h>
 
@@ -168,6 +169,11 @@ void WriteRuleAsText(const RuleInfo& rule) {
   WriteWrapped("", kIndent, rule.why);
   WriteItem("severity", SeverityName(rule.severity));
   WriteItem("editions", EditionsText(rule));
+  const char* label = "sources";
+  for (const std::string& source : vifanalysis::SourcesInWords(rule.sources)) {
+    WriteItem(label, source);
+    label = "";
+  }
 }
 
 void WriteRuleAsJson(const RuleInfo& rule) {

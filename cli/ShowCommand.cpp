@@ -5,6 +5,8 @@
 #include "SchemasOption.h"
 #include "Style.h"
 
+#include <analysis/Edition.h>
+#include <analysis/FieldMeaning.h>
 #include <analysis/FieldText.h>
 #include <analysis/PowerProfile.h>
 #include <analysis/Text.h>
@@ -12,13 +14,21 @@
 
 #include <map>
 #include <memory>
+#include <optional>
+#include <string_view>
 
 namespace cli {
 
 using vifanalysis::DescribePdo;
+using vifanalysis::Edition;
+using vifanalysis::EditionNamedBy;
+using vifanalysis::FieldMeaning;
+using vifanalysis::IsKnown;
 using vifanalysis::IsUsed;
 using vifanalysis::LocationName;
+using vifanalysis::MeaningOf;
 using vifanalysis::NumberText;
+using vifanalysis::PdoContext;
 using vifanalysis::PowerProfile;
 using vifanalysis::Printable;
 
@@ -29,10 +39,13 @@ constexpr const char* kDescription = "Show a readable summary";
 constexpr const char* kFooter =
     "Shows the header, the product with its USB4 routers and their PCIe endpoints, and each component with its own "
     "fields, its source and sink PDOs in volts, amperes and watts, and its SVIDs and modes. '?' stands for what the "
-    "file "
-    "leaves open, such as the voltage of a PDO without a supply type.\n"
+    "file leaves open, such as the voltage of a PDO without a supply type.\n"
     "\n"
-    "Headings are bold on a terminal, unless NO_COLOR is set.\n"
+    "A text in parentheses is not the file's: it is what the format says about a value that the file does not "
+    "describe, "
+    "or the number in its unit. \"uncertain\" marks what is concluded from few sources.\n"
+    "\n"
+    "On a terminal, headings are bold and texts in parentheses dimmed, unless NO_COLOR is set.\n"
     "\n"
     "Examples:\n"
     "  vif show charger.txt\n"
@@ -61,28 +74,58 @@ Group MakeTree(const std::vector<CVIFField>& fields) {
   return root;
 }
 
+/// The edition that the files follow; not known when they name none, or different ones.
+Edition EditionOf(const std::vector<CVIFField>& fields) {
+  Edition edition;
+  for (const CVIFField& field : fields) {
+    const std::optional<Edition> named = EditionNamedBy(field);
+    if (!named) continue;
+    if (IsKnown(edition) && *named != edition) return {};
+    edition = *named;
+  }
+  return edition;
+}
+
 constexpr size_t kIndent = 2;
 
 void WriteHeading(size_t depth, const std::string& text) {
   Write(std::string(depth * kIndent, ' ') + Heading(text) + '\n');
 }
 
+bool IsDescribed(const CVIFField& field) {
+  const std::string_view description = field.Description();
+  return !description.empty() && description != field.Value();
+}
+
+/// "(Provider Only)", for a field that the file does not describe; empty when there is nothing to say.
+std::string OurDescription(const CVIFField& field, const PdoContext& context) {
+  if (IsDescribed(field)) return {};
+  const FieldMeaning meaning = MeaningOf(field, context);
+  if (meaning.text.empty()) return {};
+  return '(' + meaning.text + (meaning.isUncertain ? ", uncertain)" : ")");
+}
+
 /// Name, value and, if it differs from the value, the description.
-void WriteFields(size_t depth, const FieldPointers& fields) {
+void WriteFields(size_t depth, const FieldPointers& fields, const Edition& edition) {
+  PdoContext context;
+  context.edition = edition;
   CColumns columns(depth * kIndent);
   for (const CVIFField* field : fields) {
-    const std::string value = Printable(field->Value());
-    const std::string description = Printable(field->Description());
-    columns.Add({Printable(field->Name()), value, description != value ? description : std::string()});
+    const std::string ours = OurDescription(*field, context);
+    const std::string description = IsDescribed(*field) ? Printable(field->Description()) : ours;
+    columns.Add({Printable(field->Name()), Printable(field->Value()), description},
+                ours.empty() ? CellStyle::Plain : CellStyle::Dimmed);
   }
   columns.Write();
 }
 
-std::string JoinFields(const FieldPointers& fields) {
+std::string JoinFields(const FieldPointers& fields, const PdoContext& context) {
   std::string text;
   for (const CVIFField* field : fields) {
     if (!text.empty()) text += ", ";
     text += Printable(field->MakeOutputString().get());
+    const std::string ours = OurDescription(*field, context);
+    if (!ours.empty()) text += ' ' + ours;
   }
   return text;
 }
@@ -98,48 +141,48 @@ Numbered Select(const Group& group, EVifLocation location) {
   return selected;
 }
 
-void WritePdos(const std::string& heading, const Numbered& pdos) {
+void WritePdos(const std::string& heading, const Numbered& pdos, const Edition& edition) {
   if (pdos.empty()) return;
   WriteHeading(1, heading);
   CColumns table(2 * kIndent);
   table.Add({"PDO", "SUPPLY", "VOLTAGE", "CURRENT", "POWER", "FURTHER FIELDS"});
   for (const auto& [slot, pdo] : pdos) {
-    const PowerProfile profile = DescribePdo(pdo->fields);
+    const PowerProfile profile = DescribePdo(pdo->fields, edition);
     table.Add({NumberText(slot), profile.supply, profile.voltage, profile.current, profile.power,
-               JoinFields(profile.others)});
+               JoinFields(profile.others, profile.context)});
   }
   table.Write();
 }
 
 /// A group and all groups in it, each under a heading with its kind and number.
-void WriteGroup(size_t depth, const VifIndex& slot, const Group& group) {
+void WriteGroup(size_t depth, const VifIndex& slot, const Group& group, const Edition& edition) {
   WriteHeading(depth, LocationName(slot) + ' ' + NumberText(slot));
-  WriteFields(depth + 1, group.fields);
-  for (const auto& [innerSlot, inner] : group.inner) WriteGroup(depth + 1, innerSlot, inner);
+  WriteFields(depth + 1, group.fields, edition);
+  for (const auto& [innerSlot, inner] : group.inner) WriteGroup(depth + 1, innerSlot, inner, edition);
 }
 
-void WriteGroups(const Numbered& groups) {
-  for (const auto& [slot, group] : groups) WriteGroup(1, slot, *group);
+void WriteGroups(const Numbered& groups, const Edition& edition) {
+  for (const auto& [slot, group] : groups) WriteGroup(1, slot, *group, edition);
 }
 
-void WriteComponent(const VifIndex& slot, const Group& component) {
+void WriteComponent(const VifIndex& slot, const Group& component, const Edition& edition) {
   Write("\n");
   WriteHeading(0, "Component " + NumberText(slot));
-  WriteFields(1, component.fields);
-  WritePdos("Source PDOs", Select(component, eVifLocSrcPdo));
-  WritePdos("Sink PDOs", Select(component, eVifLocSnkPdo));
-  WriteGroups(Select(component, eVifLocSopSvid));
-  WriteGroups(Select(component, eVifLocCableSvid));
+  WriteFields(1, component.fields, edition);
+  WritePdos("Source PDOs", Select(component, eVifLocSrcPdo), edition);
+  WritePdos("Sink PDOs", Select(component, eVifLocSnkPdo), edition);
+  WriteGroups(Select(component, eVifLocSopSvid), edition);
+  WriteGroups(Select(component, eVifLocCableSvid), edition);
 }
 
-void WriteProduct(const Group& product) {
+void WriteProduct(const Group& product, const Edition& edition) {
   Write("\n");
   WriteHeading(0, "Product");
-  WriteFields(1, product.fields);
-  WriteGroups(Select(product, eVifLocRouter));
+  WriteFields(1, product.fields, edition);
+  WriteGroups(Select(product, eVifLocRouter), edition);
 }
 
-void WriteFile(const std::string& names, const Group& root) {
+void WriteFile(const std::string& names, const Group& root, const Edition& edition) {
   WriteHeading(0, names);
   FieldPointers header = root.fields;
   for (const EVifLocation location : {eVifLocVif, eVifLocAppVersion}) {
@@ -147,9 +190,9 @@ void WriteFile(const std::string& names, const Group& root) {
       header.insert(header.end(), group->fields.begin(), group->fields.end());
     }
   }
-  WriteFields(1, header);
-  for (const auto& [slot, product] : Select(root, eVifLocProduct)) WriteProduct(*product);
-  for (const auto& [slot, component] : Select(root, eVifLocComponent)) WriteComponent(slot, *component);
+  WriteFields(1, header, edition);
+  for (const auto& [slot, product] : Select(root, eVifLocProduct)) WriteProduct(*product, edition);
+  for (const auto& [slot, component] : Select(root, eVifLocComponent)) WriteComponent(slot, *component, edition);
 }
 
 void RunShow(const std::vector<std::string>& files) {
@@ -157,7 +200,7 @@ void RunShow(const std::vector<std::string>& files) {
   const VifFieldList fields = vif.GetFields();
   std::string names;
   for (const std::string& file : files) names += (names.empty() ? "" : ", ") + Printable(file);
-  WriteFile(names, MakeTree(*fields));
+  WriteFile(names, MakeTree(*fields), EditionOf(*fields));
 }
 
 }  // namespace

@@ -12,4 +12,7 @@ bool MayColour();
 /// A heading, in bold if output may have colours.
 std::string Heading(std::string_view text);
 
+/// An addition of the command to what a file says, dimmed if output may have colours.
+std::string Dimmed(std::string_view text);
+
 }  // namespace cli

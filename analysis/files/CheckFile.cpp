@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <optional>
+#include <set>
+#include <string_view>
 #include <system_error>
 #include <tuple>
 
@@ -15,25 +17,32 @@ namespace vifanalysis {
 
 namespace {
 
-void CheckTextFields(const FoundFields& fields, Findings& findings) {
+void CheckTextFields(const FoundFields& fields, const GroupTree& tree, Findings& findings) {
   FindTextsForGroups(fields, findings);
-  FindDuplicates(fields, findings);
+  FindDuplicates(fields, tree, findings);
   FindBadNumbers(fields, findings);
 }
 
-void CheckXmlFields(const FoundFields& fields, Findings& findings) {
-  FindUnknownNames(fields, findings);
+void CheckXmlFields(const FoundFields& fields, const GroupTree& tree, Findings& findings) {
   FindMisplaced(fields, findings);
-  FindDuplicates(fields, findings);
+  FindDuplicates(fields, tree, findings);
   FindBadNumbers(fields, findings);
   FindMissingValues(fields, findings);
 }
 
 /// The rules that compare fields. In half of a file, fields would seem to be missing, or not to agree with the rest.
-void CheckWhole(const FoundFields& fields, bool isText, Findings& findings) {
-  if (isText) FindBadNumbering(fields, findings);
-  FindWrongCounts(fields, findings);
+void CheckWhole(const FoundFields& fields, const GroupTree& tree, bool isText, Findings& findings) {
+  if (isText) FindBadNumbering(fields, tree, findings);
+  FindWrongCounts(tree, findings);
   FindContradictions(fields, findings);
+}
+
+/// {0, 0} for a file that names no edition.
+Edition EditionOf(const FoundFields& fields) {
+  for (const FoundField& found : fields) {
+    if (const std::optional<Edition> edition = EditionNamedBy(found.field)) return *edition;
+  }
+  return {};
 }
 
 Findings CheckPath(const std::filesystem::path& path) {
@@ -44,28 +53,39 @@ Findings CheckPath(const std::filesystem::path& path) {
   const bool isText = HasExtension(path, ".txt");
   if (!isText && !HasExtension(path, ".xml")) throw CCheckError("a VIF is a text (*.txt) or XML (*.xml) file");
   if (!std::filesystem::is_regular_file(status)) throw CCheckError("only a regular file can be read");
-  auto [fields, findings, isComplete] = isText ? ReadTextFile(path) : ReadXmlFile(path);
+  auto [fields, undefinedNames, findings, isComplete] = isText ? ReadTextFile(path) : ReadXmlFile(path);
   if (fields.empty()) {
     const std::optional<std::string> advice = AdviceOnExtension(path);
     if (advice) return {FindingAt(code::kWrongExtension, 0, 0, {}, *advice)};
   }
-  (isText ? CheckTextFields : CheckXmlFields)(fields, findings);
+  FindUndefinedNames(undefinedNames, isText ? NameStyle::Text : NameStyle::Xml, EditionOf(fields), findings);
+  const GroupTree tree = MakeGroupTree(fields);
+  (isText ? CheckTextFields : CheckXmlFields)(fields, tree, findings);
   FindNothing(fields, findings);
-  if (isComplete) CheckWhole(fields, isText, findings);
+  if (isComplete) CheckWhole(fields, tree, isText, findings);
   return findings;
 }
 
-bool Contains(const std::vector<std::string>& codes, const std::string& code) {
-  return std::any_of(codes.begin(), codes.end(), [&](const std::string& listed) {
-    const RuleInfo* rule = FindRule(listed);
-    return rule != nullptr && rule->code == code;
-  });
+/// The codes of rules, as findings have them.
+using Codes = std::set<std::string_view>;
+
+/// The codes as the rules spell them, without those that no rule has.
+Codes CodesOf(const std::vector<std::string>& listed) {
+  Codes codes;
+  for (const std::string& code : listed) {
+    if (const RuleInfo* rule = FindRule(code)) codes.insert(rule->code);
+  }
+  return codes;
 }
 
-bool IsWanted(const Finding& finding, const CheckOptions& options) {
-  if (finding.severity == Severity::Note && !options.notes) return false;
-  if (!options.only.empty() && !Contains(options.only, finding.code)) return false;
-  return !Contains(options.except, finding.code);
+void KeepWanted(Findings& findings, const CheckOptions& options) {
+  const Codes only = CodesOf(options.only);
+  const Codes except = CodesOf(options.except);
+  std::erase_if(findings, [&](const Finding& finding) {
+    const bool isUnwantedNote = finding.severity == Severity::Note && !options.notes;
+    const bool isLeftOut = !options.only.empty() && !only.contains(finding.code);
+    return isUnwantedNote || isLeftOut || except.contains(finding.code);
+  });
 }
 
 }  // namespace
@@ -74,7 +94,7 @@ CCheckError::~CCheckError() = default;
 
 std::vector<Finding> CheckFile(const std::filesystem::path& path, const CheckOptions& options) {
   Findings findings = CheckPath(path);
-  std::erase_if(findings, [&](const Finding& finding) { return !IsWanted(finding, options); });
+  KeepWanted(findings, options);
   std::stable_sort(findings.begin(), findings.end(), [](const Finding& a, const Finding& b) {
     // Findings without a line are about the whole file and come last.
     return std::make_tuple(a.line == 0, a.line, a.column) < std::make_tuple(b.line == 0, b.line, b.column);

@@ -85,16 +85,31 @@ inline constexpr RuleInfo kCountOutOfRange = FormRule(
     "The minimum and maximum say how many SVIDs or modes the product may answer with. A file may describe fewer, "
     "but then the lab does not know them.");
 inline constexpr RuleInfo kUnknownName = FormRule(
-    "unknown-name", Severity::Warning, "a name without a definition, with the similar names that have one",
-    "The field is kept, but in no group, so that no query for a component, a PDO or an SVID finds it. The name "
-    "is misspelled, or the file's own.");
+    "unknown-name", Severity::Warning, "a name that no edition of the format has, with the similar names that exist",
+    "The field is kept, but under a name that no program asks for, and in a text VIF in no group. The name is "
+    "misspelled, or the file's own.");
+inline constexpr RuleInfo kOtherSpelling = FormRule(
+    "other-spelling", Severity::Note, "a field's name as some editions or a common mistake spell it",
+    "Early editions spell some names otherwise, such as PD_Power_as_Sink, and some programs that write VIFs have had "
+    "mistakes in names. Loading takes only the spelling of the later editions: the field is kept, but a query for that "
+    "spelling does not find it, and in a text VIF it is in no group. Correct the name if programs are to find the "
+    "field.");
+inline constexpr RuleInfo kOlderName = FormRule(
+    "older-name", Severity::Note, "the name of a field that has been renamed, split or dropped since",
+    "Early editions have fields that later ones call otherwise, such as Externally_Powered, or no longer have. Loading "
+    "knows only the names of the later editions: the field is kept, but a query for its present name does not find it, "
+    "and in a text VIF it is in no group. Use the present name if programs are to find the field.");
+inline constexpr RuleInfo kNewerField = FormRule(
+    "newer-field", Severity::Note, "a field that came only after the edition that the file follows",
+    "No known file of that edition or an earlier one has the field, such as Has_Invariant_PDOs before edition 3.22. "
+    "Either VIF_Specification is out of date, or the field is not for this file.");
 
 /// All of them in the order of the help.
 inline constexpr const RuleInfo* kAll[] = {
-    &kWrongExtension, &kNotADeclaration, &kReadFailed,       &kNotValid,     &kNothingRead,
-    &kForeign,        &kMisplaced,       &kDeclaredTwice,    &kNoNumber,     &kNoValue,
-    &kCountMismatch,  &kCountOutOfRange, &kNoIndex,          &kNumberingGap, &kNoField,
-    &kTextInGroup,    &kByteOrderMark,   &kNumberPartlyRead, &kUnknownName,
+    &kWrongExtension, &kNotADeclaration, &kReadFailed, &kNotValid,    &kNothingRead,   &kForeign,
+    &kMisplaced,      &kDeclaredTwice,   &kNoNumber,   &kNoValue,     &kCountMismatch, &kCountOutOfRange,
+    &kNoIndex,        &kNumberingGap,    &kNoField,    &kTextInGroup, &kByteOrderMark, &kNumberPartlyRead,
+    &kUnknownName,    &kOtherSpelling,   &kOlderName,  &kNewerField,
 };
 
 }  // namespace vifanalysis::code

@@ -1,7 +1,6 @@
 #include <analysis/FieldText.h>
 #include <analysis/Text.h>
 #include "FormRules.h"
-#include "GroupTree.h"
 #include "Sentence.h"
 
 #include <cstddef>
@@ -104,8 +103,8 @@ void CheckRange(const CCountedGroup& group, const CountRange& rule, Findings& fi
 
 }  // namespace
 
-void FindWrongCounts(const FoundFields& fields, Findings& findings) {
-  for (const auto& [place, content] : MakeGroupTree(fields)) {
+void FindWrongCounts(const GroupTree& tree, Findings& findings) {
+  for (const auto& [place, content] : tree) {
     const EVifLocation kind = Kind(place);
     const CCountedGroup group(content);
     for (const ExactCount& rule : kExactCounts) {

@@ -1,21 +1,17 @@
 #include "FormRules.h"
 #include "Sentence.h"
 
-#include <array>
-#include <map>
-#include <string_view>
-#include <utility>
-
 namespace vifanalysis {
 
-void FindDuplicates(const FoundFields& fields, Findings& findings) {
-  using Key = std::pair<std::string_view, std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>>;
-  std::map<Key, const FoundField*> firsts;
+void FindDuplicates(const FoundFields& fields, const GroupTree& tree, Findings& findings) {
+  const GroupContent* group = nullptr;
+  const FoundField* last = nullptr;  // fields of one group usually stand together
   for (const FoundField& found : fields) {
-    const auto [first, isFirst] = firsts.try_emplace({found.field.Name(), found.field.Indexes()}, &found);
-    if (isFirst) continue;
-    const std::size_t line = first->second->line;
-    const std::string where = line != 0 ? " on line " + std::to_string(line) : "";
+    if (last == nullptr || last->field.Indexes() != found.field.Indexes()) group = &tree.at(GroupPlaceOf(found.field));
+    last = &found;
+    const FoundField* const first = group->fields.at(found.field.Name());
+    if (first == &found) continue;
+    const std::string where = first->line != 0 ? " on line " + std::to_string(first->line) : "";
     findings.push_back(
         About(found, code::kDeclaredTwice,
               NameAndPlace(found.field) + " is already declared" + where + ", so GetUniqueField fails for it"));

@@ -1,3 +1,4 @@
+#include <VIFField.h>
 #include <analysis/Edition.h>
 
 #include <charconv>
@@ -14,6 +15,15 @@ std::optional<Edition> ParseEdition(std::string_view text) {
   const auto second = std::from_chars(first.ptr + 1, end, edition.minor);
   if (second.ec != std::errc() || second.ptr != end) return std::nullopt;
   return edition;
+}
+
+std::optional<Edition> EditionNamedBy(const CVIFField& field) {
+  const std::string_view name = field.Name();
+  const EVifLocation outermost = std::get<0>(field.Indexes().front());
+  const bool isOfFile = outermost == eVifLocUnset || outermost == eVifLocVif;
+  if ((name != "VIF_Specification" && name != "$VIF_Specification") || !isOfFile) return std::nullopt;
+  const std::string_view value = field.Value();
+  return ParseEdition(value.empty() ? field.Description() : value);
 }
 
 std::string EditionText(const Edition& edition) {

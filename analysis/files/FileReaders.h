@@ -7,9 +7,10 @@
 
 namespace vifanalysis {
 
-/// The fields of a file, and the findings of reading it.
+/// What reading a file yields.
 struct FileContent {
   FoundFields fields;
+  UndefinedNames undefinedNames;
   Findings findings;
   bool isComplete = true;  ///< whether these are all fields of the file; a finding says why they are not
 };

@@ -21,6 +21,15 @@ struct FoundField {
   std::string element;     ///< the field's name in a text file, the element's path in an XML file
 };
 
+/// A name that no definition knows, and where the file has it.
+struct UndefinedName {
+  std::string name;        ///< as the file writes it
+  std::size_t line = 0;    ///< from 1; 0 when not known
+  std::size_t column = 0;  ///< from 1; 0 when not known, as in all text files
+  std::string element;     ///< the name in a text file, the element's path in an XML file
+};
+
+using UndefinedNames = std::vector<UndefinedName>;
 using FoundFields = std::vector<FoundField>;
 using Findings = std::vector<Finding>;
 

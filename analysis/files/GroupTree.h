@@ -7,12 +7,14 @@
 #include <cstdint>
 #include <map>
 #include <string_view>
-#include <vector>
 
 namespace vifanalysis {
 
 /// A group's slots, outermost first, the rest unused.
 using GroupPlace = std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>;
+
+/// The place of the innermost group that a field is in.
+GroupPlace GroupPlaceOf(const CVIFField& field);
 
 /// The direct content of one group. It borrows the fields.
 struct GroupContent {
@@ -23,7 +25,9 @@ struct GroupContent {
 };
 
 /// All groups with a field in them or in an inner group. The file as a whole is the group without slots.
-std::map<GroupPlace, GroupContent> MakeGroupTree(const std::vector<FoundField>& fields);
+using GroupTree = std::map<GroupPlace, GroupContent>;
+
+GroupTree MakeGroupTree(const FoundFields& fields);
 
 /// Whether a text file numbers the groups of that kind in the names of their fields.
 bool IsNumberedByNames(EVifLocation kind);

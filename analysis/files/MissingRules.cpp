@@ -40,7 +40,7 @@ bool HasText(std::string_view name) {
 void FindMissingValues(const FoundFields& fields, Findings& findings) {
   for (const FoundField& found : fields) {
     const CVIFField& field = found.field;
-    if (field.IsNumeric() || HasText(field.Name()) || FindDefinition(field.Name()) == nullptr) continue;
+    if (field.IsNumeric() || HasText(field.Name()) || FindDefined(field.Name()) == nullptr) continue;
     findings.push_back(
         About(found, code::kNoValue, NameAndPlace(field) + " has no number: the attribute 'value' is missing"));
   }

@@ -1,6 +1,5 @@
 #include <analysis/FieldText.h>
 #include "FormRules.h"
-#include "GroupTree.h"
 #include "Sentence.h"
 
 #include <cstdint>
@@ -47,7 +46,7 @@ EVifLocation GroupWithoutNumber(const CVIFField& field) {
 
 }  // namespace
 
-void FindBadNumbering(const FoundFields& fields, Findings& findings) {
+void FindBadNumbering(const FoundFields& fields, const GroupTree& tree, Findings& findings) {
   for (const FoundField& found : fields) {
     const EVifLocation group = GroupWithoutNumber(found.field);
     if (group == eVifLocUnset) continue;
@@ -55,7 +54,7 @@ void FindBadNumbering(const FoundFields& fields, Findings& findings) {
         found, code::kNoIndex,
         NameAndPlace(found.field) + ": the name has no valid " + std::string(GetVifLocInfo(group).name) + " number"));
   }
-  for (const auto& [place, content] : MakeGroupTree(fields)) {
+  for (const auto& [place, content] : tree) {
     for (const auto& [kind, groups] : content.groups) {
       if (IsNumberedByNames(kind)) CheckNumbers(kind, groups, findings);
     }

@@ -1,5 +1,8 @@
 #include "Spelling.h"
 
+#include "vocabulary/Alignment.h"
+#include "vocabulary/SpellingMatch.h"
+
 #include <analysis/Text.h>
 
 #include <algorithm>
@@ -9,15 +12,7 @@ namespace vifanalysis {
 
 namespace {
 
-char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
 bool IsUpper(char c) { return c >= 'A' && c <= 'Z'; }
-
-bool IsAlike(char a, char b) { return Lower(a) == Lower(b); }
-
-bool IsAlike(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) { return IsAlike(x, y); });
-}
 
 /// The spelling with the written index numbers, if the names differ in nothing but letter case and underscores.
 std::optional<std::string> ApplyIndexes(std::string_view written, std::string_view spelling) {
@@ -38,8 +33,8 @@ std::optional<std::string> ApplyIndexes(std::string_view written, std::string_vi
       skipUnderscore();
       continue;
     }
-    if (!written.empty() && !IsAlike(written.front(), known)) skipUnderscore();
-    if (written.empty() || !IsAlike(written.front(), known)) return std::nullopt;
+    if (!written.empty() && ToLowerAscii(written.front()) != ToLowerAscii(known)) skipUnderscore();
+    if (written.empty() || ToLowerAscii(written.front()) != ToLowerAscii(known)) return std::nullopt;
     written.remove_prefix(1);
   }
   skipUnderscore();
@@ -69,29 +64,15 @@ bool IsWord(std::string_view part) {
          std::all_of(part.begin() + 1, part.end(), [](char c) { return c >= 'a' && c <= 'z'; });
 }
 
-/// Whether that many typos, which must be few, can make one text of the other.
-bool IsWithin(unsigned typos, std::string_view a, std::string_view b) {
-  while (!a.empty() && !b.empty() && IsAlike(a.front(), b.front())) {
-    a.remove_prefix(1);
-    b.remove_prefix(1);
-  }
-  if (a.empty() || b.empty()) return a.size() + b.size() <= typos;
-  if (typos == 0) return false;
-  const bool isSwapped = a.size() > 1 && b.size() > 1 && IsAlike(a[0], b[1]) && IsAlike(a[1], b[0]);
-  return IsWithin(typos - 1, a.substr(1), b) || IsWithin(typos - 1, a, b.substr(1)) ||
-         IsWithin(typos - 1, a.substr(1), b.substr(1)) || (isSwapped && IsWithin(typos - 1, a.substr(2), b.substr(2)));
-}
-
 /// The number of typos that make a written part of a known one; nothing when it is another part.
 std::optional<unsigned> CountTypos(std::string_view written, std::string_view known) {
-  if (IsAlike(written, known)) return 0;
+  if (EqualInAnyCase(written, known)) return 0;
   if (!IsWord(known) || std::any_of(written.begin(), written.end(), IsDigit)) return std::nullopt;
   constexpr std::size_t longWord = 8;
-  const unsigned most = known.size() < longWord ? 1 : 2;
-  for (unsigned typos = 1; typos <= most; ++typos) {
-    if (IsWithin(typos, written, known)) return typos;
-  }
-  return std::nullopt;
+  const std::size_t most = known.size() < longWord ? 1 : 2;
+  if (written.size() > known.size() + most || known.size() > written.size() + most) return std::nullopt;
+  const std::size_t typos = CAlignment(written, known).Distance();
+  return typos <= most ? std::optional(static_cast<unsigned>(typos)) : std::nullopt;
 }
 
 }  // namespace

@@ -7,9 +7,6 @@
 
 namespace vifanalysis {
 
-/// Stands in a spelling where a text file writes the number of a group, as in "SVID#_Mode#_Enter".
-inline constexpr char kIndexMark = '#';
-
 /// A written name, corrected.
 struct Respelling {
   unsigned typos;    ///< how many characters were missing, superfluous, wrong or swapped with their neighbour
@@ -21,7 +18,7 @@ struct Respelling {
 /// Letter case and underscores do not count. Typos are allowed only in words, such as "Voltage": never in a number, an
 /// abbreviation or a part of one or two letters, because the fields of the format differ from each other in just these.
 /// Thus a field of another edition is not taken for a misspelling.
-/// \param spelling the known name, with marks
+/// \param spelling the known name, with a `kIndexMark` for each index
 /// \return nothing when the written name is another name
 std::optional<Respelling> Respell(std::string_view written, std::string_view spelling);
 

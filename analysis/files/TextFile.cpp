@@ -22,19 +22,15 @@ std::string WrittenName(std::string_view content) {
   return std::string(content.substr(0, content.find_last_not_of(" \t") + 1));
 }
 
-Finding DescribeLine(const VifLineReport& report) {
+Finding DescribeLostLine(const VifLineReport& report) {
   if (report.problem == eVifLineReadFailed) {
     return FindingAt(code::kReadFailed, report.line, 0, {}, "reading the file failed; the rest of it is not checked");
-  }
-  std::string name = WrittenName(report.content);
-  if (report.problem == eVifLineUnknownName) {
-    std::string message = UnknownNameMessage(name, NameStyle::Text);
-    return FindingAt(code::kUnknownName, report.line, 0, std::move(name), std::move(message));
   }
   if (report.content == kByteOrderMark) {
     return FindingAt(code::kByteOrderMark, report.line, 0, {},
                      "the line begins with a byte order mark; nothing is lost");
   }
+  std::string name = WrittenName(report.content);
   std::string message =
       Quoted(name.empty() ? report.content : name) + " yields no field: " + DiagnoseLine(report.content);
   return FindingAt(code::kNotADeclaration, report.line, 0, std::move(name), std::move(message));
@@ -44,16 +40,19 @@ Finding DescribeLine(const VifLineReport& report) {
 
 FileContent ReadTextFile(const std::filesystem::path& path) {
   FileContent content;
-  CheckTextVif(
-      path,
-      [&](const VifLineReport& report) {
-        content.findings.push_back(DescribeLine(report));
-        if (report.problem == eVifLineReadFailed) content.isComplete = false;
-      },
-      nullptr,
-      [&](std::size_t line, const CVIFField& field) {
-        content.fields.push_back({field, line, 0, field.Name()});
-      });
+  const auto takeLine = [&](const VifLineReport& report) {
+    if (report.problem == eVifLineUnknownName) {
+      const std::string name = WrittenName(report.content);
+      content.undefinedNames.push_back({name, report.line, 0, name});
+    } else {
+      content.findings.push_back(DescribeLostLine(report));
+    }
+    if (report.problem == eVifLineReadFailed) content.isComplete = false;
+  };
+  const auto takeField = [&](std::size_t line, const CVIFField& field) {
+    content.fields.push_back({field, line, 0, field.Name()});
+  };
+  CheckTextVif(path, takeLine, nullptr, takeField);
   return content;
 }
 

@@ -2,6 +2,8 @@
 
 #include "Sentence.h"
 
+#include <analysis/Text.h>
+
 #include <algorithm>
 #include <cstddef>
 #include <initializer_list>
@@ -24,12 +26,6 @@ std::string_view TrimRight(std::string_view text) { return text.substr(0, text.f
 /// The number of such characters that the text begins with.
 std::size_t CountLeading(std::string_view text, std::string_view characters) {
   return std::min(text.find_first_not_of(characters), text.size());
-}
-
-bool EqualsWord(std::string_view text, std::string_view lowerCaseWord) {
-  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-  return std::equal(text.begin(), text.end(), lowerCaseWord.begin(), lowerCaseWord.end(),
-                    [&](char c, char wanted) { return lower(c) == wanted; });
 }
 
 /// The first character of the text, all its bytes if it is UTF-8.
@@ -78,14 +74,14 @@ std::string DiagnoseNumericValue(std::string_view value) {
   if ((value.front() == '-' || value.front() == '+') && CountLeading(value.substr(1), kDigits) > 0) {
     return "the number " + Quoted(value) + " has a sign";
   }
-  if (value.size() >= 2 && EqualsWord(value.substr(0, 2), "0x")) return DiagnoseHexNumber(value);
+  if (value.size() >= 2 && EqualInAnyCase(value.substr(0, 2), "0x")) return DiagnoseHexNumber(value);
   if (CountLeading(value, kDigits) > 0) return DiagnoseDecimalNumber(value);
-  if (EqualsWord(value, "true") || EqualsWord(value, "false")) {
+  if (EqualInAnyCase(value, "true") || EqualInAnyCase(value, "false")) {
     return "a text file has YES or NO instead of " + Quoted(value);
   }
   for (const std::string_view word : {"yes", "no"}) {
     const std::string_view first = value.substr(0, word.size());
-    if (value.size() > word.size() && EqualsWord(first, word) &&
+    if (value.size() > word.size() && EqualInAnyCase(first, word) &&
         kNameCharacters.find(value[word.size()]) == std::string_view::npos) {
       return Quoted(value.substr(word.size())) + " follows " + Quoted(first) + "; a comment begins with ';'";
     }

@@ -1,4 +1,5 @@
 #include "FileReaders.h"
+#include "KnownNames.h"
 #include "Sentence.h"
 
 #include <BaseUtilities/Exceptions.h>
@@ -9,6 +10,7 @@
 #include <analysis/Text.h>
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -40,6 +42,23 @@ Finding DescribeProblem(const DOMDocProblem& problem) {
                    (isNamed ? "" : Quoted(problem.element) + ": ") + Printable(problem.reason));
 }
 
+/// The list elements of an XML file. One without items is read as a field of that name.
+constexpr std::string_view kListNames[] = {"USB4RouterList", "PCIeEndpointList", "SrcPdoList",    "SnkPdoList",
+                                           "SOPSVIDList",    "SOPSVIDModeList",  "CableSVIDList", "CableSVIDModeList"};
+
+bool IsEmptyList(const CVIFField& field) {
+  return std::find(std::begin(kListNames), std::end(kListNames), field.Name()) != std::end(kListNames);
+}
+
+/// The application's description of itself is a field in no group, under a name without a definition.
+bool IsApplicationDescription(const CVIFField& field) {
+  return field.IndexCount() == 0 && std::string_view(field.Name()) == "Description";
+}
+
+bool IsUndefined(const CVIFField& field) {
+  return FindDefined(field.Name()) == nullptr && !IsEmptyList(field) && !IsApplicationDescription(field);
+}
+
 bool CanBeRead(const std::filesystem::path& path) {
   try {
     return !FirstUnreadableLine(path);
@@ -66,7 +85,7 @@ class CFollower {
     try {
       CheckXmlVif(path, [this](const VifElementReport& report) { Take(report); });
     } catch (const CVIFInvalidFile& error) {
-      return {{}, DescribeProblems(error.Problems(), path), false};
+      return {{}, {}, DescribeProblems(error.Problems(), path), false};
     } catch (const CZoRunTimeException& error) {
       TakeFailure(error);
     } catch (const CZoDOMDocException& error) {
@@ -79,6 +98,9 @@ class CFollower {
   void Take(const VifElementReport& report) {
     if (report.field != nullptr) {
       m_content.fields.push_back({*report.field, report.line, report.column, report.path});
+      if (IsUndefined(*report.field)) {
+        m_content.undefinedNames.push_back({report.field->Name(), report.line, report.column, report.path});
+      }
     } else if (report.fate == eVifElementNotUnderstood) {
       m_failure = FindingAt(code::kNotValid, report.line, report.column, report.path, {});
     } else {

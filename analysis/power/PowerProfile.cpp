@@ -1,12 +1,14 @@
 #include "power/Supply.h"
 #include "power/Units.h"
 
+#include <analysis/FieldMeaning.h>
 #include <analysis/FieldText.h>
 #include <analysis/PowerProfile.h>
 
 #include <algorithm>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace vifanalysis {
@@ -47,26 +49,27 @@ Supply FindSupply(const CPdoFields& fields) {
       {Number(fields.Find("Supply_Type")), kind != nullptr, Number(kind), fields.Find("PDP_Rating") != nullptr});
 }
 
-/// The units of adjustable supplies are not settled here.
-const char* SupplyText(Supply supply) {
+const char* SupplyText(Supply supply, std::optional<std::uint64_t> supplyType) {
+  constexpr std::uint64_t augmented = 3;
   switch (supply) {
     case Supply::Fixed: return "Fixed";
     case Supply::Battery: return "Battery";
     case Supply::Variable: return "Variable";
     case Supply::Programmable: return "PPS";
     case Supply::EprAdjustable:
-    case Supply::SprAdjustable:
+    case Supply::SprAdjustable: return "Augmented";
     case Supply::Unknown: break;
   }
-  return kUnknown;
+  return supplyType == augmented ? "Augmented" : kUnknown;
 }
 
-bool IsSettled(Supply supply) { return supply >= Supply::Fixed && supply <= Supply::Programmable; }
+/// Whether the text of the supply says what an APDO_Type would.
+bool TellsApdoType(Supply supply) { return supply >= Supply::Fixed && supply <= Supply::Programmable; }
 
 /// The amount that a field stands for, in thousandths of its unit.
 std::optional<std::uint64_t> Amount(const CVIFField* field, Supply supply) {
   const std::optional<std::uint64_t> number = Number(field);
-  if (!number || !IsSettled(supply)) return std::nullopt;
+  if (!number) return std::nullopt;
   const std::optional<Quantity> quantity = PdoQuantity(field->Name(), *number, supply);
   return quantity ? std::optional(quantity->amount) : std::nullopt;
 }
@@ -88,7 +91,7 @@ std::string RangeText(const std::string& lowest, const std::string& highest) {
 
 }  // namespace
 
-PowerProfile DescribePdo(const std::vector<const CVIFField*>& list) {
+PowerProfile DescribePdo(const std::vector<const CVIFField*>& list, const Edition& edition) {
   const CPdoFields fields(list);
   const Supply supply = FindSupply(fields);
   const CVIFField* voltage = fields.Find("Voltage");
@@ -102,7 +105,9 @@ PowerProfile DescribePdo(const std::vector<const CVIFField*>& list) {
   const CVIFField* power = maxPower != nullptr ? maxPower : opPower;
 
   PowerProfile profile;
-  profile.supply = SupplyText(supply);
+  profile.context = ContextOf(supply);
+  profile.context.edition = edition;
+  profile.supply = SupplyText(supply, Number(fields.Find("Supply_Type")));
   profile.voltage = lowest == nullptr && highest == nullptr
                         ? AmountText(voltage, supply, Volts)
                         : RangeText(AmountText(lowest, supply, Volts), AmountText(highest, supply, Volts));
@@ -122,7 +127,7 @@ PowerProfile DescribePdo(const std::vector<const CVIFField*>& list) {
                       opCurrent,
                       maxPower,
                       opPower,
-                      IsSettled(supply) ? fields.Find("APDO_Type") : nullptr};
+                      TellsApdoType(supply) ? fields.Find("APDO_Type") : nullptr};
   for (const CVIFField* field : list) {
     if (std::find(shown.begin(), shown.end(), field) == shown.end()) profile.others.push_back(field);
   }

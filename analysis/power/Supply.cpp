@@ -4,6 +4,17 @@ namespace vifanalysis {
 
 namespace {
 
+/// Up to edition 3.12 programmable supplies were the only augmented ones, and no field said so. A rating is an
+/// adjustable supply's.
+Supply AugmentedSupply(const SupplyFields& fields) {
+  if (!fields.hasApdoType) return fields.hasRating ? Supply::EprAdjustable : Supply::Programmable;
+  if (fields.apdoType == 0U) return Supply::Programmable;
+  if (fields.apdoType == 1U) return Supply::EprAdjustable;
+  return fields.apdoType == 2U ? Supply::SprAdjustable : Supply::Unknown;
+}
+
+}  // namespace
+
 PdoContext ContextOf(Supply supply) {
   constexpr std::uint64_t augmented = 3;
   PdoContext context;
@@ -18,17 +29,6 @@ PdoContext ContextOf(Supply supply) {
   }
   return context;
 }
-
-/// Up to edition 3.12 programmable supplies were the only augmented ones, and no field said so. A rating is an
-/// adjustable supply's.
-Supply AugmentedSupply(const SupplyFields& fields) {
-  if (!fields.hasApdoType) return fields.hasRating ? Supply::EprAdjustable : Supply::Programmable;
-  if (fields.apdoType == 0U) return Supply::Programmable;
-  if (fields.apdoType == 1U) return Supply::EprAdjustable;
-  return fields.apdoType == 2U ? Supply::SprAdjustable : Supply::Unknown;
-}
-
-}  // namespace
 
 Supply SupplyOf(const SupplyFields& fields) {
   if (fields.supplyType == 0U) return Supply::Fixed;

@@ -31,6 +31,9 @@ struct SupplyFields {
 /// The supply that these fields stand for.
 Supply SupplyOf(const SupplyFields& fields);
 
+/// What the units of a PDO with that supply depend on.
+PdoContext ContextOf(Supply supply);
+
 /// What a number of a PDO with that supply is worth: 180 as Src_PDO_Voltage of a fixed supply is 9000 mV.
 /// \return nothing when such a supply has no such number, or more than a million of them, which no product means and
 ///   products of which might overflow

@@ -1,5 +1,7 @@
 #include "rules/NumberInText.h"
 
+#include <analysis/Text.h>
+
 #include <algorithm>
 #include <charconv>
 #include <iterator>
@@ -62,19 +64,13 @@ std::optional<std::uint64_t> TakeThousandths(std::string_view& text) {
   return ToNumber(digits, 10);
 }
 
-char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-bool AreSameWord(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) { return Lower(x) == Lower(y); });
-}
-
 /// Whether the next word of a text is one of those between the underscores of a field's name, in any letter case.
 bool BeginsWithWordOf(std::string_view text, std::string_view fieldName) {
   SkipBlanks(text);
   const std::string_view word = text.substr(0, text.find_first_of(" \t,.;:()"));
   while (!fieldName.empty()) {
     const std::string_view part = fieldName.substr(0, fieldName.find('_'));
-    if (AreSameWord(part, word)) return true;
+    if (EqualInAnyCase(part, word)) return true;
     fieldName.remove_prefix(std::min(part.size() + 1, fieldName.size()));
   }
   return false;

@@ -1,5 +1,6 @@
 #include "files/Codes.h"
 #include "rules/Rule.h"
+#include "vocabulary/Alignment.h"
 
 #include <analysis/Rules.h>
 #include <analysis/Text.h>
@@ -18,15 +19,7 @@ std::vector<RuleInfo> MakeRules() {
   return rules;
 }
 
-char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-std::string Lower(std::string_view text) {
-  std::string lower(text);
-  std::transform(lower.begin(), lower.end(), lower.begin(), [](char c) { return Lower(c); });
-  return lower;
-}
-
-bool IsOfName(char c) { return IsDigit(c) || c == '_' || (Lower(c) >= 'a' && Lower(c) <= 'z'); }
+bool IsOfName(char c) { return IsDigit(c) || c == '_' || (ToLowerAscii(c) >= 'a' && ToLowerAscii(c) <= 'z'); }
 
 /// Whether a text has the name in it, and not just as part of another.
 bool HasName(std::string_view text, std::string_view name) {
@@ -37,21 +30,6 @@ bool HasName(std::string_view text, std::string_view name) {
   return false;
 }
 
-/// How many characters are to be added, left out or changed to make one text of the other.
-std::size_t Distance(std::string_view from, std::string_view to) {
-  std::vector<std::size_t> row(to.size() + 1);
-  for (std::size_t j = 0; j < row.size(); ++j) row[j] = j;
-  for (const char c : from) {
-    std::size_t diagonal = row[0]++;
-    for (std::size_t j = 0; j < to.size(); ++j) {
-      const std::size_t changed = diagonal + (c == to[j] ? 0 : 1);
-      diagonal = row[j + 1];
-      row[j + 1] = std::min({changed, row[j] + 1, row[j + 1] + 1});
-    }
-  }
-  return row.back();
-}
-
 }  // namespace
 
 const std::vector<RuleInfo>& Rules() {
@@ -60,9 +38,8 @@ const std::vector<RuleInfo>& Rules() {
 }
 
 const RuleInfo* FindRule(std::string_view code) {
-  const std::string wanted = Lower(code);
-  const auto found =
-      std::find_if(Rules().begin(), Rules().end(), [&](const RuleInfo& rule) { return wanted == rule.code; });
+  const auto found = std::find_if(Rules().begin(), Rules().end(),
+                                  [&](const RuleInfo& rule) { return EqualInAnyCase(code, rule.code); });
   return found != Rules().end() ? &*found : nullptr;
 }
 
@@ -75,13 +52,11 @@ std::vector<const RuleInfo*> RulesAbout(std::string_view field) {
 }
 
 std::optional<std::string> NearestCode(std::string_view text) {
-  constexpr std::size_t longest = 64;
-  if (text.size() > longest) return std::nullopt;
-  const std::string written = Lower(text);
-  std::size_t fewest = written.size() / 3 + 1;  // more would be another code
+  if (text.size() > CAlignment::kMaxLength) return std::nullopt;
+  std::size_t fewest = text.size() / 3 + 1;  // more would be another code
   std::optional<std::string> nearest;
   for (const RuleInfo& rule : Rules()) {
-    const std::size_t distance = Distance(written, rule.code);
+    const std::size_t distance = CAlignment(text, rule.code).Distance();
     if (distance > fewest || (distance == fewest && nearest)) continue;
     fewest = distance;
     nearest = rule.code;

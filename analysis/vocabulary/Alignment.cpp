@@ -2,6 +2,8 @@
 
 #include "SpellingMatch.h"
 
+#include <analysis/Text.h>
+
 #include <algorithm>
 
 namespace vifanalysis {

@@ -1,4 +1,5 @@
 #include <analysis/FieldExplanation.h>
+#include <analysis/Sources.h>
 
 #include <algorithm>
 #include <initializer_list>
@@ -82,16 +83,6 @@ std::vector<ExplainedSpelling> ExplainSpellings(const FieldInfo& field) {
   return spellings;
 }
 
-std::vector<std::string> ExplainSources(std::string_view codes) {
-  std::vector<std::string> sources;
-  while (!codes.empty()) {
-    const std::string_view code = codes.substr(0, codes.find(' '));
-    if (const VocabularySource* const source = FindVocabularySource(code)) sources.emplace_back(source->what);
-    codes.remove_prefix(std::min(code.size() + 1, codes.size()));
-  }
-  return sources;
-}
-
 }  // namespace
 
 std::optional<FieldExplanation> ExplainField(std::string_view name) {
@@ -114,7 +105,7 @@ std::optional<FieldExplanation> ExplainField(std::string_view name) {
   explanation.seen = field.files > 0;
   explanation.spellings = ExplainSpellings(field);
   explanation.confidence = field.confidence;
-  explanation.sources = ExplainSources(field.sources);
+  explanation.sources = SourcesInWords(field.sources);
   return explanation;
 }
 

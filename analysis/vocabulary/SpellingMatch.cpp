@@ -1,5 +1,7 @@
 #include "SpellingMatch.h"
 
+#include <analysis/Text.h>
+
 #include <cstddef>
 
 namespace vifanalysis {

@@ -8,11 +8,8 @@
 
 namespace vifanalysis {
 
-constexpr char kIndexMark = '#';
-
-constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
-constexpr char ToLowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+/// Stands in a spelling where a text file writes the number of a group, as in "SVID#_Mode#_Enter".
+inline constexpr char kIndexMark = '#';
 
 /// Equal for a spelling and all names that match it in any letter case.
 std::uint32_t HashOfName(std::string_view name);

@@ -2,6 +2,7 @@
 #include "Alignment.h"
 #include "SpellingMatch.h"
 
+#include <analysis/Text.h>
 #include <analysis/Vocabulary.h>
 
 #include <algorithm>

@@ -1,9 +1,18 @@
+#include <VIFField.h>
 #include <analysis/Edition.h>
 
 #include <gtest/gtest.h>
 
+#include <optional>
+#include <string>
+
 namespace vifanalysis {
 namespace {
+
+CVIFField TextField(const std::string& name, const std::string& value,
+                    const VifIndex& place = CVIFField::UNSPECIFIED_INDEX) {
+  return {false, name, value, place, CVIFField::UNSPECIFIED_INDEX, CVIFField::UNSPECIFIED_INDEX};
+}
 
 TEST(EditionTest, ReadsTwoNumbersWithAPointBetween) {
   EXPECT_EQ(ParseEdition("3.22"), (Edition{3, 22}));
@@ -21,6 +30,15 @@ TEST(EditionTest, RefusesAnythingElse) {
                            "4294967296.0", "3.4294967296"}) {
     EXPECT_EQ(ParseEdition(text), std::nullopt) << text;
   }
+}
+
+TEST(EditionTest, IsNamedByTheSpecificationOfTheFile) {
+  EXPECT_EQ(EditionNamedBy(TextField("VIF_Specification", "3.22", {eVifLocVif, 0})), (Edition{3, 22}));
+  EXPECT_EQ(EditionNamedBy(TextField("$VIF_Specification", "3.22")), (Edition{3, 22}));
+  EXPECT_EQ(EditionNamedBy(TextField("VIF_Specification", "new")), std::nullopt);
+  EXPECT_EQ(EditionNamedBy(TextField("VIF_Specification", "3.22", {eVifLocComponent, 1})), std::nullopt);
+  EXPECT_EQ(EditionNamedBy(TextField("TID", "3.22")), std::nullopt);
+  EXPECT_EQ(EditionNamedBy(CVIFField()), std::nullopt);
 }
 
 TEST(EditionTest, IsComparedNumberByNumber) {

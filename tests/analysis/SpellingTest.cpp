@@ -1,16 +1,16 @@
 // Which written names are misspellings of a known one.
-#include "files/KnownNames.h"
 #include "files/Spelling.h"
+#include "vocabulary/SpellingMatch.h"
 
-#include <VIFFieldDefs.h>
+#include <analysis/Vocabulary.h>
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
-#include <cstddef>
 #include <optional>
 #include <set>
+#include <span>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -94,25 +94,24 @@ TEST(Spelling, AWordMoreOrLessMakesAnotherName) {
 }
 
 /// A name as a text file writes it, with numbers where the spelling has indexes.
-std::string WithIndexes(const std::string& spelling) {
+std::string WithIndexes(std::string_view spelling) {
   std::string name;
   for (const char c : spelling) name += c == vifanalysis::kIndexMark ? '3' : c;
   return name;
 }
 
+/// The fields of the definition table.
+std::span<const vifanalysis::FieldInfo> DefinedFields() { return vifanalysis::Fields().first(271); }
+
 // What a later edition may add is no further from the names of today than these are from each other.
 TEST(Spelling, NoDefinedNameIsAMisspellingOfAnother) {
-  std::set<std::pair<std::string, std::string>> taken;
-  std::size_t compared = 0;
-  for (const VifFieldDef& one : VifFieldDefs::GetVifFieldDefs()) {
-    const std::string name = WithIndexes(vifanalysis::SpellingOf(one));
-    for (const VifFieldDef& other : VifFieldDefs::GetVifFieldDefs()) {
-      if (&one == &other) continue;
-      ++compared;
-      if (Respell(name, vifanalysis::SpellingOf(other))) taken.emplace(name, vifanalysis::SpellingOf(other));
+  std::set<std::pair<std::string_view, std::string_view>> taken;
+  for (const vifanalysis::FieldInfo& one : DefinedFields()) {
+    const std::string name = WithIndexes(one.spelling);
+    for (const vifanalysis::FieldInfo& other : DefinedFields()) {
+      if (&one != &other && Respell(name, other.spelling)) taken.emplace(one.spelling, other.spelling);
     }
   }
-  EXPECT_EQ(compared, 271U * 270U);
   // One of these is a misspelling that the format made a field.
   EXPECT_THAT(taken,
               UnorderedElementsAre(std::pair("Active_Cable_Optically_Isolated", "Active_Cable_Optically_Isololated"),
@@ -120,22 +119,9 @@ TEST(Spelling, NoDefinedNameIsAMisspellingOfAnother) {
 }
 
 TEST(Spelling, EveryDefinedNameIsItsOwn) {
-  for (const VifFieldDef& definition : VifFieldDefs::GetVifFieldDefs()) {
-    const std::string spelling = vifanalysis::SpellingOf(definition);
-    EXPECT_EQ(Corrected(WithIndexes(spelling), spelling), WithIndexes(spelling));
+  for (const vifanalysis::FieldInfo& field : DefinedFields()) {
+    EXPECT_EQ(Corrected(WithIndexes(field.spelling), field.spelling), WithIndexes(field.spelling));
   }
-}
-
-TEST(Spelling, MarksTheIndexesOfADefinition) {
-  std::size_t marks = 0;
-  for (const VifFieldDef& definition : VifFieldDefs::GetVifFieldDefs()) {
-    const std::string spelling = vifanalysis::SpellingOf(definition);
-    marks += static_cast<std::size_t>(std::count(spelling.begin(), spelling.end(), vifanalysis::kIndexMark));
-  }
-  EXPECT_EQ(marks, 63U);
-  EXPECT_EQ(vifanalysis::SpellingOf(*vifanalysis::FindDefinition("SVID_Mode_Enter_SOP")), "SVID#_Mode#_Enter_SOP");
-  EXPECT_EQ(vifanalysis::SpellingOf(*vifanalysis::FindDefinition("Cable_SOP_PP_Controller")),
-            "Cable_SOP_PP_Controller");
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include "vocabulary/ValueTables.h"
 
 #include <VIFFieldDefs.h>
+#include <analysis/Rules.h>
+#include <analysis/Sources.h>
 #include <analysis/Vocabulary.h>
 #include <gtest/gtest.h>
 
@@ -44,7 +46,7 @@ bool AreSources(std::string_view codes) {
   std::set<std::string_view> seen;
   while (true) {
     const std::string_view code = codes.substr(0, codes.find(' '));
-    if (FindVocabularySource(code) == nullptr || !seen.insert(code).second) return false;
+    if (FindSource(code) == nullptr || !seen.insert(code).second) return false;
     if (code.size() == codes.size()) return true;
     codes.remove_prefix(code.size() + 1);
   }
@@ -260,12 +262,37 @@ TEST(VocabularyTables, HaveNoNameTooLongToSuggest) {
 
 TEST(VocabularyTables, HaveNoSourceTwice) {
   std::set<std::string_view> codes;
-  for (const VocabularySource& source : VocabularySources()) {
+  for (const Source& source : Sources()) {
     EXPECT_TRUE(codes.insert(source.code).second) << source.code;
-    EXPECT_EQ(FindVocabularySource(source.code), &source);
+    EXPECT_EQ(FindSource(source.code), &source);
   }
-  EXPECT_EQ(FindVocabularySource("S"), nullptr);
-  EXPECT_EQ(FindVocabularySource(""), nullptr);
+  EXPECT_EQ(FindSource("S"), nullptr);
+  EXPECT_EQ(FindSource(""), nullptr);
+}
+
+TEST(VocabularyTables, KnowTheSourcesOfEveryRule) {
+  std::size_t withSources = 0;
+  for (const RuleInfo& rule : Rules()) {
+    if (std::string_view(rule.sources).empty()) continue;
+    EXPECT_TRUE(AreSources(rule.sources)) << rule.code << ": " << rule.sources;
+    ++withSources;
+  }
+  EXPECT_EQ(withSources, 45U);
+}
+
+TEST(VocabularyTables, HaveNoSourceThatNothingNames) {
+  std::string used = " ";
+  const auto use = [&](std::string_view codes) { used.append(codes).append(" "); };
+  for (const RuleInfo& rule : Rules()) use(rule.sources);
+  for (const FieldSpelling& row : Spellings()) use(row.sources);
+  for (const FieldInfo& field : Fields()) {
+    use(field.sources);
+    for (const FieldValue& row : field.values) use(row.sources);
+    for (const FieldUnit& row : field.units) use(row.sources);
+  }
+  for (const Source& source : Sources()) {
+    EXPECT_NE(used.find(" " + std::string(source.code) + " "), std::string::npos) << source.code;
+  }
 }
 
 TEST(VocabularyTables, PutEveryFieldIntoOneGroup) {

@@ -51,6 +51,11 @@ TEST(Explain, SaysWhatAFindingMeans) {
   EXPECT_THAT(result.output, HasSubstr("severity    error\n"));
 }
 
+TEST(Explain, NamesTheSourcesOfAFinding) {
+  EXPECT_THAT(Explain({"ocp-below-rating"}).output, HasSubstr("sources     180 real files "));
+  EXPECT_THAT(Explain({"no-index"}).output, testing::Not(HasSubstr("sources")));
+}
+
 TEST(Explain, NamesTheFindingsAboutAField) {
   EXPECT_THAT(Explain({"PD_Power_As_Sink"}).output, HasSubstr("pdo-above-rating"));
   EXPECT_THAT(ExplainJson("PD_Power_As_Sink")["rules"].get<std::vector<std::string>>(),

@@ -28,9 +28,8 @@ inline std::string FindingText(const nlohmann::json& finding) {
 /// nothing, about which the other rules have a lot to say.
 inline constexpr const char* kFormCodes =
     "wrong-extension,not-a-declaration,read-failed,not-valid,nothing-read,foreign-element,misplaced,declared-twice,"
-    "no-number,no-value,count-mismatch,count-out-of-range,no-index,numbering-gap,no-field,text-in-group,byte-order-"
-    "mark,"
-    "number-partly-read,unknown-name";
+    "no-number,no-value,count-mismatch,count-out-of-range,no-index,numbering-gap,no-field,text-in-group,"
+    "byte-order-mark,number-partly-read,unknown-name,other-spelling,older-name,newer-field";
 
 /// The findings about the form of a file with that name, whose extension gives the form, and that content.
 inline nlohmann::json FindingsIn(const std::string& name, std::string_view content) {

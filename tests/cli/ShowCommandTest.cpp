@@ -72,20 +72,20 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(PdoCase{"Src_PDO_Voltage1: 100\nSrc_PDO_Max_Current1: 300\n", "    1    ?       ?        ?"},
                     PdoCase{"Src_PDO_Supply_Type1: 4\nSrc_PDO_Voltage1: 100\n", "    1    ?       ?"},
                     PdoCase{"Src_PDO_Supply_Type1: 3\nSrc_PDO_APDO_Type1: 1\nSrc_PDO_Min_Voltage1: 9\n",
-                            "    1    ?       ? to ? V                  Src_PDO_APDO_Type=1"},
+                            "    1    Augmented  0.9 to ? V                  Src_PDO_APDO_Type=1"},
                     PdoCase{"Src_PDO_Supply_Type1: 3\nSrc_PDO_APDO_Type1: 99999999999999999999\n"
                             "Src_PDO_Max_Current1: 60\n",
-                            "    1    ?                ?               Src_PDO_APDO_Type=99999999999999999999"},
+                            "    1    Augmented           ?               Src_PDO_APDO_Type=99999999999999999999"},
                     // Only an adjustable voltage supply has a PDP rating.
                     PdoCase{"Src_PDO_Supply_Type1: 3\nSrc_PDO_PDP_Rating1: 140\nSrc_PDO_Min_Voltage1: 9\n",
-                            "    1    ?       ? to ? V                  Src_PDO_PDP_Rating=140"},
+                            "    1    Augmented  0.9 to ? V                  Src_PDO_PDP_Rating=140"},
                     PdoCase{"Src_PDO_Supply_Type1: 0\nSrc_PDO_Voltage1: 99999999999999999999\n", "    1    Fixed   ?"},
                     PdoCase{"Src_PDO_Supply_Type1: 0\nSrc_PDO_Voltage1: 18446744073709551614\n", "    1    Fixed   ?"},
                     PdoCase{"Src_PDO_Supply_Type: 0\nSrc_PDO_Voltage: 100\n", "    ?    Fixed   5 V"}));
 
 TEST(Show, OtherFieldsOfAPdoAreListed) {
   EXPECT_THAT(Show("Src_PDO_Supply_Type1: 0\nSrc_PDO_Peak_Current1: 2\nSrc_PD_OCP_UV_Debounce1: 5\n"),
-              HasSubstr("Src_PDO_Peak_Current=2, Src_PD_OCP_UV_Debounce=5"));
+              HasSubstr("Src_PDO_Peak_Current=2, Src_PD_OCP_UV_Debounce=5 (5 ms)"));
 }
 
 TEST(Show, PdosAreInTheOrderOfTheirNumbers) {
@@ -138,6 +138,30 @@ TEST(Show, EveryFieldOfEveryExampleAppears) {
   }
 }
 
+TEST(Show, AddsWhatAValueStandsForWhereTheFileDoesNotSay) {
+  EXPECT_THAT(Lines(Show("PD_Port_Type: 3\nConnector_Type: 2 ; a plug\nPD_Power_As_Source: 65000\n")),
+              testing::IsSupersetOf({"  PD_Port_Type        3      (Provider Only)",
+                                     "  Connector_Type      2      a plug", "  PD_Power_As_Source  65000  (65 W)"}));
+}
+
+TEST(Show, AddsNothingThatIsNotKnown) {
+  EXPECT_THAT(
+      Lines(Show("PD_Port_Type: 77\nPID: 5\nXID: 18446744073709551616\n")),
+      testing::IsSupersetOf({"  PD_Port_Type  77", "  PID           5", "  XID           18446744073709551616"}));
+}
+
+TEST(Show, MarksWhatIsUncertain) {
+  EXPECT_THAT(Lines(Show("Product_Type_DFP_SOP: 3\n")),
+              Contains("  Product_Type_DFP_SOP  3  (Power Brick, uncertain)"));
+}
+
+TEST(Show, TakesTheTextOfTheFilesEdition) {
+  const std::string repeater = "VIF_Product_Type: 2\n";
+  EXPECT_THAT(Show("$VIF_Specification: \"1.40\"\n" + repeater), HasSubstr("VIF_Product_Type    2     (Re-timer)"));
+  EXPECT_THAT(Show("$VIF_Specification: \"3.26\"\n" + repeater), HasSubstr("VIF_Product_Type    2     (Repeater)"));
+  EXPECT_THAT(Show(repeater), HasSubstr("VIF_Product_Type  2  (Repeater)"));
+}
+
 TEST(Show, APipeHasNoColour) { EXPECT_THAT(Show("PID: 1\n"), Not(HasSubstr("\x1b"))); }
 
 class ShowOnTerminal : public testing::Test {
@@ -150,6 +174,14 @@ class ShowOnTerminal : public testing::Test {
 TEST_F(ShowOnTerminal, HasBoldHeadings) {
   const ProgramResult result = testsupport::VifOnTerminal({"show", Example("active-cable.txt")}, 100);
   EXPECT_THAT(result.output, HasSubstr("\x1b[1mComponent 1\x1b[0m"));
+}
+
+TEST_F(ShowOnTerminal, DimsWhatIsNotTheFiles) {
+  const TempDir dir;
+  const std::string file = dir.Write("a.txt", "PD_Port_Type: 3\nConnector_Type: 2 ; a plug\n").string();
+  const ProgramResult result = testsupport::VifOnTerminal({"show", file}, 100);
+  EXPECT_THAT(result.output, HasSubstr("\x1b[2m(Provider Only)\x1b[0m"));
+  EXPECT_THAT(result.output, HasSubstr("  Connector_Type  2  a plug"));
 }
 
 TEST_F(ShowOnTerminal, HonoursNoColor) {
