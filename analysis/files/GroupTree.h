@@ -3,16 +3,14 @@
 
 #include "FoundField.h"
 
-#include <array>
+#include <analysis/FieldText.h>
+
 #include <cstdint>
 #include <map>
 #include <string_view>
 #include <vector>
 
 namespace vifanalysis {
-
-/// A group's slots, outermost first, the rest unused.
-using GroupPlace = std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>;
 
 /// The direct content of one group. It borrows the fields.
 struct GroupContent {

@@ -56,6 +56,10 @@ class CGroupView {
   /// may be several in one.
   std::span<const CGroupView> Groups(EVifLocation kind) const;
 
+  /// All groups directly in this one, by kind and number, with those that have no number after the others of their
+  /// kind.
+  std::span<const CGroupView> Groups() const { return m_groups; }
+
   /// Whether there are groups of a kind directly in this one, with or without a number.
   bool HasGroups(EVifLocation kind) const;
 
