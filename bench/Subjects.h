@@ -11,5 +11,6 @@ void AddWholeProcess(CRatioTable& table);
 void AddQueries(CRatioTable& table);
 void AddLibraryLoad(CRatioTable& table);
 void AddGrowth(CRatioTable& table);
+void AddDifferences(CRatioTable& table);
 
 }  // namespace bench
