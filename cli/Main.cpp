@@ -31,7 +31,8 @@ constexpr const char* kDescription =
 constexpr const char* kFooter =
     "'vif COMMAND --help' describes a command, with examples.\n"
     "\n"
-    "Exit status: 0 done; 1 ran, but found no match, problems or differences; 2 failed, with one line on standard error that "
+    "Exit status: 0 done; 1 ran, but found no match, problems or differences; 2 failed, with one line on standard "
+    "error that "
     "says why.";
 
 Status Fail(std::string_view reason, Status status = kFailed) {
