@@ -57,16 +57,18 @@ Work TimePerField(Pair (*make)(std::size_t fields), std::size_t count) {
 }  // namespace
 
 void AddDifferences(CRatioTable& table) {
-  table.AddSpread({"growth/diff/time", "time per field, comparing 1,000 to 100,000 fields of all kinds",
+  table.AddSpread({"growth/diff/time", "time per field, comparing 1,000 to 1,000,000 fields of all kinds",
                    "least of these sizes", AtMost(2.0)},
                   {{"1,000", TimePerField(ChangedFields, 1'000)},
                    {"10,000", TimePerField(ChangedFields, 10'000)},
-                   {"100,000", TimePerField(ChangedFields, 100'000)}});
-  table.AddSpread({"growth/diff/pdos", "time per field, comparing 333 to 33,333 PDOs without equal ones",
+                   {"100,000", TimePerField(ChangedFields, 100'000)},
+                   {"1,000,000", TimePerField(ChangedFields, 1'000'000)}});
+  table.AddSpread({"growth/diff/pdos", "time per field, comparing 333 to 333,333 PDOs without equal ones",
                    "least of these sizes", AtMost(2.0)},
                   {{"1,000", TimePerField(ChangedPdos, 1'000)},
                    {"10,000", TimePerField(ChangedPdos, 10'000)},
-                   {"100,000", TimePerField(ChangedPdos, 100'000)}});
+                   {"100,000", TimePerField(ChangedPdos, 100'000)},
+                   {"1,000,000", TimePerField(ChangedPdos, 1'000'000)}});
 }
 
 }  // namespace bench
