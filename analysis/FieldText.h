@@ -4,9 +4,14 @@
 #include <VIFField.h>
 #include <analysis/Export.h>
 
+#include <array>
+#include <cstddef>
 #include <string>
 
 namespace vifanalysis {
+
+/// The place of a group: its slots, outermost first, the rest `CVIFField::UNSPECIFIED_INDEX`.
+using GroupPlace = std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>;
 
 /// The short name of a location, such as "SrcPdo".
 VIF_ANALYSIS_API std::string LocationName(const VifIndex& slot);
@@ -26,5 +31,10 @@ VIF_ANALYSIS_API std::string NumberText(const VifIndex& slot);
 /// The field's place, outermost group first, such as "Component 1 · SrcPdo 2", with "?" for a number that the file does
 /// not give. Empty for a field in no group.
 VIF_ANALYSIS_API std::string LocationText(const CVIFField& field);
+
+/// A place in words, outermost group first, such as "Component 1, Source PDO 2". The file, its application and the
+/// product go without saying.
+/// \param from how many of the outer slots to leave out
+VIF_ANALYSIS_API std::string PlaceInWords(const GroupPlace& place, std::size_t from = 0);
 
 }  // namespace vifanalysis

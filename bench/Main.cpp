@@ -31,6 +31,7 @@ int main(int argc, char** argv) {
   bench::AddLibraryLoad(table);
   bench::AddGrowth(table);
   bench::AddCheck(table);
+  bench::AddDifferences(table);
   const std::size_t count = benchmark::RunSpecifiedBenchmarks(&table);
   return count > 0 && !table.HasFailed() ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -12,5 +12,6 @@ void AddQueries(CRatioTable& table);
 void AddLibraryLoad(CRatioTable& table);
 void AddGrowth(CRatioTable& table);
 void AddCheck(CRatioTable& table);
+void AddDifferences(CRatioTable& table);
 
 }  // namespace bench

@@ -14,7 +14,7 @@ namespace cli {
 /// The exit statuses.
 enum Status : int {
   kDone = 0,
-  kNegative = 1,  // ran, but found no match or found problems
+  kNegative = 1,  // ran, but found no match, problems or differences
   kFailed = 2,    // wrong usage, or a file that cannot be read or is not a VIF
 };
 
@@ -37,6 +37,7 @@ void AddGetCommand(CLI::App& app, Status& status);
 void AddShowCommand(CLI::App& app, Status& status);
 void AddCheckCommand(CLI::App& app, Status& status);
 void AddExplainCommand(CLI::App& app, Status& status);
+void AddDiffCommand(CLI::App& app, Status& status);
 
 /// Joins each location option of `vif get` with its number, or "any" where it has none, by an equals sign: CLI11 cannot
 /// tell whether the optional number follows.

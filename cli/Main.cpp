@@ -31,7 +31,8 @@ constexpr const char* kDescription =
 constexpr const char* kFooter =
     "'vif COMMAND --help' describes a command, with examples.\n"
     "\n"
-    "Exit status: 0 done; 1 ran, but found no match or found problems; 2 failed, with one line on standard error that "
+    "Exit status: 0 done; 1 ran, but found no match, problems or differences; 2 failed, with one line on standard "
+    "error that "
     "says why.";
 
 Status Fail(std::string_view reason, Status status = kFailed) {
@@ -59,6 +60,7 @@ Status Run(int argc, char** argv) {
   cli::AddShowCommand(app, status);
   cli::AddCheckCommand(app, status);
   cli::AddExplainCommand(app, status);
+  cli::AddDiffCommand(app, status);
   try {
     std::vector<std::string> arguments = cli::CompleteLocationOptions({argv + 1, argv + argc});
     std::reverse(arguments.begin(), arguments.end());  // CLI11 takes them from the end

@@ -3,15 +3,13 @@
 
 #include "FoundField.h"
 
-#include <array>
+#include <analysis/FieldText.h>
+
 #include <cstdint>
 #include <map>
 #include <string_view>
 
 namespace vifanalysis {
-
-/// A group's slots, outermost first, the rest unused.
-using GroupPlace = std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>;
 
 /// The place of the innermost group that a field is in.
 GroupPlace GroupPlaceOf(const CVIFField& field);

@@ -77,6 +77,10 @@ class CGroupView {
   /// The same with a group without a number, which comes last.
   std::span<const CGroupView> AllGroups(EVifLocation kind) const;
 
+  /// All groups directly in this one, by kind and number, with those that have no number after the others of their
+  /// kind.
+  std::span<const CGroupView> Groups() const { return m_groups; }
+
   /// Whether there are groups of a kind directly in this one, with or without a number.
   bool HasGroups(EVifLocation kind) const { return !AllGroups(kind).empty(); }
 

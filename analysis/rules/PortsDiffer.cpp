@@ -1,9 +1,8 @@
 #include "rules/FieldWords.h"
+#include "rules/PortKind.h"
 #include "rules/RuleFunctions.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
@@ -15,39 +14,11 @@ namespace vifanalysis {
 
 namespace {
 
-/// PD role, Type-C state machine, connector and USB4 support.
-using PortKind = std::array<std::uint64_t, 4>;
-
 /// The ports of one kind that another one is compared with. Comparing it with all of them would take too long.
 struct Earlier {
   const CComponentView* first;
   const CComponentView* last;
 };
-
-std::optional<PortKind> KindOf(const CComponentView& component) {
-  constexpr std::uint64_t noRole = UINT64_MAX;
-  const std::optional<std::uint64_t> role =
-      component.IsNo("USB_PD_Support") ? noRole : component.Number("PD_Port_Type");
-  const std::optional<std::uint64_t> machine = component.Number("Type_C_State_Machine");
-  const std::optional<std::uint64_t> connector = component.Number("Connector_Type");
-  if (!role || !machine || !connector) return std::nullopt;
-  return PortKind{*role, *machine, *connector, component.IsYes("USB4_Supported") ? 1U : 0U};
-}
-
-/// What may differ from port to port.
-bool IsAPortsOwn(std::string_view name) {
-  constexpr std::string_view own[] = {
-      "Port_Label",
-      "DFP_VDO_Port_Number",
-      "Hub_Port_Number",
-      "USB4_Lane_0_Adapter",
-      "PID_SOP",
-      "Manufacturer_Info_PID_Port",
-      "Host_Contains_Captive_Retimer",
-      "Device_Contains_Captive_Retimer",
-  };
-  return std::find(std::begin(own), std::end(own), name) != std::end(own);
-}
 
 bool AreEqual(const CGroupView& a, const CGroupView& b, std::string_view name) {
   const std::optional<std::uint64_t> number = a.Number(name);
@@ -128,7 +99,7 @@ void CheckPort(const CComponentView& port, const Earlier& earlier, CReporter& re
 void CheckPortsDiffer(const CVifView& file, CReporter& reporter) {
   std::map<PortKind, Earlier> kinds;
   for (const CComponentView& port : file.Components()) {
-    const std::optional<PortKind> kind = KindOf(port);
+    const std::optional<PortKind> kind = PortKindOf(port);
     if (!kind) continue;
     const auto [earlier, isFirst] = kinds.try_emplace(*kind, Earlier{&port, &port});
     if (isFirst) continue;

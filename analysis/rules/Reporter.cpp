@@ -6,35 +6,10 @@ namespace vifanalysis {
 
 namespace {
 
-/// What a group is called in a sentence; null for groups that need no mention.
-const char* GroupName(EVifLocation kind) {
-  switch (kind) {
-    case eVifLocComponent: return "Component ";
-    case eVifLocSrcPdo: return "Source PDO ";
-    case eVifLocSnkPdo: return "Sink PDO ";
-    case eVifLocSopSvid: return "SOP SVID ";
-    case eVifLocCableSvid: return "Cable SVID ";
-    case eVifLocSopSvidMode:
-    case eVifLocCableSvidMode: return "Mode ";
-    case eVifLocRouter: return "Router ";
-    case eVifLocRouterPcie: return "PCIe Endpoint ";
-    case eVifLocUnset:
-    case eVifLocVif:
-    case eVifLocAppVersion:
-    case eVifLocProduct: break;
-  }
-  return nullptr;
-}
-
 /// Such as "Component 1, Source PDO 2: "; empty when there is nothing to say.
 std::string PlacePrefix(const GroupPlace& place) {
-  std::string prefix;
-  for (const VifIndex& slot : place) {
-    const char* name = GroupName(std::get<0>(slot));
-    if (name == nullptr) continue;
-    prefix.append(prefix.empty() ? "" : ", ").append(name).append(NumberText(slot));
-  }
-  return prefix.empty() ? prefix : prefix + ": ";
+  const std::string words = PlaceInWords(place);
+  return words.empty() ? words : words + ": ";
 }
 
 }  // namespace

@@ -45,6 +45,9 @@ class CVifView {
   /// All fields in the order of the file.
   const FoundFields& Fields() const { return m_fields; }
 
+  /// The file as a group: its fields in no group, and all groups.
+  const CGroupView& Root() const { return m_root; }
+
   /// The edition of the format that the file names; nothing when it names none, or in an unknown form.
   const std::optional<Edition>& GetEdition() const { return m_edition; }
 

@@ -2,6 +2,30 @@
 
 namespace vifanalysis {
 
+namespace {
+
+/// What a group is called in a sentence; null for groups that need no mention.
+const char* GroupName(EVifLocation kind) {
+  switch (kind) {
+    case eVifLocComponent: return "Component ";
+    case eVifLocSrcPdo: return "Source PDO ";
+    case eVifLocSnkPdo: return "Sink PDO ";
+    case eVifLocSopSvid: return "SOP SVID ";
+    case eVifLocCableSvid: return "Cable SVID ";
+    case eVifLocSopSvidMode:
+    case eVifLocCableSvidMode: return "Mode ";
+    case eVifLocRouter: return "Router ";
+    case eVifLocRouterPcie: return "PCIe Endpoint ";
+    case eVifLocUnset:
+    case eVifLocVif:
+    case eVifLocAppVersion:
+    case eVifLocProduct: break;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
 std::string LocationName(const VifIndex& slot) { return GetVifLocInfo(std::get<0>(slot)).name; }
 
 bool IsUsed(const VifIndex& slot) { return std::get<0>(slot) != eVifLocUnset; }
@@ -22,6 +46,16 @@ std::string LocationText(const CVIFField& field) {
     text += LocationName(slot) + ' ' + NumberText(slot);
   }
   return text;
+}
+
+std::string PlaceInWords(const GroupPlace& place, std::size_t from) {
+  std::string words;
+  for (std::size_t depth = from; depth < place.size(); ++depth) {
+    const char* name = GroupName(std::get<0>(place[depth]));
+    if (name == nullptr) continue;
+    words.append(words.empty() ? "" : ", ").append(name).append(NumberText(place[depth]));
+  }
+  return words;
 }
 
 }  // namespace vifanalysis

@@ -26,7 +26,7 @@ TEST(Usage, HelpGoesToStandardOutput) {
   EXPECT_THAT(result.error, IsEmpty());
   EXPECT_THAT(result.output, HasSubstr("Vendor Info Files"));
   EXPECT_THAT(result.output, HasSubstr("list "));
-  EXPECT_THAT(result.output, HasSubstr("Exit status: 0 done; 1 ran, but found no match or found problems;"));
+  EXPECT_THAT(result.output, HasSubstr("Exit status: 0 done; 1 ran, but found no match, problems or differences;"));
 }
 
 TEST(Usage, HelpOfACommandNamesItsOptionsAndGivesExamples) {
@@ -54,7 +54,8 @@ INSTANTIATE_TEST_SUITE_P(All, UsageOfEveryCommand,
                          testing::Values(std::vector<std::string>{"--help"}, std::vector<std::string>{"list", "--help"},
                                          std::vector<std::string>{"get", "--help"},
                                          std::vector<std::string>{"show", "--help"},
-                                         std::vector<std::string>{"check", "--help"}),
+                                         std::vector<std::string>{"check", "--help"},
+                                         std::vector<std::string>{"diff", "--help"}),
                          [](const auto& command) { return command.param.size() == 1 ? "vif" : command.param.front(); });
 
 TEST(Usage, LongDescriptionsInTheHelpAreAligned) {

@@ -1,0 +1,247 @@
+#include "DifferenceLines.h"
+
+#include "Style.h"
+
+#include <analysis/FieldText.h>
+#include <analysis/Text.h>
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <string_view>
+#include <tuple>
+#include <utility>
+
+namespace cli {
+
+using vifanalysis::Amount;
+using vifanalysis::DeclaredField;
+using vifanalysis::Difference;
+using vifanalysis::DifferenceKind;
+using vifanalysis::Differences;
+using vifanalysis::GroupChange;
+using vifanalysis::GroupChangeKind;
+using vifanalysis::GroupPlace;
+using vifanalysis::IsUsed;
+using vifanalysis::NumberText;
+using vifanalysis::PlaceInWords;
+using vifanalysis::Printable;
+
+namespace {
+
+constexpr std::string_view kArrow = " \u2192 ";
+
+std::size_t DepthOf(const GroupPlace& place) {
+  return static_cast<std::size_t>(std::count_if(place.begin(), place.end(), IsUsed));
+}
+
+/// "PDO" but "Voltage": names begin words with a capital letter, and abbreviations have several.
+bool IsWord(std::string_view word) {
+  return word.size() > 1 && std::none_of(word.begin() + 1, word.end(), [](char c) { return c >= 'A' && c <= 'Z'; });
+}
+
+/// What a field is called beside its place: of a PDO "max current" for Src_PDO_Max_Current, elsewhere its name.
+std::string Label(std::string_view name) {
+  constexpr std::array<std::string_view, 3> prefixes = {"Src_PDO_", "Snk_PDO_", "Src_PD_"};
+  const auto prefix = std::find_if(prefixes.begin(), prefixes.end(),
+                                   [&](std::string_view beginning) { return name.starts_with(beginning); });
+  if (prefix == prefixes.end()) return Printable(name);
+  name.remove_prefix(prefix->size());
+  std::string label;
+  while (!name.empty()) {
+    std::string word(name.substr(0, name.find('_')));
+    name.remove_prefix(std::min(word.size() + 1, name.size()));
+    if (IsWord(word) && word.front() >= 'A' && word.front() <= 'Z') word.front() += 'a' - 'A';
+    label.append(label.empty() ? "" : " ").append(word);
+  }
+  return Printable(label);
+}
+
+bool IsNumber(const DeclaredField& field) {
+  return field.number && std::all_of(field.text.begin(), field.text.end(), vifanalysis::IsDigit);
+}
+
+std::string RawText(const DeclaredField& field) {
+  return IsNumber(field) ? field.text : '"' + Printable(field.text) + '"';
+}
+
+std::string ShownText(const DeclaredField& field) {
+  return field.meaning.empty() ? RawText(field) : Printable(field.meaning);
+}
+
+/// Whether what is shown says all, so that the number need not follow.
+bool IsPlain(const DeclaredField& field) {
+  return field.meaning.empty() || field.meaning == "YES" || field.meaning == "NO" || field.meaning.starts_with("0x");
+}
+
+/// "(180 → 240, uncertain)", without what goes without saying.
+std::string Remark(const std::string& numbers, bool isPlain, bool isUncertain) {
+  std::string remark = isPlain ? "" : numbers;
+  if (isUncertain) remark.append(remark.empty() ? "" : ", ").append("uncertain");
+  return remark.empty() ? remark : " (" + remark + ")";
+}
+
+std::string ValueText(const DeclaredField& field) {
+  return ShownText(field) + Remark(RawText(field), IsPlain(field), field.isUncertain);
+}
+
+std::string ChangeText(const DeclaredField& before, const DeclaredField& after) {
+  return Removed(ShownText(before)).append(kArrow).append(Added(ShownText(after))) +
+         Remark(RawText(before).append(kArrow).append(RawText(after)), IsPlain(before) && IsPlain(after),
+                before.isUncertain || after.isUncertain);
+}
+
+std::string DescriptionsText(const DeclaredField& before, const DeclaredField& after) {
+  const auto quoted = [](const DeclaredField& field) { return '"' + Printable(field.description) + '"'; };
+  return "description " + Removed(quoted(before)).append(kArrow).append(Added(quoted(after)));
+}
+
+bool HasOtherValue(const Difference& difference) {
+  return difference.before->text != difference.after->text ||
+         difference.before->number.has_value() != difference.after->number.has_value();
+}
+
+std::string FieldText(const Difference& difference, bool withDescriptions) {
+  const std::string label = Label(difference.name) + ' ';
+  if (difference.kind == DifferenceKind::Added) {
+    return Added("added: " + label + ValueText(*difference.after));
+  }
+  if (difference.kind == DifferenceKind::Removed) {
+    return Removed("removed: " + label + ValueText(*difference.before));
+  }
+  const DeclaredField& before = *difference.before;
+  const DeclaredField& after = *difference.after;
+  if (!HasOtherValue(difference)) return label + DescriptionsText(before, after);
+  const bool hasOtherDescription = withDescriptions && before.description != after.description;
+  return label + ChangeText(before, after) + (hasOtherDescription ? ", " + DescriptionsText(before, after) : "");
+}
+
+/// "Source PDO 2: ", without the component, which is in the heading.
+std::string Prefix(const GroupPlace& place) {
+  const std::string words = PlaceInWords(place, 1);
+  return words.empty() ? words : words + ": ";
+}
+
+/// A line, and what it is sorted by: first the group as a whole, with removed ones before that which has their number
+/// now, then its fields.
+struct RankedLine {
+  GroupPlace place;
+  int rank;
+  std::string text;
+};
+
+using RankedLines = std::vector<RankedLine>;
+
+/// A group that was removed, in the second file.
+GroupPlace PlaceOfRemoved(const GroupChange& change) {
+  GroupPlace place = change.after;
+  const std::size_t depth = DepthOf(change.before);
+  if (depth != 0) place[depth - 1] = change.before[depth - 1];
+  return place;
+}
+
+/// What a whole group is called under its heading.
+std::string GroupPrefix(const GroupPlace& place) {
+  const bool isTop = DepthOf(place) == 1;
+  return isTop ? std::string() : Prefix(place);
+}
+
+std::string Summarised(const char* what, const GroupChange& change) {
+  std::string text = what;
+  if (!change.summary.empty()) return text.append(": ").append(Printable(change.summary));
+  return text.append(", with ").append(Amount(change.fieldCount, "field"));
+}
+
+/// "was Source PDO 3", or the component's whole place.
+std::string FormerPlace(const GroupChange& change) {
+  const std::size_t depth = DepthOf(change.before);
+  return PlaceInWords(change.before, depth - 1);
+}
+
+RankedLine GroupLine(const GroupChange& change) {
+  switch (change.kind) {
+    case GroupChangeKind::Added:
+      return {change.after, 1, GroupPrefix(change.after) + Added(Summarised("added", change))};
+    case GroupChangeKind::Removed: {
+      const GroupPlace place = PlaceOfRemoved(change);
+      return {place, 0, GroupPrefix(place) + Removed(Summarised("removed", change))};
+    }
+    case GroupChangeKind::Moved: {
+      const std::string summary = change.summary.empty() ? "" : " (" + Printable(change.summary) + ")";
+      return {change.after, 1, GroupPrefix(change.after) + "moved, was " + FormerPlace(change) + summary};
+    }
+    case GroupChangeKind::Renumbered: break;
+  }
+  return {change.after, 1, GroupPrefix(change.after) + "was " + FormerPlace(change)};
+}
+
+/// Whether both were renumbered, and have consecutive numbers in both files.
+bool Continues(const GroupChange& previous, const GroupChange& next) {
+  if (previous.kind != GroupChangeKind::Renumbered || next.kind != GroupChangeKind::Renumbered) return false;
+  const auto following = [](GroupPlace place) {
+    const std::size_t depth = DepthOf(place);
+    if (depth != 0) ++std::get<1>(place[depth - 1]);
+    return place;
+  };
+  return following(previous.before) == next.before && following(previous.after) == next.after;
+}
+
+RankedLine RunLine(const GroupChange& first, const GroupChange& last) {
+  if (&first == &last) return GroupLine(first);
+  const std::size_t depth = DepthOf(first.after) - 1;
+  const auto to = [&](const GroupPlace& end) { return " to " + NumberText(end[depth]); };
+  std::string text = PlaceInWords(first.after, depth == 0 ? 0 : 1) + to(last.after);
+  text.append(": were ").append(NumberText(first.before[depth])).append(to(last.before));
+  return {first.after, 1, std::move(text)};
+}
+
+void AddGroupLines(const std::vector<GroupChange>& groups, RankedLines& lines) {
+  for (std::size_t first = 0; first < groups.size();) {
+    std::size_t last = first;
+    while (last + 1 < groups.size() && Continues(groups[last], groups[last + 1])) ++last;
+    lines.push_back(RunLine(groups[first], groups[last]));
+    first = last + 1;
+  }
+}
+
+}  // namespace
+
+std::vector<DifferenceLine> DifferenceLines(const Differences& differences, bool withDescriptions) {
+  RankedLines ranked;
+  AddGroupLines(differences.groups, ranked);
+  for (const Difference& difference : differences.fields) {
+    if (difference.group != Difference::kNoGroup) continue;
+    ranked.push_back({difference.place, 2, Prefix(difference.place) + FieldText(difference, withDescriptions)});
+  }
+  std::stable_sort(ranked.begin(), ranked.end(), [](const RankedLine& a, const RankedLine& b) {
+    return std::tie(a.place, a.rank) < std::tie(b.place, b.rank);
+  });
+  std::vector<DifferenceLine> lines;
+  lines.reserve(ranked.size());
+  for (RankedLine& line : ranked) lines.push_back({line.place, std::move(line.text)});
+  return lines;
+}
+
+std::string DifferenceSummary(const Differences& differences) {
+  if (differences.IsEmpty()) return "no differences";
+  constexpr std::size_t kinds = 5;
+  constexpr std::array<const char*, kinds> words = {"changed", "added", "removed", "moved", "renumbered"};
+  std::array<std::size_t, kinds> counts = {};
+  for (const Difference& difference : differences.fields) {
+    if (difference.group == Difference::kNoGroup) ++counts[static_cast<std::size_t>(difference.kind)];
+  }
+  for (const GroupChange& change : differences.groups) ++counts[static_cast<std::size_t>(change.kind) + 1];
+  std::size_t total = counts[0] + counts[1] + counts[2] + counts[3];
+  if (total != 0) counts[4] = 0;
+  total += counts[4];
+  std::string summary = Amount(total, "difference") + ':';
+  const char* separator = " ";
+  for (std::size_t kind = 0; kind < kinds; ++kind) {
+    if (counts[kind] == 0) continue;
+    summary.append(separator).append(std::to_string(counts[kind])).append(" ").append(words[kind]);
+    separator = ", ";
+  }
+  return summary;
+}
+
+}  // namespace cli
