@@ -1,7 +1,7 @@
 #include "diff/GroupComparison.h"
 
-#include "diff/FieldMeaning.h"
 #include "diff/GroupAlignment.h"
+#include "diff/Meaning.h"
 
 #include <analysis/FieldText.h>
 
@@ -16,14 +16,13 @@ namespace vifanalysis {
 
 namespace {
 
-using NamedField = CGroupView::NamedFields::value_type;
 using NamedSpan = std::span<const NamedField>;
 using GroupSpan = std::span<const CGroupView>;
 
 /// Takes the fields of one name from the beginning.
 NamedSpan TakeNamed(std::string_view name, NamedSpan& fields) {
   const auto end =
-      std::find_if(fields.begin(), fields.end(), [&](const NamedField& field) { return field.first != name; });
+      std::find_if(fields.begin(), fields.end(), [&](const NamedField& field) { return field.name != name; });
   const NamedSpan taken(fields.begin(), end);
   fields = fields.subspan(taken.size());
   return taken;
@@ -111,7 +110,7 @@ class CComparison {
   /// All fields of a group that the other file lacks.
   void AddWhole(const CGroupView& whole, const GroupPlace& place, DifferenceKind kind, std::size_t group) {
     const bool isAdded = kind == DifferenceKind::Added;
-    for (const auto& [name, found] : whole.Fields()) {
+    for (const auto& [name, found, isSound] : whole.Fields()) {
       AddDifference(kind, name, place, group, isAdded ? nullptr : found, whole, isAdded ? found : nullptr, whole);
     }
     for (const CGroupView& inner : whole.Groups()) AddWhole(inner, PlaceWithin(place, inner), kind, group);
@@ -121,10 +120,10 @@ class CComparison {
     NamedSpan fieldsBefore = before.Fields();
     NamedSpan fieldsAfter = after.Fields();
     while (!fieldsBefore.empty() || !fieldsAfter.empty()) {
-      const std::string_view name = fieldsAfter.empty() ? fieldsBefore.front().first
+      const std::string_view name = fieldsAfter.empty() ? fieldsBefore.front().name
                                     : fieldsBefore.empty()
-                                        ? fieldsAfter.front().first
-                                        : std::min(fieldsBefore.front().first, fieldsAfter.front().first);
+                                        ? fieldsAfter.front().name
+                                        : std::min(fieldsBefore.front().name, fieldsAfter.front().name);
       const NamedSpan ofBefore = TakeNamed(name, fieldsBefore);
       const NamedSpan ofAfter = TakeNamed(name, fieldsAfter);
       if (m_isLeftOut == nullptr || !m_isLeftOut(name)) CompareNamed(name, ofBefore, before, ofAfter, after);
@@ -135,17 +134,17 @@ class CComparison {
   /// are equal are set aside, so that one more is one difference.
   void CompareNamed(std::string_view name, NamedSpan before, const CGroupView& groupBefore, NamedSpan after,
                     const CGroupView& groupAfter) {
-    while (!before.empty() && !after.empty() && AreEqual(*before.front().second, *after.front().second)) {
+    while (!before.empty() && !after.empty() && AreEqual(*before.front().field, *after.front().field)) {
       before = before.subspan(1);
       after = after.subspan(1);
     }
-    while (!before.empty() && !after.empty() && AreEqual(*before.back().second, *after.back().second)) {
+    while (!before.empty() && !after.empty() && AreEqual(*before.back().field, *after.back().field)) {
       before = before.first(before.size() - 1);
       after = after.first(after.size() - 1);
     }
     for (std::size_t i = 0; i < std::max(before.size(), after.size()); ++i) {
-      const FoundField* old = i < before.size() ? before[i].second : nullptr;
-      const FoundField* now = i < after.size() ? after[i].second : nullptr;
+      const FoundField* old = i < before.size() ? before[i].field : nullptr;
+      const FoundField* now = i < after.size() ? after[i].field : nullptr;
       if (old != nullptr && now != nullptr && AreEqual(*old, *now)) continue;
       const DifferenceKind kind = old == nullptr   ? DifferenceKind::Added
                                   : now == nullptr ? DifferenceKind::Removed

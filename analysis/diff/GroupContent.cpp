@@ -47,7 +47,7 @@ bool IsTelling(std::string_view name) {
 
 void AddFields(const CGroupView& group, bool isInner, DiffContent& content) {
   constexpr std::uint64_t tellingWeight = 4;
-  for (const auto& [name, found] : group.Fields()) {
+  for (const auto& [name, found, isSound] : group.Fields()) {
     const bool isTelling = IsTelling(name);
     const std::uint64_t nameHash = Hash(name, kHashBegin);
     const std::uint64_t valueHash = Hash(found->field.Value(), nameHash);

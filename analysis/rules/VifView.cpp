@@ -1,4 +1,5 @@
 #include "rules/VifView.h"
+#include "files/GroupTree.h"
 
 #include <analysis/FieldText.h>
 
@@ -10,16 +11,6 @@ namespace {
 
 using FieldsByPlace = std::map<GroupPlace, CGroupView::NamedFields>;
 
-/// The place of the innermost group that a field is in.
-GroupPlace PlaceOf(const CVIFField& field) {
-  GroupPlace place;
-  place.fill(CVIFField::UNSPECIFIED_INDEX);
-  for (std::size_t depth = 0; depth < place.size() && IsUsed(field.Indexes()[depth]); ++depth) {
-    place[depth] = field.Indexes()[depth];
-  }
-  return place;
-}
-
 std::string_view NameOf(const CVIFField& field) {
   const std::string_view name = field.Name();
   return name.starts_with('$') ? name.substr(1) : name;
@@ -29,7 +20,7 @@ FieldsByPlace SortByPlace(const FoundFields& fields, const UnsoundFields& unsoun
   FieldsByPlace sorted;
   auto last = sorted.end();  // fields of one group usually stand together
   for (const FoundField& found : fields) {
-    const GroupPlace place = PlaceOf(found.field);
+    const GroupPlace place = GroupPlaceOf(found.field);
     if (last == sorted.end() || last->first != place) last = sorted.try_emplace(place).first;
     last->second.push_back({NameOf(found.field), &found, !unsound.contains(&found)});
   }

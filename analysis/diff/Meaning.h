@@ -4,16 +4,13 @@
 #include "rules/GroupView.h"
 
 #include <analysis/Edition.h>
+#include <analysis/FieldMeaning.h>
 
 #include <string>
 
 namespace vifanalysis {
 
-struct FieldMeaning {
-  std::string text;          ///< "9 V", "Fixed", "YES"; empty when it is not known, or no more than the number
-  bool isUncertain = false;  ///< whether that has low confidence
-};
-
+/// What a field's number stands for, empty when that is no more than the number.
 /// \param group the group of the field, whose supply type decides the units of a PDO
 FieldMeaning MeaningOf(const FoundField& found, const CGroupView& group, const Edition& edition);
 

@@ -1,12 +1,9 @@
-#include "diff/FieldMeaning.h"
+#include "diff/Meaning.h"
 
-#include <analysis/FieldText.h>
 #include <analysis/PowerProfile.h>
-#include <analysis/Vocabulary.h>
 
-#include <cstdint>
-#include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace vifanalysis {
@@ -27,7 +24,7 @@ PdoContext ContextOf(const CGroupView& group, const Edition& edition) {
 
 std::string PdoSummary(const CGroupView& group) {
   std::vector<const CVIFField*> fields;
-  for (const auto& [name, found] : group.Fields()) fields.push_back(&found->field);
+  for (const NamedField& named : group.Fields()) fields.push_back(&named.field->field);
   const PowerProfile profile = DescribePdo(fields);
   std::string summary;
   for (const std::string& part : {profile.supply, profile.voltage, profile.current, profile.power}) {
@@ -52,18 +49,8 @@ std::string LabelOf(const CGroupView& component) {
 }  // namespace
 
 FieldMeaning MeaningOf(const FoundField& found, const CGroupView& group, const Edition& edition) {
-  if (!HasNumber(found.field)) return {};
-  const FieldInfo* info = FindField(found.field.Name()).field;
-  if (info == nullptr) return {};
-  const std::uint64_t number = found.field.GetULongNumericValue();
-  const std::string_view text = ValueText(*info, number, edition);
-  if (!text.empty()) return {std::string(text), FindValue(*info, number)->confidence == Confidence::Low};
-  const PdoContext context = ContextOf(group, edition);
-  const std::optional<Quantity> quantity = QuantityOf(*info, number, context);
-  if (!quantity) return {};
-  std::string words = QuantityText(*quantity);
-  if (words == found.field.Value()) return {};
-  return {std::move(words), FindUnit(*info, context)->confidence == Confidence::Low};
+  FieldMeaning meaning = MeaningOf(found.field, ContextOf(group, edition));
+  return meaning.text == found.field.Value() ? FieldMeaning{} : std::move(meaning);
 }
 
 std::string SummaryOf(const CGroupView& group) {
