@@ -1,7 +1,9 @@
 #include "diff/Meaning.h"
 
+#include <analysis/FieldText.h>
 #include <analysis/PowerProfile.h>
 
+#include <optional>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -20,6 +22,14 @@ PdoContext ContextOf(const CGroupView& group, const Edition& edition) {
   context.apdoType = group.Number(prefix + "APDO_Type");
   context.thresholdType = group.Number("Src_PD_OCP_UV_Threshold_Type");
   return context;
+}
+
+/// A number as it is usually written: IDs and bits in hexadecimal digits.
+std::string UsualNotation(const CVIFField& field) {
+  const FieldInfo* info = FindField(field.Name()).field;
+  if (info == nullptr || !HasNumber(field)) return {};
+  const std::optional<Quantity> quantity = QuantityOf(*info, field.GetULongNumericValue());
+  return quantity ? QuantityText(*quantity) : std::string();
 }
 
 std::string PdoSummary(const CGroupView& group) {
@@ -50,6 +60,7 @@ std::string LabelOf(const CGroupView& component) {
 
 FieldMeaning MeaningOf(const FoundField& found, const CGroupView& group, const Edition& edition) {
   FieldMeaning meaning = MeaningOf(found.field, ContextOf(group, edition));
+  if (meaning.text.empty()) meaning.text = UsualNotation(found.field);
   return meaning.text == found.field.Value() ? FieldMeaning{} : std::move(meaning);
 }
 

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+namespace zotext {
+
 /// Copies ASCII text into characters of another width. Nearly all text of a VIF is ASCII, and copying it many
 /// characters at a time is much faster than decoding them one by one.
 /// \param copy room for as many characters as the text has
@@ -39,3 +41,5 @@ inline void AppendUtf8(std::string& text, char32_t code) {
   append(code >= 0x800 ? 0x80 | (code >> 6 & 0x3F) : 0xC0 | code >> 6);
   append(0x80 | (code & 0x3F));
 }
+
+}  // namespace zotext

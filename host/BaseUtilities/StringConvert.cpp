@@ -82,7 +82,7 @@ Decoded DecodeWide(std::wstring_view text) {
 
 std::wstring Utf8ToUtf16(std::string_view text) {
   std::wstring out(text.size(), L'\0');
-  if (CopyAscii(text, out.data())) return out;
+  if (zotext::CopyAscii(text, out.data())) return out;
   out.clear();
   while (!text.empty()) {
     const Decoded next = DecodeUtf8(text);
@@ -94,11 +94,11 @@ std::wstring Utf8ToUtf16(std::string_view text) {
 
 std::string Utf16ToUtf8(std::wstring_view text) {
   std::string out(text.size(), '\0');
-  if (CopyAscii(text, out.data())) return out;
+  if (zotext::CopyAscii(text, out.data())) return out;
   out.clear();
   while (!text.empty()) {
     const Decoded next = DecodeWide(text);
-    AppendUtf8(out, next.codePoint);
+    zotext::AppendUtf8(out, next.codePoint);
     text.remove_prefix(next.length);
   }
   return out;

@@ -212,7 +212,7 @@ BSTR MakeBstr(std::string_view utf8) {
   if (utf8.size() > std::numeric_limits<UINT>::max()) _com_issue_error(E_OUTOFMEMORY);
   BSTR text = SysAllocStringLen(nullptr, static_cast<UINT>(utf8.size()));
   if (text == nullptr) _com_issue_error(E_OUTOFMEMORY);
-  if (CopyAscii(utf8, text)) return text;
+  if (zotext::CopyAscii(utf8, text)) return text;
   SysFreeString(text);
   return CBstr(Utf8ToUtf16(utf8)).Detach();
 }

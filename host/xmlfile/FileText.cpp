@@ -68,10 +68,10 @@ std::string Utf8OfUtf16(std::string_view bytes, bool isBigEndian) {
     const std::uint32_t unit = unitAt(i);
     const std::uint32_t next = unitAt(i + 2);
     if (unit >= 0xD800 && unit < 0xDC00 && next >= 0xDC00 && next < 0xE000) {
-      AppendUtf8(text, 0x10000 + (unit - 0xD800) * 0x400 + (next - 0xDC00));
+      zotext::AppendUtf8(text, 0x10000 + (unit - 0xD800) * 0x400 + (next - 0xDC00));
       i += 2;
     } else {
-      AppendUtf8(text, unit >= 0xD800 && unit < 0xE000 ? 0xFFFD : unit);
+      zotext::AppendUtf8(text, unit >= 0xD800 && unit < 0xE000 ? 0xFFFD : unit);
     }
   }
   return text;
