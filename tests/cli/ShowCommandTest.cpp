@@ -77,8 +77,9 @@ INSTANTIATE_TEST_SUITE_P(
                             "Src_PDO_Max_Current1: 60\n",
                             "    1    Augmented           ?               Src_PDO_APDO_Type=99999999999999999999"},
                     // Only an adjustable voltage supply has a PDP rating.
-                    PdoCase{"Src_PDO_Supply_Type1: 3\nSrc_PDO_PDP_Rating1: 140\nSrc_PDO_Min_Voltage1: 9\n",
-                            "    1    Augmented  0.9 to ? V                  Src_PDO_PDP_Rating=140 (140 W, uncertain)"},
+                    PdoCase{
+                        "Src_PDO_Supply_Type1: 3\nSrc_PDO_PDP_Rating1: 140\nSrc_PDO_Min_Voltage1: 9\n",
+                        "    1    Augmented  0.9 to ? V                  Src_PDO_PDP_Rating=140 (140 W, uncertain)"},
                     PdoCase{"Src_PDO_Supply_Type1: 0\nSrc_PDO_Voltage1: 99999999999999999999\n", "    1    Fixed   ?"},
                     PdoCase{"Src_PDO_Supply_Type1: 0\nSrc_PDO_Voltage1: 18446744073709551614\n", "    1    Fixed   ?"},
                     PdoCase{"Src_PDO_Supply_Type: 0\nSrc_PDO_Voltage: 100\n", "    ?    Fixed   5 V"}));
