@@ -43,9 +43,6 @@ std::string Xml(const std::string& vendor) {
 class DiffInGit : public testing::Test {
  protected:
   void SetUp() override {
-#ifdef _WIN32
-    GTEST_SKIP() << "git runs the commands of its configuration in a shell, which Windows does not have";
-#else
     if (!std::filesystem::exists(kGit)) GTEST_SKIP() << "there is no " << kGit;
     Git({"init", "--quiet"});
     Git({"config", "user.name", "Test"});
@@ -58,7 +55,6 @@ class DiffInGit : public testing::Test {
     Git({"commit", "--quiet", "-m", "First"});
     m_dir.Write("charger.txt", "; Reviewed.\n\nPID_SOP: 100\nSrc_PDO_Supply_Type2: 0 ; Fixed\nSrc_PDO_Voltage2: 240\n");
     m_dir.Write("charger.xml", Xml("Acme Ltd."));
-#endif
   }
 
   /// Runs git in the repository, without the configuration of the user and the system, and with the command in the
