@@ -40,7 +40,9 @@ class CDomAttributes final : public IXMLDOMNamedNodeMap {
  private:
   static bool IsNamed(const xmlAttr& attribute, std::wstring_view wanted) {
     const std::string_view name = View(attribute.name);
-    const auto isSame = [](char a, wchar_t b) { return a > 0 && static_cast<wchar_t>(a) == b; };  // ASCII
+    const auto isSame = [](char a, wchar_t b) {
+      return static_cast<unsigned char>(a) < 0x80 && static_cast<wchar_t>(a) == b;  // ASCII
+    };
     if (attribute.ns == nullptr && std::equal(name.begin(), name.end(), wanted.begin(), wanted.end(), isSame)) {
       return true;  // as nearly always, and without memory
     }
