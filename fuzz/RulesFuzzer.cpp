@@ -9,7 +9,6 @@
 #include "files/GroupTree.h"
 #include "files/KnownNames.h"
 #include "rules/Rule.h"
-#include "rules/VifView.h"
 
 #include <analysis/Rules.h>
 
@@ -78,7 +77,7 @@ UndefinedNames UndefinedNamesOf(const FoundFields& fields) {
 
 Findings Check(const FoundFields& fields) {
   Findings findings;
-  const vifanalysis::Edition edition = vifanalysis::CVifView(fields).GetEdition().value_or(vifanalysis::Edition{});
+  const vifanalysis::Edition edition = vifanalysis::EditionNamedBy(fields).value_or(vifanalysis::Edition{});
   for (const NameStyle style : {NameStyle::Text, NameStyle::Xml}) {
     vifanalysis::FindUndefinedNames(UndefinedNamesOf(fields), style, edition, findings);
   }
