@@ -32,7 +32,11 @@ bool IsConsumer(const CComponentView& component, const CReporter& reporter) {
 
 /// Whether the port does not respond in the role, unless alt-mode-role has found just that.
 bool IsSilent(const CComponentView& component, std::string_view responds, const CReporter& reporter) {
-  return component.IsNo(responds) && !reporter.HasFound("alt-mode-role", *component.Find(responds));
+  if (!component.IsNo(responds)) return false;
+  const FoundField* adapter = component.Find("Type_C_Is_Alt_Mode_Adapter");
+  const bool isAdaptersFault =
+      responds == kUfp.responds && adapter != nullptr && reporter.HasFound("alt-mode-role", *adapter);
+  return !isAdaptersFault && !reporter.HasFound("alt-mode-role", *component.Find(responds));
 }
 
 /// Whether the port does not have the role, unless data-role-contradiction doubts just that.
