@@ -31,9 +31,10 @@ void CheckXmlFields(const FoundFields& fields, const GroupTree& tree, Findings& 
   FindMissingValues(fields, findings);
 }
 
-bool HaveOnePlace(const Finding& a, const Finding& b) {
-  return std::tie(a.line, a.column, a.element) == std::tie(b.line, b.column, b.element);
-}
+/// Line, column and element; borrows the finding.
+using FindingPlace = std::tuple<std::size_t, std::size_t, std::string_view>;
+
+FindingPlace PlaceOf(const Finding& finding) { return {finding.line, finding.column, finding.element}; }
 
 /// Adds what contradicts itself. A count that differs from the groups usually differs from its text, too; that is one
 /// mistake.
@@ -41,10 +42,12 @@ void AddContradictions(const FoundFields& fields, Findings& findings) {
   const std::size_t before = findings.size();
   FindContradictions(fields, findings);
   const auto first = findings.begin() + static_cast<std::ptrdiff_t>(before);
+  std::set<FindingPlace> wrongCounts;
+  std::for_each(findings.begin(), first, [&](const Finding& finding) {
+    if (finding.code == code::kCountMismatch.code) wrongCounts.insert(PlaceOf(finding));
+  });
   const auto isOfAWrongCount = [&](const Finding& finding) {
-    return finding.code == "text-against-value" && std::any_of(findings.begin(), first, [&](const Finding& other) {
-             return other.code == code::kCountMismatch.code && HaveOnePlace(other, finding);
-           });
+    return finding.code == "text-against-value" && wrongCounts.contains(PlaceOf(finding));
   };
   findings.erase(std::remove_if(first, findings.end(), isOfAWrongCount), findings.end());
 }
