@@ -25,8 +25,8 @@ class VIF_ANALYSIS_API CCheckError : public std::runtime_error {
 
 /// Which findings to report.
 struct CheckOptions {
-  bool notes = false;                 ///< whether to report notes, too
-  std::vector<std::string> only{};    ///< codes in any letter case; unless empty, only findings with these are reported
+  bool notes = false;               ///< whether to report notes, too; those whose codes `only` has are reported anyway
+  std::vector<std::string> only{};  ///< codes in any letter case; unless empty, only findings with these are reported
   std::vector<std::string> except{};  ///< codes in any letter case; findings with these are not reported
 };
 

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 class CVIFField;
 
@@ -26,8 +27,13 @@ struct Edition {
 VIF_ANALYSIS_API std::optional<Edition> ParseEdition(std::string_view text);
 
 /// The edition that a field of a file says the file follows; nothing unless the field is VIF_Specification, of the file
-/// as a whole, and names one.
+/// as a whole, and names one. Throws nothing. May be called from any number of threads at once.
 VIF_ANALYSIS_API std::optional<Edition> EditionNamedBy(const CVIFField& field);
+
+/// The edition that all fields of a file say it follows; nothing when none names one, or they name different ones. The
+/// same for several files whose fields are in one list. Throws nothing. May be called from any number of threads at
+/// once.
+VIF_ANALYSIS_API std::optional<Edition> EditionNamedBy(const std::vector<CVIFField>& fields);
 
 /// The edition as text, such as "3.22"; the minor number has at least two digits, as in "2.04".
 VIF_ANALYSIS_API std::string EditionText(const Edition& edition);

@@ -15,9 +15,9 @@ struct FieldMeaning {
   bool isUncertain = false;  ///< whether that has low confidence
 };
 
-/// The text of a field's value, or the amount that its number is.
+/// The text of a field's value, or the amount that its number is. May be called from any number of threads at once.
 /// \param context the PDO that the field is in, if any, and the edition of the file
-/// Throws std::bad_alloc only. May be called from any number of threads at once.
+/// \throws std::bad_alloc
 VIF_ANALYSIS_API FieldMeaning MeaningOf(const CVIFField& field, const PdoContext& context = {});
 
 }  // namespace vifanalysis

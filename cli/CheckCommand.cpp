@@ -134,7 +134,7 @@ void AddOptions(CLI::App& command, CheckSettings& settings) {
       ->check(CLI::IsMember({"text", "json", "sarif"}).description(""))
       ->option_text("FORMAT");
   command.add_flag("--notes", settings.options.notes, "Print notes, too");
-  AddCodesOption(command, "--only", settings.options.only, "Print only findings with these codes");
+  AddCodesOption(command, "--only", settings.options.only, "Print only findings with these codes, notes included");
   AddCodesOption(command, "--except", settings.options.except, "Print no findings with these codes");
   command
       .add_option("--fail-on", settings.failOn,

@@ -25,15 +25,13 @@ using cli::Status;
 
 constexpr const char* kDescription =
     "Reads Vendor Info Files (VIFs), in which the vendor of a USB Type-C, USB Power Delivery or USB4 product declares "
-    "its "
-    "capabilities for compliance testing.";
+    "its capabilities for compliance testing.";
 
 constexpr const char* kFooter =
     "'vif COMMAND --help' describes a command, with examples.\n"
     "\n"
     "Exit status: 0 done; 1 ran, but found no match, problems or differences; 2 failed, with one line on standard "
-    "error that "
-    "says why.";
+    "error that says why.";
 
 Status Fail(std::string_view reason, Status status = kFailed) {
   std::fprintf(stderr, "vif: %s\n", vifanalysis::Printable(reason).c_str());

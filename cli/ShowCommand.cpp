@@ -23,7 +23,6 @@ using vifanalysis::DescribePdo;
 using vifanalysis::Edition;
 using vifanalysis::EditionNamedBy;
 using vifanalysis::FieldMeaning;
-using vifanalysis::IsKnown;
 using vifanalysis::IsUsed;
 using vifanalysis::LocationName;
 using vifanalysis::MeaningOf;
@@ -42,8 +41,8 @@ constexpr const char* kFooter =
     "file leaves open, such as the voltage of a PDO without a supply type.\n"
     "\n"
     "A text in parentheses is not the file's: it is what the format says about a value that the file does not "
-    "describe, "
-    "or the number in its unit. \"uncertain\" marks what is concluded from few sources.\n"
+    ""
+    "describe, or the number in its unit. \"uncertain\" marks what is concluded from few sources.\n"
     "\n"
     "On a terminal, headings are bold and texts in parentheses dimmed, unless NO_COLOR is set.\n"
     "\n"
@@ -72,18 +71,6 @@ Group MakeTree(const std::vector<CVIFField>& fields) {
     group->fields.push_back(&field);
   }
   return root;
-}
-
-/// The edition that the files follow; not known when they name none, or different ones.
-Edition EditionOf(const std::vector<CVIFField>& fields) {
-  Edition edition;
-  for (const CVIFField& field : fields) {
-    const std::optional<Edition> named = EditionNamedBy(field);
-    if (!named) continue;
-    if (IsKnown(edition) && *named != edition) return {};
-    edition = *named;
-  }
-  return edition;
 }
 
 constexpr size_t kIndent = 2;
@@ -200,7 +187,7 @@ void RunShow(const std::vector<std::string>& files) {
   const VifFieldList fields = vif.GetFields();
   std::string names;
   for (const std::string& file : files) names += (names.empty() ? "" : ", ") + Printable(file);
-  WriteFile(names, MakeTree(*fields), EditionOf(*fields));
+  WriteFile(names, MakeTree(*fields), EditionNamedBy(*fields).value_or(Edition{}));
 }
 
 }  // namespace

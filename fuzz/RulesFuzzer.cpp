@@ -6,6 +6,8 @@
 #include "Input.h"
 #include "TextReader.h"
 #include "files/FormRules.h"
+#include "files/GroupTree.h"
+#include "files/KnownNames.h"
 #include "rules/Rule.h"
 
 #include <analysis/Rules.h>
@@ -23,7 +25,10 @@ namespace {
 using fuzz::Require;
 using vifanalysis::Finding;
 using vifanalysis::Findings;
+using vifanalysis::FoundField;
 using vifanalysis::FoundFields;
+using vifanalysis::NameStyle;
+using vifanalysis::UndefinedNames;
 
 /// The lines of an input, which both kinds of fields come from.
 class CInput {
@@ -59,12 +64,30 @@ class CInput {
   std::size_t m_lines = 0;
 };
 
+/// The names that neither form of a VIF defines.
+UndefinedNames UndefinedNamesOf(const FoundFields& fields) {
+  UndefinedNames names;
+  for (const FoundField& found : fields) {
+    const std::string name = found.field.Name();
+    const bool isDefined = vifanalysis::FindDefinedAsWritten(name) != nullptr;
+    if (!isDefined) names.push_back({name, found.line, found.column, found.element});
+  }
+  return names;
+}
+
 Findings Check(const FoundFields& fields) {
   Findings findings;
-  for (const auto find : {vifanalysis::FindDuplicates, vifanalysis::FindBadNumbers, vifanalysis::FindNothing,
-                          vifanalysis::FindWrongCounts, vifanalysis::FindBadNumbering, vifanalysis::FindTextsForGroups,
-                          vifanalysis::FindUnknownNames, vifanalysis::FindMissingValues, vifanalysis::FindMisplaced,
-                          vifanalysis::FindContradictions}) {
+  const vifanalysis::Edition edition = vifanalysis::EditionNamedBy(fields).value_or(vifanalysis::Edition{});
+  for (const NameStyle style : {NameStyle::Text, NameStyle::Xml}) {
+    vifanalysis::FindUndefinedNames(UndefinedNamesOf(fields), style, edition, findings);
+  }
+  const vifanalysis::GroupTree tree = vifanalysis::MakeGroupTree(fields);
+  vifanalysis::FindDuplicates(fields, tree, findings);
+  vifanalysis::FindBadNumbering(fields, tree, findings);
+  vifanalysis::FindWrongCounts(tree, findings);
+  for (const auto find :
+       {vifanalysis::FindBadNumbers, vifanalysis::FindNothing, vifanalysis::FindTextsForGroups,
+        vifanalysis::FindMissingValues, vifanalysis::FindMisplaced, vifanalysis::FindContradictions}) {
     find(fields, findings);
   }
   return findings;
@@ -92,7 +115,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const CInput input(std::string_view(reinterpret_cast<const char*>(data), size));
   const Findings findings = Check(input.Fields());
   for (const Finding& finding : findings) CheckFinding(finding, input.Lines());
-  const Findings again = Check(input.Fields());
+  const FoundFields copy = input.Fields();  // at other addresses, on which no finding depends
+  const Findings again = Check(copy);
   Require(std::equal(findings.begin(), findings.end(), again.begin(), again.end(), AreSame),
           "the same fields have the same findings");
   return 0;

@@ -7,6 +7,7 @@
 #include <analysis/Files.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <optional>
 #include <set>
 #include <string_view>
@@ -30,19 +31,32 @@ void CheckXmlFields(const FoundFields& fields, const GroupTree& tree, Findings& 
   FindMissingValues(fields, findings);
 }
 
+/// Line, column and element; borrows the finding.
+using FindingPlace = std::tuple<std::size_t, std::size_t, std::string_view>;
+
+FindingPlace PlaceOf(const Finding& finding) { return {finding.line, finding.column, finding.element}; }
+
+/// Adds what contradicts itself. A count that differs from the groups usually differs from its text, too; that is one
+/// mistake.
+void AddContradictions(const FoundFields& fields, Findings& findings) {
+  const std::size_t before = findings.size();
+  FindContradictions(fields, findings);
+  const auto first = findings.begin() + static_cast<std::ptrdiff_t>(before);
+  std::set<FindingPlace> wrongCounts;
+  std::for_each(findings.begin(), first, [&](const Finding& finding) {
+    if (finding.code == code::kCountMismatch.code) wrongCounts.insert(PlaceOf(finding));
+  });
+  const auto isOfAWrongCount = [&](const Finding& finding) {
+    return finding.code == "text-against-value" && wrongCounts.contains(PlaceOf(finding));
+  };
+  findings.erase(std::remove_if(first, findings.end(), isOfAWrongCount), findings.end());
+}
+
 /// The rules that compare fields. In half of a file, fields would seem to be missing, or not to agree with the rest.
 void CheckWhole(const FoundFields& fields, const GroupTree& tree, bool isText, Findings& findings) {
   if (isText) FindBadNumbering(fields, tree, findings);
   FindWrongCounts(tree, findings);
-  FindContradictions(fields, findings);
-}
-
-/// {0, 0} for a file that names no edition.
-Edition EditionOf(const FoundFields& fields) {
-  for (const FoundField& found : fields) {
-    if (const std::optional<Edition> edition = EditionNamedBy(found.field)) return *edition;
-  }
-  return {};
+  AddContradictions(fields, findings);
 }
 
 Findings CheckPath(const std::filesystem::path& path) {
@@ -58,7 +72,8 @@ Findings CheckPath(const std::filesystem::path& path) {
     const std::optional<std::string> advice = AdviceOnExtension(path);
     if (advice) return {FindingAt(code::kWrongExtension, 0, 0, {}, *advice)};
   }
-  FindUndefinedNames(undefinedNames, isText ? NameStyle::Text : NameStyle::Xml, EditionOf(fields), findings);
+  const Edition edition = EditionNamedBy(fields).value_or(Edition{});
+  FindUndefinedNames(undefinedNames, isText ? NameStyle::Text : NameStyle::Xml, edition, findings);
   const GroupTree tree = MakeGroupTree(fields);
   (isText ? CheckTextFields : CheckXmlFields)(fields, tree, findings);
   FindNothing(fields, findings);
@@ -82,8 +97,9 @@ void KeepWanted(Findings& findings, const CheckOptions& options) {
   const Codes only = CodesOf(options.only);
   const Codes except = CodesOf(options.except);
   std::erase_if(findings, [&](const Finding& finding) {
-    const bool isUnwantedNote = finding.severity == Severity::Note && !options.notes;
-    const bool isLeftOut = !options.only.empty() && !only.contains(finding.code);
+    const bool isNamed = only.contains(finding.code);
+    const bool isUnwantedNote = finding.severity == Severity::Note && !options.notes && !isNamed;
+    const bool isLeftOut = !options.only.empty() && !isNamed;
     return isUnwantedNote || isLeftOut || except.contains(finding.code);
   });
 }

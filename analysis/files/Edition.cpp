@@ -1,9 +1,30 @@
+#include "FoundField.h"
+
 #include <VIFField.h>
 #include <analysis/Edition.h>
 
 #include <charconv>
 
 namespace vifanalysis {
+
+namespace {
+
+const CVIFField& FieldOf(const CVIFField& field) { return field; }
+const CVIFField& FieldOf(const FoundField& found) { return found.field; }
+
+template <typename List>
+std::optional<Edition> CommonEdition(const List& fields) {
+  std::optional<Edition> edition;
+  for (const auto& field : fields) {
+    const std::optional<Edition> named = EditionNamedBy(FieldOf(field));
+    if (!named) continue;
+    if (edition && *named != *edition) return std::nullopt;
+    edition = named;
+  }
+  return edition;
+}
+
+}  // namespace
 
 std::optional<Edition> ParseEdition(std::string_view text) {
   constexpr std::string_view prefix = "Version ";
@@ -25,6 +46,10 @@ std::optional<Edition> EditionNamedBy(const CVIFField& field) {
   const std::string_view value = field.Value();
   return ParseEdition(value.empty() ? field.Description() : value);
 }
+
+std::optional<Edition> EditionNamedBy(const std::vector<CVIFField>& fields) { return CommonEdition(fields); }
+
+std::optional<Edition> EditionNamedBy(const FoundFields& fields) { return CommonEdition(fields); }
 
 std::string EditionText(const Edition& edition) {
   return std::to_string(edition.major) + (edition.minor < 10 ? ".0" : ".") + std::to_string(edition.minor);

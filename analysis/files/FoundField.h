@@ -4,9 +4,11 @@
 #include "Codes.h"
 
 #include <VIFField.h>
+#include <analysis/Edition.h>
 #include <analysis/Finding.h>
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -32,6 +34,9 @@ struct UndefinedName {
 using UndefinedNames = std::vector<UndefinedName>;
 using FoundFields = std::vector<FoundField>;
 using Findings = std::vector<Finding>;
+
+/// The edition that the fields name, as the public function of that name has it.
+std::optional<Edition> EditionNamedBy(const FoundFields& fields);
 
 /// A finding at a place of the file.
 inline Finding FindingAt(const RuleInfo& rule, std::size_t line, std::size_t column, std::string element,

@@ -49,6 +49,14 @@ Supply FindSupply(const CPdoFields& fields) {
       {Number(fields.Find("Supply_Type")), kind != nullptr, Number(kind), fields.Find("PDP_Rating") != nullptr});
 }
 
+/// What the threshold for the voltage is given in.
+std::optional<std::uint64_t> ThresholdType(const std::vector<const CVIFField*>& fields) {
+  const auto found = std::find_if(fields.begin(), fields.end(), [](const CVIFField* field) {
+    return field->Name() == std::string_view("Src_PD_OCP_UV_Threshold_Type");
+  });
+  return found != fields.end() ? Number(*found) : std::nullopt;
+}
+
 const char* SupplyText(Supply supply, std::optional<std::uint64_t> supplyType) {
   constexpr std::uint64_t augmented = 3;
   switch (supply) {
@@ -106,6 +114,7 @@ PowerProfile DescribePdo(const std::vector<const CVIFField*>& list, const Editio
 
   PowerProfile profile;
   profile.context = ContextOf(supply);
+  profile.context.thresholdType = ThresholdType(list);
   profile.context.edition = edition;
   profile.supply = SupplyText(supply, Number(fields.Find("Supply_Type")));
   profile.voltage = lowest == nullptr && highest == nullptr

@@ -45,13 +45,13 @@ void CheckAssuredSum(const CVifView& file, CReporter& reporter) {
     return reporter.HasFound("product-power", *port) || reporter.HasFound("rating-above-pdos", *port->Find(kRating));
   };
   if (std::any_of(assured->ports.begin(), assured->ports.end(), isFound)) return;
-  reporter.Add(*assured->ports.front()->Find(kTotal),
-               std::to_string(assured->ports.size())
-                   .append(" ports with assured power (Port_Source_Power_Type 0) make ")
-                   .append(Watts(assured->sum))
-                   .append(" together, but the whole product has ")
-                   .append(Watts(assured->total))
-                   .append(" (Product_Total_Source_Power_mW)"));
+  reporter.AddToProduct(*assured->ports.front()->Find(kTotal),
+                        std::to_string(assured->ports.size())
+                            .append(" ports with assured power (Port_Source_Power_Type 0) add up to ")
+                            .append(Watts(assured->sum))
+                            .append(", but the whole product has ")
+                            .append(Watts(assured->total))
+                            .append(" (Product_Total_Source_Power_mW)"));
 }
 
 }  // namespace vifanalysis

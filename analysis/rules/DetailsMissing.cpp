@@ -18,8 +18,8 @@ struct Announcement {
   std::string_view field;
   std::uint64_t value;
   std::array<std::string_view, 2> details;  // the second may be empty
-  Edition
-      since{};  // the first edition to have them, where that is known better than from the files that have been seen
+  // The first edition to have them, where that is known better than from the files that have been seen.
+  Edition since{};
 };
 
 constexpr Announcement kAnnouncements[] = {
@@ -50,13 +50,14 @@ bool IsMissing(const CComponentView& component, std::string_view detail, const E
 
 void CheckAnnouncement(const CComponentView& component, const Announcement& announcement, CReporter& reporter) {
   if (component.Number(announcement.field) != announcement.value) return;
+  const FoundField& announcing = *component.Find(announcement.field);
+  if (reporter.HasFound("data-role-contradiction", announcing)) return;
   Names missing;
   for (const std::string_view detail : announcement.details) {
     if (IsMissing(component, detail, announcement.since)) missing.push_back(detail);
   }
   if (missing.empty()) return;
-  reporter.Add(*component.Find(announcement.field),
-               FieldIs(component, announcement.field) + ", but " + AreMissing(missing));
+  reporter.Add(announcing, FieldIs(component, announcement.field) + ", but " + AreMissing(missing));
 }
 
 /// A hub, a host or a power brick answers with a DFP VDO, which has the port's number.

@@ -38,6 +38,7 @@ void CheckHasEprPdo(const CComponentView& component, PdoSide side, CReporter& re
 void CheckRating(const CComponentView& component, PdoSide side, CReporter& reporter) {
   const std::optional<std::uint64_t> rating = component.Number(RatingName(side));
   if (!rating || *rating <= kMostWithoutEpr || HasDoubtfulPdo(component, side, reporter)) return;
+  if (reporter.HasFound("rating-above-pdos", *component.Find(RatingName(side)))) return;
   reporter.Add(*component.Find(EprName(side)), std::string(EprName(side))
                                                    .append(" is NO, but ")
                                                    .append(RatingName(side))

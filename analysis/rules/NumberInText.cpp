@@ -109,8 +109,7 @@ std::optional<std::uint64_t> HexadecimalIn(std::string_view text) {
   const bool isMarked = text.starts_with("0x") || text.starts_with("0X");
   if (isMarked) text.remove_prefix(2);
   const std::string_view digits = Take(text, "0123456789ABCDEFabcdef");
-  const bool hasDigit = digits.find_first_of("0123456789") != std::string_view::npos;
-  if (!isMarked && !hasDigit && digits.size() < digitsOfAnId) return std::nullopt;  // "ADD" is a word
+  if (!isMarked && digits.size() < digitsOfAnId) return std::nullopt;  // "ADD" is a word, and "2" may count something
   return IsEnd(text) ? ToNumber(digits, 16) : std::nullopt;
 }
 

@@ -17,8 +17,8 @@ std::optional<Quantity> QuantityIn(std::string_view text);
 /// as the text of Num_Snk_PDOs. Nothing for "2 cells" as that of Num_Fixed_Batteries, which counts something else.
 std::optional<std::uint64_t> CountIn(std::string_view text, std::string_view fieldName);
 
-/// The hexadecimal number, with or without "0x", of a text that says nothing else, apart from a remark in parentheses:
-/// "FF01 (DisplayPort)". Nothing when it has more than 16 digits.
+/// The hexadecimal number of a text that says nothing else, apart from a remark in parentheses: "FF01 (DisplayPort)".
+/// Without "0x", it has as many digits as an ID, four, or more. Nothing when it has more than 16 digits.
 std::optional<std::uint64_t> HexadecimalIn(std::string_view text);
 
 }  // namespace vifanalysis

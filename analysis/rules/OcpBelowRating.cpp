@@ -32,7 +32,7 @@ void CheckPdo(const CPdoView& pdo, CReporter& reporter) {
 void CheckOcpBelowRating(const CComponentView& component, CReporter& reporter) {
   if (component.MayBeNo("PD_OC_Protection")) return;
   for (const CPdoView& pdo : component.Pdos(PdoSide::Source)) {
-    if (!IsDoubtful(pdo, reporter) && !reporter.HasFound("pdo-above-rating", pdo)) CheckPdo(pdo, reporter);
+    if (!IsDoubtful(pdo, reporter) && !ContradictsRating(component, pdo, reporter)) CheckPdo(pdo, reporter);
   }
 }
 

@@ -13,7 +13,7 @@ namespace {
 std::uint64_t GreatestCurrent(const CComponentView& component, const CReporter& reporter) {
   std::uint64_t greatest = 0;
   for (const CPdoView& pdo : component.Pdos(PdoSide::Source)) {
-    if (IsDoubtful(pdo, reporter) || reporter.HasFound("pdo-above-rating", pdo)) continue;
+    if (IsDoubtful(pdo, reporter) || ContradictsRating(component, pdo, reporter)) continue;
     greatest = std::max(greatest, pdo.Quantities().current.value_or(0));
   }
   return greatest;

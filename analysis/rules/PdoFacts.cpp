@@ -31,4 +31,10 @@ bool IsDoubtful(const CPdoView& pdo, const CReporter& reporter) {
                      [&](std::string_view rule) { return reporter.HasFound(rule, pdo); });
 }
 
+bool ContradictsRating(const CComponentView& component, const CPdoView& pdo, const CReporter& reporter) {
+  constexpr std::string_view rule = "pdo-above-rating";
+  const FoundField* rating = component.Find(RatingName(pdo.Side()));
+  return reporter.HasFound(rule, pdo) || (rating != nullptr && reporter.HasFound(rule, *rating));
+}
+
 }  // namespace vifanalysis

@@ -33,4 +33,7 @@ bool HasAllPdos(const CComponentView& component, PdoSide side);
 /// Whether a rule about PDO lists has found a mistake in the PDO, so that its numbers are in doubt.
 bool IsDoubtful(const CPdoView& pdo, const CReporter& reporter);
 
+/// Whether pdo-above-rating has found that the PDO, or the rating of its side, is wrong.
+bool ContradictsRating(const CComponentView& component, const CPdoView& pdo, const CReporter& reporter);
+
 }  // namespace vifanalysis

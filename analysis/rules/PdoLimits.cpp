@@ -31,10 +31,14 @@ std::string_view HighestVoltageEnding(const CPdoView& pdo) {
   return pdo.GetSupply() == Supply::Fixed ? "Voltage" : "Max_Voltage";
 }
 
+/// With a wrong type, the units of the PDO are wrong, too.
+bool HasWrongType(const CPdoView& pdo, const CReporter& reporter) { return IsBlamed(pdo, "Supply_Type", reporter); }
+
 /// The first PDO with a voltage that takes EPR; null when there is none.
 const CPdoView* FindEprPdo(const CComponentView& component, PdoSide side, const CReporter& reporter) {
   const std::vector<CPdoView>& pdos = component.Pdos(side);
   const auto found = std::find_if(pdos.begin(), pdos.end(), [&](const CPdoView& pdo) {
+    if (HasWrongType(pdo, reporter)) return false;
     const std::uint64_t highest = pdo.GetSupply() == Supply::Fixed ? kHighestFixedVoltage : kHighestOtherVoltage;
     return pdo.HighestVoltage().value_or(0) > highest && !IsBlamed(pdo, HighestVoltageEnding(pdo), reporter);
   });
@@ -100,6 +104,7 @@ void CheckEpr(const CComponentView& component, PdoSide side, CReporter& reporter
 void CheckSide(const CComponentView& component, PdoSide side, CReporter& reporter) {
   CheckCount(component, side, reporter);
   for (const CPdoView& pdo : component.Pdos(side)) {
+    if (HasWrongType(pdo, reporter)) continue;
     CheckCurrent(pdo, reporter);
     CheckVoltages(pdo, reporter);
   }

@@ -11,13 +11,21 @@ bool IsMismatched(const CComponentView& component, const CReporter& reporter) {
   return reporter.HasFound("role-mismatch", component);
 }
 
+/// Whether the file is about a cable.
+bool IsInACablesFile(const CComponentView& component) {
+  constexpr std::uint64_t cable = 1;
+  return component.File().HeaderNumber("VIF_Product_Type") == cable;
+}
+
 }  // namespace
 
 std::optional<PortRole> RoleOf(const CComponentView& component) {
   const std::optional<std::uint64_t> number = component.Number("PD_Port_Type");
   if (!number || *number > static_cast<std::uint64_t>(PortRole::EMarker)) return std::nullopt;
   if (component.MayBeNo("USB_PD_Support")) return std::nullopt;
-  return static_cast<PortRole>(*number);
+  const auto role = static_cast<PortRole>(*number);
+  if (role != PortRole::EMarker && IsInACablesFile(component)) return std::nullopt;
+  return role;
 }
 
 std::optional<StateMachine> StateMachineOf(const CComponentView& component) {
@@ -40,8 +48,7 @@ bool IsPdPort(const CComponentView& component) {
 }
 
 bool IsCable(const CComponentView& component) {
-  constexpr std::uint64_t cable = 1;
-  return component.File().HeaderNumber("VIF_Product_Type") == cable || RoleOf(component) == PortRole::EMarker;
+  return IsInACablesFile(component) || RoleOf(component) == PortRole::EMarker;
 }
 
 std::string_view RoleName(PortRole role) {

@@ -16,7 +16,8 @@ enum class PortRole : std::uint8_t { ConsumerOnly, ConsumerProvider, ProviderCon
 /// The state machines of a Type-C port, with the numbers of Type_C_State_Machine.
 enum class StateMachine : std::uint8_t { Source, Sink, Drp };
 
-/// The port's role; nothing when it has none that is known, or USB_PD_Support is NO.
+/// The port's role; nothing when it has none that is known, USB_PD_Support is NO, or the file is about a cable, which
+/// has no role but eMarker.
 std::optional<PortRole> RoleOf(const CComponentView& component);
 
 /// The port's state machine; nothing when it has none that is known.

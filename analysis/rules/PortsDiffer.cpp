@@ -74,7 +74,9 @@ class CComparison {
 
   bool IsFound(const CComponentView& component, std::string_view name) const {
     const FoundField* found = component.Find(name);
-    return component.IsUnsound(name) || (found != nullptr && m_reporter.HasFound("ports-disagree", *found));
+    if (found == nullptr) return false;
+    return component.IsUnsound(name) || m_reporter.HasFound("battery-count", *found) ||
+           m_reporter.HasFound("ports-disagree", *found);
   }
 
   const CReporter& m_reporter;

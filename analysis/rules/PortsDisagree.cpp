@@ -30,8 +30,14 @@ bool HasWrongRevision(const CComponentView& component, const CReporter& reporter
   return reporter.HasFound("pd-revision-pair", component) || reporter.HasFound("pd-revision-unknown", component);
 }
 
+/// Whether battery-count has found that the port names a wrong number of batteries.
+bool HasWrongBatteries(const CComponentView& component, const CReporter& reporter) {
+  return reporter.HasFound("battery-count", component);
+}
+
 bool CanBeCompared(const CComponentView& component, std::string_view name, const CReporter& reporter) {
   if (name.starts_with("PD_Spec") && HasWrongRevision(component, reporter)) return false;
+  if (name.starts_with("Num_") && HasWrongBatteries(component, reporter)) return false;
   return component.Number(name) && IsPdPort(component);
 }
 
@@ -63,7 +69,7 @@ void CheckLabels(const CVifView& file, CReporter& reporter) {
     if (isNew) continue;
     reporter.Add(*component.Find("Port_Label"), std::string("Port_Label is ")
                                                     .append(Quoted(label))
-                                                    .append(", as that of Component ")
+                                                    .append(", the same as in Component ")
                                                     .append(std::to_string(other->second->Index()))
                                                     .append("; each port needs a label of its own"));
   }

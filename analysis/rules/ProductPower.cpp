@@ -76,10 +76,15 @@ void CheckAgreement(const Common& common, std::string_view field, const std::str
   }
 }
 
+/// Whether rating-above-pdos has found that the rating is too great.
+bool IsTooGreat(const CComponentView& component, const CReporter& reporter) {
+  return reporter.HasFound("rating-above-pdos", *component.Find(kRating));
+}
+
 void CheckRatings(const Common& total, CReporter& reporter) {
   for (const CComponentView* component : total.components) {
     const std::optional<std::uint64_t> rating = component->Number(kRating);
-    if (!rating || *rating <= total.greatest) continue;
+    if (!rating || *rating <= total.greatest || IsTooGreat(*component, reporter)) continue;
     reporter.Add(*component->Find(kRating), NameAndPower(kRating, *rating)
                                                 .append(", but the whole product has ")
                                                 .append(Watts(total.greatest))
@@ -105,8 +110,9 @@ void CheckShared(const CComponentView& component, CReporter& reporter) {
 void CheckGangPorts(const Common& gang, CReporter& reporter) {
   for (const CComponentView* component : gang.components) {
     const std::optional<std::uint64_t> rating = component->Number(kRating);
+    if (!rating || *rating <= gang.greatest || IsTooGreat(*component, reporter)) continue;
     // More than the product has is found already.
-    if (!rating || *rating <= gang.greatest || reporter.HasFound("product-power", *component->Find(kRating))) continue;
+    if (reporter.HasFound("product-power", *component->Find(kRating))) continue;
     reporter.Add(*component->Find(kGangPower), NameAndPower(kGangPower, gang.greatest)
                                                    .append(", but this port of the gang alone has ")
                                                    .append(Watts(*rating))

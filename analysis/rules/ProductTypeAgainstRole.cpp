@@ -32,13 +32,22 @@ bool IsConsumer(const CComponentView& component, const CReporter& reporter) {
 
 /// Whether the port does not respond in the role, unless alt-mode-role has found just that.
 bool IsSilent(const CComponentView& component, std::string_view responds, const CReporter& reporter) {
-  return component.IsNo(responds) && !reporter.HasFound("alt-mode-role", *component.Find(responds));
+  if (!component.IsNo(responds)) return false;
+  const FoundField* adapter = component.Find("Type_C_Is_Alt_Mode_Adapter");
+  const bool isAdaptersFault =
+      responds == kUfp.responds && adapter != nullptr && reporter.HasFound("alt-mode-role", *adapter);
+  return !isAdaptersFault && !reporter.HasFound("alt-mode-role", *component.Find(responds));
+}
+
+/// Whether the port does not have the role, unless data-role-contradiction doubts just that.
+bool LacksRole(const CComponentView& component, std::string_view carriesData, const CReporter& reporter) {
+  return component.IsNo(carriesData) && !reporter.HasFound("data-role-contradiction", *component.Find(carriesData));
 }
 
 /// The field that the type contradicts first; empty when there is none.
 std::string_view Contradicted(const CComponentView& component, const TypeField& field, std::uint64_t type,
                               const CReporter& reporter) {
-  if (TakesData(type) && component.IsNo(field.carriesData)) return field.carriesData;
+  if (TakesData(type) && LacksRole(component, field.carriesData, reporter)) return field.carriesData;
   if (&field == &kDfp && type == kPowerBrick && IsConsumer(component, reporter)) return "PD_Port_Type";
   return IsSilent(component, field.responds, reporter) ? field.responds : "";
 }

@@ -18,6 +18,12 @@ void CReporter::Add(const FoundField& blamed, const std::string& message) {
   Add(blamed.field.Indexes(), blamed, message);
 }
 
+void CReporter::AddToProduct(const FoundField& blamed, const std::string& message) {
+  GroupPlace everywhere;
+  everywhere.fill(CVIFField::UNSPECIFIED_INDEX);
+  Add(everywhere, blamed, message);
+}
+
 void CReporter::Add(const CGroupView& group, const std::string& message) {
   if (group.FirstField() != nullptr) Add(group.Place(), *group.FirstField(), message);
 }

@@ -25,6 +25,9 @@ class CReporter {
   /// Blames a field. The message is a sentence without a full stop.
   void Add(const FoundField& blamed, const std::string& message);
 
+  /// Blames a field for what several components declare together. The message names no component.
+  void AddToProduct(const FoundField& blamed, const std::string& message);
+
   /// Blames what a group lacks, at the first field in it. The message is about the group.
   void Add(const CGroupView& group, const std::string& message);
 

@@ -50,7 +50,8 @@ void CheckRoleLeftover(const CComponentView& component, CReporter& reporter) {
              reporter);
     }
   }
-  Report(withoutPd, "USB_PD_Support is NO", reporter);
+  // That a USB4 port supports PD is for usb4-needs to say.
+  if (!component.IsYes("USB4_Supported")) Report(withoutPd, "USB_PD_Support is NO", reporter);
 }
 
 }  // namespace vifanalysis

@@ -14,8 +14,8 @@ void CheckValueOutOfRange(const CVifView& file, CReporter& reporter);
 // PDO lists.
 void CheckFirstPdoNot5V(const CComponentView& component, CReporter& reporter);
 void CheckPdoLimits(const CComponentView& component, CReporter& reporter);
-void CheckPdoOrder(const CComponentView& component, CReporter& reporter);
 void CheckPdoFieldsForType(const CComponentView& component, CReporter& reporter);
+void CheckPdoOrder(const CComponentView& component, CReporter& reporter);
 
 // Power ratings.
 void CheckPdoAboveRating(const CComponentView& component, CReporter& reporter);
@@ -35,8 +35,8 @@ void CheckRoleLeftover(const CComponentView& component, CReporter& reporter);
 
 // Data roles.
 void CheckDrSwapRequired(const CComponentView& component, CReporter& reporter);
-void CheckCommsRole(const CComponentView& component, CReporter& reporter);
 void CheckDataRoleContradiction(const CComponentView& component, CReporter& reporter);
+void CheckCommsRole(const CComponentView& component, CReporter& reporter);
 
 // Alternate modes.
 void CheckModalSvids(const CComponentView& component, CReporter& reporter);
@@ -53,14 +53,14 @@ void CheckPdRevisionPair(const CComponentView& component, CReporter& reporter);
 void CheckPd3FeatureInPd2(const CComponentView& component, CReporter& reporter);
 void CheckPdRevisionUnknown(const CComponentView& component, CReporter& reporter);
 
-// Ports of one product.
-void CheckPortsDisagree(const CVifView& file, CReporter& reporter);
-void CheckPortsDiffer(const CVifView& file, CReporter& reporter);
-
 // Battery, supply, BC 1.2.
 void CheckBatteryCount(const CComponentView& component, CReporter& reporter);
 void CheckPowerSourceRole(const CComponentView& component, CReporter& reporter);
 void CheckBc12Role(const CComponentView& component, CReporter& reporter);
+
+// Ports of one product.
+void CheckPortsDisagree(const CVifView& file, CReporter& reporter);
+void CheckPortsDiffer(const CVifView& file, CReporter& reporter);
 
 // USB4.
 void CheckUsb4Needs(const CComponentView& component, CReporter& reporter);

@@ -41,12 +41,6 @@ constexpr Rule kRules[] = {
       "EPR_Supported_As_Src or EPR_Supported_As_Snk is YES for its side, and no range of voltages ends below its "
       "start. Correct the PDO, or declare EPR."},
      CheckPdoLimits},
-    {{"pdo-order", Severity::Error, kEvery, Confidence::High, "R3 R4", "PDOs that are not in order or repeat others",
-      "A list has its fixed PDOs first, then those for batteries, then variable and then augmented ones; fixed PDOs "
-      "above 20 V come after all others of up to 20 V. PDOs of one kind are in rising order of their voltage: fixed "
-      "ones of their only one, battery and variable ones of their lowest, programmable ones of their highest. No PDO "
-      "repeats another. Sort the list, or correct the number that is out of order."},
-     CheckPdoOrder},
     {{"pdo-fields-for-type", Severity::Warning, kEvery, Confidence::High, "R1 R13",
       "a PDO without a field that its kind needs, or with one of another kind",
       "A fixed PDO has one voltage and a current; a battery PDO has a lowest and a highest voltage and a power; a "
@@ -54,6 +48,12 @@ constexpr Rule kRules[] = {
       "without Src_PDO_Supply_Type or Snk_PDO_Supply_Type. Add what is missing and remove what is not of that kind, "
       "or correct the type."},
      CheckPdoFieldsForType},
+    {{"pdo-order", Severity::Error, kEvery, Confidence::High, "R3 R4", "PDOs that are not in order or repeat others",
+      "A list has its fixed PDOs first, then those for batteries, then variable and then augmented ones; fixed PDOs "
+      "above 20 V come after all others of up to 20 V. PDOs of one kind are in rising order of their voltage: fixed "
+      "ones of their only one, battery and variable ones of their lowest, programmable ones of their highest. No PDO "
+      "repeats another. Sort the list, or correct the number that is out of order."},
+     CheckPdoOrder},
 
     // Power ratings.
     {{"pdo-above-rating", Severity::Error, kEvery, Confidence::High, "R1 R8 R13",
@@ -153,11 +153,6 @@ constexpr Rule kRules[] = {
       "either. DR_Swap_To_DFP_Supported and DR_Swap_To_UFP_Supported must then be YES, so that it reaches the role "
       "in which it works. Correct them, or the fields that say how the port can act."},
      CheckDrSwapRequired},
-    {{"comms-role", Severity::Warning, kEvery, Confidence::High, "R9",
-      "USB communication without a data role, or a data role without USB communication",
-      "USB_Comms_Capable says whether the port can be enumerated as a device or enumerate others as a host, so it is "
-      "YES exactly when Type_C_Can_Act_As_Host or Type_C_Can_Act_As_Device is. A port of a hub may be neither."},
-     CheckCommsRole},
     {{"data-role-contradiction", Severity::Error, kEvery, Confidence::High, "R1 R8",
       "fields about one data role that contradict each other",
       "What the port announces in Data_Capable_As_USB_Host_SOP and Data_Capable_As_USB_Device_SOP is what "
@@ -165,6 +160,11 @@ constexpr Rule kRules[] = {
       "Device_Supports_USB_Data are NO, and Is_DFP_On_Hub is NO for a port that is not on a hub. Correct the field "
       "that does not describe the product."},
      CheckDataRoleContradiction},
+    {{"comms-role", Severity::Warning, kEvery, Confidence::High, "R9",
+      "USB communication without a data role, or a data role without USB communication",
+      "USB_Comms_Capable says whether the port can be enumerated as a device or enumerate others as a host, so it is "
+      "YES exactly when Type_C_Can_Act_As_Host or Type_C_Can_Act_As_Device is. A port of a hub may be neither."},
+     CheckCommsRole},
 
     // Alternate modes.
     {{"modal-svids", Severity::Error, kEvery, Confidence::High, "R3 R6",
@@ -231,6 +231,27 @@ constexpr Rule kRules[] = {
       "accepted."},
      CheckPdRevisionUnknown},
 
+    // Battery, supply, BC 1.2.
+    {{"battery-count", Severity::Warning, Edition{1, 20}, Confidence::High, "R3 R8",
+      "numbers of batteries that are too large, or that contradict whether there is a battery",
+      "If Port_Battery_Powered is YES, there is a battery in Num_Fixed_Batteries or a slot in "
+      "Num_Swappable_Battery_Slots; if it is NO, both are 0. USB PD can tell four fixed batteries and four slots "
+      "apart."},
+     CheckBatteryCount},
+    {{"power-source-role", Severity::Warning, kEvery, Confidence::High, "R8",
+      "a power source that the port cannot have",
+      "Type_C_Power_Source says whether the product is powered over this port: 0 never, 1 always, 2 at times. A "
+      "port that only provides power never is. A product that depends on the port for all its power is not "
+      "unconstrained, so Unconstrained_Power is NO where Type_C_Power_Source is 1."},
+     CheckPowerSourceRole},
+    {{"bc12-role", Severity::Warning, kEvery, Confidence::Medium, "R16",
+      "a BC 1.2 role that does not go with the Type-C role",
+      "A BC 1.2 charging port provides power and a portable device takes it. So BC_1_2_Support is not 2 or 3 where "
+      "Type_C_State_Machine is 1 (SNK), and not 1 or 3 where it is 0 (SRC). A charging port that also carries USB "
+      "data is a CDP (BC_1_2_Charging_Port_Type 1) and needs a port that can act as host; without data it is a DCP "
+      "(0)."},
+     CheckBc12Role},
+
     // Ports of one product.
     {{"ports-disagree",
       Severity::Warning,
@@ -253,27 +274,6 @@ constexpr Rule kRules[] = {
       "only a few fields differ, one port may have been forgotten in a change. Compare the two; the difference may "
       "well be meant."},
      CheckPortsDiffer},
-
-    // Battery, supply, BC 1.2.
-    {{"battery-count", Severity::Warning, Edition{1, 20}, Confidence::High, "R3 R8",
-      "numbers of batteries that are too large, or that contradict whether there is a battery",
-      "If Port_Battery_Powered is YES, there is a battery in Num_Fixed_Batteries or a slot in "
-      "Num_Swappable_Battery_Slots; if it is NO, both are 0. USB PD can tell four fixed batteries and four slots "
-      "apart."},
-     CheckBatteryCount},
-    {{"power-source-role", Severity::Warning, kEvery, Confidence::High, "R8",
-      "a power source that the port cannot have",
-      "Type_C_Power_Source says whether the product is powered over this port: 0 never, 1 always, 2 at times. A "
-      "port that only provides power never is. A product that depends on the port for all its power is not "
-      "unconstrained, so Unconstrained_Power is NO where Type_C_Power_Source is 1."},
-     CheckPowerSourceRole},
-    {{"bc12-role", Severity::Warning, kEvery, Confidence::Medium, "R16",
-      "a BC 1.2 role that does not go with the Type-C role",
-      "A BC 1.2 charging port provides power and a portable device takes it. So BC_1_2_Support is not 2 or 3 where "
-      "Type_C_State_Machine is 1 (SNK), and not 1 or 3 where it is 0 (SRC). A charging port that also carries USB "
-      "data is a CDP (BC_1_2_Charging_Port_Type 1) and needs a port that can act as host; without data it is a DCP "
-      "(0)."},
-     CheckBc12Role},
 
     // USB4.
     {{"usb4-needs",

@@ -30,18 +30,23 @@ bool HasWrongRevision(const CComponentView& component, const CReporter& reporter
   return reporter.HasFound("pd-revision-pair", component) || reporter.HasFound("pd3-feature-in-pd2", component);
 }
 
+/// Whether the port cannot act in the role, unless data-role-contradiction doubts just that.
+bool CannotAct(const CComponentView& component, std::string_view role, const CReporter& reporter) {
+  return component.IsNo(role) && !reporter.HasFound("data-role-contradiction", *component.Find(role));
+}
+
 void CheckDirections(const CComponentView& component, CReporter& reporter) {
   if (component.IsNo("USB4_DFP_Supported") && component.IsNo("USB4_UFP_Supported")) {
     reporter.Add(*component.Find("USB4_DFP_Supported"),
                  "USB4_Supported is YES, but USB4_DFP_Supported and USB4_UFP_Supported are both NO");
   }
   if (!component.IsNo("Type_C_Port_On_Hub")) return;
-  if (component.IsYes("USB4_DFP_Supported") && component.IsNo("Type_C_Can_Act_As_Host")) {
+  if (component.IsYes("USB4_DFP_Supported") && CannotAct(component, "Type_C_Can_Act_As_Host", reporter)) {
     reporter.Add(
         *component.Find("USB4_DFP_Supported"),
         "USB4_DFP_Supported is YES, but Type_C_Can_Act_As_Host is NO; a USB4 DFP that is not on a hub is a host");
   }
-  if (component.IsYes("USB4_UFP_Supported") && component.IsNo("Type_C_Can_Act_As_Device")) {
+  if (component.IsYes("USB4_UFP_Supported") && CannotAct(component, "Type_C_Can_Act_As_Device", reporter)) {
     reporter.Add(*component.Find("USB4_UFP_Supported"),
                  "USB4_UFP_Supported is YES, but Type_C_Can_Act_As_Device is NO; a USB4 UFP that is not on a hub is a "
                  "device");
@@ -57,11 +62,11 @@ void CheckUsb4Needs(const CComponentView& component, CReporter& reporter) {
   }
   const std::optional<std::uint64_t> revision = component.Number("PD_Specification_Revision");
   if (revision && *revision < 2 && !HasWrongRevision(component, reporter)) {
-    Report(component, "PD_Specification_Revision", "; USB4 takes revision 3", reporter);
+    Report(component, "PD_Specification_Revision", "; USB4 requires PD revision 3", reporter);
   }
   const std::optional<std::uint64_t> connector = component.Number("Connector_Type");
   if (connector && *connector != 2) {
-    Report(component, "Connector_Type", "; USB4 takes 2 (Type-C)", reporter);
+    Report(component, "Connector_Type", "; USB4 requires 2 (Type-C)", reporter);
   }
   CheckDirections(component, reporter);
 }

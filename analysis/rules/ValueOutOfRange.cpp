@@ -91,8 +91,8 @@ std::string WhyTooGreat(const FieldInfo& field, std::uint64_t number) {
   }
   const unsigned width = WidthOf(field);
   if (width == 0 || number >> width == 0) return {};
-  return NumberText(number, width) + ", but has only " + std::to_string(width) + " bits, so that " +
-         NumberText((std::uint64_t{1} << width) - 1, width) + " is its greatest value";
+  return NumberText(number, width) + ", but has only " + std::to_string(width) + " bits: at most " +
+         NumberText((std::uint64_t{1} << width) - 1, width);
 }
 
 /// The field of the format that a field with a number stands for; null when there is none.

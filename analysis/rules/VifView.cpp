@@ -73,8 +73,7 @@ CComponentView::CComponentView(CGroupView group, const CVifView& file)
       m_sinkPdos(MakePdos(*this, eVifLocSnkPdo, PdoSide::Sink)) {}
 
 CVifView::CVifView(const FoundFields& fields, const UnsoundFields& unsound)
-    : m_fields(fields), m_root(MakeRoot(fields, unsound)) {
-  if (const FoundField* found = FindHeader("VIF_Specification")) m_edition = ParseEdition(TextOf(*found));
+    : m_fields(fields), m_root(MakeRoot(fields, unsound)), m_edition(EditionNamedBy(fields)) {
   for (const CGroupView& group : m_root.Groups(eVifLocComponent)) m_components.emplace_back(group, *this);
 }
 

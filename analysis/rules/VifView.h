@@ -48,7 +48,7 @@ class CVifView {
   /// The file as a group: its fields in no group, and all groups.
   const CGroupView& Root() const { return m_root; }
 
-  /// The edition of the format that the file names; nothing when it names none, or in an unknown form.
+  /// The edition of the format that the file names; nothing when it names none or several, or in an unknown form.
   const std::optional<Edition>& GetEdition() const { return m_edition; }
 
   /// A field about the file as a whole, or in no group at all, such as a text of a text file; null when there is none.

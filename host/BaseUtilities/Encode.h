@@ -1,4 +1,4 @@
-// The parts of text conversions.
+// What text conversions share.
 #pragma once
 
 #include <cstddef>

@@ -68,5 +68,29 @@ TEST(CheckFileTest, SaysWhyAFileCannotBeChecked) {
   EXPECT_EQ(WhyNot(dir.Path() / "folder.txt"), "only a regular file can be read");
 }
 
+TEST(CheckFileTest, FindsAWrongCountOnce) {
+  const testsupport::TempDir dir;
+  EXPECT_THAT(Codes(dir.Write("a.txt", "Num_Src_PDOs: 9 ; 2 Src PDOs\n")), ElementsAre("count-mismatch"));
+  EXPECT_THAT(Codes(dir.Write("a.txt", "Num_Src_PDOs: 0 ; 2 Src PDOs\n")), ElementsAre("text-against-value"));
+}
+
+TEST(CheckFileTest, HasNotesThatAreAskedForByCode) {
+  const testsupport::TempDir dir;
+  const std::filesystem::path path = dir.Write("a.txt", "$Vendor_Name: \"FIX-ME\"\nMy_Own: 1\n");
+  EXPECT_THAT(Codes(path), ElementsAre("unknown-name"));
+  EXPECT_THAT(Codes(path, {.only = {"Placeholder"}}), ElementsAre("placeholder"));
+  EXPECT_THAT(Codes(path, {.only = {"placeholder"}, .except = {"placeholder"}}), IsEmpty());
+}
+
+TEST(CheckFileTest, FollowsNoEditionWhereTheFileNamesTwo) {
+  const testsupport::TempDir dir;
+  const std::string port = "PD_Port_Type: 3\nUSB_PD_Support: 1\n";
+  const std::string edition = "$VIF_Specification: \"3.22\"\n";
+  EXPECT_THAT(Codes(dir.Write("a.txt", edition + port)), testing::Contains("role-incomplete"));
+  EXPECT_THAT(Codes(dir.Write("a.txt", edition + edition + port)), testing::Contains("role-incomplete"));
+  EXPECT_THAT(Codes(dir.Write("a.txt", edition + "$VIF_Specification: \"1.11\"\n" + port)),
+              testing::Not(testing::Contains("role-incomplete")));
+}
+
 }  // namespace
 }  // namespace vifanalysis

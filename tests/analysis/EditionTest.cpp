@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace vifanalysis {
 namespace {
@@ -39,6 +40,14 @@ TEST(EditionTest, IsNamedByTheSpecificationOfTheFile) {
   EXPECT_EQ(EditionNamedBy(TextField("VIF_Specification", "3.22", {eVifLocComponent, 1})), std::nullopt);
   EXPECT_EQ(EditionNamedBy(TextField("TID", "3.22")), std::nullopt);
   EXPECT_EQ(EditionNamedBy(CVIFField()), std::nullopt);
+}
+
+TEST(EditionTest, IsThatOfAllFieldsThatNameOne) {
+  const CVIFField first = TextField("$VIF_Specification", "3.22");
+  const CVIFField none = TextField("$VIF_Specification", "new");
+  EXPECT_EQ(EditionNamedBy(std::vector<CVIFField>{}), std::nullopt);
+  EXPECT_EQ(EditionNamedBy(std::vector{none, first, TextField("TID", "1"), first}), (Edition{3, 22}));
+  EXPECT_EQ(EditionNamedBy(std::vector{first, TextField("$VIF_Specification", "1.40"), first}), std::nullopt);
 }
 
 TEST(EditionTest, IsComparedNumberByNumber) {

@@ -52,6 +52,12 @@ class CheckOptions : public testing::Test {
   TempDir m_dir;
 };
 
+TEST_F(CheckOptions, OnlyNamesNotesToo) {
+  Write("a.txt", "$Vendor_Name: \"FIX-ME\"\n");
+  EXPECT_THAT(Codes({"a.txt"}), IsEmpty());
+  EXPECT_THAT(Codes({"--only", "placeholder", "a.txt"}), ElementsAre("placeholder"));
+}
+
 TEST_F(CheckOptions, OnlyKeepsFindingsWithTheCodes) {
   Write("a.txt", kFlawed);
   EXPECT_THAT(Codes({"--only", "unknown-name", "a.txt"}), ElementsAre("unknown-name"));

@@ -89,6 +89,12 @@ TEST(Show, OtherFieldsOfAPdoAreListed) {
               HasSubstr("Src_PDO_Peak_Current=2, Src_PD_OCP_UV_Debounce=5 (5 ms)"));
 }
 
+TEST(Show, TheThresholdOfAPdoIsInTheUnitOfItsType) {
+  const std::string pdo = "Src_PDO_Supply_Type1: 0\nSrc_PD_OCP_UV_Threshold1: 80\nSrc_PD_OCP_UV_Threshold_Type1: ";
+  EXPECT_THAT(Show(pdo + "0\n"), HasSubstr("Src_PD_OCP_UV_Threshold=80 (0.8 V)"));
+  EXPECT_THAT(Show(pdo + "1\n"), HasSubstr("Src_PD_OCP_UV_Threshold=80 (80 %)"));
+}
+
 TEST(Show, PdosAreInTheOrderOfTheirNumbers) {
   const std::string output = Show("Src_PDO_Supply_Type10: 0\nSrc_PDO_Supply_Type9: 1\n");
   EXPECT_LT(output.find("9    Battery"), output.find("10   Fixed"));

@@ -68,5 +68,15 @@ TEST(AltModeRoleTest, IsNotForOlderEditions) {
   tablet.SetEdition("1.35").Set(Component(1), "Attempts_Discov_SOP", "NO");
   EXPECT_THAT(tablet.Findings(), Are({}));
 }
+
+TEST(AltModeRoleTest, BlamesAnAdapterThatSeveralFieldsContradict) {
+  CExample charger("gan-charger-65w.txt");
+  charger.Add(Component(1), "Type_C_Is_Alt_Mode_Adapter", "YES");
+  EXPECT_THAT(charger.Findings(),
+              Are({{"alt-mode-role", "Type_C_Is_Alt_Mode_Adapter",
+                    "Component 1: Type_C_Is_Alt_Mode_Adapter is YES, but Modal_Operation_Supported_SOP is NO and "
+                    "Responds_To_Discov_SOP_UFP is NO"}}));
+}
+
 }  // namespace
 }  // namespace vifanalysis

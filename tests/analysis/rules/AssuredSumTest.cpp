@@ -13,10 +13,10 @@ CExample Laptop(const char* total) {
   return laptop;
 }
 
-TEST(AssuredSumTest, FindsPortsThatMakeMoreThanTheProduct) {
+TEST(AssuredSumTest, FindsPortsThatAddUpToMoreThanTheProduct) {
   EXPECT_THAT(Laptop("32999").Findings(),
               Are({{"assured-sum", "Product_Total_Source_Power_mW",
-                    "Component 1: 2 ports with assured power (Port_Source_Power_Type 0) make 33 W together, but the "
+                    "2 ports with assured power (Port_Source_Power_Type 0) add up to 33 W, but the "
                     "whole product has 32.999 W (Product_Total_Source_Power_mW)"}}));
 }
 

@@ -51,5 +51,17 @@ TEST(BatteryCountTest, IsNotForOlderEditions) {
   charger.SetEdition("1.19").Set(Component(1), "Num_Fixed_Batteries", "1");
   EXPECT_THAT(charger.Findings(), Are({}));
 }
+TEST(BatteryCountTest, IsTheOnlyFindingAboutOneOfSeveralPorts) {
+  CExample dock("usb4-dock.xml");
+  dock.Set(Component(2), "Num_Fixed_Batteries", "1");  // or ports-disagree
+  EXPECT_THAT(dock.Findings(), Are({{"battery-count", "Num_Fixed_Batteries",
+                                     "Component 2: Port_Battery_Powered is NO, but Num_Fixed_Batteries is 1"}}));
+  CExample laptop("two-port-laptop.xml");
+  laptop.Set(Component(2), "Num_Fixed_Batteries", "0");
+  EXPECT_THAT(laptop.Findings(), Are({{"battery-count", "Port_Battery_Powered",
+                                       "Component 2: Port_Battery_Powered is YES, but Num_Fixed_Batteries is 0 and "
+                                       "Num_Swappable_Battery_Slots is 0"}}));
+}
+
 }  // namespace
 }  // namespace vifanalysis

@@ -130,5 +130,13 @@ TEST(CableAndPortTest, IsForEditionsFrom2_0) {
   EXPECT_THAT(cable.FindingsOf("cable-and-port"), Are({}));
 }
 
+TEST(CableAndPortTest, IsTheOnlyFindingAboutACableWithTheRoleOfAPort) {
+  CExample cable("active-cable.txt");
+  cable.Set(Component(1), "PD_Port_Type", "3");  // or role-mismatch, role-incomplete
+  EXPECT_THAT(cable.Findings(), Are({{"cable-and-port", "PD_Port_Type",
+                                      "Component 1: VIF_Product_Type is 1 (Cable), but PD_Port_Type 3 (Provider Only) "
+                                      "belongs to a port"}}));
+}
+
 }  // namespace
 }  // namespace vifanalysis

@@ -71,5 +71,25 @@ TEST(DataRoleContradictionTest, NeedsBothFields) {
   EXPECT_THAT(charger.FindingsOf(kCode), Are({}));
 }
 
+TEST(DataRoleContradictionTest, IsTheOnlyFindingAboutARoleThatIsWrong) {
+  CExample dock("usb4-dock.xml");
+  dock.Set(Component(1), "Type_C_Can_Act_As_Device", "false");  // or comms-role, usb4-needs, product-type-against-role
+  EXPECT_THAT(dock.Findings(), Are({{kCode, "Type_C_Can_Act_As_Device",
+                                     "Component 1: Data_Capable_As_USB_Device_SOP and Device_Supports_USB_Data are "
+                                     "YES, but Type_C_Can_Act_As_Device is NO"}}));
+  CExample laptop("two-port-laptop.xml");
+  laptop.Set(Component(1), "Type_C_Can_Act_As_Host", "false");
+  EXPECT_THAT(laptop.Findings(), Are({{kCode, "Type_C_Can_Act_As_Host",
+                                       "Component 1: Data_Capable_As_USB_Host_SOP and Host_Supports_USB_Data are YES, "
+                                       "but Type_C_Can_Act_As_Host is NO"}}));
+}
+
+TEST(DataRoleContradictionTest, IsTheOnlyFindingAboutDataThatTheRoleDoesNotCarry) {
+  CExample dock("usb4-dock.xml");
+  dock.Set(Component(1), "Host_Supports_USB_Data", "true");  // or details-missing
+  EXPECT_THAT(dock.Findings(), Are({{kCode, "Host_Supports_USB_Data",
+                                     "Component 1: Host_Supports_USB_Data is YES, but Type_C_Can_Act_As_Host is NO"}}));
+}
+
 }  // namespace
 }  // namespace vifanalysis

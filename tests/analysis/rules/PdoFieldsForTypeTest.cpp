@@ -62,5 +62,14 @@ TEST(PdoFieldsForTypeTest, AllowsAProgrammableSupplyWithoutItsAugmentedType) {
   EXPECT_THAT(charger.Findings(), Are({}));
 }
 
+TEST(PdoFieldsForTypeTest, IsTheOnlyFindingAboutAWrongType) {
+  CExample dock("usb4-dock.xml");
+  dock.Set(SrcPdo(1, 2), "Src_PDO_Supply_Type", "1", "Battery");  // or pdo-order
+  EXPECT_THAT(dock.Findings(), Are({{"pdo-fields-for-type", "Src_PDO_Supply_Type",
+                                     "Component 1, Source PDO 2: a battery PDO needs Src_PDO_Min_Voltage, "
+                                     "Src_PDO_Max_Voltage and Src_PDO_Max_Power, and has no Src_PDO_Voltage and "
+                                     "Src_PDO_Max_Current"}}));
+}
+
 }  // namespace
 }  // namespace vifanalysis

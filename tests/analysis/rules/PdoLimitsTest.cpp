@@ -161,5 +161,14 @@ TEST(PdoLimitsTest, IgnoresAbsurdNumbers) {
   EXPECT_THAT(charger.Findings(), testing::Not(testing::Contains(testing::Field(&Finding::code, "pdo-limits"))));
 }
 
+TEST(PdoLimitsTest, TakesNoNumberFromAPdoOfAWrongType) {
+  CExample dock("usb4-dock.xml");
+  dock.Set(SrcPdo(1, 1), "Src_PDO_Supply_Type", "3", "Augmented");
+  EXPECT_THAT(dock.Findings(), Are({{"first-pdo-not-5v", "Src_PDO_Supply_Type",
+                                     "Component 1, Source PDO 1: the first source PDO must be fixed at 5 V "
+                                     "(Src_PDO_Supply_Type 0, Src_PDO_Voltage 100), but it has Src_PDO_Supply_Type 3 "
+                                     "(Augmented)"}}));
+}
+
 }  // namespace
 }  // namespace vifanalysis

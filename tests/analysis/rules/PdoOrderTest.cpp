@@ -7,11 +7,17 @@ namespace {
 
 TEST(PdoOrderTest, FindsASupplyAfterALaterKind) {
   CExample tablet("dual-role-tablet.txt");
-  tablet.Set(SnkPdo(1, 5), "Snk_PDO_Supply_Type", "0");
+  for (const std::uint64_t pdo : {4U, 5U}) {
+    tablet.RemoveGroup(SnkPdo(1, pdo));
+    tablet.Add(SnkPdo(1, pdo), "Snk_PDO_Supply_Type", pdo == 4 ? "2" : "1")
+        .Add(SnkPdo(1, pdo), "Snk_PDO_Min_Voltage", "180")
+        .Add(SnkPdo(1, pdo), "Snk_PDO_Max_Voltage", "300")
+        .Add(SnkPdo(1, pdo), pdo == 4 ? "Snk_PDO_Op_Current" : "Snk_PDO_Op_Power", "100");
+  }
   EXPECT_THAT(tablet.Findings(),
               Are({{"pdo-order", "Snk_PDO_Supply_Type",
                     "Component 1, Sink PDO 5: PDOs come in the order fixed, battery, variable, augmented, but "
-                    "Snk_PDO_Supply_Type 0 (Fixed) follows 1 (Battery)"}}));
+                    "Snk_PDO_Supply_Type 1 (Battery) follows 2 (Variable)"}}));
 }
 
 TEST(PdoOrderTest, FindsAFixedVoltageThatFalls) {

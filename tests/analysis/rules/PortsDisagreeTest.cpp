@@ -30,8 +30,8 @@ TEST(PortsDisagreeTest, FindsRevisionsThatDiffer) {
 TEST(PortsDisagreeTest, ComparesWhatHoldsForTheProduct) {
   for (const auto& [name, value] :
        {std::pair("PD_Spec_Revision_Minor", "2"), std::pair("PD_Spec_Version_Minor", "1"), std::pair("XID_SOP", "9"),
-        std::pair("Manufacturer_Info_VID_Port", "9"), std::pair("Num_Fixed_Batteries", "9"),
-        std::pair("Num_Swappable_Battery_Slots", "9")}) {
+        std::pair("Manufacturer_Info_VID_Port", "9"), std::pair("Num_Fixed_Batteries", "2"),
+        std::pair("Num_Swappable_Battery_Slots", "1")}) {
     CExample laptop("two-port-laptop.xml");
     laptop.Set(Component(2), name, value);
     const std::vector<Finding> findings = laptop.FindingsOf("ports-disagree");
@@ -58,9 +58,10 @@ TEST(PortsDisagreeTest, ReportsOnlyTheFirstPortThatDiffers) {
 TEST(PortsDisagreeTest, FindsALabelThatTwoPortsHave) {
   CExample dock("usb4-dock.xml");
   dock.Set(Component(3), "Port_Label", "1");
-  EXPECT_THAT(dock.FindingsOf("ports-disagree"),
-              Are({{"ports-disagree", "Component[3]/Port_Label",
-                    "Component 3: Port_Label is '1', as that of Component 2; each port needs a label of its own"}}));
+  EXPECT_THAT(
+      dock.FindingsOf("ports-disagree"),
+      Are({{"ports-disagree", "Component[3]/Port_Label",
+            "Component 3: Port_Label is '1', the same as in Component 2; each port needs a label of its own"}}));
 }
 
 TEST(PortsDisagreeTest, SkipsPortsThatDoNotSayIt) {

@@ -61,5 +61,18 @@ TEST(RatingAbovePdosTest, NeedsAllPdos) {
                     "Component 1: PD_Power_As_Source is 18 W, but no source PDO is of more than 15 W"}}));
 }
 
+TEST(RatingAbovePdosTest, IsTheOnlyFindingAboutARatingThatIsTooGreat) {
+  CExample dock("usb4-dock.xml");
+  dock.Set(Component(1), "PD_Power_As_Source", "192000");  // or epr-consistency, product-power
+  EXPECT_THAT(dock.Findings(),
+              Are({{"rating-above-pdos", "PD_Power_As_Source",
+                    "Component 1: PD_Power_As_Source is 192 W, but no source PDO is of more than 96 W"}}));
+  CExample gang("usb4-dock.xml");
+  gang.Set(Component(2), "PD_Power_As_Source", "30000");
+  EXPECT_THAT(gang.Findings(),
+              Are({{"rating-above-pdos", "PD_Power_As_Source",
+                    "Component 2: PD_Power_As_Source is 30 W, but no source PDO is of more than 15 W"}}));
+}
+
 }  // namespace
 }  // namespace vifanalysis

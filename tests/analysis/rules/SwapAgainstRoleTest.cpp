@@ -73,5 +73,23 @@ TEST(SwapAgainstRoleTest, NeedsTheRoleAndTheStateMachine) {
   EXPECT_THAT(charger.FindingsOf(kCode), Are({}));
 }
 
+TEST(SwapAgainstRoleTest, BlamesARoleThatSeveralSwapsContradict) {
+  CExample charger("gan-charger-65w.txt");
+  charger.Add(Component(1), "Accepts_PR_Swap_As_Src", "YES").Add(Component(1), "Requests_PR_Swap_As_Src", "YES");
+  EXPECT_THAT(charger.FindingsOf(kCode),
+              Are({{kCode, "PD_Port_Type",
+                    "Component 1: a Provider Only port cannot change its power role, but Accepts_PR_Swap_As_Src and "
+                    "Requests_PR_Swap_As_Src are YES"}}));
+}
+
+TEST(SwapAgainstRoleTest, BlamesAStateMachineThatBothPreferencesContradict) {
+  CExample charger("gan-charger-65w.txt");
+  charger.Add(Component(1), "Type_C_Implements_Try_SRC", "YES").Add(Component(1), "Type_C_Implements_Try_SNK", "YES");
+  EXPECT_THAT(charger.FindingsOf(kCode),
+              Are({{kCode, "Type_C_State_Machine",
+                    "Component 1: Type_C_Implements_Try_SRC and Type_C_Implements_Try_SNK are YES, but "
+                    "Type_C_State_Machine 0 (SRC) is not DRP"}}));
+}
+
 }  // namespace
 }  // namespace vifanalysis

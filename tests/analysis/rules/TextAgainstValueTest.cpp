@@ -153,5 +153,12 @@ TEST(TextAgainstValueTest, DoesNotKnowTheUnitWithoutASupplyType) {
   EXPECT_THAT(tablet.FindingsOf(kCode), Are({}));
 }
 
+TEST(TextAgainstValueTest, TakesAShortNumberForARemark) {
+  ExpectMatch(Component(1), "bcdDevice_SOP", "512", "2");
+  ExpectMatch(Component(1), "bcdDevice_SOP", "0x0200", "A1");
+  ExpectMismatch(Component(1), "bcdDevice_SOP", "0x0200", "0xA1",
+                 "Component 1: 'bcdDevice_SOP' is 512 (0x0200), but its text says '0xA1'");
+}
+
 }  // namespace
 }  // namespace vifanalysis

@@ -43,14 +43,15 @@ TEST(Usb4NeedsTest, FindsAnOldRevisionOfPd) {
   }
   EXPECT_THAT(dock.FindingsOf("usb4-needs"),
               Are({{"usb4-needs", "Component[1]/PD_Specification_Revision",
-                    "Component 1: USB4_Supported is YES, but PD_Specification_Revision is 1 (Revision 2); USB4 takes "
-                    "revision 3"}}));
+                    "Component 1: USB4_Supported is YES, but PD_Specification_Revision is 1 (Revision 2); USB4 "
+                    "requires PD revision 3"}}));
 }
 
 TEST(Usb4NeedsTest, FindsAnotherConnector) {
-  EXPECT_THAT(FindingsAfter(1, "Connector_Type", "0"),
-              Are({{"usb4-needs", "Component[1]/Connector_Type",
-                    "Component 1: USB4_Supported is YES, but Connector_Type is 0 (Type-A); USB4 takes 2 (Type-C)"}}));
+  EXPECT_THAT(
+      FindingsAfter(1, "Connector_Type", "0"),
+      Are({{"usb4-needs", "Component[1]/Connector_Type",
+            "Component 1: USB4_Supported is YES, but Connector_Type is 0 (Type-A); USB4 requires 2 (Type-C)"}}));
   EXPECT_EQ(FindingsAfter(1, "Connector_Type", "3").size(), 1U);
 }
 
@@ -69,7 +70,11 @@ TEST(Usb4NeedsTest, FindsADfpThatIsNotAHost) {
 }
 
 TEST(Usb4NeedsTest, FindsAUfpThatIsNotADevice) {
-  EXPECT_THAT(FindingsAfter(1, "Type_C_Can_Act_As_Device", "false"),
+  CExample dock("usb4-dock.xml");
+  for (const char* name : {"Type_C_Can_Act_As_Device", "Data_Capable_As_USB_Device_SOP", "Device_Supports_USB_Data"}) {
+    dock.Set(Component(1), name, "false");  // one alone would be left to data-role-contradiction
+  }
+  EXPECT_THAT(dock.FindingsOf("usb4-needs"),
               Are({{"usb4-needs", "Component[1]/USB4_UFP_Supported",
                     "Component 1: USB4_UFP_Supported is YES, but Type_C_Can_Act_As_Device is NO; a USB4 UFP that is "
                     "not on a hub is a device"}}));
@@ -97,6 +102,20 @@ TEST(Usb4NeedsTest, IsForEditionsFrom3_0) {
   EXPECT_EQ(dock.FindingsOf("usb4-needs").size(), 1U);
   dock.SetEdition("2.20");
   EXPECT_THAT(dock.FindingsOf("usb4-needs"), Are({}));
+}
+
+TEST(Usb4NeedsTest, IsTheOnlyFindingAboutWhatIsMissing) {
+  CExample withoutComms("usb4-dock.xml");
+  withoutComms.Set(Component(1), "USB_Comms_Capable", "false");  // or comms-role
+  EXPECT_THAT(withoutComms.Findings(),
+              Are({{"usb4-needs", "Component[1]/USB_Comms_Capable",
+                    "Component 1: USB4_Supported is YES, but USB_Comms_Capable is NO; USB4 is USB communication"}}));
+  CExample withoutPd("usb4-dock.xml");
+  withoutPd.Set(Component(1), "USB_PD_Support", "false");  // or role-leftover
+  EXPECT_THAT(withoutPd.Findings(),
+              Are({{"usb4-needs", "Component[1]/USB_PD_Support",
+                    "Component 1: USB4_Supported is YES, but USB_PD_Support is NO; USB4 is entered with a PD "
+                    "message"}}));
 }
 
 }  // namespace

@@ -38,8 +38,7 @@ TEST(ValueOutOfRangeTest, FindsAnIdentifierOfMoreThan16Bits) {
   CExample charger("gan-charger-65w.txt");
   charger.Set(Component(1), "PID_SOP", "0x10000");
   EXPECT_THAT(charger.FindingsOf(kCode),
-              Are({{kCode, "PID_SOP",
-                    "Component 1: 'PID_SOP' is 0x10000, but has only 16 bits, so that 0xFFFF is its greatest value"}}));
+              Are({{kCode, "PID_SOP", "Component 1: 'PID_SOP' is 0x10000, but has only 16 bits: at most 0xFFFF"}}));
   charger.Set(Component(1), "PID_SOP", "0xFFFF");
   EXPECT_THAT(charger.FindingsOf(kCode), Are({}));
 }
@@ -49,24 +48,20 @@ TEST(ValueOutOfRangeTest, FindsIdentifiersOfCablesAndModes) {
   cable.Set(Component(1), "bcdDevice", "65536").Set(CableSvid(1, 1), "SVID", "0x1FF01");
   EXPECT_THAT(
       cable.FindingsOf(kCode),
-      Are({{kCode, "bcdDevice",
-            "Component 1: 'bcdDevice' is 0x10000, but has only 16 bits, so that 0xFFFF is its greatest value"},
-           {kCode, "SVID",
-            "Component 1, Cable SVID 1: 'SVID' is 0x1FF01, but has only 16 bits, so that 0xFFFF is its greatest "
-            "value"}}));
+      Are({{kCode, "bcdDevice", "Component 1: 'bcdDevice' is 0x10000, but has only 16 bits: at most 0xFFFF"},
+           {kCode, "SVID", "Component 1, Cable SVID 1: 'SVID' is 0x1FF01, but has only 16 bits: at most 0xFFFF"}}));
 }
 
 TEST(ValueOutOfRangeTest, FindsAnXidOrAMaskOfMoreThan32Bits) {
   CExample tablet("dual-role-tablet.txt");
   tablet.Set(Component(1), "XID_SOP", "4294967296");
   tablet.Set(SopSvidMode(1, 2, 2), "SVID_Mode_Recog_Mask_SOP", "0xFFFFFFFFFFFFFFFE");
-  EXPECT_THAT(tablet.FindingsOf(kCode),
-              Are({{kCode, "XID_SOP",
-                    "Component 1: 'XID_SOP' is 0x100000000, but has only 32 bits, so that 0xFFFFFFFF is its greatest "
-                    "value"},
-                   {kCode, "SVID_Mode_Recog_Mask_SOP",
-                    "Component 1, SOP SVID 2, Mode 2: 'SVID_Mode_Recog_Mask_SOP' is 0xFFFFFFFFFFFFFFFE, but has only "
-                    "32 bits, so that 0xFFFFFFFF is its greatest value"}}));
+  EXPECT_THAT(
+      tablet.FindingsOf(kCode),
+      Are({{kCode, "XID_SOP", "Component 1: 'XID_SOP' is 0x100000000, but has only 32 bits: at most 0xFFFFFFFF"},
+           {kCode, "SVID_Mode_Recog_Mask_SOP",
+            "Component 1, SOP SVID 2, Mode 2: 'SVID_Mode_Recog_Mask_SOP' is 0xFFFFFFFFFFFFFFFE, but has only "
+            "32 bits: at most 0xFFFFFFFF"}}));
 }
 
 TEST(ValueOutOfRangeTest, FindsAQuantityOfAPdoOfMoreThan10Bits) {
@@ -74,8 +69,7 @@ TEST(ValueOutOfRangeTest, FindsAQuantityOfAPdoOfMoreThan10Bits) {
   charger.Set(SrcPdo(1, 4), "Src_PDO_Voltage", "20000");
   EXPECT_THAT(charger.FindingsOf(kCode),
               Are({{kCode, "Src_PDO_Voltage",
-                    "Component 1, Source PDO 4: 'Src_PDO_Voltage' is 20000, but has only 10 bits, so that 1023 is its "
-                    "greatest value"}}));
+                    "Component 1, Source PDO 4: 'Src_PDO_Voltage' is 20000, but has only 10 bits: at most 1023"}}));
   charger.Set(SrcPdo(1, 4), "Src_PDO_Voltage", "1023");
   EXPECT_THAT(charger.FindingsOf(kCode), Are({}));
 }
