@@ -27,9 +27,10 @@ std::string PdosOfLines(std::size_t lines) {
   std::string content;
   for (std::size_t pdo = 1; lines >= 4; ++pdo, lines -= 4) {
     const std::string number = std::to_string(pdo);
-    content += "Src_PDO_Supply_Type" + number + ": 0 ; Fixed\nSrc_PDO_Voltage" + number + ": " +
-               std::to_string(100 + pdo % 200) + "\nSrc_PDO_Max_Current" + number +
-               ": 300 ; 3000 mA\nSrc_PDO_Peak_Current" + number + ": 0\n";
+    content.append("Src_PDO_Supply_Type").append(number).append(": 0 ; Fixed\n");
+    content.append("Src_PDO_Voltage").append(number).append(": ").append(std::to_string(100 + pdo % 200)).append("\n");
+    content.append("Src_PDO_Max_Current").append(number).append(": 300 ; 3000 mA\n");
+    content.append("Src_PDO_Peak_Current").append(number).append(": 0\n");
   }
   return content;
 }
