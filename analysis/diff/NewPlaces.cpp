@@ -31,8 +31,11 @@ std::string OuterComponent(std::string_view message) {
   return isNumber ? std::string(message.substr(0, comma + 2)) : std::string();
 }
 
-/// Where the first numbers of the text end, as many as a place has at most, the last first.
+/// Where the first numbers of the text end, as many as a place has at most, the last first. They are only looked for
+/// as far as a place may reach, so that long messages do not take long.
 std::vector<std::size_t> EndsOfNumbers(std::string_view text) {
+  constexpr std::size_t longestPlace = 128;
+  text = text.substr(0, longestPlace);
   std::vector<std::size_t> ends;
   for (std::size_t i = 1; i <= text.size() && ends.size() < CVIFField::MAX_INDEX_DEPTH; ++i) {
     if (IsDigit(text[i - 1]) && (i == text.size() || !IsDigit(text[i]))) ends.push_back(i);
@@ -41,11 +44,13 @@ std::vector<std::size_t> EndsOfNumbers(std::string_view text) {
   return ends;
 }
 
-/// The group whose elements have the path, which is without prefixes and numbers; `eVifLocUnset` if there is none.
-EVifLocation KindAt(const std::string& path) {
+/// The group whose elements have that path without numbers; `eVifLocUnset` if there is none.
+EVifLocation KindAt(std::string_view path) {
   for (int value = eVifLocVif; value <= eVifLocCableSvidMode; ++value) {
     const auto kind = static_cast<EVifLocation>(value);
-    if (GetVifLocInfo(kind).xpath == path + ' ') return kind;
+    std::string_view ofKind = GetVifLocInfo(kind).xpath;
+    ofKind.remove_suffix(1);  // the blank
+    if (path == ofKind) return kind;
   }
   return eVifLocUnset;
 }
