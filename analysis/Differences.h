@@ -65,7 +65,9 @@ struct DeclaredField {
 struct Difference {
   DifferenceKind kind{};
   std::string name;                     ///< its canonical name
-  GroupPlace place{};                   ///< its group in the second file; in the first, if the group was removed
+  GroupPlace place{};                   ///< its group in the second file; if the group or one around it was removed,
+                                        ///< the removed numbers, as the first file has them, within the counterpart
+                                        ///< of what is around them
   std::size_t group = kNoGroup;         ///< the index in `Differences::groups` of the added or removed group that it
                                         ///< is a part of, at any depth; otherwise `kNoGroup`
   std::optional<DeclaredField> before;  ///< the first's; nothing if added
@@ -78,12 +80,13 @@ struct Difference {
 enum class GroupChangeKind : std::uint8_t {
   Added,       ///< only the second has it
   Removed,     ///< only the first has it
-  Moved,       ///< it changed places with others of its kind
+  Moved,       ///< it changed places with others of its kind, and has another number
   Renumbered,  ///< it has another number because of groups that were added, removed or moved, or of a gap
 };
 
 /// One group that is not the same, or does not have the same number, in both. A group whose fields differ is not listed
-/// for that.
+/// for that, and neither are those that a file has once: its header, its application's and the product, which are
+/// compared field by field even if only one file has them.
 struct GroupChange {
   GroupChangeKind kind{};
   GroupPlace before{};         ///< its place in the first; if added, that of its parent's counterpart there
@@ -139,8 +142,13 @@ struct FindingChanges {
   std::vector<Finding> added;  ///< only the second has them
 };
 
-/// Compares what checking two files has found. Two findings are the same if their code, element and message are; lines
-/// move. Where one file is text and the other XML, only the last name of an element's path counts.
-VIF_ANALYSIS_API FindingChanges CompareFindings(const std::vector<Finding>& before, const std::vector<Finding>& after);
+/// Compares what checking two files has found. Two findings are the same if their code, element and message are, with
+/// places compared as the groups are aligned: what was found in Source PDO 2 is the same in Source PDO 3 if that is
+/// where the PDO is now, and findings in a removed group are fixed. Line numbers do not count, but values do: a
+/// finding whose message quotes a value that has changed is another one. Where one file is text and the other XML, only
+/// the last name of an element's path counts.
+/// \param differences how the files differ, from `Compare`; without it, each group corresponds to that of its number
+VIF_ANALYSIS_API FindingChanges CompareFindings(const std::vector<Finding>& before, const std::vector<Finding>& after,
+                                                const Differences& differences = {});
 
 }  // namespace vifanalysis

@@ -1,9 +1,12 @@
 // What a check finds in a file.
 #pragma once
 
+#include <analysis/Export.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace vifanalysis {
 
@@ -23,6 +26,12 @@ struct Finding {
   std::string element;  ///< the field in a text file, the element's path in an XML file; empty when there is none
   std::string message;  ///< what is wrong, as a sentence without a full stop
 };
+
+/// The message of a finding without line numbers, which differ once lines have been added or removed elsewhere in the
+/// file. So findings of two runs are the same if their codes, elements and stable messages are.
+/// \param rule the finding's code
+/// \throws std::bad_alloc; may be called from any number of threads at once
+VIF_ANALYSIS_API std::string StableMessage(std::string_view rule, std::string_view message);
 
 /// "error", "warning" or "note".
 constexpr const char* SeverityName(Severity severity) {

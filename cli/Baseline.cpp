@@ -21,8 +21,8 @@ namespace {
 std::string BaseName(const std::string& fileName) { return fileName.substr(fileName.find_last_of("/\\") + 1); }
 
 /// What distinguishes findings, as JSON has it: there, bytes that are not UTF-8 have been replaced.
-std::string Key(const std::string& fileName, const Json& code, const Json& element, const Json& message) {
-  return Dump(Json::array({BaseName(fileName), code, element, message}));
+std::string Key(const std::string& fileName, const std::string& code, const Json& element, const std::string& message) {
+  return Dump(Json::array({BaseName(fileName), code, element, vifanalysis::StableMessage(code, message)}));
 }
 
 std::string Read(const std::string& fileName) {
@@ -41,7 +41,8 @@ std::set<std::string> KnownFindings(const Json& json) {
   for (const Json& file : json.at("files")) {
     const std::string name = file.at("file").get<std::string>();
     for (const Json& finding : file.at("findings")) {
-      known.insert(Key(name, finding.at("code"), finding.at("element"), finding.at("message")));
+      known.insert(Key(name, finding.at("code").get<std::string>(), finding.at("element"),
+                       finding.at("message").get<std::string>()));
     }
   }
   return known;

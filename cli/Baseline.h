@@ -9,7 +9,8 @@
 namespace cli {
 
 /// What an earlier `vif check --format json` printed. Two findings are the same if code, element, message and the base
-/// name of the file are: lines move, and folders differ from machine to machine.
+/// name of the file are. Line numbers do not count, not even in the message, and neither do folders, which differ from
+/// machine to machine.
 class CBaseline {
  public:
   /// \throws Failure when the file cannot be read or is not the output of `vif check --format json`

@@ -1,6 +1,7 @@
 #include "Command.h"
 #include "DifferenceWriters.h"
 #include "FieldSource.h"
+#include "Number.h"
 #include "SchemasOption.h"
 
 #include <BaseUtilities/PathText.h>
@@ -8,8 +9,11 @@
 #include <analysis/Differences.h>
 #include <CLI/CLI.hpp>
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -22,11 +26,13 @@ struct DiffSettings {
   std::string format = "text";
   vifanalysis::CompareOptions options;
   bool ports = false;
-  std::vector<std::uint64_t> components;
+  std::vector<std::string> components;
   std::vector<std::string> files;
 };
 
 constexpr const char* kDescription = "Compare two VIFs, or the ports of one";
+
+constexpr const char* kSeeHelp = "(see 'vif diff --help')";
 
 constexpr const char* kFooter =
     "Compares by meaning: 0x64 equals 100, $Vendor_Name of a text file is Vendor_Name of an XML file, and older names "
@@ -41,7 +47,7 @@ constexpr const char* kFooter =
     "Formats:\n"
     "  text   one difference a line by place, with units: Source PDO 2: voltage 9 V \u2192 12 V (180 \u2192 240)\n"
     "  json   one object with \"files\", \"same\", \"differences\", \"groups\" and \"findings\"; each difference has "
-    "\"kind\" (changed, added or removed), \"name\", \"indexes\", \"old\" and \"new\"\n"
+    "\"kind\" (changed, added or removed), \"name\", \"indexes\", \"old\", \"new\" and \"place\"\n"
     "\n"
     "Examples:\n"
     "  vif diff passed.txt revised.xml\n"
@@ -65,7 +71,8 @@ Status RunFiles(const DiffSettings& settings) {
     const CVendorInfoFile after = LoadFiles({comparison.after});
     comparison.differences = vifanalysis::Compare(before.Fields(), after.Fields(), settings.options);
   }
-  comparison.findings = vifanalysis::CompareFindings(FindingsOf(comparison.before), FindingsOf(comparison.after));
+  comparison.findings =
+      vifanalysis::CompareFindings(FindingsOf(comparison.before), FindingsOf(comparison.after), comparison.differences);
   if (settings.format == "json") {
     WriteComparisonAsJson(comparison);
   } else {
@@ -74,20 +81,34 @@ Status RunFiles(const DiffSettings& settings) {
   return comparison.differences.IsEmpty() ? kDone : kNegative;
 }
 
-std::vector<vifanalysis::PortComparison> ComparePorts(const DiffSettings& settings) {
-  const std::string& fileName = settings.files.front();
-  const CVendorInfoFile vif = LoadFiles({fileName});
+std::uint64_t ComponentNumber(const std::string& text) {
+  const std::optional<std::uint64_t> number = ParseNumber(text);
+  if (!number) throw Failure("--component takes the number of a component, not '" + text + "' " + kSeeHelp);
+  return *number;
+}
+
+std::vector<vifanalysis::PortComparison> ComparePorts(const CVendorInfoFile& vif, const DiffSettings& settings) {
   if (settings.components.empty()) return vifanalysis::ComparePorts(vif.Fields(), settings.options);
+  const std::uint64_t other = ComponentNumber(settings.components.front());
+  const std::uint64_t component = ComponentNumber(settings.components.back());
   try {
-    return {vifanalysis::ComparePorts(vif.Fields(), settings.components.front(), settings.components.back(),
-                                      settings.options)};
+    return {vifanalysis::ComparePorts(vif.Fields(), other, component, settings.options)};
   } catch (const std::out_of_range& error) {
-    throw Failure(fileName + ": " + error.what());
+    throw Failure(settings.files.front() + ": " + error.what());
   }
 }
 
+std::size_t CountComponents(const CVendorInfoFile& vif) {
+  std::set<std::uint64_t> numbers;
+  for (const CVIFField& field : vif.Fields()) {
+    if (field.HasIndex(eVifLocComponent)) numbers.insert(field.Index(eVifLocComponent));
+  }
+  return numbers.size();
+}
+
 Status RunPorts(const DiffSettings& settings) {
-  const FilePorts ports = {settings.files.front(), ComparePorts(settings)};
+  const CVendorInfoFile vif = LoadFiles({settings.files.front()});
+  const FilePorts ports = {settings.files.front(), CountComponents(vif), ComparePorts(vif, settings)};
   if (settings.format == "json") {
     WritePortsAsJson(ports);
   } else {
@@ -97,14 +118,17 @@ Status RunPorts(const DiffSettings& settings) {
 }
 
 /// \throws Failure for options and files that do not go together
-void RequireSense(const DiffSettings& settings) {
+void RequireValidCombination(const DiffSettings& settings) {
   const std::string given = std::to_string(settings.files.size()) + (settings.files.size() == 1 ? " is" : " are");
-  const std::string end = given + " given (see 'vif diff --help')";
+  const std::string end = given + " given " + kSeeHelp;
   if (settings.ports && settings.files.size() != 1) throw Failure("--ports compares the ports of one file; " + end);
   if (!settings.ports && settings.files.size() != 2) throw Failure("vif diff compares two files; " + end);
   if (settings.components.empty()) return;
-  if (!settings.ports) throw Failure("--component chooses ports, which needs --ports");
-  if (settings.components.size() != 2) throw Failure("--component must be given twice, for the two ports to compare");
+  if (!settings.ports) throw Failure(std::string("--component chooses ports, which needs --ports ") + kSeeHelp);
+  if (settings.components.size() != 2) {
+    throw Failure(std::string("--component must be given twice, for the two ports to compare ") + kSeeHelp);
+  }
+  for (const std::string& component : settings.components) ComponentNumber(component);
 }
 
 }  // namespace
@@ -127,7 +151,7 @@ void AddDiffCommand(CLI::App& app, Status& status) {
       ->required()
       ->option_text("...");
   command->callback([settings, &status] {
-    RequireSense(*settings);
+    RequireValidCombination(*settings);
     status = settings->ports ? RunPorts(*settings) : RunFiles(*settings);
   });
 }

@@ -52,7 +52,8 @@ Json FieldJson(const std::optional<DeclaredField>& field) {
           {"description", field->description},
           {"name", field->name},
           {"indexes", PlaceJson(field->indexes)},
-          {"meaning", field->meaning.empty() ? Json() : Json(field->meaning)}};
+          {"meaning", field->meaning.empty() ? Json() : Json(field->meaning)},
+          {"place", PlaceJson(field->place)}};
 }
 
 Json ToJson(const Difference& difference) {
@@ -60,7 +61,8 @@ Json ToJson(const Difference& difference) {
           {"name", difference.name},
           {"indexes", PlaceJson(difference.after ? difference.after->indexes : difference.before->indexes)},
           {"old", FieldJson(difference.before)},
-          {"new", FieldJson(difference.after)}};
+          {"new", FieldJson(difference.after)},
+          {"place", PlaceJson(difference.place)}};
 }
 
 Json ToJson(const GroupChange& change) {

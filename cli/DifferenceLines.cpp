@@ -40,12 +40,18 @@ bool IsWord(std::string_view word) {
   return word.size() > 1 && std::none_of(word.begin() + 1, word.end(), [](char c) { return c >= 'A' && c <= 'Z'; });
 }
 
+bool IsPdo(const GroupPlace& place) {
+  const std::size_t depth = DepthOf(place);
+  const EVifLocation kind = depth == 0 ? eVifLocUnset : std::get<0>(place[depth - 1]);
+  return kind == eVifLocSrcPdo || kind == eVifLocSnkPdo;
+}
+
 /// What a field is called beside its place: of a PDO "max current" for Src_PDO_Max_Current, elsewhere its name.
-std::string Label(std::string_view name) {
+std::string Label(std::string_view name, const GroupPlace& place) {
   constexpr std::array<std::string_view, 3> prefixes = {"Src_PDO_", "Snk_PDO_", "Src_PD_"};
   const auto prefix = std::find_if(prefixes.begin(), prefixes.end(),
                                    [&](std::string_view beginning) { return name.starts_with(beginning); });
-  if (prefix == prefixes.end()) return Printable(name);
+  if (!IsPdo(place) || prefix == prefixes.end() || prefix->size() == name.size()) return Printable(name);
   name.remove_prefix(prefix->size());
   std::string label;
   while (!name.empty()) {
@@ -102,7 +108,7 @@ bool HasOtherValue(const Difference& difference) {
 }
 
 std::string FieldText(const Difference& difference, bool withDescriptions) {
-  const std::string label = Label(difference.name) + ' ';
+  const std::string label = Label(difference.name, difference.place) + ' ';
   if (difference.kind == DifferenceKind::Added) {
     return Added("added: " + label + ValueText(*difference.after));
   }
@@ -146,10 +152,15 @@ std::string GroupPrefix(const GroupPlace& place) {
   return isTop ? std::string() : Prefix(place);
 }
 
-std::string Summarised(const char* what, const GroupChange& change) {
+/// "added: Fixed, 9 V" of a PDO, whose summary says what it is, but of a component, whose label is only one of many
+/// fields, "added, with 8 fields (Port_Label "C0")".
+std::string Summarised(const char* what, const GroupChange& change, const GroupPlace& place) {
   std::string text = what;
-  if (!change.summary.empty()) return text.append(": ").append(Printable(change.summary));
-  return text.append(", with ").append(Amount(change.fieldCount, "field"));
+  const bool isWholeComponent = DepthOf(place) == 1;
+  const std::string summary = Printable(change.summary);
+  if (!summary.empty() && !isWholeComponent) return text.append(": ").append(summary);
+  text.append(", with ").append(Amount(change.fieldCount, "field"));
+  return summary.empty() ? text : text.append(" (").append(summary).append(")");
 }
 
 /// "was Source PDO 3", or the component's whole place.
@@ -161,10 +172,10 @@ std::string FormerPlace(const GroupChange& change) {
 RankedLine GroupLine(const GroupChange& change) {
   switch (change.kind) {
     case GroupChangeKind::Added:
-      return {change.after, 1, GroupPrefix(change.after) + Added(Summarised("added", change))};
+      return {change.after, 1, GroupPrefix(change.after) + Added(Summarised("added", change, change.after))};
     case GroupChangeKind::Removed: {
       const GroupPlace place = PlaceOfRemoved(change);
-      return {place, 0, GroupPrefix(place) + Removed(Summarised("removed", change))};
+      return {place, 0, GroupPrefix(place) + Removed(Summarised("removed", change, place))};
     }
     case GroupChangeKind::Moved: {
       const std::string summary = change.summary.empty() ? "" : " (" + Printable(change.summary) + ")";
@@ -175,8 +186,9 @@ RankedLine GroupLine(const GroupChange& change) {
   return {change.after, 1, GroupPrefix(change.after) + "was " + FormerPlace(change)};
 }
 
-/// Whether both were renumbered, and have consecutive numbers in both files.
+/// Whether both were renumbered, and have consecutive numbers in both files. Components have headings of their own.
 bool Continues(const GroupChange& previous, const GroupChange& next) {
+  if (DepthOf(next.after) == 1) return false;
   if (previous.kind != GroupChangeKind::Renumbered || next.kind != GroupChangeKind::Renumbered) return false;
   const auto following = [](GroupPlace place) {
     const std::size_t depth = DepthOf(place);
@@ -190,7 +202,7 @@ RankedLine RunLine(const GroupChange& first, const GroupChange& last) {
   if (&first == &last) return GroupLine(first);
   const std::size_t depth = DepthOf(first.after) - 1;
   const auto to = [&](const GroupPlace& end) { return " to " + NumberText(end[depth]); };
-  std::string text = PlaceInWords(first.after, depth == 0 ? 0 : 1) + to(last.after);
+  std::string text = PlaceInWords(first.after, 1) + to(last.after);
   text.append(": were ").append(NumberText(first.before[depth])).append(to(last.before));
   return {first.after, 1, std::move(text)};
 }

@@ -69,6 +69,11 @@ void WriteFindings(const FindingChanges& findings) {
   Write(SummaryOf(findings) + '\n');
 }
 
+const char* WhyNothingIsCompared(std::size_t components) {
+  if (components == 0) return "the file has no components\n";
+  return components == 1 ? "the file has only one component\n" : "no two components are of the same kind\n";
+}
+
 }  // namespace
 
 bool FilePorts::AreSame() const {
@@ -82,7 +87,7 @@ void WriteComparisonAsText(const FileComparison& comparison, bool withDescriptio
 }
 
 void WritePortsAsText(const FilePorts& ports, bool withDescriptions) {
-  if (ports.ports.empty()) Write("no two components are of the same kind\n");
+  if (ports.ports.empty()) Write(WhyNothingIsCompared(ports.components));
   const char* separator = "";
   for (const PortComparison& port : ports.ports) {
     std::string pair = "Component ";

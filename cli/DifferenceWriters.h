@@ -3,6 +3,7 @@
 
 #include <analysis/Differences.h>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,7 @@ struct FileComparison {
 /// How ports of one file differ.
 struct FilePorts {
   std::string file;
+  std::size_t components = 0;  ///< the number of components in the file
   std::vector<vifanalysis::PortComparison> ports;
 
   /// Whether no port differs.

@@ -1,5 +1,6 @@
 #include "Command.h"
 #include "FieldSource.h"
+#include "Number.h"
 #include "Output.h"
 #include "SchemasOption.h"
 
@@ -11,7 +12,7 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <regex>
@@ -75,13 +76,6 @@ constexpr const char* kFooter =
     "Exit status: 0 if a field matches; 1 if none does, if --unique finds several, or if --number finds a field "
     "without "
     "a number, for which it prints '-'; 2 on failure.";
-
-std::optional<std::uint64_t> ParseNumber(std::string_view text) {
-  std::uint64_t number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
-  return number;
-}
 
 std::uint64_t LocationNumber(const LocationOption& option, const std::string& text) {
   if (text == kAny) return CVIFField::INDEX_NOT_SPECIFIED;

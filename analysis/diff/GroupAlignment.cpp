@@ -9,6 +9,8 @@
 #include <cstdint>
 #include <map>
 #include <tuple>
+#include <unordered_map>
+#include <vector>
 
 namespace vifanalysis {
 
@@ -62,11 +64,29 @@ bool IsRecognised(const DiffContent& a, const DiffContent& b) {
   return 3 * a.values.Common(b.values) >= 2 * Greater(a.values, b.values);
 }
 
-/// Finds the partners of two lists.
+/// For each group of the one list, whether there are more groups equal to it there than in the other.
+std::vector<bool> InSurplus(const Contents& contents, const Contents& others) {
+  std::unordered_map<std::uint64_t, std::ptrdiff_t> surplus;  // by hash
+  for (const DiffContent& content : contents) ++surplus[content.hash];
+  for (const DiffContent& other : others) --surplus[other.hash];
+  std::vector<bool> isInSurplus;
+  isInSurplus.reserve(contents.size());
+  for (const DiffContent& content : contents) isInSurplus.push_back(surplus[content.hash] > 0);
+  return isInSurplus;
+}
+
+/// Finds the partners of two lists. A group is only paired with an unequal one if there are not enough equal ones for
+/// both, so that groups which changed places are not taken for others that were changed.
 class CAlignment {
  public:
   CAlignment(const Contents& a, const Contents& b)
-      : m_a(a), m_b(b), m_partners(a.size(), kNone), m_isMoved(a.size(), false), m_isTaken(b.size(), false) {}
+      : m_a(a),
+        m_b(b),
+        m_isSurplusA(InSurplus(a, b)),
+        m_isSurplusB(InSurplus(b, a)),
+        m_partners(a.size(), kNone),
+        m_isMoved(a.size(), false),
+        m_isTaken(b.size(), false) {}
 
   void Run() {
     AlignRange({0, m_a.size(), 0, m_b.size()}, &DiffContent::hash, kMostRounds);
@@ -87,9 +107,15 @@ class CAlignment {
     m_isTaken[b] = true;
   }
 
+  bool MayPair(std::size_t a, std::size_t b) const {
+    return m_a[a].hash == m_b[b].hash || (m_isSurplusA[a] && m_isSurplusB[b]);
+  }
+
+  bool HaveSame(Key key, std::size_t a, std::size_t b) const { return m_a[a].*key == m_b[b].*key && MayPair(a, b); }
+
   void PairEnds(Range& range, Key key) {
-    while (!range.IsEmpty() && m_a[range.beginA].*key == m_b[range.beginB].*key) Pair(range.beginA++, range.beginB++);
-    while (!range.IsEmpty() && m_a[range.endA - 1].*key == m_b[range.endB - 1].*key) Pair(--range.endA, --range.endB);
+    while (!range.IsEmpty() && HaveSame(key, range.beginA, range.beginB)) Pair(range.beginA++, range.beginB++);
+    while (!range.IsEmpty() && HaveSame(key, range.endA - 1, range.endB - 1)) Pair(--range.endA, --range.endB);
   }
 
   /// \param rounds how often groups with a key of their own may still be looked for between others
@@ -122,7 +148,10 @@ class CAlignment {
     std::vector<std::uint64_t> keysB;
     for (std::size_t a = range.beginA; a < range.endA; ++a) keysA.push_back(m_a[a].*key);
     for (std::size_t b = range.beginB; b < range.endB; ++b) keysB.push_back(m_b[b].*key);
-    std::vector<IndexPair> anchors = LongestRisingRun(FindUniqueKeys(keysA, keysB));
+    std::vector<IndexPair> unique = FindUniqueKeys(keysA, keysB);
+    std::erase_if(
+        unique, [&](const IndexPair& pair) { return !MayPair(range.beginA + pair.first, range.beginB + pair.second); });
+    std::vector<IndexPair> anchors = LongestRisingRun(unique);
     for (auto& [a, b] : anchors) {
       a += range.beginA;
       b += range.beginB;
@@ -132,8 +161,10 @@ class CAlignment {
 
   void AlignWithinBand(const Range& range) {
     if (range.IsEmpty()) return;
-    const auto score = [&](std::size_t a, std::size_t b) {
-      return Score(m_a[range.beginA + a], m_b[range.beginB + b]);
+    const auto score = [&](std::size_t a, std::size_t b) -> std::uint64_t {
+      a += range.beginA;
+      b += range.beginB;
+      return MayPair(a, b) ? Score(m_a[a], m_b[b]) : 0;
     };
     const bool isSmall = range.SizeB() <= kSmall / range.SizeA();
     for (const auto& [a, b] : AlignInBand(range.SizeA(), range.SizeB(), isSmall, score)) {
@@ -192,6 +223,8 @@ class CAlignment {
 
   const Contents& m_a;
   const Contents& m_b;
+  std::vector<bool> m_isSurplusA;
+  std::vector<bool> m_isSurplusB;
   std::vector<std::size_t> m_partners;
   std::vector<bool> m_isMoved;
   std::vector<bool> m_isTaken;

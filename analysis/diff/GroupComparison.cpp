@@ -56,6 +56,9 @@ GroupPlace PlaceWithin(const GroupPlace& outer, const CGroupView& inner) {
   return place;
 }
 
+/// Whether a file has one group of that kind at most.
+bool IsOnlyOne(EVifLocation kind) { return kind == eVifLocVif || kind == eVifLocAppVersion || kind == eVifLocProduct; }
+
 class CComparison {
  public:
   CComparison(const CNormalFile& before, const CNormalFile& after, const CompareOptions& options, IsLeftOut isLeftOut)
@@ -83,6 +86,12 @@ class CComparison {
  private:
   /// \param outerBefore the place of the group around the pair in the first file
   void ComparePair(const GroupPair& pair, const GroupPlace& outerBefore, const GroupPlace& outerAfter) {
+    const CGroupView& present = pair.before != nullptr ? *pair.before : *pair.after;
+    if (IsOnlyOne(present.Kind()) && (pair.before == nullptr || pair.after == nullptr)) {
+      const CGroupView empty(PlaceWithin(pair.before != nullptr ? outerAfter : outerBefore, present), {}, {});
+      Compare(pair.before != nullptr ? present : empty, pair.after != nullptr ? present : empty);
+      return;
+    }
     if (pair.before == nullptr) {
       const std::size_t group = AddChange(
           {GroupChangeKind::Added, outerBefore, pair.after->Place(), CountFields(*pair.after), SummaryOf(*pair.after)});
@@ -95,7 +104,7 @@ class CComparison {
       AddWhole(*pair.before, PlaceWithin(outerAfter, *pair.before), DifferenceKind::Removed, group);
       return;
     }
-    if (pair.isMoved || pair.before->Index() != pair.after->Index()) {
+    if (pair.before->Index() != pair.after->Index()) {
       AddChange({pair.isMoved ? GroupChangeKind::Moved : GroupChangeKind::Renumbered, pair.before->Place(),
                  pair.after->Place(), CountFields(*pair.after), SummaryOf(*pair.after)});
     }

@@ -2,7 +2,9 @@
 
 #include <analysis/FieldText.h>
 #include <analysis/PowerProfile.h>
+#include <analysis/Text.h>
 
+#include <algorithm>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -32,13 +34,18 @@ std::string UsualNotation(const CVIFField& field) {
   return quantity ? QuantityText(*quantity) : std::string();
 }
 
+/// Whether any of the text is known: "3.3 to ? V" says something, "?" and "? to ? V" do not.
+bool SaysSomething(std::string_view text) {
+  return !text.empty() && (text.find('?') == std::string_view::npos || std::any_of(text.begin(), text.end(), IsDigit));
+}
+
 std::string PdoSummary(const CGroupView& group) {
   std::vector<const CVIFField*> fields;
   for (const NamedField& named : group.Fields()) fields.push_back(&named.field->field);
   const PowerProfile profile = DescribePdo(fields);
   std::string summary;
   for (const std::string& part : {profile.supply, profile.voltage, profile.current, profile.power}) {
-    if (!part.empty()) summary.append(summary.empty() ? "" : ", ").append(part);
+    if (SaysSomething(part)) summary.append(summary.empty() ? "" : ", ").append(part);
   }
   return summary;
 }

@@ -7,8 +7,10 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <utility>
 
 namespace vifanalysis {
@@ -71,6 +73,18 @@ bool IsNumberOnly(std::string_view value) {
                                           : std::all_of(value.begin(), value.end(), IsDigit));
 }
 
+/// The number that the value is and nothing else, if it has up to 64 bits. `CVIFField` reserves the greatest one.
+std::optional<std::uint64_t> NumberOf(const CVIFField& declared) {
+  const std::string_view value = declared.Value();
+  if (!IsNumberOnly(value)) return std::nullopt;
+  if (HasNumber(declared)) return declared.GetULongNumericValue();
+  const bool isHexadecimal = value.size() > 1 && (value[1] == 'x' || value[1] == 'X');
+  std::uint64_t number = 0;
+  const char* const digits = value.data() + (isHexadecimal ? 2 : 0);
+  const auto result = std::from_chars(digits, value.data() + value.size(), number, isHexadecimal ? 16 : 10);
+  return result.ec == std::errc() ? std::optional(number) : std::nullopt;
+}
+
 std::string TextOfField(const CVIFField& declared, std::string_view name) {
   std::string_view text = declared.Value();
   if (text.empty()) text = declared.Description();
@@ -93,7 +107,7 @@ CVIFField Normal(const CVIFField& declared) {
   std::string name(field != nullptr ? field->name : WithoutDollarSign(declared.Name()));
   const bool isText = !declared.IsNumeric() || (field != nullptr && field->type == FieldType::Text);
   std::string value = isText ? TextOfField(declared, name) : declared.Value();
-  if (!isText && HasNumber(declared) && IsNumberOnly(value)) value = std::to_string(declared.GetULongNumericValue());
+  if (const auto number = isText ? std::nullopt : NumberOf(declared)) value = std::to_string(*number);
   const bool isPlaced = field == nullptr || declared.IndexCount() != 0;
   const GroupPlace place = isPlaced ? declared.Indexes() : PlaceOf(*field, match);
   return {!isText, std::move(name), std::move(value), DescriptionOf(declared, isText), place};

@@ -123,6 +123,14 @@ TEST_F(CheckOptions, BaselineLeavesOutWhatAnEarlierRunHasFound) {
   EXPECT_THAT(Check({"--baseline", "known.json", "a.txt"}).output, HasSubstr("My_Other"));
 }
 
+TEST_F(CheckOptions, BaselineKnowsAFieldThatIsDeclaredTwiceInOtherLines) {
+  Write("a.txt", "PID_SOP: 1\nPID_SOP: 1\n");
+  Write("known.json", Check({"--format", "json", "a.txt"}).output);
+  Write("a.txt", "; a line more\nPID_SOP: 1\nPID_SOP: 1\n");
+  EXPECT_THAT(Codes({"a.txt"}), testing::Contains("declared-twice"));
+  EXPECT_THAT(Codes({"--baseline", "known.json", "a.txt"}), IsEmpty());
+}
+
 TEST_F(CheckOptions, BaselineIsForTheFileOfTheSameBaseName) {
   Write("a.txt", kFlawed);
   Write("b.txt", kFlawed);

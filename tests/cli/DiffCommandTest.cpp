@@ -119,6 +119,51 @@ TEST(Diff, WhatHasMovedIsSaidToHaveMoved) {
   EXPECT_EQ(Diff(before, after).status, 1);
 }
 
+TEST(Diff, TextsThatOnlyOneFileHasAreNamed) {
+  EXPECT_THAT(DiffLines("PID_SOP: 1\n", "PID_SOP: 1\n$Vendor_Name: \"A\"\n$Model_Part_Number: \"X\"\n"),
+              ElementsAre("File", "  added: Model_Part_Number \"X\"", "  added: Vendor_Name \"A\""));
+}
+
+TEST(Diff, PrefixesOfPdosAreLeftOutOnlyInPdosAndBeforeAName) {
+  EXPECT_THAT(DiffLines("PID_SOP: 1\n", "PID_SOP: 1\nSrc_PDO_: 4\nSrc_PDO_Odd: 5\n"),
+              ElementsAre("In no group", "  added: Src_PDO_ 4", "  added: Src_PDO_Odd 5"));
+}
+
+TEST(Diff, APdoWithoutASupplyTypeIsDescribedByItsFields) {
+  EXPECT_THAT(DiffLines("PID_SOP: 1\n", "PID_SOP: 1\nSrc_PDO_Voltage7: 100\nSrc_PDO_Max_Current7: 300\n"),
+              ElementsAre("Component 1", "  Source PDO 7: added, with 2 fields"));
+}
+
+/// An XML file of components with these labels.
+std::string Components(const std::vector<std::string>& labels) {
+  std::string xml = "<vif:VIF xmlns:vif=\"http://usb.org/VendorInfoFile.xsd\">";
+  for (const std::string& label : labels) {
+    xml += "<vif:Component><vif:Port_Label>" + label +
+           "</vif:Port_Label><vif:Num_Src_PDOs value=\"0\">0</vif:Num_Src_PDOs>"
+           "</vif:Component>";
+  }
+  return xml + "</vif:VIF>\n";
+}
+
+TEST(Diff, FindingsOfAnXmlFileFollowTheirComponent) {
+  const std::string odd =
+      "C1</vif:Port_Label><vif:Odd value=\"1\"/><vif:Num_Snk_PDOs>0</vif:Num_Snk_PDOs><vif:Port_Label>";
+  const TempDir dir;
+  const std::string before = dir.Write("a.xml", Components({odd})).string();
+  const std::string after = dir.Write("b.xml", Components({"C0", odd})).string();
+  EXPECT_THAT(Vif({"check", before}).output, AllOf(HasSubstr("[unknown-name]"), HasSubstr("[no-value]")));
+  EXPECT_THAT(Vif({"diff", before, after}).output, AllOf(HasSubstr("was Component 1"), Not(HasSubstr("finding"))));
+}
+
+TEST(Diff, AWholeComponentIsNotTakenForAField) {
+  const TempDir dir;
+  const std::string before = dir.Write("a.xml", Components({"C1", "C2"})).string();
+  const std::string after = dir.Write("b.xml", Components({"C0", "C1", "C2"})).string();
+  EXPECT_THAT(Vif({"diff", before, after}).output,
+              StartsWith("Component 1\n  added, with 2 fields (Port_Label \"C0\")\nComponent 2\n  was Component 1\n"
+                         "Component 3\n  was Component 2\n\n1 difference: 1 added\n"));
+}
+
 TEST(Diff, EndsWithASummary) {
   const ProgramResult result = Diff("PID_SOP: 1\nXID_SOP: 5\n", "PID_SOP: 2\nNum_Src_PDOs: 1\n");
   EXPECT_EQ(result.status, 1);
@@ -142,6 +187,20 @@ TEST(Diff, NamesTheFindingsThatCameOrWent) {
   EXPECT_THAT(result.output, HasSubstr("[declared-twice]\n"));
   EXPECT_THAT(result.output, HasSubstr("new error: "));
   EXPECT_THAT(result.output, testing::EndsWith("1 finding fixed, 1 new\n"));
+}
+
+TEST(Diff, FindingsThatNobodyTouchedAreNeitherFixedNorNew) {
+  const std::string duplicate = "PID_SOP: 1\nPID_SOP: 1\n";
+  EXPECT_EQ(Diff(duplicate, "; a line more\n" + duplicate).output, "no differences\n");
+
+  const std::string pdos = "Src_PDO_Supply_Type1: 0\nSrc_PDO_Voltage1: 100\nSrc_PDO_Supply_Type2: 0\n";
+  const std::string before = pdos + "Src_PDO_Voltage2: 400\nSrc_PDO_Voltage2: 400\n";
+  const std::string after = pdos +
+                            "Src_PDO_Voltage2: 180\nSrc_PDO_Supply_Type3: 0\n"
+                            "Src_PDO_Voltage3: 400\nSrc_PDO_Voltage3: 400\n";
+  const ProgramResult result = Diff(before, after);
+  EXPECT_THAT(result.output, HasSubstr("Source PDO 3: was Source PDO 2\n"));
+  EXPECT_THAT(result.output, Not(HasSubstr("declared-twice")));
 }
 
 TEST(Diff, JsonHasOldAndNewValues) {
@@ -207,9 +266,8 @@ void Renumber(Json& indexes, const Json& groups) {
   }
 }
 
-TEST(Diff, ApplyingTheJsonToTheFirstFileGivesTheSecond) {
-  const std::string before = Example("gan-charger-65w.txt");
-  const std::string after = Example("dual-role-tablet.txt");
+/// Applies the JSON to the fields of the first file, which must give those of the second.
+void ExpectApplied(const std::string& before, const std::string& after) {
   const Json json = Json::parse(Vif({"diff", "--format", "json", before, after}).output);
   Json first = Json::parse(Vif({"list", "--format", "json", before}).output);
   std::multiset<std::string> dropped;
@@ -218,7 +276,7 @@ TEST(Diff, ApplyingTheJsonToTheFirstFileGivesTheSecond) {
     if (!difference["old"].is_null()) dropped.insert(KeyOf(difference["old"]));
     if (!difference["new"].is_null()) result.push_back(KeyOf(difference["new"]));
   }
-  EXPECT_GT(dropped.size(), 10U);
+  EXPECT_FALSE(dropped.empty());
   for (Json& field : first["fields"]) {
     const auto found = dropped.find(KeyOf(field));
     if (found != dropped.end()) {
@@ -231,6 +289,34 @@ TEST(Diff, ApplyingTheJsonToTheFirstFileGivesTheSecond) {
   EXPECT_TRUE(dropped.empty());
   EXPECT_THAT(result, testing::UnorderedElementsAreArray(
                           FieldKeys(Json::parse(Vif({"list", "--format", "json", after}).output))));
+}
+
+TEST(Diff, ApplyingTheJsonToTheFirstFileGivesTheSecond) {
+  ExpectApplied(Example("gan-charger-65w.txt"), Example("dual-role-tablet.txt"));
+}
+
+/// Names that loading puts in no group, since it does not know them in lower case, but the vocabulary in two.
+constexpr const char* kPlacedByVocabulary = "SVID1_num_modes_min_SOP: 1\nSVID2_num_modes_min_SOP: 1\n";
+constexpr const char* kPlacedAndChanged = "SVID1_num_modes_min_SOP: 2\nSVID2_num_modes_min_SOP: 3\n";
+
+TEST(Diff, ApplyingTheJsonWorksForFieldsThatOnlyTheVocabularyPlaces) {
+  const TempDir dir;
+  ExpectApplied(dir.Write("a.txt", kPlacedByVocabulary).string(), dir.Write("b.txt", kPlacedAndChanged).string());
+}
+
+TEST(Diff, JsonHasThePlaceInWhichAFieldIsCompared) {
+  const Json json = DiffJson(kPlacedByVocabulary, kPlacedAndChanged);
+  ASSERT_EQ(json["differences"].size(), 2U);
+  for (std::size_t i = 0; i < 2; ++i) {
+    const Json& difference = json["differences"][i];
+    const Json place =
+        Json::array({{{"location", "Component"}, {"index", 1}}, {{"location", "SopSvid"}, {"index", i + 1}}});
+    EXPECT_EQ(difference["name"], "SVID_Num_Modes_Min_SOP");
+    EXPECT_EQ(difference["indexes"], Json::array());
+    EXPECT_EQ(difference["place"], place);
+    EXPECT_EQ(difference["old"]["place"], place);
+    EXPECT_EQ(difference["new"]["place"], place);
+  }
 }
 
 TEST(Diff, EscapesWhatCouldControlATerminal) {
@@ -262,7 +348,11 @@ TEST(Diff, ChosenPorts) {
 TEST(Diff, AFileWithOnePortHasNothingToCompare) {
   const ProgramResult result = Vif({"diff", "--ports", Example("gan-charger-65w.txt")});
   EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(result.output, "no two components are of the same kind\n");
+  EXPECT_EQ(result.output, "the file has only one component\n");
+  const TempDir dir;
+  EXPECT_EQ(Vif({"diff", "--ports", dir.Write("a.txt", "Odd: 1\n").string()}).output, "the file has no components\n");
+  EXPECT_EQ(Vif({"diff", "--ports", dir.Write("a.xml", Components({"C0", "C1"})).string()}).output,
+            "no two components are of the same kind\n");
 }
 
 TEST(Diff, JsonOfPorts) {
@@ -302,6 +392,12 @@ INSTANTIATE_TEST_SUITE_P(
                     UsageCase{{"--ports", "a.txt", "b.txt"}, "--ports compares the ports of one file; 2 are given"},
                     UsageCase{{"--component", "1", "--component", "2", "a.txt", "b.txt"}, "needs --ports"},
                     UsageCase{{"--ports", "--component", "1", "a.txt"}, "--component must be given twice"},
+                    UsageCase{{"--ports", "--component", "-1", "--component", "2", "a.txt"},
+                              "--component takes the number of a component, not '-1' (see 'vif diff --help')"},
+                    UsageCase{{"--ports", "--component", "1", "--component", "", "a.txt"}, "component, not '' (see"},
+                    UsageCase{{"--ports", "--component", "1", "--component", "1.5", "a.txt"}, "not '1.5' (see"},
+                    UsageCase{{"--ports", "--component", "99999999999999999999", "--component", "1", "a.txt"},
+                              "not '99999999999999999999' (see"},
                     UsageCase{{}, "FILE"}, UsageCase{{"--format", "csv", "a.txt", "b.txt"}, "--format"},
                     UsageCase{{"missing.txt", "missing.txt"}, "missing.txt"},
                     UsageCase{{"--ports", "--component", "1", "--component", "9", Example("gan-charger-65w.txt")},

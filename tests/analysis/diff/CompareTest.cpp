@@ -28,15 +28,6 @@ TEST(Compare, NothingDiffersFromItself) {
   EXPECT_TRUE(Compare({}, {}).IsEmpty());
 }
 
-TEST(Compare, TheTwoFormsOfOneProductDoNotDiffer) {
-  const std::filesystem::path folder = VIF_EXAMPLES;
-  const CVendorInfoFile text(folder / "gan-charger-65w.txt");
-  const CVendorInfoFile xml(folder / "gan-charger-65w.xml");
-  ASSERT_FALSE(text.Fields().empty());
-  EXPECT_TRUE(Compare(text.Fields(), xml.Fields()).IsEmpty());
-  EXPECT_TRUE(Compare(xml.Fields(), text.Fields()).IsEmpty());
-}
-
 TEST(Compare, NumbersAreComparedByNumber) {
   const GroupPlace place = Component(1);
   EXPECT_THAT(Report({Number(place, "PID_SOP", "0x64")}, {Number(place, "PID_SOP", "100")}), IsEmpty());
@@ -58,6 +49,16 @@ TEST(Compare, NumbersBeyond64BitsAreComparedAsTexts) {
   EXPECT_THAT(
       Report({Number(place, "PID_SOP", "18446744073709551616")}, {Number(place, "PID_SOP", "18446744073709551617")}),
       testing::SizeIs(1));
+}
+
+TEST(Compare, TheGreatestNumberIsComparedByNumberThoughItIsReserved) {
+  const GroupPlace place = Component(1);
+  EXPECT_THAT(Report({Number(place, "Odd", "18446744073709551615")}, {Number(place, "Odd", "0xFFFFffffFFFFffff")}),
+              IsEmpty());
+  EXPECT_THAT(Report({Number(place, "Odd", "0x0FFFFFFFFFFFFFFFF")}, {Number(place, "Odd", "18446744073709551615")}),
+              IsEmpty());
+  EXPECT_THAT(Report({Number(place, "Odd", "0xFFFFFFFFFFFFFFFF")}, {Number(place, "Odd", "0xFFFFFFFFFFFFFFFE")}),
+              testing::SizeIs(1));
 }
 
 TEST(Compare, AQuotedNumberIsNotANumber) {

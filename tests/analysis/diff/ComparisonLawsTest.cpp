@@ -14,7 +14,9 @@
 #include <filesystem>
 #include <map>
 #include <set>
+#include <string_view>
 #include <tuple>
+#include <utility>
 
 namespace vifanalysis::difftest {
 
@@ -172,25 +174,40 @@ TEST_F(ComparisonLaws, HoldForExamplesOfDifferentProducts) {
   EXPECT_GE(compared, 36U);
 }
 
-/// A product whose PDOs differ in their voltages, changed in ways that are written down.
+/// Groups of one kind, of three fields each.
+struct GroupKind {
+  EVifLocation location;
+  const char* constant;  ///< the field that all have alike
+  const char* telling;   ///< the field that tells one from another
+  const char* detail;    ///< the field that may change without making it another one
+
+  GroupPlace Place(std::size_t index) const { return At({eVifLocComponent, 1}, {location, index + 1}); }
+};
+
+/// A product with PDOs and SVIDs, changed in ways that are written down.
 class CChangedProduct {
  public:
   explicit CChangedProduct(std::mt19937_64& generator) : m_generator(generator) {
     for (int name = 0; name < 10; ++name) m_own["Field_" + std::to_string(name)] = Below(1'000);
-    const std::size_t pdos = Below(8);
-    for (std::size_t pdo = 0; pdo < pdos; ++pdo) m_pdos.push_back({NewVoltage(), 300});
+    for (auto& [kind, groups] : m_lists) {
+      for (std::size_t count = Below(8); count > 0; --count) groups.push_back({NewNumber()});
+    }
   }
 
   Fields ToFields() const {
     Fields fields;
     for (const auto& [name, value] : m_own) fields.push_back(Number(Component(1), name, value));
-    for (std::size_t i = 0; i < m_pdos.size(); ++i) {
-      AddPdo(fields, SrcPdo(i + 1), m_pdos[i].voltage, m_pdos[i].current);
+    for (const auto& [kind, groups] : m_lists) {
+      for (std::size_t i = 0; i < groups.size(); ++i) {
+        fields.push_back(Number(kind.Place(i), kind.constant, 0));
+        fields.push_back(Number(kind.Place(i), kind.telling, groups[i].telling));
+        fields.push_back(Number(kind.Place(i), kind.detail, groups[i].detail));
+      }
     }
     return fields;
   }
 
-  /// Changes, adds and removes fields of the component, changes the currents of PDOs, and then adds or removes one.
+  /// Changes, adds and removes fields of the component, and changes each list.
   void Change() {
     for (auto entry = m_own.begin(); entry != m_own.end();) {
       const std::size_t choice = Below(5);
@@ -205,56 +222,93 @@ class CChangedProduct {
       m_own["New_Field"] = 7;
       Expect(Component(1), "New_Field", "-", "7");
     }
-    ChangePdos();
+    for (auto& [kind, groups] : m_lists) {
+      const Groups before = groups;
+      for (std::size_t i = 0; i < groups.size(); ++i) groups[i].origin = i;
+      ChangeList(groups);
+      ExpectChanges(kind, before, groups);
+    }
   }
 
   std::multiset<std::string> expectedFields;
   std::multiset<std::string> expectedGroups;
+  bool hasMoved = false;  ///< whether groups have changed places, of which one at least is to be reported as moved
 
  private:
-  struct Pdo {
-    std::uint64_t voltage;
-    std::uint64_t current;
-    bool isChanged = false;
+  static constexpr std::size_t kNew = SIZE_MAX;
+
+  struct Group {
+    std::uint64_t telling;
+    std::uint64_t detail = 300;
+    std::size_t origin = kNew;  ///< where it was before
+    bool isFixed = false;       ///< whether nothing else is to happen to it, so that it can be recognised
   };
 
+  using Groups = std::vector<Group>;
+
   std::size_t Below(std::size_t bound) { return testsupport::RandomBelow(m_generator, bound); }
-  std::uint64_t NewVoltage() { return m_voltage += 1 + Below(10); }
+  std::uint64_t NewNumber() { return m_lastNumber += 1 + Below(10); }
 
   void Expect(const GroupPlace& place, const std::string& name, const std::string& old, const std::string& now) {
     expectedFields.insert(PlaceInWords(place) + ": " + name + " " + old + " > " + now);
   }
 
-  void ChangePdos() {
-    for (Pdo& pdo : m_pdos) pdo.isChanged = Below(4) == 0;
-    const std::size_t place = Below(m_pdos.size() + 1);
-    const std::size_t choice = Below(3);
-    const bool isRemoval = choice == 1 && place < m_pdos.size();
-    const std::size_t kept = m_pdos.size();
-    for (std::size_t old = 0; old < kept; ++old) {
-      if (isRemoval && old == place) continue;
-      const std::size_t number = 1 + old + (choice == 0 && old >= place ? 1 : 0) - (isRemoval && old > place ? 1 : 0);
-      if (number != old + 1)
-        expectedGroups.insert(PlaceInWords(SrcPdo(old + 1)) + " > " + PlaceInWords(SrcPdo(number)));
-      if (m_pdos[old].isChanged) Expect(SrcPdo(number), "Src_PDO_Max_Current", "300", "225");
-    }
-    for (Pdo& pdo : m_pdos) {
-      if (pdo.isChanged) pdo.current = 225;
-    }
-    const auto position = m_pdos.begin() + static_cast<std::ptrdiff_t>(place);
+  /// Adds or removes one group, lets two change places, moves one, or changes the number that tells one from others.
+  /// Then changes details.
+  void ChangeList(Groups& groups) {
+    const std::size_t place = Below(groups.size() + 1);
+    const auto at = [&](std::size_t index) { return groups.begin() + static_cast<std::ptrdiff_t>(index); };
+    const std::size_t choice = Below(6);
     if (choice == 0) {
-      m_pdos.insert(position, {NewVoltage(), 300});
-      expectedGroups.insert("+ " + PlaceInWords(SrcPdo(place + 1)));
-    } else if (isRemoval) {
-      m_pdos.erase(position);
-      expectedGroups.insert("- " + PlaceInWords(SrcPdo(place + 1)));
+      groups.insert(at(place), {.telling = NewNumber(), .isFixed = true});
+    } else if (place < groups.size()) {
+      const std::size_t other = Below(groups.size());
+      hasMoved = hasMoved || ((choice == 2 || choice == 3) && place != other);
+      if (choice == 1) groups.erase(at(place));
+      if (choice == 2) {
+        std::swap(groups[place], groups[other]);
+        groups[place].isFixed = groups[other].isFixed = true;
+      }
+      if (choice == 3) {
+        const Group moved = groups[place];
+        groups.erase(at(place));
+        groups.insert(at(other), moved)->isFixed = true;
+      }
+      if (choice == 4) groups[place].telling = NewNumber();
+    }
+    for (Group& group : groups) {
+      if (!group.isFixed && Below(4) == 0) group.detail = 225;
+    }
+  }
+
+  void ExpectChanges(const GroupKind& kind, const Groups& before, const Groups& after) {
+    std::set<std::size_t> kept;
+    for (std::size_t i = 0; i < after.size(); ++i) {
+      const Group& group = after[i];
+      const std::string place = PlaceInWords(kind.Place(i));
+      kept.insert(group.origin);
+      if (group.origin == kNew) {
+        expectedGroups.insert("+ " + place);
+        continue;
+      }
+      if (group.origin != i) expectedGroups.insert(PlaceInWords(kind.Place(group.origin)) + " > " + place);
+      const Group& old = before[group.origin];
+      for (const auto& [name, number] : {std::pair(kind.telling, &Group::telling), {kind.detail, &Group::detail}}) {
+        if (old.*number == group.*number) continue;
+        Expect(kind.Place(i), name, std::to_string(old.*number), std::to_string(group.*number));
+      }
+    }
+    for (std::size_t i = 0; i < before.size(); ++i) {
+      if (!kept.contains(i)) expectedGroups.insert("- " + PlaceInWords(kind.Place(i)));
     }
   }
 
   std::mt19937_64& m_generator;
   std::map<std::string, std::uint64_t> m_own;
-  std::vector<Pdo> m_pdos;
-  std::uint64_t m_voltage = 100;
+  std::vector<std::pair<GroupKind, Groups>> m_lists = {
+      {{eVifLocSrcPdo, "Src_PDO_Supply_Type", "Src_PDO_Voltage", "Src_PDO_Max_Current"}, {}},
+      {{eVifLocSopSvid, "SVID_Modes_Fixed_SOP", "SVID_SOP", "SVID_Num_Modes_Max_SOP"}, {}}};
+  std::uint64_t m_lastNumber = 400;
 };
 
 TEST_F(ComparisonLaws, WhatIsChangedOnPurposeIsExactlyWhatIsReported) {
@@ -264,9 +318,18 @@ TEST_F(ComparisonLaws, WhatIsChangedOnPurposeIsExactlyWhatIsReported) {
     product.Change();
     const Differences differences = Compare(before, product.ToFields());
     const std::vector<std::string> fields = FieldReport(differences);
-    const std::vector<std::string> groups = GroupReport(differences);
+    std::vector<std::string> groups = GroupReport(differences);
+    // Where groups change places, either may be said to have moved past the other.
+    constexpr std::string_view moved = "moved ";
+    std::size_t countMoved = 0;
+    for (std::string& group : groups) {
+      if (!group.starts_with(moved)) continue;
+      group.erase(0, moved.size());
+      ++countMoved;
+    }
     ASSERT_EQ(std::multiset<std::string>(fields.begin(), fields.end()), product.expectedFields) << "round " << round;
     ASSERT_EQ(std::multiset<std::string>(groups.begin(), groups.end()), product.expectedGroups) << "round " << round;
+    ASSERT_EQ(countMoved != 0, product.hasMoved) << "round " << round;
   }
 }
 
