@@ -57,9 +57,10 @@ Json FieldJson(const std::optional<DeclaredField>& field) {
 }
 
 Json ToJson(const Difference& difference) {
+  const std::optional<DeclaredField>& declared = difference.after ? difference.after : difference.before;
   return {{"kind", KindText(difference.kind)},
           {"name", difference.name},
-          {"indexes", PlaceJson(difference.after ? difference.after->indexes : difference.before->indexes)},
+          {"indexes", declared ? PlaceJson(declared->indexes) : Json()},
           {"old", FieldJson(difference.before)},
           {"new", FieldJson(difference.after)},
           {"place", PlaceJson(difference.place)}};

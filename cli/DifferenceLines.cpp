@@ -17,7 +17,6 @@ namespace cli {
 using vifanalysis::Amount;
 using vifanalysis::DeclaredField;
 using vifanalysis::Difference;
-using vifanalysis::DifferenceKind;
 using vifanalysis::Differences;
 using vifanalysis::GroupChange;
 using vifanalysis::GroupChangeKind;
@@ -102,24 +101,23 @@ std::string DescriptionsText(const DeclaredField& before, const DeclaredField& a
   return "description " + Removed(quoted(before)).append(kArrow).append(Added(quoted(after)));
 }
 
-bool HasOtherValue(const Difference& difference) {
-  return difference.before->text != difference.after->text ||
-         difference.before->number.has_value() != difference.after->number.has_value();
+bool HasOtherValue(const DeclaredField& before, const DeclaredField& after) {
+  return before.text != after.text || before.number.has_value() != after.number.has_value();
+}
+
+std::string ChangedField(const DeclaredField& before, const DeclaredField& after, bool withDescriptions) {
+  if (!HasOtherValue(before, after)) return DescriptionsText(before, after);
+  const bool hasOtherDescription = withDescriptions && before.description != after.description;
+  return ChangeText(before, after) + (hasOtherDescription ? ", " + DescriptionsText(before, after) : "");
 }
 
 std::string FieldText(const Difference& difference, bool withDescriptions) {
   const std::string label = Label(difference.name, difference.place) + ' ';
-  if (difference.kind == DifferenceKind::Added) {
-    return Added("added: " + label + ValueText(*difference.after));
-  }
-  if (difference.kind == DifferenceKind::Removed) {
-    return Removed("removed: " + label + ValueText(*difference.before));
-  }
-  const DeclaredField& before = *difference.before;
-  const DeclaredField& after = *difference.after;
-  if (!HasOtherValue(difference)) return label + DescriptionsText(before, after);
-  const bool hasOtherDescription = withDescriptions && before.description != after.description;
-  return label + ChangeText(before, after) + (hasOtherDescription ? ", " + DescriptionsText(before, after) : "");
+  const std::optional<DeclaredField>& before = difference.before;
+  const std::optional<DeclaredField>& after = difference.after;
+  if (before && after) return label + ChangedField(*before, *after, withDescriptions);
+  if (before) return Removed("removed: " + label + ValueText(*before));
+  return after ? Added("added: " + label + ValueText(*after)) : std::string();
 }
 
 /// "Source PDO 2: ", without the component, which is in the heading.

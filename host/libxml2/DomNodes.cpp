@@ -20,7 +20,7 @@ namespace {
 /// Only the nodes of this file support it.
 constexpr IID kNodeBehind = {0x8C4A2F10, 0x51D3, 0x4E0B, {0x9A, 0x77, 0x3D, 0x5E, 0x20, 0xB1, 0xC6, 0x48}};
 
-class CDomNode;
+class CDomNode;  // NOLINT(cppcoreguidelines-virtual-class-destructor): see below
 
 /// The attributes of a node. They are part of the node and share its reference count, so that getting them needs no
 /// memory.
@@ -78,7 +78,9 @@ class CEmptyNodeList final : public IXMLDOMNodeList {
 };
 
 /// An element or an attribute or, where an XPath reaches it, the document. It is part of an object that counts the
-/// references to it, so that the nodes of a list need no memory of their own.
+/// references to it, so that the nodes of a list need no memory of their own. It is never deleted through an interface,
+/// and moved only into the place where a list keeps it.
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor,cppcoreguidelines-special-member-functions)
 class CDomNode final : public CNodeCalls<IXMLDOMElement> {
  public:
   /// \param owner counts the references

@@ -11,9 +11,10 @@
 
 namespace libxml2 {
 
-/// Implements the calls of `IXMLDOMNode` for an interface derived from it.
+/// Implements the calls of `IXMLDOMNode` for an interface derived from it. The destructor is virtual if the interface's
+/// is.
 template <typename Interface>
-class CNodeCalls : public Interface {
+class CNodeCalls : public Interface {  // NOLINT(cppcoreguidelines-virtual-class-destructor)
  public:
   const StatePointer& State() const { return m_state; }
   xmlNode* Node() const { return m_node; }
@@ -79,7 +80,7 @@ class CNodeCalls : public Interface {
   /// \param state may be constructed later, but must outlive this object
   /// \param node null for a document that has not been loaded
   CNodeCalls(const StatePointer& state, xmlNode* node) : m_state(state), m_node(node) {}
-  ~CNodeCalls() = default;
+  ~CNodeCalls() = default;  // NOLINT(modernize-use-override)
 
   void SetNode(xmlNode* node) { m_node = node; }
 

@@ -1,6 +1,7 @@
 """The objects, libraries and test programs of a Ninja build directory."""
 
 import json
+import os
 import shlex
 import subprocess
 from dataclasses import dataclass
@@ -83,7 +84,8 @@ class Build:
         target = ""
         for line in self._ninja("deps").splitlines():
             if line.startswith("    "):
-                objects.setdefault(line.strip(), []).append(target)
+                path = os.path.normpath(self.directory / line.strip())  # some are relative
+                objects.setdefault(path, []).append(target)
             else:
                 target = line.split(": #deps")[0]
         return objects
