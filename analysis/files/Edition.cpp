@@ -9,14 +9,14 @@ namespace vifanalysis {
 
 namespace {
 
-const CVIFField& FieldOf(const CVIFField& field) { return field; }
-const CVIFField& FieldOf(const FoundField& found) { return found.field; }
+const CVIFField* FieldOf(const CVIFField& field) { return &field; }
+const CVIFField* FieldOf(const FoundField& found) { return &found.field; }
 
 template <typename List>
 std::optional<Edition> CommonEdition(const List& fields) {
   std::optional<Edition> edition;
   for (const auto& field : fields) {
-    const std::optional<Edition> named = EditionNamedBy(FieldOf(field));
+    const std::optional<Edition> named = EditionNamedBy(*FieldOf(field));
     if (!named) continue;
     if (edition && *named != *edition) return std::nullopt;
     edition = named;
