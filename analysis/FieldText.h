@@ -4,9 +4,11 @@
 #include <VIFField.h>
 #include <analysis/Export.h>
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string>
+#include <tuple>
 
 namespace vifanalysis {
 
@@ -18,6 +20,17 @@ VIF_ANALYSIS_API std::string LocationName(const VifIndex& slot);
 
 /// Whether the slot is in use.
 VIF_ANALYSIS_API bool IsUsed(const VifIndex& slot);
+
+/// In how many groups a place is: 1 for a component, 2 for its PDOs, 0 for the file as a whole.
+inline std::size_t GroupDepth(const GroupPlace& place) {
+  return static_cast<std::size_t>(std::count_if(place.begin(), place.end(), IsUsed));
+}
+
+/// The kind of the innermost group of a place; `eVifLocUnset` for the file as a whole.
+inline EVifLocation GroupKind(const GroupPlace& place) {
+  const std::size_t depth = GroupDepth(place);
+  return depth == 0 ? eVifLocUnset : std::get<0>(place[depth - 1]);
+}
 
 /// Whether the slot has a number.
 VIF_ANALYSIS_API bool HasNumber(const VifIndex& slot);

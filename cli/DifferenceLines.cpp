@@ -20,8 +20,9 @@ using vifanalysis::Difference;
 using vifanalysis::Differences;
 using vifanalysis::GroupChange;
 using vifanalysis::GroupChangeKind;
+using vifanalysis::GroupDepth;
+using vifanalysis::GroupKind;
 using vifanalysis::GroupPlace;
-using vifanalysis::IsUsed;
 using vifanalysis::NumberText;
 using vifanalysis::PlaceInWords;
 using vifanalysis::Printable;
@@ -30,18 +31,13 @@ namespace {
 
 constexpr std::string_view kArrow = " \u2192 ";
 
-std::size_t DepthOf(const GroupPlace& place) {
-  return static_cast<std::size_t>(std::count_if(place.begin(), place.end(), IsUsed));
-}
-
 /// "PDO" but "Voltage": names begin words with a capital letter, and abbreviations have several.
 bool IsWord(std::string_view word) {
   return word.size() > 1 && std::none_of(word.begin() + 1, word.end(), [](char c) { return c >= 'A' && c <= 'Z'; });
 }
 
 bool IsPdo(const GroupPlace& place) {
-  const std::size_t depth = DepthOf(place);
-  const EVifLocation kind = depth == 0 ? eVifLocUnset : std::get<0>(place[depth - 1]);
+  const EVifLocation kind = GroupKind(place);
   return kind == eVifLocSrcPdo || kind == eVifLocSnkPdo;
 }
 
@@ -139,14 +135,14 @@ using RankedLines = std::vector<RankedLine>;
 /// A group that was removed, in the second file.
 GroupPlace PlaceOfRemoved(const GroupChange& change) {
   GroupPlace place = change.after;
-  const std::size_t depth = DepthOf(change.before);
+  const std::size_t depth = GroupDepth(change.before);
   if (depth != 0) place[depth - 1] = change.before[depth - 1];
   return place;
 }
 
 /// What a whole group is called under its heading.
 std::string GroupPrefix(const GroupPlace& place) {
-  const bool isTop = DepthOf(place) == 1;
+  const bool isTop = GroupDepth(place) == 1;
   return isTop ? std::string() : Prefix(place);
 }
 
@@ -154,7 +150,7 @@ std::string GroupPrefix(const GroupPlace& place) {
 /// fields, "added, with 8 fields (Port_Label "C0")".
 std::string Summarised(const char* what, const GroupChange& change, const GroupPlace& place) {
   std::string text = what;
-  const bool isWholeComponent = DepthOf(place) == 1;
+  const bool isWholeComponent = GroupDepth(place) == 1;
   const std::string summary = Printable(change.summary);
   if (!summary.empty() && !isWholeComponent) return text.append(": ").append(summary);
   text.append(", with ").append(Amount(change.fieldCount, "field"));
@@ -163,7 +159,7 @@ std::string Summarised(const char* what, const GroupChange& change, const GroupP
 
 /// "was Source PDO 3", or the component's whole place.
 std::string FormerPlace(const GroupChange& change) {
-  const std::size_t depth = DepthOf(change.before);
+  const std::size_t depth = GroupDepth(change.before);
   return PlaceInWords(change.before, depth - 1);
 }
 
@@ -186,10 +182,10 @@ RankedLine GroupLine(const GroupChange& change) {
 
 /// Whether both were renumbered, and have consecutive numbers in both files. Components have headings of their own.
 bool Continues(const GroupChange& previous, const GroupChange& next) {
-  if (DepthOf(next.after) == 1) return false;
+  if (GroupDepth(next.after) == 1) return false;
   if (previous.kind != GroupChangeKind::Renumbered || next.kind != GroupChangeKind::Renumbered) return false;
   const auto following = [](GroupPlace place) {
-    const std::size_t depth = DepthOf(place);
+    const std::size_t depth = GroupDepth(place);
     if (depth != 0) ++std::get<1>(place[depth - 1]);
     return place;
   };
@@ -198,7 +194,7 @@ bool Continues(const GroupChange& previous, const GroupChange& next) {
 
 RankedLine RunLine(const GroupChange& first, const GroupChange& last) {
   if (&first == &last) return GroupLine(first);
-  const std::size_t depth = DepthOf(first.after) - 1;
+  const std::size_t depth = GroupDepth(first.after) - 1;
   const auto to = [&](const GroupPlace& end) { return " to " + NumberText(end[depth]); };
   std::string text = PlaceInWords(first.after, 1) + to(last.after);
   text.append(": were ").append(NumberText(first.before[depth])).append(to(last.before));

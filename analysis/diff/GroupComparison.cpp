@@ -44,14 +44,10 @@ std::size_t CountFields(const CGroupView& group) {
   return count;
 }
 
-std::size_t DepthOf(const GroupPlace& place) {
-  return static_cast<std::size_t>(std::count_if(place.begin(), place.end(), IsUsed));
-}
-
 /// The place of a group that is not there, in the counterpart of the group around it.
 GroupPlace PlaceWithin(const GroupPlace& outer, const CGroupView& inner) {
   GroupPlace place = outer;
-  const std::size_t depth = DepthOf(inner.Place());
+  const std::size_t depth = GroupDepth(inner.Place());
   if (depth != 0) place[depth - 1] = inner.Place()[depth - 1];
   return place;
 }

@@ -17,20 +17,12 @@ namespace vifanalysis {
 
 namespace {
 
-EVifLocation InnermostKind(const CVIFField& field) {
-  EVifLocation kind = eVifLocUnset;
-  for (const VifIndex& slot : field.Indexes()) {
-    if (IsUsed(slot)) kind = std::get<0>(slot);
-  }
-  return kind;
-}
-
 /// The field that is certain to be meant; null when none is. An older field that became two is neither of them, and a
 /// field in another group than its name's may be another one.
 const FieldInfo* FieldMeant(const NameMatch& match, const CVIFField& declared) {
   if (match.field == nullptr || match.otherField != nullptr) return nullptr;
   if (match.spelling != nullptr && match.spelling->confidence == Confidence::Low) return nullptr;
-  const EVifLocation kind = InnermostKind(declared);
+  const EVifLocation kind = GroupKind(declared.Indexes());
   return kind == eVifLocUnset || kind == match.field->Group() ? match.field : nullptr;
 }
 
@@ -62,13 +54,8 @@ bool IsNumberOnly(std::string_view value) {
   if (isHexadecimal) value.remove_prefix(2);
   constexpr std::string_view words[] = {"NO", "YES", "TRUE", "FALSE"};
   const auto isHexDigit = [](char c) { return IsDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); };
-  const auto toUpper = [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; };
-  if (!isHexadecimal && std::any_of(std::begin(words), std::end(words), [&](std::string_view word) {
-        return std::equal(value.begin(), value.end(), word.begin(), word.end(),
-                          [&](char a, char b) { return toUpper(a) == b; });
-      })) {
-    return true;
-  }
+  const auto isValue = [&](std::string_view word) { return EqualInAnyCase(value, word); };
+  if (!isHexadecimal && std::any_of(std::begin(words), std::end(words), isValue)) return true;
   return !value.empty() && (isHexadecimal ? std::all_of(value.begin(), value.end(), isHexDigit)
                                           : std::all_of(value.begin(), value.end(), IsDigit));
 }

@@ -41,15 +41,6 @@ constexpr CountRange kCountRanges[] = {
     {"SVID_Num_Modes_Min", "SVID_Num_Modes_Max", eVifLocCableSvid, eVifLocCableSvidMode},
 };
 
-/// The kind of the group at a place; `eVifLocUnset` for the file as a whole.
-EVifLocation Kind(const GroupPlace& place) {
-  EVifLocation kind = eVifLocUnset;
-  for (const VifIndex& slot : place) {
-    if (IsUsed(slot)) kind = std::get<0>(slot);
-  }
-  return kind;
-}
-
 /// The counts of one group.
 class CCountedGroup {
  public:
@@ -105,7 +96,7 @@ void CheckRange(const CCountedGroup& group, const CountRange& rule, Findings& fi
 
 void FindWrongCounts(const GroupTree& tree, Findings& findings) {
   for (const auto& [place, content] : tree) {
-    const EVifLocation kind = Kind(place);
+    const EVifLocation kind = GroupKind(place);
     const CCountedGroup group(content);
     for (const ExactCount& rule : kExactCounts) {
       if (rule.parent == kind) CheckExact(group, rule, findings);
