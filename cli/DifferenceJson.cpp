@@ -1,3 +1,4 @@
+#include "DifferenceKinds.h"
 #include "DifferenceWriters.h"
 #include "Json.h"
 #include "Output.h"
@@ -11,7 +12,6 @@ namespace cli {
 
 using vifanalysis::DeclaredField;
 using vifanalysis::Difference;
-using vifanalysis::DifferenceKind;
 using vifanalysis::Differences;
 using vifanalysis::Finding;
 using vifanalysis::GroupChange;
@@ -19,21 +19,6 @@ using vifanalysis::GroupChangeKind;
 using vifanalysis::GroupPlace;
 
 namespace {
-
-const char* KindText(DifferenceKind kind) {
-  if (kind == DifferenceKind::Changed) return "changed";
-  return kind == DifferenceKind::Added ? "added" : "removed";
-}
-
-const char* KindText(GroupChangeKind kind) {
-  switch (kind) {
-    case GroupChangeKind::Added: return "added";
-    case GroupChangeKind::Removed: return "removed";
-    case GroupChangeKind::Moved: return "moved";
-    case GroupChangeKind::Renumbered: break;
-  }
-  return "renumbered";
-}
 
 Json PlaceJson(const GroupPlace& place) {
   Json json = Json::array();

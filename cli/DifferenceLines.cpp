@@ -1,5 +1,6 @@
 #include "DifferenceLines.h"
 
+#include "DifferenceKinds.h"
 #include "Style.h"
 
 #include <analysis/FieldText.h>
@@ -8,6 +9,8 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <map>
+#include <optional>
 #include <string_view>
 #include <tuple>
 #include <utility>
@@ -157,7 +160,7 @@ std::string Summarised(const char* what, const GroupChange& change, const GroupP
   return summary.empty() ? text : text.append(" (").append(summary).append(")");
 }
 
-/// "was Source PDO 3", or the component's whole place.
+/// "Source PDO 3" of a PDO, "Component 3" of a component.
 std::string FormerPlace(const GroupChange& change) {
   const std::size_t depth = GroupDepth(change.before);
   return PlaceInWords(change.before, depth - 1);
@@ -230,24 +233,21 @@ std::vector<DifferenceLine> DifferenceLines(const Differences& differences, bool
 
 std::string DifferenceSummary(const Differences& differences) {
   if (differences.IsEmpty()) return "no differences";
-  constexpr std::size_t kinds = 5;
-  constexpr std::array<const char*, kinds> words = {"changed", "added", "removed", "moved", "renumbered"};
-  std::array<std::size_t, kinds> counts = {};
+  std::map<std::string_view, std::size_t> counts;  // by kind
   for (const Difference& difference : differences.fields) {
-    if (difference.group == Difference::kNoGroup) ++counts[static_cast<std::size_t>(difference.kind)];
+    if (difference.group == Difference::kNoGroup) ++counts[KindText(difference.kind)];
   }
-  for (const GroupChange& change : differences.groups) ++counts[static_cast<std::size_t>(change.kind) + 1];
-  std::size_t total = counts[0] + counts[1] + counts[2] + counts[3];
-  if (total != 0) counts[4] = 0;
-  total += counts[4];
-  std::string summary = Amount(total, "difference") + ':';
-  const char* separator = " ";
-  for (std::size_t kind = 0; kind < kinds; ++kind) {
-    if (counts[kind] == 0) continue;
-    summary.append(separator).append(std::to_string(counts[kind])).append(" ").append(words[kind]);
-    separator = ", ";
+  for (const GroupChange& change : differences.groups) ++counts[KindText(change.kind)];
+  if (counts.size() > 1) counts.erase(KindText(GroupChangeKind::Renumbered));
+  std::size_t total = 0;
+  std::string parts;
+  for (const std::string_view kind : {"changed", "added", "removed", "moved", "renumbered"}) {
+    const auto found = counts.find(kind);
+    if (found == counts.end()) continue;
+    total += found->second;
+    parts.append(parts.empty() ? " " : ", ").append(std::to_string(found->second)).append(" ").append(kind);
   }
-  return summary;
+  return Amount(total, "difference") + ':' + parts;
 }
 
 }  // namespace cli
