@@ -32,6 +32,13 @@ inline EVifLocation GroupKind(const GroupPlace& place) {
   return depth == 0 ? eVifLocUnset : std::get<0>(place[depth - 1]);
 }
 
+/// The place that a group would have in another outer group: with that group's slots, and its own kind and number.
+inline GroupPlace PlaceWithin(GroupPlace outer, const GroupPlace& group) {
+  const std::size_t depth = GroupDepth(group);
+  if (depth != 0) outer[depth - 1] = group[depth - 1];
+  return outer;
+}
+
 /// Whether the slot has a number.
 VIF_ANALYSIS_API bool HasNumber(const VifIndex& slot);
 

@@ -28,6 +28,7 @@ using vifanalysis::GroupKind;
 using vifanalysis::GroupPlace;
 using vifanalysis::NumberText;
 using vifanalysis::PlaceInWords;
+using vifanalysis::PlaceWithin;
 using vifanalysis::Printable;
 
 namespace {
@@ -135,14 +136,6 @@ struct RankedLine {
 
 using RankedLines = std::vector<RankedLine>;
 
-/// A group that was removed, in the second file.
-GroupPlace PlaceOfRemoved(const GroupChange& change) {
-  GroupPlace place = change.after;
-  const std::size_t depth = GroupDepth(change.before);
-  if (depth != 0) place[depth - 1] = change.before[depth - 1];
-  return place;
-}
-
 /// What a whole group is called under its heading.
 std::string GroupPrefix(const GroupPlace& place) {
   const bool isTop = GroupDepth(place) == 1;
@@ -171,7 +164,7 @@ RankedLine GroupLine(const GroupChange& change) {
     case GroupChangeKind::Added:
       return {change.after, 1, GroupPrefix(change.after) + Added(Summarised("added", change, change.after))};
     case GroupChangeKind::Removed: {
-      const GroupPlace place = PlaceOfRemoved(change);
+      const GroupPlace place = PlaceWithin(change.after, change.before);
       return {place, 0, GroupPrefix(place) + Removed(Summarised("removed", change, place))};
     }
     case GroupChangeKind::Moved: {

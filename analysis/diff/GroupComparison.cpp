@@ -44,14 +44,6 @@ std::size_t CountFields(const CGroupView& group) {
   return count;
 }
 
-/// The place of a group that is not there, in the counterpart of the group around it.
-GroupPlace PlaceWithin(const GroupPlace& outer, const CGroupView& inner) {
-  GroupPlace place = outer;
-  const std::size_t depth = GroupDepth(inner.Place());
-  if (depth != 0) place[depth - 1] = inner.Place()[depth - 1];
-  return place;
-}
-
 /// Whether a file has one group of that kind at most.
 bool IsOnlyOne(EVifLocation kind) { return kind == eVifLocVif || kind == eVifLocAppVersion || kind == eVifLocProduct; }
 
@@ -84,7 +76,7 @@ class CComparison {
   void ComparePair(const GroupPair& pair, const GroupPlace& outerBefore, const GroupPlace& outerAfter) {
     const CGroupView& present = pair.before != nullptr ? *pair.before : *pair.after;
     if (IsOnlyOne(present.Kind()) && (pair.before == nullptr || pair.after == nullptr)) {
-      const CGroupView empty(PlaceWithin(pair.before != nullptr ? outerAfter : outerBefore, present), {}, {});
+      const CGroupView empty(PlaceWithin(pair.before != nullptr ? outerAfter : outerBefore, present.Place()), {}, {});
       Compare(pair.before != nullptr ? present : empty, pair.after != nullptr ? present : empty);
       return;
     }
@@ -97,7 +89,7 @@ class CComparison {
     if (pair.after == nullptr) {
       const std::size_t group = AddChange({GroupChangeKind::Removed, pair.before->Place(), outerAfter,
                                            CountFields(*pair.before), SummaryOf(*pair.before)});
-      AddWhole(*pair.before, PlaceWithin(outerAfter, *pair.before), DifferenceKind::Removed, group);
+      AddWhole(*pair.before, PlaceWithin(outerAfter, pair.before->Place()), DifferenceKind::Removed, group);
       return;
     }
     if (pair.before->Index() != pair.after->Index()) {
@@ -118,7 +110,7 @@ class CComparison {
     for (const auto& [name, found, isSound] : whole.Fields()) {
       AddDifference(kind, name, place, group, isAdded ? nullptr : found, whole, isAdded ? found : nullptr, whole);
     }
-    for (const CGroupView& inner : whole.Groups()) AddWhole(inner, PlaceWithin(place, inner), kind, group);
+    for (const CGroupView& inner : whole.Groups()) AddWhole(inner, PlaceWithin(place, inner.Place()), kind, group);
   }
 
   void CompareFields(const CGroupView& before, const CGroupView& after) {
