@@ -14,6 +14,10 @@ namespace vifanalysis {
 /// In which of two layers something is.
 enum class InLayers : std::uint8_t { First = 1, Second = 2, Both = 3 };
 
+constexpr bool IsIn(InLayers layers, InLayers layer) {
+  return (static_cast<unsigned>(layers) & static_cast<unsigned>(layer)) != 0;
+}
+
 struct LayeredShape {
   PowerShape shape;
   std::uint64_t number = 0;  ///< of the first PDO that has it

@@ -3,6 +3,7 @@
 
 #include "report/LabelPlacer.h"
 #include "report/PictureScale.h"
+#include "report/SvgWriter.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -11,6 +12,9 @@ namespace vifanalysis {
 
 constexpr Tenths kPictureWidth = 7200;
 constexpr Tenths kFontSize = 120;
+constexpr Tenths kLineHeight = 145;
+constexpr Tenths kAscent = 110;  // from the top of a line of text to its base line
+constexpr Tenths kDrop = 42;     // from the middle of a line of text to its base line
 
 /// Everything in a picture is at least that far from its edges.
 constexpr Tenths kMargin = 40;

@@ -15,12 +15,6 @@ const char* AnchorName(SvgAnchor anchor) {
 
 }  // namespace
 
-CSvgPath& CSvgPath::To(SvgPoint point) {
-  m_data += m_data.empty() ? 'M' : 'L';
-  m_data.append(LengthText(point.x)).append(" ").append(LengthText(point.y));
-  return *this;
-}
-
 void CSvgWriter::Begin(std::string_view element, Attributes attributes) {
   m_page.Begin(element, attributes);
   m_page.Append("\n");
@@ -50,8 +44,13 @@ void CSvgWriter::Circle(const std::string& cssClass, SvgPoint middle) {
           {{"class", cssClass}, {"cx", LengthText(middle.x)}, {"cy", LengthText(middle.y)}, {"r", LengthText(radius)}});
 }
 
-void CSvgWriter::Path(const std::string& cssClass, const CSvgPath& path) {
-  Element("path", {{"class", cssClass}, {"d", path.Data()}});
+void CSvgWriter::Path(const std::string& cssClass, std::span<const SvgPoint> points) {
+  std::string data;
+  for (const auto& [x, y] : points) {
+    data += data.empty() ? 'M' : 'L';
+    data.append(LengthText(x)).append(" ").append(LengthText(y));
+  }
+  Element("path", {{"class", cssClass}, {"d", data}});
 }
 
 void CSvgWriter::Text(const std::string& cssClass, SvgPoint point, SvgAnchor anchor, std::string_view text) {

@@ -4,6 +4,7 @@
 #include "report/Markup.h"
 #include "report/PictureScale.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -17,16 +18,6 @@ struct SvgPoint {
 
 enum class SvgAnchor { Start, Middle, End };
 
-/// A path of straight lines.
-class CSvgPath {
- public:
-  CSvgPath& To(SvgPoint point);
-  const std::string& Data() const { return m_data; }
-
- private:
-  std::string m_data;
-};
-
 /// Shapes of SVG, each on a line of its own. How they look is up to their classes.
 class CSvgWriter {
  public:
@@ -38,7 +29,10 @@ class CSvgWriter {
 
   void Line(const std::string& cssClass, SvgPoint from, SvgPoint to);
   void Circle(const std::string& cssClass, SvgPoint middle);
-  void Path(const std::string& cssClass, const CSvgPath& path);
+
+  /// Straight lines from point to point.
+  void Path(const std::string& cssClass, std::span<const SvgPoint> points);
+
   void Text(const std::string& cssClass, SvgPoint point, SvgAnchor anchor, std::string_view text);
 
  private:

@@ -338,7 +338,7 @@ CPdoList RandomList(std::mt19937_64& random) {
 TEST(PowerPictureTest, StaysInItsBoundsWhateverTheNumbers) {
   SCOPED_TRACE(testsupport::SeedMessage());
   std::mt19937_64 random = testsupport::SeededGenerator();
-  for (int i = 0; i < 300 && !testing::Test::HasFailure(); ++i) {
+  for (int i = 0; i < 60 && !testing::Test::HasFailure(); ++i) {
     const CPdoList list = RandomList(random);
     const CPicture one(list, RandomNumber(random) * 1000);
     if (one.Count()) ExpectGood(one);
