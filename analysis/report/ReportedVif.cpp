@@ -11,7 +11,6 @@ namespace vifanalysis {
 
 namespace {
 
-/// The words for which editors give no description but YES and NO.
 bool IsSaid(std::string_view text, const ShownValue& shown) {
   return EqualInAnyCase(text, shown.value) || EqualInAnyCase(text, shown.description);
 }
@@ -39,16 +38,17 @@ ShownValue CReportedVif::Shown(const FoundField& found, const CGroupView& group)
 
 std::string CReportedVif::Says(const CGroupView& group, std::string_view name) const {
   const FoundField* found = group.Find(name);
-  if (found == nullptr) return {};
-  ShownValue shown = Shown(*found, group);
-  if (!shown.description.empty()) return std::move(shown.description);
-  return shown.meaning.empty() ? std::move(shown.value) : std::move(shown.meaning);
+  return found == nullptr ? std::string() : SaysField(*found, group);
 }
 
 std::string CReportedVif::HeaderSays(std::string_view name) const {
   const FoundField* found = View().FindHeader(name);
-  if (found == nullptr) return {};
-  ShownValue shown = Shown(*found, View().Root());
+  return found == nullptr ? std::string() : SaysField(*found, View().Root());
+}
+
+std::string CReportedVif::SaysField(const FoundField& found, const CGroupView& group) const {
+  if (!found.field.IsNumeric()) return found.field.Value();
+  ShownValue shown = Shown(found, group);
   if (!shown.description.empty()) return std::move(shown.description);
   return shown.meaning.empty() ? std::move(shown.value) : std::move(shown.meaning);
 }

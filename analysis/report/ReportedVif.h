@@ -49,6 +49,8 @@ class CReportedVif {
   std::vector<const FoundField*> FieldsOf(const CGroupView& group) const;
 
  private:
+  std::string SaysField(const FoundField& found, const CGroupView& group) const;
+
   const ReportedFile& m_file;
   CNormalFile m_normal;
 };

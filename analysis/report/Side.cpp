@@ -9,20 +9,18 @@ namespace vifanalysis {
 namespace {
 
 /// What the side says, with a link to the field.
-void WriteCell(CMarkup& page, const Side& side, std::string_view name) {
-  page.Begin("td");
-  if (side.group != nullptr) {
-    const FoundField* found = side.group->Find(name);
-    const std::string text = side.vif->Says(*side.group, name);
-    if (found == nullptr) {
-      page.Element("span", {{"class", "none"}}, "\u2013");
-    } else if (side.hasLinks) {
-      page.Element("a", {{"href", FieldLink(side.vif->PositionOf(*found))}}, text);
-    } else {
-      page.Text(text);
-    }
+void WriteSaid(CMarkup& page, const Side& side, std::string_view name) {
+  const FoundField* found = side.group == nullptr ? nullptr : side.group->Find(name);
+  if (found == nullptr) {
+    page.Element("span", {{"class", "none"}}, "\u2013");
+    return;
   }
-  page.End();
+  const std::string text = side.vif->Says(*side.group, name);
+  if (side.hasLinks) {
+    page.Element("a", {{"href", FieldLink(side.vif->PositionOf(*found))}}, text);
+  } else {
+    page.Text(text);
+  }
 }
 
 bool HasFact(const Sides& sides, const Fact& fact) {
@@ -30,11 +28,52 @@ bool HasFact(const Sides& sides, const Fact& fact) {
                      [&](const Side& side) { return side.group != nullptr && side.group->Has(fact.name); });
 }
 
+/// Whether the sides declare different values, not only different texts for them.
 bool Differs(const Sides& sides, const Fact& fact) {
-  const auto says = [&](const Side& side) {
-    return side.group == nullptr ? std::string() : side.vif->Says(*side.group, fact.name);
+  const auto value = [&](const Side& side) -> std::string_view {
+    const FoundField* found = side.group == nullptr ? nullptr : side.group->Find(fact.name);
+    return found == nullptr ? std::string_view() : found->field.Value();
   };
-  return sides.size() == 2 && says(sides.front()) != says(sides.back());
+  return value(sides.front()) != value(sides.back());
+}
+
+/// The facts of one file, which take less room as a list.
+void WriteList(CMarkup& page, const std::string& caption, const Side& side, const std::vector<Fact>& facts) {
+  page.Element("h3", caption);
+  page.Begin("dl", {{"class", "facts"}});
+  for (const Fact& fact : facts) {
+    page.Begin("div");
+    page.Element("dt", fact.label);
+    page.Begin("dd");
+    WriteSaid(page, side, fact.name);
+    page.End();
+    page.End();
+  }
+  page.End();
+}
+
+void WriteTable(CMarkup& page, const std::string& caption, const Sides& sides, const std::vector<Fact>& facts) {
+  page.Begin("table", {{"class", "facts"}});
+  page.Element("caption", caption);
+  page.Begin("thead");
+  page.Begin("tr");
+  page.Element("td", "");
+  for (const Side& side : sides) page.Element("th", {{"scope", "col"}}, side.label);
+  page.End();
+  page.End();
+  page.Begin("tbody");
+  for (const Fact& fact : facts) {
+    page.Begin("tr", {{"class", Differs(sides, fact) ? "changed" : "same"}});
+    page.Element("th", {{"scope", "row"}}, fact.label);
+    for (const Side& side : sides) {
+      page.Begin("td");
+      WriteSaid(page, side, fact.name);
+      page.End();
+    }
+    page.End();
+  }
+  page.End();
+  page.End();
 }
 
 }  // namespace
@@ -43,28 +82,14 @@ std::string FieldId(std::size_t position) { return "field-" + std::to_string(pos
 
 std::string FieldLink(std::size_t position) { return '#' + FieldId(position); }
 
-bool WriteFacts(CMarkup& page, const std::string& caption, const Sides& sides, const std::vector<Fact>& facts) {
-  if (std::none_of(facts.begin(), facts.end(), [&](const Fact& fact) { return HasFact(sides, fact); })) return false;
-  page.Begin("table", {{"class", "facts"}});
-  page.Element("caption", caption);
-  if (sides.size() == 2) {
-    page.Begin("thead");
-    page.Begin("tr");
-    page.Element("td", "");
-    for (const Side& side : sides) page.Element("th", {{"scope", "col"}}, side.label);
-    page.End();
-    page.End();
+bool WriteFacts(CMarkup& page, const std::string& caption, const Sides& sides, std::vector<Fact> facts) {
+  std::erase_if(facts, [&](const Fact& fact) { return !HasFact(sides, fact); });
+  if (facts.empty()) return false;
+  if (sides.size() == 1) {
+    WriteList(page, caption, sides.front(), facts);
+  } else {
+    WriteTable(page, caption, sides, facts);
   }
-  page.Begin("tbody");
-  for (const Fact& fact : facts) {
-    if (!HasFact(sides, fact)) continue;
-    page.Begin("tr", {{"class", Differs(sides, fact) ? "changed" : "same"}});
-    page.Element("th", {{"scope", "row"}}, fact.label);
-    for (const Side& side : sides) WriteCell(page, side, fact.name);
-    page.End();
-  }
-  page.End();
-  page.End();
   return true;
 }
 

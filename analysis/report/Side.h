@@ -41,9 +41,9 @@ struct Fact {
   std::string_view label;
 };
 
-/// A table of what the sides say, one fact a row. Facts that no side has are left out.
+/// What the sides say, one fact a row. Facts that no side has are left out.
 /// \return whether there was any
-bool WriteFacts(CMarkup& page, const std::string& caption, const Sides& sides, const std::vector<Fact>& facts);
+bool WriteFacts(CMarkup& page, const std::string& caption, const Sides& sides, std::vector<Fact> facts);
 
 /// The name of a field as words: "Num_Lane_Adapters" as "Num Lane Adapters", without what its group says already.
 std::string FieldLabel(std::string_view name);

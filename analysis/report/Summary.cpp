@@ -26,21 +26,42 @@ std::string ProductName(const CReportedVif& vif) {
   return name + model;
 }
 
-void WriteHeader(CMarkup& page, const ReportedVifs& vifs) {
-  page.Begin("table", {{"class", "facts"}});
-  page.Element("caption", vifs.size() == 2 ? "The files" : "The file");
-  page.Begin("tbody");
-  page.Begin("tr");
-  page.Element("th", {{"scope", "row"}}, "File");
-  for (const CReportedVif* vif : vifs) page.Element("td", vif->File().name);
+/// What one file says about itself. The name of the product is the page's heading.
+void WriteHeader(CMarkup& page, const CReportedVif& vif) {
+  page.Begin("dl", {{"class", "facts"}});
+  const auto write = [&](std::string_view label, const std::string& text) {
+    if (text.empty()) return;
+    page.Begin("div");
+    page.Element("dt", label);
+    page.Element("dd", text);
+    page.End();
+  };
+  write("File", vif.File().name);
+  for (const auto& [name, label] : kHeaderFacts) write(label, vif.HeaderSays(name));
   page.End();
+}
+
+/// What two files say about themselves.
+void WriteHeaders(CMarkup& page, const ReportedVifs& vifs) {
+  page.Begin("table", {{"class", "facts"}});
+  page.Element("caption", "The files");
+  page.Begin("thead");
+  page.Begin("tr");
+  page.Element("td", "");
+  for (const CReportedVif* vif : vifs) page.Element("th", {{"scope", "col"}}, vif->File().name);
+  page.End();
+  page.End();
+  page.Begin("tbody");
   for (const auto& [name, label] : kHeaderFacts) {
-    std::vector<std::string> texts;
-    for (const CReportedVif* vif : vifs) texts.push_back(vif->HeaderSays(name));
-    if (std::all_of(texts.begin(), texts.end(), [](const std::string& text) { return text.empty(); })) continue;
-    page.Begin("tr", {{"class", texts.front() == texts.back() ? "same" : "changed"}});
+    const std::string before = vifs.front()->HeaderSays(name);
+    const std::string after = vifs.back()->HeaderSays(name);
+    if (before.empty() && after.empty()) continue;
+    // The two forms of a file are written by different programs.
+    const bool differs = before != after && name != "VIF_Producer";
+    page.Begin("tr", {{"class", differs ? "changed" : "same"}});
     page.Element("th", {{"scope", "row"}}, label);
-    for (const std::string& text : texts) page.Element("td", text);
+    page.Element("td", before);
+    page.Element("td", after);
     page.End();
   }
   page.End();
@@ -88,7 +109,7 @@ std::string DataInWords(const PortSide& side) {
 std::string RoleInWords(const PortSide& side) {
   std::string text = side.vif->Says(*side.component, "PD_Port_Type");
   const std::string machine = side.vif->Says(*side.component, "Type_C_State_Machine");
-  if (machine.empty() || IsCable(*side.component)) return text;
+  if (machine.empty() || machine == text || IsCable(*side.component)) return text;
   return text.empty() ? machine : text + ", " + machine;
 }
 
@@ -160,8 +181,12 @@ void WriteSummary(CMarkup& page, const ReportedVifs& vifs, const ReportedPorts& 
   const std::string name = ProductName(*vifs.back());
   page.Element("h1", name.empty() ? vifs.back()->File().name : name);
   WriteCounts(page, vifs);
+  if (vifs.size() == 1) {
+    WriteHeader(page, *vifs.front());
+  } else {
+    WriteHeaders(page, vifs);
+  }
   WritePortRows(page, ports);
-  WriteHeader(page, vifs);
   page.End();
 }
 
