@@ -1,7 +1,10 @@
-#include "diff/Meaning.h"
 #include "report/Sections.h"
 
+#include <analysis/Vocabulary.h>
+
 #include <algorithm>
+#include <cstdint>
+#include <optional>
 
 namespace vifanalysis {
 
@@ -30,21 +33,21 @@ void WriteContent(CMarkup& page, const PortSide& side, const CGroupView& group, 
   page.End();
 }
 
-/// The SVID, as the file describes it and as it is usually written.
-std::string SvidTitle(const PortSide& side, const CGroupView& svid, std::string_view name) {
+/// The SVID as it is usually written, and as the file describes it.
+std::string SvidTitle(const CGroupView& svid, std::string_view name) {
   std::string title = PlaceInWords(svid.Place(), 1);
-  const std::string summary = SummaryOf(svid);
-  const std::string says = side.vif->Says(svid, name);
-  if (!summary.empty()) title += ": " + summary;
-  if (!says.empty() && says != summary) title += (summary.empty() ? ": " : " \u00b7 ") + says;
-  return title;
+  const std::optional<std::uint64_t> number = svid.Number(name);
+  if (number) title += ": " + QuantityText({*number, Unit::Identifier});
+  const FoundField* found = svid.Find(name);
+  const std::string_view description = found == nullptr ? "" : found->field.Description();
+  return description.empty() ? title : title.append(" \u00b7 ").append(description);
 }
 
 void WriteSvid(CMarkup& page, const PortSide& side, const CGroupView& svid) {
   const std::string_view name = svid.Kind() == eVifLocSopSvid ? "SVID_SOP" : "SVID";
   const auto modes = svid.AllGroups(ModeKind(svid.Kind()));
   page.Begin("li");
-  page.Element("strong", SvidTitle(side, svid, name));
+  page.Element("strong", SvidTitle(svid, name));
   WriteContent(page, side, svid, name);
   if (!modes.empty()) {
     page.Begin("ul", {{"class", "modes"}});

@@ -66,6 +66,14 @@ std::string Join(const std::vector<std::string>& parts) {
   return text;
 }
 
+/// What the cable carries on VBUS.
+std::string CableInWords(const CReportedVif& vif, const CComponentView& component) {
+  const std::string text =
+      Join({vif.Says(component, "Cable_VBUS_Current"), vif.Says(component, "Max_VBUS_Voltage_Vdm_V2"),
+            component.IsYes("EPR_Mode_Capable") ? "EPR" : ""});
+  return text.empty() ? text : "carries " + text;
+}
+
 }  // namespace
 
 std::optional<std::uint64_t> RatingOf(const CComponentView& component, PdoSide side) {
@@ -79,6 +87,7 @@ std::optional<std::uint64_t> RatingOf(const CComponentView& component, PdoSide s
 }
 
 std::string PowerInWords(const CReportedVif& vif, const CComponentView& component, PdoSide side) {
+  if (IsCable(component)) return side == PdoSide::Source ? CableInWords(vif, component) : std::string();
   const Ranges ranges = RangesOf(component.Pdos(side));
   Amount64 power = RatingOf(component, side);
   if (!power) power = ranges.power;
@@ -87,7 +96,7 @@ std::string PowerInWords(const CReportedVif& vif, const CComponentView& componen
                            ranges.augmented[1] ? "EPR AVS" : "", ranges.augmented[2] ? "SPR AVS" : ""});
   if (!text.empty() || side == PdoSide::Sink) return text;
   const std::string current = vif.Says(component, "RP_Value");
-  const bool isSource = StateMachineOf(component) != StateMachine::Sink && !IsCable(component);
+  const bool isSource = StateMachineOf(component) != StateMachine::Sink;
   return current.empty() || !isSource ? std::string() : "Type-C: " + current;
 }
 

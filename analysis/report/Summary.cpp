@@ -96,7 +96,7 @@ std::string DataInWords(const PortSide& side) {
   const auto add = [&](const std::string& part) {
     if (!part.empty() && text.find(part) == std::string::npos) text.append(text.empty() ? "" : ", ").append(part);
   };
-  if (component.IsYes("USB4_Supported")) {
+  if (component.IsYes("USB4_Supported") && !IsCable(component)) {
     const std::string speed = side.vif->Says(component, "USB4_Max_Speed");
     add(speed.empty() ? "USB4" : "USB4 " + speed);
   }
