@@ -11,7 +11,8 @@ namespace vifanalysis {
 
 namespace {
 
-constexpr Tenths kDistance = 75;  // between a label and its point
+constexpr Tenths kDistance = 75;  // from the middle of a point to a label above it
+constexpr Tenths kAside = 90;     // to a label beside it
 
 /// The first line of a label.
 SvgPoint BaseLine(const Box& box) { return {(box.left + box.right) / 2, box.top + kAscent}; }
@@ -21,8 +22,8 @@ std::vector<Box> PlacesAround(SvgPoint point, Tenths width, Tenths height) {
   constexpr Tenths step = 150;
   constexpr int steps = 5;
   const auto at = [&](Tenths left, Tenths bottom) { return Box{left, bottom - height, left + width, bottom}; };
-  std::vector<Box> places{at(point.x - width / 2, point.y - kDistance), at(point.x + kDistance, point.y + height / 2),
-                          at(point.x - kDistance - width, point.y + height / 2)};
+  std::vector<Box> places{at(point.x - width / 2, point.y - kDistance), at(point.x + kAside, point.y + height / 2),
+                          at(point.x - kAside - width, point.y + height / 2)};
   for (int i = 1; i <= steps; ++i) {
     const Tenths bottom = point.y - kDistance - i * step;
     for (const Tenths left : {point.x - width / 2, point.x - width / 5, point.x - width * 4 / 5}) {

@@ -131,7 +131,7 @@ void CPowerDrawing::DrawLegend() {
   for (const InLayers layer : {InLayers::First, InLayers::Second}) {
     m_svg.Line(ClassOf("power-bar", m_content, layer), {x, kFirstRow}, {x + sample, kFirstRow});
     m_svg.Circle(ClassOf("power-point", m_content, layer), {x + sample, kFirstRow});
-    m_svg.Text("power-legend", {x + sample + 100, kFirstRow + kDrop}, SvgAnchor::Start,
+    m_svg.Text("power-label power-legend", {x + sample + 100, kFirstRow + kDrop}, SvgAnchor::Start,
                ShortLabel(layer == InLayers::First ? m_layers.front() : m_layers.back()));
     x += distance;
   }
