@@ -57,6 +57,7 @@ class CPowerDrawing {
   void DrawGrid();
   void DrawLegend();
   void DrawLane(const RangeLane& lane);
+  void DrawLaneEnd(SvgPoint point, const RangeLane& lane, InLayers layer);
   void DrawArea(const LayeredShape& range);
   void DrawAreas();
   void DrawBar(const LayeredShape& fixed, InLayers layer);
@@ -139,7 +140,6 @@ void CPowerDrawing::DrawLegend() {
 
 void CPowerDrawing::DrawLane(const RangeLane& lane) {
   constexpr Tenths gap = 60;
-  constexpr Tenths end = 45;
   const Tenths y = kFirstRow + LegendHeight() + static_cast<Tenths>(lane.row) * kRowHeight;
   const Tenths left = m_plane.X(lane.minVoltage);
   const Tenths right = m_plane.X(lane.maxVoltage);
@@ -148,8 +148,20 @@ void CPowerDrawing::DrawLane(const RangeLane& lane) {
   const std::string cssClass = ClassOf("power-lane", m_content, lane.supply, lane.layers);
   if (gapLeft > left) m_svg.Line(cssClass, {left, y}, {gapLeft, y});
   if (gapRight < right) m_svg.Line(cssClass, {gapRight, y}, {right, y});
-  for (const Tenths x : {left, right}) m_svg.Line(cssClass + " power-end", {x, y - end}, {x, y + end});
+  DrawLaneEnd({left, y}, lane, InLayers::First);
+  DrawLaneEnd({right, y}, lane, InLayers::Second);
   m_svg.Text("power-label", {(lane.textLeft + lane.textRight) / 2, y + kDrop}, SvgAnchor::Middle, lane.text);
+}
+
+/// Two layers have the points of the legend at their ends: the first at the left, the second at the right.
+void CPowerDrawing::DrawLaneEnd(SvgPoint point, const RangeLane& lane, InLayers layer) {
+  constexpr Tenths half = 45;
+  if (m_content.isCompared && IsIn(lane.layers, layer)) {
+    m_svg.Circle(ClassOf("power-point", m_content, layer), point);
+    return;
+  }
+  m_svg.Line(ClassOf("power-lane", m_content, lane.supply, lane.layers) + " power-end", {point.x, point.y - half},
+             {point.x, point.y + half});
 }
 
 void CPowerDrawing::DrawArea(const LayeredShape& range) {
