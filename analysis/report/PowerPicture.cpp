@@ -19,13 +19,14 @@ namespace {
 
 constexpr Tenths kRowHeight = 200;
 constexpr Tenths kLegendHeight = 240;
+constexpr Tenths kLegendSample = 240;
+constexpr Tenths kLegendDistance = 3200;
 constexpr Tenths kFirstRow = 130;  // the middle of the uppermost row
 constexpr Tenths kTickRow = 260;   // the height of the texts below the plane
 constexpr std::uint64_t kCurveSteps = 40;
 
 std::string ShortLabel(const PowerLayer& layer) {
-  constexpr std::size_t columns = 24;
-  return CutToWidth(Printable(layer.label), columns);
+  return CutToLength(Printable(layer.label), kFontSize, kLegendDistance - kLegendSample - 300);
 }
 
 /// One picture being drawn.
@@ -126,15 +127,13 @@ void CPowerDrawing::DrawGrid() {
 }
 
 void CPowerDrawing::DrawLegend() {
-  constexpr Tenths sample = 240;
-  constexpr Tenths distance = 3300;
   Tenths x = m_plane.Area().left;
   for (const InLayers layer : {InLayers::First, InLayers::Second}) {
-    m_svg.Line(ClassOf("power-bar", m_content, layer), {x, kFirstRow}, {x + sample, kFirstRow});
-    m_svg.Circle(ClassOf("power-point", m_content, layer), {x + sample, kFirstRow});
-    m_svg.Text("power-label power-legend", {x + sample + 100, kFirstRow + kDrop}, SvgAnchor::Start,
+    m_svg.Line(ClassOf("power-bar", m_content, layer), {x, kFirstRow}, {x + kLegendSample, kFirstRow});
+    m_svg.Circle(ClassOf("power-point", m_content, layer), {x + kLegendSample, kFirstRow});
+    m_svg.Text("power-label power-legend", {x + kLegendSample + 100, kFirstRow + kDrop}, SvgAnchor::Start,
                ShortLabel(layer == InLayers::First ? m_layers.front() : m_layers.back()));
-    x += distance;
+    x += kLegendDistance;
   }
 }
 
