@@ -104,7 +104,7 @@ std::string CPowerDrawing::DescriptionOf(InLayers layer) const {
 }
 
 std::string CPowerDrawing::Description() const {
-  const std::string first = DescriptionOf(InLayers::First);
+  std::string first = DescriptionOf(InLayers::First);
   if (!m_content.isCompared) return first;
   return ShortLabel(m_layers.front()) + ": " + first + ". " + ShortLabel(m_layers.back()) + ": " +
          DescriptionOf(InLayers::Second);
