@@ -41,8 +41,8 @@ std::string CFixedColumn::CurrentsIn(InLayers layer) const {
 }
 
 std::string CFixedColumn::CurrentsText() const {
-  const std::string first = CurrentsIn(InLayers::First);
-  const std::string second = CurrentsIn(InLayers::Second);
+  std::string first = CurrentsIn(InLayers::First);
+  std::string second = CurrentsIn(InLayers::Second);
   if (second.empty() || first == second) return first;
   return first.empty() ? second : first + " → " + second;
 }
@@ -53,6 +53,7 @@ std::vector<CFixedColumn> FixedColumns(const PictureContent& content) {
     if (!one.shape.IsRange()) columns[one.shape.maxVoltage].Add(one);
   }
   std::vector<CFixedColumn> list;
+  list.reserve(columns.size());
   for (auto& column : columns) list.push_back(std::move(column.second));
   return list;
 }

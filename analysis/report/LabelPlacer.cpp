@@ -1,8 +1,6 @@
 #include "report/LabelPlacer.h"
 
 #include <algorithm>
-#include <cstddef>
-#include <limits>
 
 namespace vifanalysis {
 
@@ -11,9 +9,9 @@ bool CLabelPlacer::IsFree(const Box& box) const {
          std::none_of(m_taken.begin(), m_taken.end(), [&](const Box& taken) { return taken.Overlaps(box); });
 }
 
-std::optional<Box> CLabelPlacer::Place(std::span<const Box> candidates) {
+std::optional<Box> CLabelPlacer::Place(std::span<const Box> candidates, std::ptrdiff_t mostHidden) {
   std::optional<Box> best;
-  std::ptrdiff_t least = std::numeric_limits<std::ptrdiff_t>::max();
+  std::ptrdiff_t least = mostHidden + 1;
   for (const Box& box : candidates) {
     if (!IsFree(box)) continue;
     const std::ptrdiff_t hidden =

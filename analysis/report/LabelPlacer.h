@@ -3,6 +3,7 @@
 
 #include "report/PictureScale.h"
 
+#include <cstddef>
 #include <optional>
 #include <span>
 #include <vector>
@@ -35,7 +36,8 @@ class CLabelPlacer {
 
   /// The candidate that hides the least, the first of several; no other label is then placed there. Nothing when there
   /// is no room at any.
-  std::optional<Box> Place(std::span<const Box> candidates);
+  /// \param mostHidden the lines that it may hide
+  std::optional<Box> Place(std::span<const Box> candidates, std::ptrdiff_t mostHidden);
 
  private:
   bool IsFree(const Box& box) const;

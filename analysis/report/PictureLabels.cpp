@@ -4,6 +4,7 @@
 #include "report/PictureClasses.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -11,7 +12,11 @@ namespace vifanalysis {
 
 namespace {
 
-constexpr Tenths kDistance = 75;  // between a label and its point
+constexpr Tenths kDistance = 75;  // from the middle of a point to a label above it
+constexpr Tenths kAside = 90;     // to a label beside it
+
+/// A label may cross so many lines; one that crosses more says less than it hides.
+constexpr std::ptrdiff_t kMostHidden = 4;
 
 /// The first line of a label.
 SvgPoint BaseLine(const Box& box) { return {(box.left + box.right) / 2, box.top + kAscent}; }
@@ -21,8 +26,8 @@ std::vector<Box> PlacesAround(SvgPoint point, Tenths width, Tenths height) {
   constexpr Tenths step = 150;
   constexpr int steps = 5;
   const auto at = [&](Tenths left, Tenths bottom) { return Box{left, bottom - height, left + width, bottom}; };
-  std::vector<Box> places{at(point.x - width / 2, point.y - kDistance), at(point.x + kDistance, point.y + height / 2),
-                          at(point.x - kDistance - width, point.y + height / 2)};
+  std::vector<Box> places{at(point.x - width / 2, point.y - kDistance), at(point.x + kAside, point.y + height / 2),
+                          at(point.x - kAside - width, point.y + height / 2)};
   for (int i = 1; i <= steps; ++i) {
     const Tenths bottom = point.y - kDistance - i * step;
     for (const Tenths left : {point.x - width / 2, point.x - width / 5, point.x - width * 4 / 5}) {
@@ -71,7 +76,7 @@ void CPictureLabels::LabelColumn(const CFixedColumn& column) {
   const std::string amperes = column.CurrentsText();
   const SvgPoint point{m_plane.X(column.Voltage()), m_plane.Y(column.GreatestCurrent())};
   const Tenths width = std::max(TextWidth(volts, kFontSize), TextWidth(amperes, kFontSize));
-  const std::optional<Box> box = m_placer.Place(PlacesAround(point, width, 2 * kLineHeight));
+  const std::optional<Box> box = m_placer.Place(PlacesAround(point, width, 2 * kLineHeight), kMostHidden);
   if (!box) {
     PlaceNumber(column.FirstNumber(), point);
     return;
@@ -85,13 +90,14 @@ void CPictureLabels::LabelColumn(const CFixedColumn& column) {
 
 void CPictureLabels::PlaceNumber(std::uint64_t number, SvgPoint point) {
   const std::string text = std::string("#").append(std::to_string(number));
-  const std::optional<Box> box = m_placer.Place(PlacesAround(point, TextWidth(text, kFontSize), kLineHeight));
+  const std::optional<Box> box =
+      m_placer.Place(PlacesAround(point, TextWidth(text, kFontSize), kLineHeight), kMostHidden);
   if (box) m_svg.Text("power-label power-number", BaseLine(*box), SvgAnchor::Middle, text);
 }
 
 void CPictureLabels::LabelRating(const LayeredRating& rating, const std::vector<SvgPoint>& curve) {
   const std::string text = "rating " + Watts(rating.rating);
-  const std::optional<Box> box = m_placer.Place(PlacesAlong(curve, TextWidth(text, kFontSize)));
+  const std::optional<Box> box = m_placer.Place(PlacesAlong(curve, TextWidth(text, kFontSize)), 2 * kMostHidden);
   if (!box) return;
   m_svg.Text(ClassOf("power-label power-watts", m_content, rating.layers), BaseLine(*box), SvgAnchor::Middle, text);
 }

@@ -1,8 +1,7 @@
 #include "report/PictureScale.h"
 
-#include <analysis/Text.h>
-
 #include <algorithm>
+#include <cstddef>
 #include <span>
 
 namespace vifanalysis {
@@ -17,20 +16,34 @@ Axis AxisTo(std::uint64_t least, std::span<const std::uint64_t> steps, std::uint
 }
 
 /// The width of an ASCII character in hundredths of the size of the font.
-Tenths CharacterWidth(char c) {
+Tenths AsciiWidth(char c) {
   if (c == ' ' || c == '.' || c == ',' || c == ':') return 34;
   if (c == 'W' || c == 'M' || c == 'm' || c == 'w') return 100;
   if (c >= 'A' && c <= 'Z') return 72;
   return 64;
 }
 
+/// The length in bytes of the character that begins with this byte of UTF-8.
+std::size_t LengthFrom(char first) {
+  const auto byte = static_cast<unsigned char>(first);
+  if (byte < 0xC0) return 1;
+  if (byte < 0xE0) return 2;
+  return byte < 0xF0 ? 3 : 4;
+}
+
+/// The same for a character in UTF-8. Letters and arrows are narrower than ideographs.
+Tenths CharacterWidth(std::string_view character) {
+  constexpr char firstOfSigns = '\xE2';  // of U+2000 to U+2FFF
+  if (character.size() == 1) return AsciiWidth(character.front());
+  if (character.size() == 2) return 72;
+  return character.front() == firstOfSigns ? 84 : 105;
+}
+
 }  // namespace
 
 std::string LengthText(Tenths length) {
-  const Tenths magnitude = length < 0 ? -length : length;
-  std::string text = length < 0 ? "-" : "";
-  text += std::to_string(magnitude / 10);
-  if (magnitude % 10 != 0) text.append(".").append(std::to_string(magnitude % 10));
+  std::string text = std::to_string(length / 10);
+  if (length % 10 != 0) text.append(".").append(std::to_string(length % 10));
   return text;
 }
 
@@ -46,16 +59,23 @@ Axis CurrentAxis(std::uint64_t greatest) {
 
 Tenths TextWidth(std::string_view text, Tenths fontSize) {
   Tenths width = 0;
-  std::string others;
-  for (const char c : text) {
-    if (static_cast<unsigned char>(c) < 0x80) {
-      width += CharacterWidth(c);
-    } else {
-      others += c;
-    }
+  for (std::size_t at = 0; at < text.size(); at += LengthFrom(text[at])) {
+    width += CharacterWidth(text.substr(at, LengthFrom(text[at])));
   }
-  constexpr Tenths column = 84;
-  return (width + static_cast<Tenths>(DisplayWidth(others)) * column) * fontSize / 100;
+  return width * fontSize / 100;
+}
+
+std::string CutToLength(std::string_view text, Tenths fontSize, Tenths length) {
+  constexpr std::string_view ellipsis = "…";
+  const Tenths most = length * 100 / fontSize;
+  Tenths width = 0;
+  std::size_t fits = 0;  // the bytes that fit before the ellipsis
+  for (std::size_t at = 0; at < text.size(); at += LengthFrom(text[at])) {
+    if (width + CharacterWidth(ellipsis) <= most) fits = at;
+    width += CharacterWidth(text.substr(at, LengthFrom(text[at])));
+    if (width > most) return std::string(text.substr(0, fits)).append(ellipsis);
+  }
+  return std::string(text);
 }
 
 }  // namespace vifanalysis

@@ -125,7 +125,7 @@ void WritePicture(CMarkup& page, const ReportedPort& port, PdoSide kind) {
   const std::string what = TitleOf(port) + ": " + std::string(SideName(kind)) + " PDOs by voltage and current";
   CMarkup picture;
   if (!DrawPower(picture, LayersOf(port.sides, kind), what, port.id + '-' + std::string(SideName(kind)))) return;
-  page.Begin("div", {{"class", "power-box"}, {"tabindex", "0"}, {"role", "region"}, {"aria-label", what}});
+  page.Begin("div", {{"class", "power-box"}, {"tabindex", "0"}, {"role", "group"}, {"aria-label", what}});
   page.Append(picture.Take());
   page.End();
 }

@@ -19,13 +19,14 @@ namespace {
 
 constexpr Tenths kRowHeight = 200;
 constexpr Tenths kLegendHeight = 240;
+constexpr Tenths kLegendSample = 240;
+constexpr Tenths kLegendDistance = 3200;
 constexpr Tenths kFirstRow = 130;  // the middle of the uppermost row
 constexpr Tenths kTickRow = 260;   // the height of the texts below the plane
 constexpr std::uint64_t kCurveSteps = 40;
 
 std::string ShortLabel(const PowerLayer& layer) {
-  constexpr std::size_t columns = 24;
-  return CutToWidth(Printable(layer.label), columns);
+  return CutToLength(Printable(layer.label), kFontSize, kLegendDistance - kLegendSample - 300);
 }
 
 /// One picture being drawn.
@@ -57,6 +58,7 @@ class CPowerDrawing {
   void DrawGrid();
   void DrawLegend();
   void DrawLane(const RangeLane& lane);
+  void DrawLaneEnd(SvgPoint point, const RangeLane& lane, InLayers layer);
   void DrawArea(const LayeredShape& range);
   void DrawAreas();
   void DrawBar(const LayeredShape& fixed, InLayers layer);
@@ -102,7 +104,7 @@ std::string CPowerDrawing::DescriptionOf(InLayers layer) const {
 }
 
 std::string CPowerDrawing::Description() const {
-  const std::string first = DescriptionOf(InLayers::First);
+  std::string first = DescriptionOf(InLayers::First);
   if (!m_content.isCompared) return first;
   return ShortLabel(m_layers.front()) + ": " + first + ". " + ShortLabel(m_layers.back()) + ": " +
          DescriptionOf(InLayers::Second);
@@ -125,21 +127,18 @@ void CPowerDrawing::DrawGrid() {
 }
 
 void CPowerDrawing::DrawLegend() {
-  constexpr Tenths sample = 240;
-  constexpr Tenths distance = 3300;
   Tenths x = m_plane.Area().left;
   for (const InLayers layer : {InLayers::First, InLayers::Second}) {
-    m_svg.Line(ClassOf("power-bar", m_content, layer), {x, kFirstRow}, {x + sample, kFirstRow});
-    m_svg.Circle(ClassOf("power-point", m_content, layer), {x + sample, kFirstRow});
-    m_svg.Text("power-legend", {x + sample + 100, kFirstRow + kDrop}, SvgAnchor::Start,
+    m_svg.Line(ClassOf("power-bar", m_content, layer), {x, kFirstRow}, {x + kLegendSample, kFirstRow});
+    m_svg.Circle(ClassOf("power-point", m_content, layer), {x + kLegendSample, kFirstRow});
+    m_svg.Text("power-label power-legend", {x + kLegendSample + 100, kFirstRow + kDrop}, SvgAnchor::Start,
                ShortLabel(layer == InLayers::First ? m_layers.front() : m_layers.back()));
-    x += distance;
+    x += kLegendDistance;
   }
 }
 
 void CPowerDrawing::DrawLane(const RangeLane& lane) {
   constexpr Tenths gap = 60;
-  constexpr Tenths end = 45;
   const Tenths y = kFirstRow + LegendHeight() + static_cast<Tenths>(lane.row) * kRowHeight;
   const Tenths left = m_plane.X(lane.minVoltage);
   const Tenths right = m_plane.X(lane.maxVoltage);
@@ -148,8 +147,20 @@ void CPowerDrawing::DrawLane(const RangeLane& lane) {
   const std::string cssClass = ClassOf("power-lane", m_content, lane.supply, lane.layers);
   if (gapLeft > left) m_svg.Line(cssClass, {left, y}, {gapLeft, y});
   if (gapRight < right) m_svg.Line(cssClass, {gapRight, y}, {right, y});
-  for (const Tenths x : {left, right}) m_svg.Line(cssClass + " power-end", {x, y - end}, {x, y + end});
+  DrawLaneEnd({left, y}, lane, InLayers::First);
+  DrawLaneEnd({right, y}, lane, InLayers::Second);
   m_svg.Text("power-label", {(lane.textLeft + lane.textRight) / 2, y + kDrop}, SvgAnchor::Middle, lane.text);
+}
+
+/// Two layers have the points of the legend at their ends: the first at the left, the second at the right.
+void CPowerDrawing::DrawLaneEnd(SvgPoint point, const RangeLane& lane, InLayers layer) {
+  constexpr Tenths half = 45;
+  if (m_content.isCompared && IsIn(lane.layers, layer)) {
+    m_svg.Circle(ClassOf("power-point", m_content, layer), point);
+    return;
+  }
+  m_svg.Line(ClassOf("power-lane", m_content, lane.supply, lane.layers) + " power-end", {point.x, point.y - half},
+             {point.x, point.y + half});
 }
 
 void CPowerDrawing::DrawArea(const LayeredShape& range) {

@@ -31,9 +31,10 @@ struct PicturedPdos {
 };
 
 /// Writes a plane of voltage and current as an inline `svg` element: fixed supplies as bars, the others as areas below
-/// their currents and power limits, and the rating as a curve. Its presentation is in assets/picture.css. It is to
-/// stand in an element of the class "power-box" that the keyboard can reach (`tabindex="0"`), because that scrolls
-/// where the page is narrow. Nothing is written when no PDO can be drawn.
+/// their currents and power limits, and the rating as a curve. No field gives the
+/// current of an AVS, which is drawn up to 3 A, or 5 A in the extended power range. Its presentation is in
+/// assets/picture.css. It is to stand in an element of the class "power-box" that the keyboard can reach
+/// (`tabindex="0"`), because that scrolls where the page is narrow. Nothing is written when no PDO can be drawn.
 /// \param layers one, or two to be compared, which are then drawn over one another
 /// \param title what the picture shows
 /// \param idPrefix what the ids in the picture begin with; unique in the page

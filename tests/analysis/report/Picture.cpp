@@ -151,7 +151,8 @@ std::vector<Box> CPicture::TextBoxes() const {
   std::vector<Box> boxes;
   for (const SvgElement& element : m_elements) {
     if (element.name != "text") continue;
-    const Tenths width = TextWidth(element.text, kFontSize);
+    static const std::regex entity("&[a-z]+;");
+    const Tenths width = TextWidth(std::regex_replace(element.text, entity, "x"), kFontSize);
     const auto x = static_cast<Tenths>(std::lround(10 * element.Number("x")));
     const auto y = static_cast<Tenths>(std::lround(10 * element.Number("y")));
     const std::string anchor = element.Get("text-anchor");

@@ -8,8 +8,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <clocale>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <limits>
+#include <locale>
+#include <sstream>
 
 namespace vifanalysis {
 namespace {
@@ -17,7 +22,6 @@ namespace {
 using testing::AllOf;
 using testing::AnyOf;
 using testing::Contains;
-using testing::DoubleNear;
 using testing::ElementsAre;
 using testing::Ge;
 using testing::HasSubstr;
@@ -255,8 +259,8 @@ TEST(PowerPictureTest, DrawsTwoLayersOverOneAnother) {
   const CPicture picture(CPdoList().Fixed(100, 300).Fixed(400, 300).Pps(33, 110, 60),
                          CPdoList().Fixed(100, 300).Fixed(400, 325).Fixed(180, 300).Pps(33, 160, 60));
   EXPECT_THAT(picture.Texts("power-legend"), ElementsAre("old.xml", "new.xml"));
-  EXPECT_EQ(picture.Of("power-point power-first").size(), 1U + 2U);
-  EXPECT_EQ(picture.Of("power-point power-second").size(), 1U + 3U);
+  EXPECT_EQ(picture.Of("power-bar power-first").size(), 1U + 2U);
+  EXPECT_EQ(picture.Of("power-bar power-second").size(), 1U + 3U);
   EXPECT_EQ(picture.Of("power-area power-first").size(), 1U);
   EXPECT_EQ(picture.Of("power-area power-second").size(), 1U);
   EXPECT_THAT(picture.Texts("power-label power-both"), ElementsAre("5 V", "3 A", "20 V", "3 A → 3.25 A"));
@@ -269,7 +273,19 @@ TEST(PowerPictureTest, DrawsAnAreaOfBothLayersOnce) {
   const CPicture picture(list, list);
   EXPECT_EQ(picture.Of("power-area power-both").size(), 1U);
   EXPECT_EQ(picture.Of("power-area").size(), 1U);
-  EXPECT_EQ(picture.Of("power-lane power-both power-end").size(), 2U);
+  EXPECT_THAT(picture.Of("power-lane power-both"), Not(IsEmpty()));
+}
+
+TEST(PowerPictureTest, TellsByTheEndsOfALaneWhichLayersHaveIt) {
+  const CPdoList first = CPdoList().Pps(33, 110, 60).Pps(33, 210, 60);
+  const CPdoList second = CPdoList().Pps(33, 110, 60).Pps(33, 160, 60);
+  const CPicture picture(first, second);
+  constexpr std::size_t inLegend = 1;
+  EXPECT_EQ(picture.Of("power-point power-first").size(), inLegend + 2);
+  EXPECT_EQ(picture.Of("power-point power-second").size(), inLegend + 2);
+  EXPECT_EQ(picture.Of("power-end power-first").size(), 1U);
+  EXPECT_EQ(picture.Of("power-end power-second").size(), 1U);
+  EXPECT_THAT(picture.Of("power-end power-both"), IsEmpty());
 }
 
 TEST(PowerPictureTest, KeepsCrowdedLayersApart) {
@@ -302,12 +318,50 @@ TEST(PowerPictureTest, ShowsHostileTextsAsText) {
   ExpectGood(picture);
 }
 
+/// Numbers as some countries write them.
+class CCommas : public std::numpunct<char> {
+ protected:
+  char do_decimal_point() const override { return ','; }
+  char do_thousands_sep() const override { return '.'; }
+  std::string do_grouping() const override { return "\1"; }
+};
+
 TEST(PowerPictureTest, IsTheSameInAnyLocale) {
   const std::string expected = CPicture(EprCharger(), 240'000).Svg();
-  const std::string before = std::setlocale(LC_ALL, nullptr);
-  std::setlocale(LC_ALL, "de_DE.UTF-8");
-  EXPECT_EQ(CPicture(EprCharger(), 240'000).Svg(), expected);
-  std::setlocale(LC_ALL, before.c_str());
+  const std::locale before = std::locale::global(std::locale(std::locale(), new CCommas));
+  const std::string actual = CPicture(EprCharger(), 240'000).Svg();
+  std::locale::global(before);
+  EXPECT_EQ(actual, expected);
+}
+
+std::string StyleSheet() {
+  std::ifstream file(std::filesystem::path(VIF_ASSETS) / "picture.css");
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// Whether there is a rule for a class.
+bool IsStyled(const std::string& css, const std::string& name) {
+  return css.find("." + name + " ") != std::string::npos || css.find("." + name + ",") != std::string::npos;
+}
+
+TEST(PowerPictureTest, HasAStyleForEachElement) {
+  const std::string css = StyleSheet();
+  CPdoList list = EprCharger();
+  list.Battery(120, 168, 60).Variable(180, 300, 300).SprAvs(90, 200).Pdo(7);
+  for (const CPicture& picture : {CPicture(list, 240'000), CPicture(list, EprCharger())}) {
+    for (const SvgElement& element : picture.Elements()) {
+      std::istringstream classes(element.Get("class"));
+      bool hasStyle = element.name == "title" || element.name == "desc";
+      for (std::string name; classes >> name;) hasStyle = hasStyle || IsStyled(css, name);
+      EXPECT_TRUE(hasStyle) << element.name << " " << element.Get("class");
+    }
+  }
+}
+
+TEST(PowerPictureTest, HasAStyleSheetThatAsksForNothing) {
+  const std::string css = StyleSheet();
+  EXPECT_THAT(css, HasSubstr("@media print"));
+  for (const char* request : {"url(", "@import", "@font-face", "<", "\\"}) EXPECT_THAT(css, Not(HasSubstr(request)));
 }
 
 /// A number that is often at the edge of what makes sense.
