@@ -1,0 +1,84 @@
+// That a page can be used without a mouse.
+import { settle } from '../support/page.js';
+
+const describe = `(e) => e.localName + (e.id ? '#' + e.id : '') + (e.getAttribute('href') ?? '')`;
+
+// What each press of Tab reaches, until the focus leaves the page or `limit` presses.
+async function pressTab(page, limit, look) {
+  const seen = [];
+  for (let i = 0; i < limit; ++i) {
+    await page.keyboard.press('Tab');
+    const found = await page.evaluate(`document.activeElement === document.body ? null : (${look})(document.activeElement)`);
+    if (found === null) break;
+    seen.push(found);
+  }
+  return seen;
+}
+
+const countFocusable = (page) =>
+  page.$$eval('a[href], summary, input, button, [tabindex="0"]', (all) => all.filter((e) => e.checkVisibility()).length);
+
+export async function reachesEverythingByTab(page) {
+  const wanted = await page.evaluate(`[...document.querySelectorAll('a[href], summary, input, button, [tabindex="0"]')]
+    .filter((e) => e.checkVisibility()).map(${describe})`);
+  const reached = await pressTab(page, wanted.length + 5, describe);
+  const faults = wanted.filter((name) => !reached.includes(name)).map((name) => `Tab does not reach ${name}`);
+  if (reached.length !== wanted.length) faults.push(`Tab reaches ${reached.length} elements of ${wanted.length}`);
+  if (!reached.includes('input#filter')) faults.push('Tab does not reach the filter');
+  return faults;
+}
+
+// The element looks different from the same element without the focus.
+export async function showsTheFocus(page) {
+  const limit = Math.min(await countFocusable(page), 60);
+  const faults = await pressTab(page, limit, (element) => {
+    const style = getComputedStyle(element);
+    const isOutlined = style.outlineStyle !== 'none' && parseFloat(style.outlineWidth) >= 1 &&
+      !/^rgba\(.*, 0\)$/.test(style.outlineColor);
+    const box = element.getBoundingClientRect();
+    const isInView = box.bottom > 0 && box.top < innerHeight;
+    if (isOutlined && isInView) return '';
+    return `${element.localName} ${isInView ? 'does not show the focus' : 'has the focus out of view'}: ${element.textContent.slice(0, 30)}`;
+  });
+  return faults.filter((fault) => fault !== '');
+}
+
+// Follows links by Enter; each must lead to an element that is then in view.
+export async function landsOnFields(page) {
+  const faults = [];
+  const hrefs = await page.$$eval('#findings a[href^="#field-"]', (links) => links.map((a) => a.getAttribute('href')));
+  for (const href of [...new Set(hrefs)].slice(0, 20)) {
+    await page.focus(`#findings a[href="${href}"]`);
+    await page.keyboard.press('Enter');
+    await settle();
+    const fault = await page.evaluate((wanted) => {
+      const target = document.querySelector(':target');
+      if (!target || `#${target.id}` !== wanted) return 'does not become the target';
+      if (!target.matches('tr.field')) return 'is not a field';
+      const box = target.getBoundingClientRect();
+      if (!target.checkVisibility() || box.height === 0) return 'is hidden';
+      return box.top >= 0 && box.top < innerHeight ? null : 'is out of view';
+    }, href);
+    if (fault) faults.push(`${href} ${fault}`);
+  }
+  return faults;
+}
+
+export async function landsOnFilteredFields(page) {
+  if (!(await page.$('#findings a[href^="#field-"]'))) return [];
+  await page.type('#filter', 'no field has this text');
+  return landsOnFields(page);
+}
+
+export async function opensSummariesByEnter(page) {
+  const faults = [];
+  for (const summary of (await page.$$('summary')).slice(0, 10)) {
+    if (!(await summary.evaluate((element) => element.checkVisibility()))) continue;
+    const isOpen = () => summary.evaluate((element) => element.parentElement.open);
+    const before = await isOpen();
+    await summary.focus();
+    await page.keyboard.press('Enter');
+    if ((await isOpen()) === before) faults.push('Enter does not open a summary');
+  }
+  return faults;
+}
