@@ -1,9 +1,9 @@
 import * as filter from './checks/filter.js';
-import { writeReports } from './support/reports.js';
+import { someReports } from './support/reports.js';
 import { describeInBrowser, itHolds } from './support/suite.js';
 
 describeInBrowser('The filter of a report', (browser) => {
-  const reports = writeReports();
+  const reports = someReports();
 
   itHolds('is shown', browser, reports, filter.isShownWithScripts);
   itHolds('is hidden without scripts, and nothing else is', browser, reports, filter.isHiddenWithoutScripts, { javaScript: false });

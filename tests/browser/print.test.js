@@ -1,13 +1,15 @@
 import * as print from './checks/print.js';
 import { writeReports } from './support/reports.js';
-import { describeInBrowser, itHolds } from './support/suite.js';
+import { describeInBrowser, itHoldsAll } from './support/suite.js';
 
 describeInBrowser('A report on paper', (browser) => {
   const reports = writeReports();
 
-  itHolds('has pages', browser, reports, print.givesPages);
   for (const scheme of ['light', 'dark']) {
-    itHolds(`is dark on white, ${scheme} preferred`, browser, reports, print.isDarkOnWhite, { scheme, media: 'print' });
+    itHoldsAll(browser, reports, { scheme, media: 'print' }, [
+      [`is dark on white, ${scheme} preferred`, print.isDarkOnWhite],
+      [`has no filter, ${scheme} preferred`, print.hidesTheFilter],
+    ]);
   }
-  itHolds('has no filter', browser, reports, print.hidesTheFilter, { media: 'print' });
+  itHoldsAll(browser, reports, {}, [['has pages', print.givesPages]]);
 });

@@ -59,31 +59,32 @@ function hostileText() {
 
 const escapeXml = (text) => text.replace(/[&<>"]/g, (c) => `&#${c.charCodeAt(0)};`);
 
-function hostileXml(text) {
-  const value = escapeXml(text);
-  const element = (name) => `<vif:${name}>${value}</vif:${name}>`;
-  return `<?xml version="1.0" encoding="utf-8"?>
+const element = (name, text) => `<vif:${name}>${escapeXml(text)}</vif:${name}>`;
+const described = (name, number, text) => `<vif:${name} value="${number}">${escapeXml(text)}</vif:${name}>`;
+
+const hostileComponent = (text) => `<vif:Component>${element('Port_Label', text)}
+${described('Connector_Type', 2, text)}
+${described('USB_PD_Support', true, text)}
+${described('PD_Port_Type', 3, text)}
+${described('Num_Src_PDOs', 1, text)}
+<vif:SrcPdoList><vif:SrcPDO>
+${described('Src_PDO_Supply_Type', 0, text)}
+${described('Src_PDO_Voltage', 100, text)}
+${described('Src_PDO_Max_Current', 300, text)}
+</vif:SrcPDO></vif:SrcPdoList></vif:Component>`;
+
+const hostileXml = (text, components) => `<?xml version="1.0" encoding="utf-8"?>
 <!-- ${text.replaceAll('--', '- -')} -->
 <vif:VIF xmlns:vif="http://usb.org/VendorInfoFile.xsd">
 <vif:VIF_Specification>3.26</vif:VIF_Specification>
-<vif:VIF_App>${['Vendor', 'Name', 'Version'].map(element).join('')}</vif:VIF_App>
-${['Vendor_Name', 'Model_Part_Number', 'Product_Revision', 'TID'].map(element).join('\n')}
-<vif:VIF_Product_Type value="0">${value}</vif:VIF_Product_Type>
-<vif:Certification_Type value="0">${value}</vif:Certification_Type>
+<vif:VIF_App>${['Vendor', 'Name', 'Version'].map((name) => element(name, text)).join('')}</vif:VIF_App>
+${['Vendor_Name', 'Model_Part_Number', 'Product_Revision', 'TID'].map((name) => element(name, text)).join('')}
+${described('VIF_Product_Type', 0, text)}
+${described('Certification_Type', 0, text)}
 <vif:Product/>
-<vif:Component>${element('Port_Label')}
-<vif:Connector_Type value="2">${value}</vif:Connector_Type>
-<vif:USB_PD_Support value="true">${value}</vif:USB_PD_Support>
-<vif:PD_Port_Type value="3">${value}</vif:PD_Port_Type>
-<vif:Num_Src_PDOs value="1">${value}</vif:Num_Src_PDOs>
-<vif:SrcPdoList><vif:SrcPDO>
-<vif:Src_PDO_Supply_Type value="0">${value}</vif:Src_PDO_Supply_Type>
-<vif:Src_PDO_Voltage value="100">${value}</vif:Src_PDO_Voltage>
-<vif:Src_PDO_Max_Current value="300">${value}</vif:Src_PDO_Max_Current>
-</vif:SrcPDO></vif:SrcPdoList>
-</vif:Component></vif:VIF>
+${components.map(hostileComponent).join('')}
+</vif:VIF>
 `;
-}
 
 const write = (folder, name, content) => {
   const file = join(folder, name);
@@ -93,13 +94,15 @@ const write = (folder, name, content) => {
 
 export const writeHostileText = (folder) => write(folder, 'hostile.txt', hostileText());
 
-// One file per payload, as { text, file }.
+// The first has a component for each payload, the others have one in the place of the product's name.
 export const writeHostileXml = (folder) =>
-  payloads.map((text, i) => ({ text, file: write(folder, `hostile-${i}.xml`, hostileXml(text)) }));
+  [[payloads[0], payloads], ...payloads.slice(1, 8).map((text) => [text, [text]]), [payloads.at(-2), payloads.slice(-2)]].map(
+    ([text, components], i) => write(folder, `hostile-${i}.xml`, hostileXml(text, components)),
+  );
 
 // A harmless VIF under hostile names.
 export function writeHostileNames(folder, content) {
   const names = payloads.filter((text) => !text.includes('/') && Buffer.byteLength(text) < 200);
   mkdirSync(folder);
-  return [...names, 'a\nb\u001b[31m\u202e', ' '].map((name) => ({ text: name, file: write(folder, `${name}.txt`, content) }));
+  return [...names, 'a\nb\u001b[31m\u202e', ' '].map((name) => write(folder, `${name}.txt`, content));
 }

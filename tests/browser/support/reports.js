@@ -42,6 +42,13 @@ function writeChangedCharger(folder) {
   return file;
 }
 
+function writeAll(folder, reports) {
+  return reports.map((files, i) => {
+    const name = files.map((file) => basename(file)).join(' and ');
+    return { name, files, page: writeReport(join(folder, `${i}.html`), ...files) };
+  });
+}
+
 // All reports as { name, files, page }. Those of two files compare them.
 export function writeReports() {
   const folder = makeFolder();
@@ -51,8 +58,13 @@ export function writeReports() {
     [charger, writeChangedCharger(folder)],
     [join(examplesFolder, 'two-port-laptop.xml'), join(examplesFolder, 'usb4-dock.xml')],
   ];
-  return [...examples.map((file) => [file]), ...pairs].map((files, i) => {
-    const name = files.map((file) => basename(file)).join(' and ');
-    return { name, files, page: writeReport(join(folder, `${i}.html`), ...files) };
-  });
+  return writeAll(folder, [...examples.map((file) => [file]), ...pairs]);
+}
+
+// A few of them, for what takes long: the smallest, the largest, one with findings, and a comparison.
+export function someReports() {
+  const folder = makeFolder();
+  const charger = join(examplesFolder, 'gan-charger-65w.txt');
+  const flawed = join(root, 'docs/flawed-charger.txt');
+  return writeAll(folder, [[charger], [join(examplesFolder, 'usb4-dock.xml')], [flawed], [charger, flawed]]);
 }
