@@ -50,7 +50,7 @@ FileContent ReadTextFile(const std::filesystem::path& path) {
     if (report.problem == eVifLineReadFailed) content.isComplete = false;
   };
   const auto takeField = [&](std::size_t line, const CVIFField& field) {
-    content.fields.push_back({field, line, 0, field.Name()});
+    content.fields.push_back({field, line, 0, field.Name(), content.fields.size()});
   };
   CheckTextVif(path, takeLine, nullptr, takeField);
   return content;
