@@ -9,11 +9,10 @@ const root = fileURLToPath(new URL('../../../', import.meta.url));
 export const command = process.env.VIF ?? join(root, 'build/release/cli/vif');
 export const examplesFolder = join(root, 'examples/vif');
 
-// Exit status 1 is that of a command that has something to find fault with.
 export function runVif(...args) {
   const { status, stdout, stderr, error } = spawnSync(command, args, { encoding: 'utf8', maxBuffer: 2 ** 28 });
   if (error) throw error;
-  if (status > 1 || status === null) throw new Error(`vif ${args.join(' ')}: ${stderr || status}`);
+  if (status !== 0) throw new Error(`vif ${args.join(' ')}: ${stderr || status}`);
   return stdout;
 }
 
