@@ -2,7 +2,9 @@
 
 // `fields` are those of `vif list --format json`. Control characters are escaped there otherwise than on a page.
 export const showsAllFields = (fields) => async (page) => {
-  const rows = await page.$$eval('#fields tr.field', (all) => all.map((row) => ({ id: row.id, text: row.textContent })));
+  const rows = await page.evaluate(() =>
+    [...document.querySelectorAll('#fields tr.field')].map((row) => ({ id: row.id, text: row.textContent })),
+  );
   const faults = rows.length === fields.length ? [] : [`${rows.length} rows for ${fields.length} fields`];
   const byId = new Map(rows.map(({ id, text }) => [id, text]));
   fields.forEach(({ name, value }, position) => {
