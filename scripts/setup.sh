@@ -85,7 +85,7 @@ case $task in
   package) wanted=("${build_packages[@]}" "${windows_packages[@]}" dpkg-dev file python3 unzip zip) ;;
   bench) wanted=("${build_packages[@]}" libbenchmark-dev libxml2-utils valgrind) ;;
   browser)
-    wanted=(chromium fonts-dejavu-core)
+    wanted=(chromium fonts-dejavu-core pngquant)
     # A Node.js from elsewhere brings its own npm, and excludes Debian's.
     command -v node >/dev/null || wanted+=(nodejs)
     command -v npm >/dev/null || wanted+=(npm)

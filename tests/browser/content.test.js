@@ -1,7 +1,7 @@
 import * as content from './checks/content.js';
 import * as pictures from './checks/pictures.js';
 import * as structure from './checks/structure.js';
-import { fieldsOf, writeReports } from './support/reports.js';
+import { fieldsOf, someReports, writeReports } from './support/reports.js';
 import { describeInBrowser, itHolds, itHoldsAll } from './support/suite.js';
 
 describeInBrowser('A report says what the file says', (browser) => {
@@ -20,6 +20,7 @@ describeInBrowser('A report says what the file says', (browser) => {
   ]);
   itHolds('has a section for the differences of two files', browser, pairs, structure.hasDifferences);
   itHolds('has pictures of the power of ports', browser, powered, pictures.hasPictures);
+  itHolds('refers only to what is there, with findings', browser, someReports(), structure.refersToWhatIsThere);
   for (const report of singles) {
     itHolds(`shows all fields of ${report.name}`, browser, [report], content.showsAllFields(fieldsOf(report.files[0])));
   }

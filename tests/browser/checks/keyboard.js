@@ -1,5 +1,5 @@
 // That a page can be used without a mouse.
-import { settle } from '../support/page.js';
+import { openAll, settle } from '../support/page.js';
 
 const describe = `(e) => e.localName + (e.id ? '#' + e.id : '') + (e.getAttribute('href') ?? '')`;
 
@@ -43,29 +43,39 @@ export async function showsTheFocus(page) {
   return faults.filter((fault) => fault !== '');
 }
 
-// Follows links by Enter; each must lead to an element that is then in view.
-export async function landsOnFields(page) {
+// Follows a link by Enter. It must lead to an element that is then in view.
+async function faultOfLink(page, href) {
+  await page.focus(`a[href="${href}"]`);
+  await page.keyboard.press('Enter');
+  await settle();
+  const fault = await page.evaluate((wanted) => {
+    const target = document.querySelector(':target');
+    if (!target || `#${target.id}` !== wanted) return 'does not become the target';
+    if (/^#field-/.test(wanted) && !target.matches('tr.field')) return 'is not a field';
+    const box = target.getBoundingClientRect();
+    if (!target.checkVisibility() || box.height === 0) return 'is hidden';
+    return box.bottom > 0 && box.top < innerHeight ? null : 'is out of view';
+  }, href);
+  return fault ? [`${href} ${fault}`] : [];
+}
+
+async function landsOn(page, selector, limit) {
+  const hrefs = await page.$$eval(selector, (links) => links.filter((a) => a.checkVisibility()).map((a) => a.getAttribute('href')));
   const faults = [];
-  const hrefs = await page.$$eval('#findings a[href^="#field-"]', (links) => links.map((a) => a.getAttribute('href')));
-  for (const href of [...new Set(hrefs)].slice(0, 20)) {
-    await page.focus(`#findings a[href="${href}"]`);
-    await page.keyboard.press('Enter');
-    await settle();
-    const fault = await page.evaluate((wanted) => {
-      const target = document.querySelector(':target');
-      if (!target || `#${target.id}` !== wanted) return 'does not become the target';
-      if (!target.matches('tr.field')) return 'is not a field';
-      const box = target.getBoundingClientRect();
-      if (!target.checkVisibility() || box.height === 0) return 'is hidden';
-      return box.top >= 0 && box.top < innerHeight ? null : 'is out of view';
-    }, href);
-    if (fault) faults.push(`${href} ${fault}`);
-  }
+  for (const href of [...new Set(hrefs)].slice(0, limit)) faults.push(...(await faultOfLink(page, href)));
   return faults;
 }
 
+export const landsOnFields = (page) => landsOn(page, '#findings a[href^="#field-"]', 20);
+
+// Links to parts of the page, and to explanations, which may be folded away.
+export async function landsOnOtherParts(page) {
+  await openAll(page);
+  return landsOn(page, 'a[href^="#"]:not([href^="#field-"])', 20);
+}
+
 export async function landsOnFilteredFields(page) {
-  if (!(await page.$('#findings a[href^="#field-"]'))) return [];
+  if (!(await page.$('#findings a[href^="#field-"]'))) return ['no finding has a link'];
   await page.type('#filter', 'no field has this text');
   return landsOnFields(page);
 }

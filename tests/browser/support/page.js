@@ -11,17 +11,17 @@ async function emulateMedia(page, media, scheme) {
   await session.send('Emulation.setEmulatedMedia', { media, features: [{ name: 'prefers-color-scheme', value: scheme }] });
 }
 
-const defaults = { width: 1024, height: 768, scheme: 'light', media: 'screen', javaScript: true, patience: 30_000 };
+const defaults = { width: 1024, height: 768, scale: 1, scheme: 'light', media: 'screen', javaScript: true, patience: 30_000 };
 
 // Opens the file, calls `use(page, events)`, and closes the page.
 export async function withPage(browser, file, options, use) {
-  const { width, height, scheme, media, javaScript, patience } = { ...defaults, ...options };
+  const { width, height, scale, scheme, media, javaScript, patience } = { ...defaults, ...options };
   const page = await browser.newPage();
   page.setDefaultTimeout(patience);
   try {
     const url = pathToFileURL(file).href;
     const events = await recordEvents(page, url);
-    await page.setViewport({ width, height });
+    await page.setViewport({ width, height, deviceScaleFactor: scale });
     await page.setJavaScriptEnabled(javaScript);
     await emulateMedia(page, media, scheme);
     await page.goto(url, { waitUntil: 'load', timeout: patience });

@@ -9,11 +9,19 @@ const root = fileURLToPath(new URL('../../../', import.meta.url));
 export const command = process.env.VIF ?? join(root, 'build/release/cli/vif');
 export const examplesFolder = join(root, 'examples/vif');
 
-export function runVif(...args) {
-  const { status, stdout, stderr, error } = spawnSync(command, args, { encoding: 'utf8', maxBuffer: 2 ** 28 });
+const runIn = (cwd, args) => {
+  const { status, stdout, stderr, error } = spawnSync(command, args, { cwd, encoding: 'utf8', maxBuffer: 2 ** 28 });
   if (error) throw error;
   if (status !== 0) throw new Error(`vif ${args.join(' ')}: ${stderr || status}`);
   return stdout;
+};
+
+export const runVif = (...args) => runIn(root, args);
+
+// A report of an example that names the file without its folder.
+export function writeExampleReport(page, name) {
+  runIn(examplesFolder, ['report', '-o', page, name]);
+  return page;
 }
 
 export function writeReport(page, ...files) {
@@ -60,10 +68,10 @@ export function writeReports() {
   return writeAll(folder, [...examples.map((file) => [file]), ...pairs]);
 }
 
-// A few of them, for what takes long: the smallest, the largest, one with findings, and a comparison.
+// A few of them, for what takes long: the smallest, the largest, one with findings, and comparisons.
 export function someReports() {
   const folder = makeFolder();
   const charger = join(examplesFolder, 'gan-charger-65w.txt');
   const flawed = join(root, 'docs/flawed-charger.txt');
-  return writeAll(folder, [[charger], [join(examplesFolder, 'usb4-dock.xml')], [flawed], [charger, flawed]]);
+  return writeAll(folder, [[charger], [join(examplesFolder, 'usb4-dock.xml')], [flawed], [charger, flawed], [flawed, charger]]);
 }

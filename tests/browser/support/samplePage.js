@@ -43,7 +43,7 @@ const rows = [
 ].map(([name, value], position) => row(position, name, value)).join('');
 
 const body = `<main><h1>Sample</h1>
-<section id="summary"><h2>Summary</h2><p>One port.</p></section>
+<section id="summary"><h2>Summary</h2><p>One port.</p><p><a href="#fields">All fields</a></p></section>
 <section id="findings"><h2>Findings</h2><ul><li class="finding"><a href="#field-6">Too much current</a></li></ul></section>
 <section class="port" id="component-1"><h2>Port 1</h2>
 <figure class="picture"><svg role="img" aria-labelledby="picture-1" viewBox="0 0 300 100">
