@@ -77,11 +77,9 @@ void WriteDifference(CMarkup& page, const Difference& difference) {
   page.Begin("th", {{"scope", "row"}});
   const std::string place = PlaceInWords(difference.place);
   if (!place.empty()) page.Element("span", {{"class", "place"}}, place + " ");
-  if (difference.after) {
-    page.Element("a", {{"href", FieldLink(difference.after->position)}}, difference.name);
-  } else {
-    page.Text(difference.name);
-  }
+  const std::string id =
+      difference.after ? FieldId(difference.after->position) : RemovedFieldId(difference.before->position);
+  page.Element("a", {{"href", '#' + id}}, difference.name);
   page.End();
   WriteDeclared(page, difference.before);
   WriteDeclared(page, difference.after);
@@ -160,7 +158,7 @@ class CSideBySide {
   }
 
   void WriteRemoved(const Difference& difference) {
-    m_page.Begin("tr", {{"class", "field removed"}});
+    m_page.Begin("tr", {{"class", "field removed"}, {"id", RemovedFieldId(difference.before->position)}});
     m_names.Write(m_page, difference.name);
     WriteDeclared(m_page, difference.before);
     WriteDeclared(m_page, difference.after);

@@ -18,13 +18,13 @@ std::string PlaceOf(const Finding& finding) {
   return place;
 }
 
-void WriteFinding(CMarkup& page, const Finding& finding, bool hasLinks) {
+void WriteFinding(CMarkup& page, const Finding& finding, const CFieldRows& rows) {
   const std::string severity = SeverityName(finding.severity);
   page.Begin("li", {{"class", "finding " + severity}});
   page.Element("span", {{"class", "count " + severity}}, severity);
   page.Text(" ");
-  if (hasLinks && finding.position != Finding::kNoPosition) {
-    page.Element("a", {{"href", FieldLink(finding.position)}}, finding.message);
+  if (finding.position != Finding::kNoPosition) {
+    rows.WriteLink(page, finding.position, finding.message);
   } else {
     page.Text(finding.message);
   }
@@ -39,9 +39,10 @@ void WriteFinding(CMarkup& page, const Finding& finding, bool hasLinks) {
   page.End();
 }
 
-void WriteList(CMarkup& page, std::span<const Finding> findings, bool hasLinks) {
+void WriteList(CMarkup& page, std::span<const Finding> findings, const CFieldRows& rows) {
+  if (findings.empty()) return;
   page.Begin("ol", {{"class", "findings"}});
-  for (const Finding& finding : findings) WriteFinding(page, finding, hasLinks);
+  for (const Finding& finding : findings) WriteFinding(page, finding, rows);
   page.End();
 }
 
@@ -73,22 +74,22 @@ void WriteFindings(CMarkup& page, const CReportedVif& vif) {
   if (findings.empty()) {
     page.Element("p", "None: what the file declares is consistent as far as can be checked.");
   } else {
-    WriteList(page, findings, true);
+    WriteList(page, findings, CFieldRows());
     WriteReasons(page, {findings});
   }
   page.End();
 }
 
-void WriteFindingChanges(CMarkup& page, const FindingChanges& changes) {
+void WriteFindingChanges(CMarkup& page, const FindingChanges& changes, const CFieldRows& earlier) {
   page.Begin("section", {{"id", "findings"}});
   page.Element("h2", "Findings");
   if (changes.added.empty() && changes.fixed.empty()) {
     page.Element("p", "Both files have the same findings.");
   } else {
     page.Element("h3", "Only in the second file: " + Amount(changes.added.size(), "finding"));
-    WriteList(page, changes.added, true);
+    WriteList(page, changes.added, CFieldRows());
     page.Element("h3", "Only in the first file: " + Amount(changes.fixed.size(), "finding"));
-    WriteList(page, changes.fixed, false);
+    WriteList(page, changes.fixed, earlier);
     WriteReasons(page, {changes.added, changes.fixed});
   }
   page.End();

@@ -22,12 +22,7 @@ void WriteContent(CMarkup& page, const PortSide& side, const CGroupView& group, 
     if (name == except) continue;
     page.Begin("li");
     page.Text(FieldLabel(name) + ": ");
-    const std::string text = side.vif->Says(group, name);
-    if (side.hasLinks) {
-      page.Element("a", {{"href", FieldLink(side.vif->PositionOf(*found))}}, text);
-    } else {
-      page.Text(text);
-    }
+    WriteLink(page, side, *found, side.vif->Says(group, name));
     page.End();
   }
   page.End();

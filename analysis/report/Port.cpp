@@ -13,7 +13,7 @@ namespace vifanalysis {
 
 namespace {
 
-const std::vector<Fact> kPortFacts = {
+constexpr Fact kPortFacts[] = {
     {"PD_Port_Type", "PD role"},
     {"Type_C_State_Machine", "Type-C state machine"},
     {"Connector_Type", "Connector"},
@@ -35,7 +35,7 @@ const std::vector<Fact> kPortFacts = {
     {"Type_C_Sources_VCONN", "Sources VCONN"},
 };
 
-const std::vector<Fact> kCableFacts = {
+constexpr Fact kCableFacts[] = {
     {"Product_Type", "Kind of cable"},
     {"Cable_VBUS_Current", "VBUS current"},
     {"Max_VBUS_Voltage_Vdm_V2", "Greatest VBUS voltage"},
@@ -63,8 +63,8 @@ Sides WithoutComponents(const PortSides& sides) { return {sides.begin(), sides.e
 void WritePdoNumber(CMarkup& page, const PortSide& side, const CPdoView& pdo) {
   const std::string number = std::to_string(pdo.Index());
   page.Begin("th", {{"scope", "row"}});
-  if (side.hasLinks && pdo.FirstField() != nullptr) {
-    page.Element("a", {{"href", FieldLink(side.vif->PositionOf(*pdo.FirstField()))}}, number);
+  if (pdo.FirstField() != nullptr) {
+    WriteLink(page, side, *pdo.FirstField(), number);
   } else {
     page.Text(number);
   }

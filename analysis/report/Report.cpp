@@ -29,40 +29,34 @@ std::map<std::uint64_t, std::optional<std::uint64_t>> NewNumbers(const Differenc
   return numbers;
 }
 
-PortSide MakeSide(const CReportedVif& vif, const CComponentView* component, std::string_view label, bool hasLinks) {
-  return {{&vif, component, label, hasLinks}, component};
-}
+PortSide MakeSide(const ShownFile& file, const CComponentView* component) { return {{file, component}, component}; }
 
-ReportedPorts PortsOf(const CReportedVif& vif) {
+ReportedPorts PortsOf(const ShownFile& file) {
   ReportedPorts ports;
-  for (const CComponentView& component : vif.View().Components()) {
-    ports.push_back({{}, {MakeSide(vif, &component, {}, true)}});
+  for (const CComponentView& component : file.vif->View().Components()) {
+    ports.push_back({{}, {MakeSide(file, &component)}});
   }
   return ports;
 }
 
 /// The ports of both files, those that only the earlier has at the end.
-ReportedPorts PortsOf(const CReportedVif& before, const CReportedVif& after, const Differences& differences) {
+ReportedPorts PortsOf(const ShownFile& before, const ShownFile& after, const Differences& differences) {
   const auto newNumbers = NewNumbers(differences);
   ReportedPorts ports;
   std::map<std::uint64_t, std::size_t> rows;
-  for (const CComponentView& component : after.View().Components()) {
+  for (const CComponentView& component : after.vif->View().Components()) {
     rows.emplace(component.Index(), ports.size());
-    ports.push_back(
-        {{},
-         {MakeSide(before, nullptr, before.File().name, false), MakeSide(after, &component, after.File().name, true)}});
+    ports.push_back({{}, {MakeSide(before, nullptr), MakeSide(after, &component)}});
   }
-  for (const CComponentView& component : before.View().Components()) {
+  for (const CComponentView& component : before.vif->View().Components()) {
     const auto changed = newNumbers.find(component.Index());
     const std::optional<std::uint64_t> number =
         changed == newNumbers.end() ? std::optional(component.Index()) : changed->second;
     const auto row = number ? rows.find(*number) : rows.end();
     if (row == rows.end()) {
-      ports.push_back({{},
-                       {MakeSide(before, &component, before.File().name, false),
-                        MakeSide(after, nullptr, after.File().name, true)}});
+      ports.push_back({{}, {MakeSide(before, &component), MakeSide(after, nullptr)}});
     } else {
-      ports[row->second].sides.front() = MakeSide(before, &component, before.File().name, false);
+      ports[row->second].sides.front() = MakeSide(before, &component);
     }
   }
   return ports;
@@ -109,9 +103,11 @@ bool HasRouters(const Sides& products) {
 
 std::string MakeReport(const ReportedFile& file) {
   const CReportedVif vif(file);
-  ReportedPorts ports = PortsOf(vif);
+  const CFieldRows rows;
+  const ShownFile shown = {&vif, {}, &rows};
+  ReportedPorts ports = PortsOf(shown);
   NumberSections(ports);
-  const Sides products = {{&vif, vif.View().Product(), {}, true}};
+  const Sides products = {{shown, vif.View().Product()}};
   CMarkup page;
   BeginPage(page, TitleOf(vif) + " \u2013 VIF report");
   WriteSummary(page, {&vif}, ports);
@@ -128,10 +124,13 @@ std::string MakeReport(const ReportedFile& before, const ReportedFile& after) {
   const CReportedVif first(before);
   const CReportedVif second(after);
   const Differences differences = Compare(before.fields, after.fields);
-  ReportedPorts ports = PortsOf(first, second, differences);
+  const CFieldRows firstRows(first, second, differences);
+  const CFieldRows secondRows;
+  const ShownFile shownFirst = {&first, before.name, &firstRows};
+  const ShownFile shownSecond = {&second, after.name, &secondRows};
+  ReportedPorts ports = PortsOf(shownFirst, shownSecond, differences);
   NumberSections(ports);
-  const Sides products = {{&first, first.View().Product(), before.name, false},
-                          {&second, second.View().Product(), after.name, true}};
+  const Sides products = {{shownFirst, first.View().Product()}, {shownSecond, second.View().Product()}};
   CMarkup page;
   BeginPage(page, TitleOf(first) + " and " + TitleOf(second) + " \u2013 VIF report");
   WriteSummary(page, {&first, &second}, ports);
@@ -139,7 +138,7 @@ std::string MakeReport(const ReportedFile& before, const ReportedFile& after) {
   WriteDifferences(page, {&first, &second}, differences);
   WritePorts(page, ports);
   WriteRouters(page, products);
-  WriteFindingChanges(page, CompareFindings(FindingsOf(before), FindingsOf(after), differences));
+  WriteFindingChanges(page, CompareFindings(FindingsOf(before), FindingsOf(after), differences), firstRows);
   WriteFieldsSideBySide(page, {&first, &second}, differences);
   EndPage(page);
   return page.Take();

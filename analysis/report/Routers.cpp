@@ -9,7 +9,7 @@ namespace vifanalysis {
 
 namespace {
 
-const std::vector<Fact> kProtocols = {
+constexpr Fact kProtocols[] = {
     {"USB4_USB3_Tunneling_Supported", "USB3"},
     {"USB4_DP_Tunneling_Supported", "DP"},
     {"USB4_PCIe_Tunneling_Supported", "PCIe"},
@@ -83,6 +83,7 @@ void WriteRouter(CMarkup& page, const Sides& sides) {
   page.Element("h3", PlaceInWords(shown.group->Place()));
   std::vector<Fact> facts = FactsOf(sides);
   std::vector<std::string> labels;
+  labels.reserve(facts.size());
   for (const Fact& fact : facts) labels.push_back(FieldLabel(fact.name));
   for (std::size_t i = 0; i < facts.size(); ++i) facts[i].label = labels[i];
   WriteFacts(page, "Adapters and protocols", sides, facts);

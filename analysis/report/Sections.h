@@ -42,7 +42,8 @@ void WriteModes(CMarkup& page, const PortSides& sides);
 void WriteFindings(CMarkup& page, const CReportedVif& vif);
 
 /// The findings that only one of two files has.
-void WriteFindingChanges(CMarkup& page, const FindingChanges& changes);
+/// \param earlier the rows of the earlier file's fields
+void WriteFindingChanges(CMarkup& page, const FindingChanges& changes, const CFieldRows& earlier);
 
 /// All fields by group, with what is known about each.
 void WriteFields(CMarkup& page, const CReportedVif& vif);

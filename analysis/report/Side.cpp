@@ -3,6 +3,7 @@
 #include <analysis/Text.h>
 
 #include <algorithm>
+#include <iterator>
 
 namespace vifanalysis {
 
@@ -15,12 +16,7 @@ void WriteSaid(CMarkup& page, const Side& side, std::string_view name) {
     page.Element("span", {{"class", "none"}}, "\u2013");
     return;
   }
-  const std::string text = side.vif->Says(*side.group, name);
-  if (side.hasLinks) {
-    page.Element("a", {{"href", FieldLink(side.vif->PositionOf(*found))}}, text);
-  } else {
-    page.Text(text);
-  }
+  WriteLink(page, side, *found, side.vif->Says(*side.group, name));
 }
 
 bool HasFact(const Sides& sides, const Fact& fact) {
@@ -78,12 +74,14 @@ void WriteTable(CMarkup& page, const std::string& caption, const Sides& sides, c
 
 }  // namespace
 
-std::string FieldId(std::size_t position) { return "field-" + std::to_string(position); }
+void WriteLink(CMarkup& page, const Side& side, const FoundField& found, std::string_view text) {
+  side.rows->WriteLink(page, side.vif->PositionOf(found), text);
+}
 
-std::string FieldLink(std::size_t position) { return '#' + FieldId(position); }
-
-bool WriteFacts(CMarkup& page, const std::string& caption, const Sides& sides, std::vector<Fact> facts) {
-  std::erase_if(facts, [&](const Fact& fact) { return !HasFact(sides, fact); });
+bool WriteFacts(CMarkup& page, const std::string& caption, const Sides& sides, std::span<const Fact> known) {
+  std::vector<Fact> facts;
+  std::copy_if(known.begin(), known.end(), std::back_inserter(facts),
+               [&](const Fact& fact) { return HasFact(sides, fact); });
   if (facts.empty()) return false;
   if (sides.size() == 1) {
     WriteList(page, caption, sides.front(), facts);

@@ -1,22 +1,28 @@
 // What a report shows next to each other: one file, or the same thing in two.
 #pragma once
 
+#include "report/FieldLinks.h"
 #include "report/Markup.h"
 #include "report/ReportedVif.h"
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace vifanalysis {
 
-/// A group in one of the files of a report.
-struct Side {
+/// One of the files of a report.
+struct ShownFile {
   const CReportedVif* vif;  ///< never null
-  const CGroupView* group;  ///< null when this file does not have it
   std::string_view label;   ///< what distinguishes the file from the other; empty when there is only one
-  bool hasLinks;            ///< whether the fields of this file are in the page by their positions
+  const CFieldRows* rows;   ///< the rows of its fields; never null
+};
+
+/// A group in one of the files.
+struct Side : ShownFile {
+  const CGroupView* group;  ///< null when this file does not have it
 };
 
 /// One or two, the earlier file first. At least one has the group.
@@ -29,11 +35,8 @@ struct PortSide : Side {
 
 using PortSides = std::vector<PortSide>;
 
-/// The ID of a field's row.
-std::string FieldId(std::size_t position);
-
-/// Where a link to a field's row leads.
-std::string FieldLink(std::size_t position);
+/// Writes a text that is a link to the row of a field.
+void WriteLink(CMarkup& page, const Side& side, const FoundField& found, std::string_view text);
 
 /// A field and what a table of facts calls it.
 struct Fact {
@@ -43,7 +46,7 @@ struct Fact {
 
 /// What the sides say, one fact a row. Facts that no side has are left out.
 /// \return whether there was any
-bool WriteFacts(CMarkup& page, const std::string& caption, const Sides& sides, std::vector<Fact> facts);
+bool WriteFacts(CMarkup& page, const std::string& caption, const Sides& sides, std::span<const Fact> facts);
 
 /// The name of a field as words: "Num_Lane_Adapters" as "Num Lane Adapters", without what its group says already.
 std::string FieldLabel(std::string_view name);

@@ -127,7 +127,10 @@ void WritePortRow(CMarkup& page, const ReportedPort& port, const PortSide& side)
   page.Begin("tr");
   page.Begin("th", {{"scope", "row"}});
   page.Element("a", {{"href", '#' + port.id}}, TitleOf(port));
-  if (!side.label.empty()) page.Text(" \u00b7 " + std::string(side.label));
+  if (!side.label.empty()) {
+    page.Text(" ");
+    page.Element("span", {{"class", "place"}}, side.label);
+  }
   page.End();
   WriteCell(page, side.vif->Says(*side.component, "Connector_Type"));
   WriteCell(page, RoleInWords(side));

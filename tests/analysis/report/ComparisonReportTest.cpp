@@ -110,8 +110,27 @@ TEST(ComparisonReport, ShowsFindingsThatOnlyOneFileHas) {
   const Finding fixed = {Severity::Error, "pdo-limits", 2, 0, "A", "was fixed", 2};
   const Finding added = {Severity::Warning, "role-mismatch", 3, 0, "B", "is new", 3};
   const std::string findings = Section(PageOfTwo(charger, charger, {both, fixed}, {both, added}), "findings");
-  EXPECT_THAT(findings, AllOf(HasSubstr("<a href=\"#field-3\">is new</a>"), HasSubstr("was fixed"),
-                              Not(HasSubstr("is in both"))));
+  EXPECT_THAT(findings, AllOf(HasSubstr("<a href=\"#field-3\">is new</a>"),
+                              HasSubstr("<a href=\"#field-2\">was fixed</a>"), Not(HasSubstr("is in both"))));
+}
+
+TEST(ComparisonReport, LinksWhatTheFirstFileHasToTheRowThatShowsIt) {
+  CExample before("gan-charger-65w.txt");
+  before.Add(Component(1), "Some_Name", "1");
+  CExample after("gan-charger-65w.txt");
+  after.RemoveGroup(SrcPdo(1, 2));  // the text form numbers PDOs by their names, so those after it keep their numbers
+  const FoundFields& fields = before.Fields();
+  std::vector<Finding> findings;
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    findings.push_back({Severity::Note, "placeholder", i, 0, fields[i].field.Name(), "field " + std::to_string(i), i});
+  }
+  const std::string page = PageOfTwo(before, after, findings, {});
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    const std::string id = Between(page, "<a href=\"#", "\">field " + std::to_string(i) + "</a>");
+    const std::string link = id.substr(id.find_last_of('#') + 1);
+    const std::string row = Between(page, " id=\"" + link + "\">", "</tr>");
+    EXPECT_THAT(row, HasSubstr(fields[i].field.Name())) << i;
+  }
 }
 
 TEST(ComparisonReport, ReadsNumbersThatAreOnlySpelledDifferentlyAsTheSame) {
