@@ -71,15 +71,19 @@ void WriteDeclared(CMarkup& page, const std::optional<DeclaredField>& declared) 
   page.End();
 }
 
+/// The row of the field in the list of all fields.
+std::string RowIdOf(const Difference& difference) {
+  if (difference.after) return FieldId(difference.after->position);
+  return difference.before ? RemovedFieldId(difference.before->position) : std::string();
+}
+
 /// A field that differs, in the table of differences.
 void WriteDifference(CMarkup& page, const Difference& difference) {
   page.Begin("tr", {{"class", std::string(ClassOf(difference.kind))}});
   page.Begin("th", {{"scope", "row"}});
   const std::string place = PlaceInWords(difference.place);
   if (!place.empty()) page.Element("span", {{"class", "place"}}, place + " ");
-  const std::string id =
-      difference.after ? FieldId(difference.after->position) : RemovedFieldId(difference.before->position);
-  page.Element("a", {{"href", '#' + id}}, difference.name);
+  page.Element("a", {{"href", '#' + RowIdOf(difference)}}, difference.name);
   page.End();
   WriteDeclared(page, difference.before);
   WriteDeclared(page, difference.after);
@@ -158,7 +162,7 @@ class CSideBySide {
   }
 
   void WriteRemoved(const Difference& difference) {
-    m_page.Begin("tr", {{"class", "field removed"}, {"id", RemovedFieldId(difference.before->position)}});
+    m_page.Begin("tr", {{"class", "field removed"}, {"id", RowIdOf(difference)}});
     m_names.Write(m_page, difference.name);
     WriteDeclared(m_page, difference.before);
     WriteDeclared(m_page, difference.after);

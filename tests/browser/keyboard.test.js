@@ -4,7 +4,7 @@ import { describeInBrowser, itHolds } from './support/suite.js';
 
 describeInBrowser('A report without a mouse', (browser) => {
   const reports = someReports();
-  const flawed = reports.filter(({ files }) => files.at(-1).includes('flawed'));
+  const flawed = reports.filter(({ files }) => files.some((file) => file.includes('flawed')));
 
   itHolds('is reached by Tab, all of it', browser, reports, keyboard.reachesEverythingByTab);
   itHolds('shows where the focus is', browser, reports, keyboard.showsTheFocus);
