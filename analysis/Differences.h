@@ -61,6 +61,12 @@ struct DeclaredField {
   std::size_t position = 0;  ///< its index in the list that was compared
 };
 
+/// "changed", "added" or "removed".
+constexpr const char* KindText(DifferenceKind kind) noexcept {
+  if (kind == DifferenceKind::Changed) return "changed";
+  return kind == DifferenceKind::Added ? "added" : "removed";
+}
+
 /// One field that differs.
 struct Difference {
   DifferenceKind kind{};
@@ -83,6 +89,17 @@ enum class GroupChangeKind : std::uint8_t {
   Moved,       ///< it changed places with others of its kind, and has another number
   Renumbered,  ///< it has another number because of groups that were added, removed or moved, or of a gap
 };
+
+/// "added", "removed", "moved" or "renumbered".
+constexpr const char* KindText(GroupChangeKind kind) noexcept {
+  switch (kind) {
+    case GroupChangeKind::Added: return "added";
+    case GroupChangeKind::Removed: return "removed";
+    case GroupChangeKind::Moved: return "moved";
+    case GroupChangeKind::Renumbered: break;
+  }
+  return "renumbered";
+}
 
 /// One group that is not the same, or does not have the same number, in both. A group whose fields differ is not listed
 /// for that, and neither are those that a file has once: its header, its application's and the product, which are

@@ -50,6 +50,10 @@ struct FieldExplanation {
   std::vector<std::string> sources;          ///< what `declares` was taken from, in words
 };
 
+/// In which editions the name was seen: "2.04 to 3.36", "3.36", or "not seen in a file". Empty where that is not known.
+/// Throws std::bad_alloc only. May be called from any number of threads at once.
+VIF_ANALYSIS_API std::string EditionsText(const FieldExplanation& field);
+
 /// Explains the field that a name means.
 /// \param name as for `FindField`
 /// \return nothing when the name means no field

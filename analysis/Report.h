@@ -19,17 +19,20 @@ namespace vifanalysis {
 
 /// A file for a report. It borrows the lists.
 struct ReportedFile {
-  std::string name;                   ///< what to call the file, in any bytes
+  std::string name;                   ///< what to call the file, in any bytes; not empty where there are two files
   std::span<const CVIFField> fields;  ///< all fields, as loading the file yields them
-  std::span<const Finding> findings;  ///< what checking the file found, in the order to show
+  std::span<const Finding> findings;  ///< what checking the file found, in the order to show; a `position` that is none
+                                      ///< of `fields` gives a finding without a link
 };
 
-/// A page about one file, in UTF-8. The same fields and findings always give the same page. May be called from any
-/// number of threads at once.
+/// A page about one file, in UTF-8. The same fields and findings always give the same page. The time grows linearly
+/// with their number. May be called from any number of threads at once.
 /// \throws std::bad_alloc
 VIF_ANALYSIS_API std::string MakeReport(const ReportedFile& file);
 
-/// A page about two files, side by side, with the differences marked.
+/// A page about two files, the same side by side, with the differences that `Compare` finds marked. What holds for a
+/// page about one file holds for it, too.
+/// \throws std::bad_alloc
 VIF_ANALYSIS_API std::string MakeReport(const ReportedFile& before, const ReportedFile& after);
 
 }  // namespace vifanalysis

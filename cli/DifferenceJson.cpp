@@ -1,4 +1,3 @@
-#include "DifferenceKinds.h"
 #include "DifferenceWriters.h"
 #include "Json.h"
 #include "Output.h"

@@ -1,6 +1,5 @@
 #include "DifferenceLines.h"
 
-#include "DifferenceKinds.h"
 #include "Style.h"
 
 #include <analysis/FieldText.h>

@@ -66,12 +66,6 @@ std::string Mark(bool isSeen, Confidence confidence) {
   return mark.empty() ? mark : std::string(" (").append(mark).append(")");
 }
 
-std::string EditionsText(const FieldExplanation& field) {
-  if (!field.seen) return "not seen in a file";
-  if (field.firstEdition.empty()) return {};
-  return field.firstEdition == field.lastEdition ? field.firstEdition : field.firstEdition + " to " + field.lastEdition;
-}
-
 std::string SpellingText(const ExplainedSpelling& spelling) {
   std::string text = spelling.name + ": " + std::string(NameKindText(spelling.kind));
   if (!spelling.first.empty()) {

@@ -4,11 +4,13 @@
 #include "Output.h"
 #include "SchemasOption.h"
 
+#include <BaseUtilities/PathText.h>
 #include <analysis/Check.h>
 #include <analysis/Report.h>
 #include <CLI/CLI.hpp>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,7 +19,7 @@ namespace cli {
 namespace {
 
 struct ReportSettings {
-  std::string output;
+  std::optional<std::string> output;
   std::vector<std::string> files;
 };
 
@@ -45,16 +47,21 @@ struct LoadedFile {
   vifanalysis::ReportedFile Reported() const { return {name, vif.Fields(), findings}; }
 };
 
-LoadedFile Load(const std::string& fileName) {
+LoadedFile Load(const std::string& fileName, const std::string& name) {
   vifanalysis::CheckOptions options;
   options.notes = true;
-  return {fileName, LoadFiles({fileName}), FindingsIn(fileName, options)};
+  return {name, LoadFiles({fileName}), FindingsIn(fileName, options)};
 }
 
+/// The name without its folders, which are of no interest to those to whom the page is sent.
+std::string BaseName(const std::string& fileName) { return PathToUtf8(PathFromUtf8(fileName).filename()); }
+
 std::string MakePage(const std::vector<std::string>& files) {
-  const LoadedFile first = Load(files.front());
+  const bool haveSameName = files.size() == 2 && BaseName(files.front()) == BaseName(files.back());
+  const auto load = [&](const std::string& file) { return Load(file, haveSameName ? file : BaseName(file)); };
+  const LoadedFile first = load(files.front());
   if (files.size() == 1) return vifanalysis::MakeReport(first.Reported());
-  return vifanalysis::MakeReport(first.Reported(), Load(files.back()).Reported());
+  return vifanalysis::MakeReport(first.Reported(), load(files.back()).Reported());
 }
 
 void RunReport(const ReportSettings& settings) {
@@ -63,10 +70,10 @@ void RunReport(const ReportSettings& settings) {
                   " are given (see 'vif report --help')");
   }
   const std::string page = MakePage(settings.files);
-  if (settings.output.empty()) {
-    Write(page);
+  if (settings.output) {
+    WriteFile(*settings.output, page, settings.files);
   } else {
-    WriteFile(settings.output, page, settings.files);
+    Write(page);
   }
 }
 

@@ -12,22 +12,12 @@ namespace vifanalysis {
 
 namespace {
 
-std::string_view Verb(GroupChangeKind kind) {
-  switch (kind) {
-    case GroupChangeKind::Added: return "added";
-    case GroupChangeKind::Removed: return "removed";
-    case GroupChangeKind::Moved: return "moved";
-    case GroupChangeKind::Renumbered: break;
-  }
-  return "renumbered";
-}
-
 /// Such as "Source PDO 5: added, Fixed, 9 V, 3 A, 27 W" or "Source PDO 4: renumbered, Source PDO 3 in the first file".
 std::string GroupText(const GroupChange& change) {
   const bool isRemoved = change.kind == GroupChangeKind::Removed;
-  std::string text = PlaceInWords(isRemoved ? change.before : change.after) + ": " + std::string(Verb(change.kind));
+  std::string text = GroupTitle(isRemoved ? change.before : change.after) + ": " + KindText(change.kind);
   if (change.kind == GroupChangeKind::Moved || change.kind == GroupChangeKind::Renumbered) {
-    text += ", " + PlaceInWords(change.before) + " in the first file";
+    text += ", was " + PlaceInWords(change.before);
   }
   return change.summary.empty() ? text : text + " (" + change.summary + ")";
 }
@@ -46,19 +36,9 @@ void WriteGroupChanges(CMarkup& page, const Differences& differences) {
   page.End();
 }
 
-std::string_view ClassOf(DifferenceKind kind) {
-  if (kind == DifferenceKind::Added) return "added";
-  return kind == DifferenceKind::Removed ? "removed" : "changed";
-}
-
 ShownValue ShownIn(const DeclaredField& declared) {
-  ShownValue shown{declared.value, declared.description, declared.meaning, declared.isUncertain};
-  if (shown.value.empty()) shown.value = declared.text;
-  if (shown.description == shown.value) shown.description.clear();
-  if (EqualInAnyCase(shown.meaning, shown.value) || EqualInAnyCase(shown.meaning, shown.description)) {
-    shown.meaning.clear();
-  }
-  return shown;
+  const std::string& value = declared.value.empty() ? declared.text : declared.value;
+  return MakeShown(value, declared.description, {declared.meaning, declared.isUncertain});
 }
 
 void WriteDeclared(CMarkup& page, const std::optional<DeclaredField>& declared) {
@@ -71,6 +51,8 @@ void WriteDeclared(CMarkup& page, const std::optional<DeclaredField>& declared) 
   page.End();
 }
 
+std::size_t PositionBefore(const Difference& difference) { return difference.before ? difference.before->position : 0; }
+
 /// The row of the field in the list of all fields.
 std::string RowIdOf(const Difference& difference) {
   if (difference.after) return FieldId(difference.after->position);
@@ -79,25 +61,26 @@ std::string RowIdOf(const Difference& difference) {
 
 /// A field that differs, in the table of differences.
 void WriteDifference(CMarkup& page, const Difference& difference) {
-  page.Begin("tr", {{"class", std::string(ClassOf(difference.kind))}});
+  page.Begin("tr", {{"class", KindText(difference.kind)}});
   page.Begin("th", {{"scope", "row"}});
   const std::string place = PlaceInWords(difference.place);
   if (!place.empty()) page.Element("span", {{"class", "place"}}, place + " ");
   page.Element("a", {{"href", '#' + RowIdOf(difference)}}, difference.name);
+  WriteMark(page, KindText(difference.kind));
   page.End();
   WriteDeclared(page, difference.before);
   WriteDeclared(page, difference.after);
   page.End();
 }
 
-std::vector<std::string_view> Headings(const ReportedVifs& vifs) {
-  return {"Field", vifs.front()->File().name, vifs.back()->File().name};
+std::vector<std::string_view> Headings(const ShownFiles& files) {
+  return {"Field", files.front().label, files.back().label};
 }
 
-void WriteFieldChanges(CMarkup& page, const ReportedVifs& vifs, const Differences& differences) {
+void WriteFieldChanges(CMarkup& page, const ShownFiles& files, const Differences& differences) {
   const auto isSingle = [](const Difference& difference) { return difference.group == Difference::kNoGroup; };
   if (std::none_of(differences.fields.begin(), differences.fields.end(), isSingle)) return;
-  BeginTable(page, "Fields that differ", Headings(vifs));
+  BeginTable(page, "Fields that differ", Headings(files));
   for (const Difference& difference : differences.fields) {
     if (isSingle(difference)) WriteDifference(page, difference);
   }
@@ -109,8 +92,8 @@ using DifferencesByPlace = std::map<GroupPlace, std::vector<const Difference*>>;
 /// All fields of the later file by group, with what the earlier file has in their stead.
 class CSideBySide {
  public:
-  CSideBySide(CMarkup& page, const ReportedVifs& vifs, const Differences& differences)
-      : m_page(page), m_vif(*vifs.back()), m_headings(Headings(vifs)) {
+  CSideBySide(CMarkup& page, const ShownFiles& files, const Differences& differences)
+      : m_page(page), m_vif(*files.back().vif), m_before(files.front().label), m_headings(Headings(files)) {
     for (const Difference& difference : differences.fields) {
       if (difference.after) {
         m_changed.emplace(difference.after->position, &difference);
@@ -123,8 +106,8 @@ class CSideBySide {
 
   void Write() {
     WriteGroup(m_vif.View().Root());
-    for (const DifferencesByPlace* places : {&m_removed, &m_removedGroups}) {
-      for (const auto& [place, removed] : *places) WriteRemovedGroup(place, removed);
+    for (DifferencesByPlace* places : {&m_removed, &m_removedGroups}) {
+      for (auto& [place, removed] : *places) WriteRemovedGroup(place, removed);
     }
   }
 
@@ -147,9 +130,9 @@ class CSideBySide {
     const std::size_t position = m_vif.PositionOf(found);
     const auto change = m_changed.find(position);
     const bool differs = change != m_changed.end();
-    const std::string kind(differs ? ClassOf(change->second->kind) : "same");
+    const std::string kind = differs ? KindText(change->second->kind) : "same";
     m_page.Begin("tr", {{"class", "field " + kind}, {"id", FieldId(position)}});
-    m_names.Write(m_page, m_vif.Declared(found).Name());
+    m_names.Write(m_page, m_vif.Declared(found).Name(), differs ? KindText(change->second->kind) : "");
     if (differs) {
       WriteDeclared(m_page, change->second->before);
       WriteDeclared(m_page, change->second->after);
@@ -163,20 +146,23 @@ class CSideBySide {
 
   void WriteRemoved(const Difference& difference) {
     m_page.Begin("tr", {{"class", "field removed"}, {"id", RowIdOf(difference)}});
-    m_names.Write(m_page, difference.name);
+    m_names.Write(m_page, difference.name, KindText(difference.kind));
     WriteDeclared(m_page, difference.before);
     WriteDeclared(m_page, difference.after);
     m_page.End();
   }
 
-  void WriteRemovedGroup(const GroupPlace& place, const std::vector<const Difference*>& removed) {
-    BeginTable(m_page, GroupTitle(place) + " of the first file", m_headings);
+  void WriteRemovedGroup(const GroupPlace& place, std::vector<const Difference*>& removed) {
+    std::sort(removed.begin(), removed.end(),
+              [](const Difference* a, const Difference* b) { return PositionBefore(*a) < PositionBefore(*b); });
+    BeginTable(m_page, GroupTitle(place) + " of " + m_before, m_headings);
     for (const Difference* difference : removed) WriteRemoved(*difference);
     EndTable(m_page);
   }
 
   CMarkup& m_page;
   const CReportedVif& m_vif;
+  std::string m_before;
   std::vector<std::string_view> m_headings;
   std::map<std::size_t, const Difference*> m_changed;
   DifferencesByPlace m_removed;        // single fields, by the group that they would be in
@@ -186,20 +172,20 @@ class CSideBySide {
 
 }  // namespace
 
-void WriteDifferences(CMarkup& page, const ReportedVifs& vifs, const Differences& differences) {
+void WriteDifferences(CMarkup& page, const ShownFiles& files, const Differences& differences) {
   page.Begin("section", {{"id", "differences"}});
   page.Element("h2", "Differences");
-  if (differences.IsEmpty()) page.Element("p", "None: both files mean the same.");
+  if (differences.IsEmpty()) page.Element("p", "None. The two files mean the same.");
   WriteGroupChanges(page, differences);
-  WriteFieldChanges(page, vifs, differences);
+  WriteFieldChanges(page, files, differences);
   page.End();
 }
 
-void WriteFieldsSideBySide(CMarkup& page, const ReportedVifs& vifs, const Differences& differences) {
+void WriteFieldsSideBySide(CMarkup& page, const ShownFiles& files, const Differences& differences) {
   page.Begin("section", {{"id", "fields"}});
   page.Element("h2", "All fields");
   WriteFilter(page);
-  CSideBySide(page, vifs, differences).Write();
+  CSideBySide(page, files, differences).Write();
   page.End();
 }
 

@@ -2,6 +2,7 @@
 
 #include <analysis/FieldText.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <deque>
 #include <map>
@@ -46,39 +47,57 @@ std::string FieldId(std::size_t position) { return "field-" + std::to_string(pos
 
 std::string RemovedFieldId(std::size_t position) { return "removed-" + std::to_string(position); }
 
-CFieldRows::CFieldRows(const CReportedVif& before, const CReportedVif& after, const Differences& differences)
-    : m_ids(before.View().Fields().size()) {
-  std::vector<bool> isDifferent(after.View().Fields().size());
+CFieldRows::CFieldRows(const CReportedVif& vif)
+    : m_ids(vif.View().Fields().size()), m_isDifferent(vif.View().Fields().size()) {
+  for (std::size_t i = 0; i < m_ids.size(); ++i) m_ids[i] = FieldId(i);
+}
+
+CFieldRows CFieldRows::OfLater(const CReportedVif& after, const Differences& differences) {
+  CFieldRows rows(after);
   for (const Difference& difference : differences.fields) {
-    if (difference.after) isDifferent[difference.after->position] = true;
-    if (!difference.before) continue;
-    m_ids[difference.before->position] =
-        difference.after ? FieldId(difference.after->position) : RemovedFieldId(difference.before->position);
+    if (difference.after) rows.m_isDifferent[difference.after->position] = true;
   }
-  std::map<FieldKey, std::deque<std::size_t>> same;
+  return rows;
+}
+
+CFieldRows CFieldRows::OfEarlier(const CReportedVif& before, const CReportedVif& after,
+                                 const Differences& differences) {
+  CFieldRows rows(before);
+  for (const Difference& difference : differences.fields) {
+    if (!difference.before) continue;
+    const std::size_t position = difference.before->position;
+    rows.m_isDifferent[position] = true;
+    rows.m_ids[position] = difference.after ? FieldId(difference.after->position) : RemovedFieldId(position);
+  }
+  const CFieldRows laterRows = OfLater(after, differences);
   const FoundFields& later = after.View().Fields();
+  std::map<FieldKey, std::deque<std::size_t>> same;
   for (std::size_t i = 0; i < later.size(); ++i) {
-    if (!isDifferent[i]) same[{later[i].field.Name(), later[i].field.Indexes()}].push_back(i);
+    if (!laterRows.IsDifferent(i)) same[{later[i].field.Name(), later[i].field.Indexes()}].push_back(i);
   }
   const NewSlots slots = NewSlotsOf(differences);
   const FoundFields& earlier = before.View().Fields();
   for (std::size_t i = 0; i < earlier.size(); ++i) {
-    if (!m_ids[i].empty()) continue;
+    if (rows.m_isDifferent[i]) continue;
     const auto row = same.find({earlier[i].field.Name(), NewPlace(earlier[i].field.Indexes(), slots)});
+    rows.m_ids[i].clear();
     if (row == same.end() || row->second.empty()) continue;
-    m_ids[i] = FieldId(row->second.front());
+    rows.m_ids[i] = FieldId(row->second.front());
     row->second.pop_front();
   }
+  return rows;
 }
 
-std::string CFieldRows::IdOf(std::size_t position) const { return m_ids.empty() ? FieldId(position) : m_ids[position]; }
+bool CFieldRows::HasDifferent(const CReportedVif& vif, const CGroupView& group) const {
+  return std::any_of(group.Fields().begin(), group.Fields().end(),
+                     [&](const NamedField& named) { return IsDifferent(vif.PositionOf(*named.field)); });
+}
 
 void CFieldRows::WriteLink(CMarkup& page, std::size_t position, std::string_view text) const {
-  const std::string id = IdOf(position);
-  if (id.empty()) {
+  if (position >= m_ids.size() || m_ids[position].empty()) {
     page.Text(text);
   } else {
-    page.Element("a", {{"href", '#' + id}}, text);
+    page.Element("a", {{"href", '#' + m_ids[position]}}, text);
   }
 }
 

@@ -22,19 +22,27 @@ std::string RemovedFieldId(std::size_t position);
 /// The rows of the fields of one file. In a comparison, a field that both files have is in one row.
 class CFieldRows {
  public:
-  /// Those of the only file, or of the later one of two.
-  CFieldRows() = default;
+  /// Those of the only file.
+  explicit CFieldRows(const CReportedVif& vif);
+
+  /// Those of the later of two files.
+  static CFieldRows OfLater(const CReportedVif& after, const Differences& differences);
 
   /// Those of the earlier one.
-  CFieldRows(const CReportedVif& before, const CReportedVif& after, const Differences& differences);
+  static CFieldRows OfEarlier(const CReportedVif& before, const CReportedVif& after, const Differences& differences);
 
-  /// Writes a text that is a link to the row of the field at that position.
+  /// Whether the other file does not have the field, or not with that value.
+  bool IsDifferent(std::size_t position) const { return m_isDifferent[position]; }
+
+  /// Whether that is so for any of a group's own fields.
+  bool HasDifferent(const CReportedVif& vif, const CGroupView& group) const;
+
+  /// Writes a text that is a link to the row of the field at that position; only the text when there is no such field.
   void WriteLink(CMarkup& page, std::size_t position, std::string_view text) const;
 
  private:
-  std::string IdOf(std::size_t position) const;
-
-  std::vector<std::string> m_ids;  // by position; empty where the position itself is the row's number
+  std::vector<std::string> m_ids;  // by position
+  std::vector<bool> m_isDifferent;
 };
 
 }  // namespace vifanalysis

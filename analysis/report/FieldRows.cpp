@@ -1,5 +1,7 @@
 #include "report/FieldRows.h"
 
+#include "report/Side.h"
+
 #include <analysis/FieldExplanation.h>
 #include <analysis/FieldText.h>
 
@@ -9,11 +11,6 @@
 namespace vifanalysis {
 
 namespace {
-
-std::string EditionsText(const FieldExplanation& field) {
-  if (field.firstEdition.empty()) return {};
-  return field.firstEdition == field.lastEdition ? field.firstEdition : field.firstEdition + " to " + field.lastEdition;
-}
 
 std::string ValuesText(const FieldExplanation& field) {
   std::string text;
@@ -59,7 +56,7 @@ void WriteValue(CMarkup& page, const ShownValue& shown) {
   }
 }
 
-void CFieldNames::Write(CMarkup& page, std::string_view name) {
+void CFieldNames::Write(CMarkup& page, std::string_view name, std::string_view mark) {
   const std::optional<FieldExplanation> explanation = ExplainField(name);
   page.Begin("th", {{"scope", "row"}});
   if (!explanation) {
@@ -78,13 +75,14 @@ void CFieldNames::Write(CMarkup& page, std::string_view name) {
                   {"aria-label", "What " + explanation->name + " means"}},
                  "?");
   }
+  if (!mark.empty()) WriteMark(page, mark);
   page.End();
 }
 
 std::string GroupTitle(const GroupPlace& place) {
   switch (GroupKind(place)) {
     case eVifLocUnset: return "The file";
-    case eVifLocVif: return "The VIF";
+    case eVifLocVif: return "Header";
     case eVifLocAppVersion: return "The program that wrote it";
     case eVifLocProduct: return "Product";
     default: return PlaceInWords(place);

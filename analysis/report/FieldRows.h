@@ -18,7 +18,8 @@ void WriteValue(CMarkup& page, const ShownValue& shown);
 /// after that, there is a link to the explanation.
 class CFieldNames {
  public:
-  void Write(CMarkup& page, std::string_view name);
+  /// \param mark says how the field differs; empty for one that does not
+  void Write(CMarkup& page, std::string_view name, std::string_view mark = {});
 
  private:
   std::set<std::string, std::less<>> m_explained;

@@ -47,11 +47,8 @@ void WriteList(CMarkup& page, std::span<const Finding> findings, const CFieldRow
 }
 
 /// Why what was found is wrong, each rule once.
-void WriteReasons(CMarkup& page, const std::vector<std::span<const Finding>>& lists) {
-  std::set<std::string_view> codes;
-  for (const auto& findings : lists) {
-    for (const Finding& finding : findings) codes.insert(finding.code);
-  }
+void WriteReasons(CMarkup& page, const std::set<std::string_view>& codes) {
+  if (codes.empty()) return;
   page.Begin("details", {{"class", "rules"}});
   page.Element("summary", "What these findings mean");
   page.Begin("dl");
@@ -65,33 +62,66 @@ void WriteReasons(CMarkup& page, const std::vector<std::span<const Finding>>& li
   page.End();
 }
 
+std::set<std::string_view> CodesOf(const ShownFiles& files) {
+  std::set<std::string_view> codes;
+  for (const ShownFile& file : files) {
+    for (const Finding& finding : file.vif->File().findings) codes.insert(finding.code);
+  }
+  return codes;
+}
+
+std::vector<Finding> FindingsOf(const ShownFile& file) {
+  return {file.vif->File().findings.begin(), file.vif->File().findings.end()};
+}
+
+/// The findings that are not among some of them, which are in the same order.
+std::vector<Finding> Without(std::span<const Finding> findings, std::span<const Finding> some) {
+  const auto isSame = [](const Finding& a, const Finding& b) {
+    return a.position == b.position && a.line == b.line && a.column == b.column && a.code == b.code &&
+           a.message == b.message;
+  };
+  std::vector<Finding> others;
+  for (const Finding& finding : findings) {
+    if (!some.empty() && isSame(finding, some.front())) {
+      some = some.subspan(1);
+    } else {
+      others.push_back(finding);
+    }
+  }
+  return others;
+}
+
+void WritePart(CMarkup& page, const std::string& title, std::span<const Finding> findings, const ShownFile& file) {
+  if (findings.empty()) return;
+  page.Element("h3", title + ": " + std::to_string(findings.size()));
+  WriteList(page, findings, *file.rows);
+}
+
 }  // namespace
 
-void WriteFindings(CMarkup& page, const CReportedVif& vif) {
-  const std::span<const Finding> findings = vif.File().findings;
+void WriteFindings(CMarkup& page, const ShownFile& file) {
+  const std::span<const Finding> findings = file.vif->File().findings;
   page.Begin("section", {{"id", "findings"}});
   page.Element("h2", "Findings");
-  if (findings.empty()) {
-    page.Element("p", "None: what the file declares is consistent as far as can be checked.");
-  } else {
-    WriteList(page, findings, CFieldRows());
-    WriteReasons(page, {findings});
-  }
+  if (findings.empty()) page.Element("p", "None. What the file declares is consistent as far as can be checked.");
+  WriteList(page, findings, *file.rows);
+  WriteReasons(page, CodesOf({file}));
   page.End();
 }
 
-void WriteFindingChanges(CMarkup& page, const FindingChanges& changes, const CFieldRows& earlier) {
+void WriteFindings(CMarkup& page, const ShownFiles& files, const Differences& differences) {
+  const ShownFile& before = files.front();
+  const ShownFile& after = files.back();
+  const FindingChanges changes = CompareFindings(FindingsOf(before), FindingsOf(after), differences);
   page.Begin("section", {{"id", "findings"}});
   page.Element("h2", "Findings");
-  if (changes.added.empty() && changes.fixed.empty()) {
-    page.Element("p", "Both files have the same findings.");
-  } else {
-    page.Element("h3", "Only in the second file: " + Amount(changes.added.size(), "finding"));
-    WriteList(page, changes.added, CFieldRows());
-    page.Element("h3", "Only in the first file: " + Amount(changes.fixed.size(), "finding"));
-    WriteList(page, changes.fixed, earlier);
-    WriteReasons(page, {changes.added, changes.fixed});
+  if (before.vif->File().findings.empty() && after.vif->File().findings.empty()) {
+    page.Element("p", "None. What the files declare is consistent as far as can be checked.");
   }
+  WritePart(page, "Only in " + std::string(after.label), changes.added, after);
+  WritePart(page, "Only in " + std::string(before.label), changes.fixed, before);
+  WritePart(page, "In both", Without(after.vif->File().findings, changes.added), after);
+  WriteReasons(page, CodesOf(files));
   page.End();
 }
 

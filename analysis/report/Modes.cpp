@@ -22,7 +22,7 @@ void WriteContent(CMarkup& page, const PortSide& side, const CGroupView& group, 
     if (name == except) continue;
     page.Begin("li");
     page.Text(FieldLabel(name) + ": ");
-    WriteLink(page, side, *found, side.vif->Says(group, name));
+    WriteLink(page, side, *found, side.vif->Says(*found, group));
     page.End();
   }
   page.End();
@@ -34,8 +34,12 @@ std::string SvidTitle(const CGroupView& svid, std::string_view name) {
   const std::optional<std::uint64_t> number = svid.Number(name);
   if (number) title += ": " + QuantityText({*number, Unit::Identifier});
   const FoundField* found = svid.Find(name);
-  const std::string_view description = found == nullptr ? "" : found->field.Description();
-  return description.empty() ? title : title.append(" \u00b7 ").append(description);
+  std::string_view description = found == nullptr ? "" : found->field.Description();
+  // Editors put the digits before a name.
+  const std::string digits = number ? QuantityText({*number, Unit::Identifier}).substr(2) : std::string();
+  if (!digits.empty() && description.starts_with(digits)) description.remove_prefix(digits.size());
+  description.remove_prefix(std::min(description.find_first_not_of(' '), description.size()));
+  return description.empty() ? title : title.append(" ").append(description);
 }
 
 void WriteSvid(CMarkup& page, const PortSide& side, const CGroupView& svid) {
@@ -43,12 +47,14 @@ void WriteSvid(CMarkup& page, const PortSide& side, const CGroupView& svid) {
   const auto modes = svid.AllGroups(ModeKind(svid.Kind()));
   page.Begin("li");
   page.Element("strong", SvidTitle(svid, name));
+  if (side.rows->HasDifferent(*side.vif, svid)) WriteMark(page, KindText(DifferenceKind::Changed));
   WriteContent(page, side, svid, name);
   if (!modes.empty()) {
     page.Begin("ul", {{"class", "modes"}});
     for (std::size_t i = 0; i < std::min(modes.size(), kMostShown); ++i) {
       page.Begin("li");
       page.Element("strong", PlaceInWords(modes[i].Place(), 2));
+      if (side.rows->HasDifferent(*side.vif, modes[i])) WriteMark(page, KindText(DifferenceKind::Changed));
       WriteContent(page, side, modes[i], {});
       page.End();
     }

@@ -1,3 +1,4 @@
+#include "power/Units.h"
 #include "report/PowerPicture.h"
 #include "report/PowerWords.h"
 #include "report/Sections.h"
@@ -36,9 +37,9 @@ constexpr Fact kPortFacts[] = {
 };
 
 constexpr Fact kCableFacts[] = {
-    {"Product_Type", "Kind of cable"},
+    {"Product_Type", "Cable type"},
     {"Cable_VBUS_Current", "VBUS current"},
-    {"Max_VBUS_Voltage_Vdm_V2", "Greatest VBUS voltage"},
+    {"Max_VBUS_Voltage_Vdm_V2", "Maximum VBUS voltage"},
     {"VBUS_Through_Cable", "VBUS through the cable"},
     {"EPR_Mode_Capable", "EPR"},
     {"Cable_USB_Highest_Speed", "Fastest USB"},
@@ -48,12 +49,12 @@ constexpr Fact kCableFacts[] = {
     {"Active_Cable_USB4_Support", "USB4"},
     {"Active_Cable_USB_Lanes", "USB lanes"},
     {"SBU_Supported", "SBU"},
-    {"SBU_Type", "Kind of SBU"},
+    {"SBU_Type", "SBU type"},
     {"Cable_Termination_Type", "Termination and VCONN"},
     {"Cable_Latency", "Latency"},
     {"Type_C_To_Type_C_Capt_Vdm_V2", "Ends"},
     {"Cable_SOP_PP_Controller", "Controller at SOP''"},
-    {"Active_Cable_Max_Operating_Temp", "Greatest operating temperature"},
+    {"Active_Cable_Max_Operating_Temp", "Maximum operating temperature"},
     {"Active_Cable_Shutdown_Temp", "Shutdown temperature"},
 };
 
@@ -68,16 +69,29 @@ void WritePdoNumber(CMarkup& page, const PortSide& side, const CPdoView& pdo) {
   } else {
     page.Text(number);
   }
+  if (side.rows->HasDifferent(*side.vif, pdo)) WriteMark(page, KindText(DifferenceKind::Changed));
   page.End();
+}
+
+/// The kind of supply, the augmented ones by their own names.
+std::string SupplyText(const CPdoView& pdo, const PowerProfile& profile) {
+  if (pdo.GetSupply() == Supply::EprAdjustable) return "EPR AVS";
+  return pdo.GetSupply() == Supply::SprAdjustable ? "SPR AVS" : profile.supply;
+}
+
+/// The power, or the rating of a supply that has no other.
+std::string PowerText(const CPdoView& pdo, const PowerProfile& profile) {
+  return profile.power.empty() && pdo.Quantities().rating ? Watts(*pdo.Quantities().rating) : profile.power;
 }
 
 void WritePdoRow(CMarkup& page, const PortSide& side, const CPdoView& pdo) {
   std::vector<const CVIFField*> fields;
   for (const NamedField& named : pdo.Fields()) fields.push_back(&named.field->field);
   const PowerProfile profile = DescribePdo(fields, side.vif->GetEdition());
-  page.Begin("tr");
+  page.Begin("tr", {{"class", side.rows->HasDifferent(*side.vif, pdo) ? "changed" : "same"}});
   WritePdoNumber(page, side, pdo);
-  for (const std::string& text : {profile.supply, profile.voltage, profile.current, profile.power}) {
+  for (const std::string& text :
+       {SupplyText(pdo, profile), profile.voltage, profile.current, PowerText(pdo, profile)}) {
     page.Element("td", text.empty() ? "\u2013" : text);
   }
   page.End();
@@ -116,9 +130,19 @@ std::vector<PowerLayer> LayersOf(const PortSides& sides, PdoSide kind) {
   std::vector<PowerLayer> layers;
   for (const PortSide& side : sides) {
     if (side.component == nullptr) continue;
-    layers.push_back({std::string(side.label), side.component->Pdos(kind), RatingOf(*side.component, kind)});
+    std::optional<std::uint64_t> rating = RatingOf(*side.component, kind);
+    if (rating == 0U) rating.reset();
+    layers.push_back({std::string(side.label), side.component->Pdos(kind), rating});
   }
   return layers;
+}
+
+bool HasAvs(const PortSides& sides, PdoSide kind) {
+  return std::any_of(sides.begin(), sides.end(), [&](const PortSide& side) {
+    return side.component != nullptr &&
+           std::any_of(side.component->Pdos(kind).begin(), side.component->Pdos(kind).end(),
+                       [](const CPdoView& pdo) { return pdo.GetSupply() >= Supply::EprAdjustable; });
+  });
 }
 
 void WritePicture(CMarkup& page, const ReportedPort& port, PdoSide kind) {
@@ -128,6 +152,10 @@ void WritePicture(CMarkup& page, const ReportedPort& port, PdoSide kind) {
   page.Begin("div", {{"class", "power-box"}, {"tabindex", "0"}, {"role", "group"}, {"aria-label", what}});
   page.Append(picture.Take());
   page.End();
+  if (HasAvs(port.sides, kind)) {
+    page.Element("p", {{"class", "place"}},
+                 "An AVS PDO declares no current: the picture assumes 3 A for SPR AVS and 5 A for EPR AVS.");
+  }
 }
 
 /// What a side of the port offers or asks for, as a picture and as tables that say the same.

@@ -63,7 +63,7 @@ std::string_view RangeName(Supply supply) {
     case Supply::Battery: return "Battery ";
     case Supply::Variable: return "Variable ";
     case Supply::Programmable: return "PPS ";
-    case Supply::EprAdjustable: return "AVS ";
+    case Supply::EprAdjustable: return "EPR AVS ";
     case Supply::SprAdjustable: return "SPR AVS ";
     default: return "";
   }

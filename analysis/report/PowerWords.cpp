@@ -31,7 +31,6 @@ struct Ranges {
   Amount64 lowest;
   Amount64 highest;
   Amount64 current;
-  Amount64 power;
   std::array<bool, 3> augmented{};  ///< whether there is a PPS, an EPR AVS, an SPR AVS
 };
 
@@ -42,7 +41,6 @@ Ranges RangesOf(const std::vector<CPdoView>& pdos) {
     Lower(ranges.lowest, quantities.voltage ? quantities.voltage : quantities.minVoltage);
     Raise(ranges.highest, pdo.HighestVoltage());
     Raise(ranges.current, quantities.current);
-    Raise(ranges.power, pdo.GreatestPower());
     ranges.augmented[0] |= pdo.GetSupply() == Supply::Programmable;
     ranges.augmented[1] |= pdo.GetSupply() == Supply::EprAdjustable;
     ranges.augmented[2] |= pdo.GetSupply() == Supply::SprAdjustable;
@@ -82,15 +80,13 @@ std::optional<std::uint64_t> RatingOf(const CComponentView& component, PdoSide s
   const FieldInfo* field = FindField(name).field;
   if (!number || field == nullptr) return std::nullopt;
   const std::optional<Quantity> quantity = QuantityOf(*field, *number);
-  return quantity && quantity->unit == Unit::MilliWatt && quantity->amount != 0 ? std::optional(quantity->amount)
-                                                                                : std::nullopt;
+  return quantity && quantity->unit == Unit::MilliWatt ? std::optional(quantity->amount) : std::nullopt;
 }
 
 std::string PowerInWords(const CReportedVif& vif, const CComponentView& component, PdoSide side) {
   if (IsCable(component)) return side == PdoSide::Source ? CableInWords(vif, component) : std::string();
   const Ranges ranges = RangesOf(component.Pdos(side));
-  Amount64 power = RatingOf(component, side);
-  if (!power) power = ranges.power;
+  const Amount64 power = RatingOf(component, side);
   std::string text = Join({power ? Watts(*power) : "", VoltsText(ranges),
                            ranges.current ? "up to " + Amperes(*ranges.current) : "", ranges.augmented[0] ? "PPS" : "",
                            ranges.augmented[1] ? "EPR AVS" : "", ranges.augmented[2] ? "SPR AVS" : ""});

@@ -9,48 +9,43 @@
 
 namespace vifanalysis {
 
-namespace {
-
-bool IsSaid(std::string_view text, const ShownValue& shown) {
-  return EqualInAnyCase(text, shown.value) || EqualInAnyCase(text, shown.description);
-}
-
-}  // namespace
-
-CReportedVif::CReportedVif(const ReportedFile& file) : m_file(file), m_normal(file.fields) {}
-
-ShownValue CReportedVif::Shown(const FoundField& found, const CGroupView& group) const {
-  const CVIFField& declared = Declared(found);
-  ShownValue shown;
-  shown.value = declared.Value();
-  const std::string_view description = declared.Description();
-  if (shown.value.empty()) {
-    shown.value = description;
-  } else if (description != shown.value) {
-    shown.description = description;
-  }
-  FieldMeaning meaning = MeaningOf(found, group, GetEdition());
-  if (IsSaid(meaning.text, shown)) return shown;
+ShownValue MakeShown(std::string value, std::string description, FieldMeaning meaning) {
+  ShownValue shown{std::move(value), std::move(description), {}, false};
+  if (shown.value.empty()) std::swap(shown.value, shown.description);
+  if (shown.description == shown.value) shown.description.clear();
+  const std::string& text = meaning.text;
+  if (EqualInAnyCase(text, shown.value) || EqualInAnyCase(text, shown.description)) return shown;
   shown.meaning = std::move(meaning.text);
   shown.isUncertain = meaning.isUncertain;
   return shown;
 }
 
+CReportedVif::CReportedVif(const ReportedFile& file) : m_file(file), m_normal(file.fields) {}
+
+ShownValue CReportedVif::Shown(const FoundField& found, const CGroupView& group) const {
+  const CVIFField& declared = Declared(found);
+  return MakeShown(declared.Value(), declared.Description(), MeaningOf(found, group, GetEdition()));
+}
+
+std::string CReportedVif::Says(const FoundField& found, const CGroupView& group) const {
+  if (!found.field.IsNumeric()) return found.field.Value();
+  if (IsUnanswered(found)) return "not chosen";
+  FieldMeaning meaning = MeaningOf(found, group, GetEdition());
+  std::string description = found.field.Description();
+  // Of an ID, the description says more than its digits.
+  const bool isId = meaning.text.starts_with("0x");
+  if (!meaning.text.empty() && !meaning.isUncertain && !(isId && !description.empty())) return std::move(meaning.text);
+  return description.empty() ? Declared(found).Value() : description;
+}
+
 std::string CReportedVif::Says(const CGroupView& group, std::string_view name) const {
   const FoundField* found = group.Find(name);
-  return found == nullptr ? std::string() : SaysField(*found, group);
+  return found == nullptr ? std::string() : Says(*found, group);
 }
 
 std::string CReportedVif::HeaderSays(std::string_view name) const {
   const FoundField* found = View().FindHeader(name);
-  return found == nullptr ? std::string() : SaysField(*found, View().Root());
-}
-
-std::string CReportedVif::SaysField(const FoundField& found, const CGroupView& group) const {
-  if (!found.field.IsNumeric()) return found.field.Value();
-  ShownValue shown = Shown(found, group);
-  if (!shown.description.empty()) return std::move(shown.description);
-  return shown.meaning.empty() ? std::move(shown.value) : std::move(shown.meaning);
+  return found == nullptr ? std::string() : Says(*found, View().Root());
 }
 
 std::vector<const FoundField*> CReportedVif::FieldsOf(const CGroupView& group) const {

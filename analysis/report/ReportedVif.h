@@ -3,6 +3,7 @@
 
 #include "diff/NormalFile.h"
 
+#include <analysis/FieldMeaning.h>
 #include <analysis/Report.h>
 
 #include <cstddef>
@@ -19,6 +20,9 @@ struct ShownValue {
   std::string meaning;       ///< what the format says about it, if that is more than both
   bool isUncertain = false;  ///< whether `meaning` has low confidence
 };
+
+/// The value without texts that only repeat another.
+ShownValue MakeShown(std::string value, std::string description, FieldMeaning meaning);
 
 /// A file with its fields by group. It borrows the file.
 class CReportedVif {
@@ -38,8 +42,11 @@ class CReportedVif {
   /// The value of a field of a group.
   ShownValue Shown(const FoundField& found, const CGroupView& group) const;
 
-  /// What a field of a group says in a few words: its description, its meaning, or else its value. Empty when the group
-  /// has no such field.
+  /// What a field of a group says in a few words: what its number stands for, as that is what counts, or else its
+  /// description or its value.
+  std::string Says(const FoundField& found, const CGroupView& group) const;
+
+  /// The same for the field of that name; empty when the group has none.
   std::string Says(const CGroupView& group, std::string_view name) const;
 
   /// The same for a field about the file as a whole.
@@ -49,8 +56,6 @@ class CReportedVif {
   std::vector<const FoundField*> FieldsOf(const CGroupView& group) const;
 
  private:
-  std::string SaysField(const FoundField& found, const CGroupView& group) const;
-
   const ReportedFile& m_file;
   CNormalFile m_normal;
 };

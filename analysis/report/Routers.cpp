@@ -2,8 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <map>
-#include <utility>
+#include <set>
 
 namespace vifanalysis {
 
@@ -52,8 +51,12 @@ void WriteEndpoints(CMarkup& page, const Side& side, const CGroupView& router) {
   page.Begin("tbody");
   for (std::size_t i = 0; i < std::min(endpoints.size(), kMostShown); ++i) {
     const CGroupView& endpoint = endpoints[i];
-    page.Begin("tr");
-    page.Element("th", {{"scope", "row"}}, NumberText(endpoint.Place()[2]));
+    const bool differs = side.rows->HasDifferent(*side.vif, endpoint);
+    page.Begin("tr", {{"class", differs ? "changed" : "same"}});
+    page.Begin("th", {{"scope", "row"}});
+    page.Text(NumberText(endpoint.Place()[2]));
+    if (differs) WriteMark(page, KindText(DifferenceKind::Changed));
+    page.End();
     for (const std::string_view name : {"Vendor_ID", "Device_ID", "Class_Code"}) {
       page.Element("td", side.vif->Says(endpoint, "USB4_PCIe_Endpoint_" + std::string(name)));
     }
@@ -64,28 +67,30 @@ void WriteEndpoints(CMarkup& page, const Side& side, const CGroupView& router) {
   WriteOthers(page, endpoints.size(), "endpoint");
 }
 
-/// What the routers declare, in the order of the later file.
-std::vector<Fact> FactsOf(const Sides& sides) {
-  std::vector<Fact> facts;
+/// The names of what the routers declare, in the order of the later file; not too many.
+std::vector<std::string_view> NamesOf(const Sides& sides) {
+  std::vector<std::string_view> names;
+  std::set<std::string_view> known;
   for (auto side = sides.rbegin(); side != sides.rend(); ++side) {
     if (side->group == nullptr) continue;
     for (const FoundField* found : side->vif->FieldsOf(*side->group)) {
-      const std::string_view name = found->field.Name();
-      const auto isKnown = [&](const Fact& fact) { return fact.name == name; };
-      if (std::none_of(facts.begin(), facts.end(), isKnown)) facts.push_back({name, {}});
+      if (names.size() < kMostShown && known.insert(found->field.Name()).second)
+        names.emplace_back(found->field.Name());
     }
   }
-  return facts;
+  return names;
 }
 
 void WriteRouter(CMarkup& page, const Sides& sides) {
-  const Side& shown = sides.back().group != nullptr ? sides.back() : sides.front();
-  page.Element("h3", PlaceInWords(shown.group->Place()));
-  std::vector<Fact> facts = FactsOf(sides);
+  page.Element("h3", TitleOf(sides));
+  const std::vector<std::string_view> names = NamesOf(sides);
   std::vector<std::string> labels;
-  labels.reserve(facts.size());
-  for (const Fact& fact : facts) labels.push_back(FieldLabel(fact.name));
-  for (std::size_t i = 0; i < facts.size(); ++i) facts[i].label = labels[i];
+  std::vector<Fact> facts;
+  labels.reserve(names.size());  // the facts borrow them
+  for (const std::string_view name : names) {
+    labels.push_back(FieldLabel(name));
+    facts.push_back({name, labels.back()});
+  }
   WriteFacts(page, "Adapters and protocols", sides, facts);
   page.Begin("div", {{"class", "sides"}});
   for (const Side& side : sides) {
@@ -100,26 +105,11 @@ void WriteRouter(CMarkup& page, const Sides& sides) {
 
 }  // namespace
 
-void WriteRouters(CMarkup& page, const Sides& sides) {
-  std::map<std::uint64_t, Sides> routers;
-  for (std::size_t i = 0; i < sides.size(); ++i) {
-    if (sides[i].group == nullptr) continue;
-    for (const CGroupView& router : sides[i].group->Groups(eVifLocRouter)) {
-      Sides& row = routers.try_emplace(router.Index(), sides).first->second;
-      if (row[i].group == sides[i].group) row[i].group = &router;
-    }
-  }
+void WriteRouters(CMarkup& page, const ReportedRouters& routers) {
   if (routers.empty()) return;
   page.Begin("section", {{"id", "routers"}});
   page.Element("h2", "USB4 routers");
-  std::size_t count = 0;
-  for (auto& [number, row] : routers) {
-    if (++count > kMostShown) break;
-    for (std::size_t i = 0; i < row.size(); ++i) {
-      if (row[i].group == sides[i].group) row[i].group = nullptr;  // this file does not have the router
-    }
-    WriteRouter(page, row);
-  }
+  for (std::size_t i = 0; i < std::min(routers.size(), kMostShown); ++i) WriteRouter(page, routers[i]);
   WriteOthers(page, routers.size(), "router");
   page.End();
 }

@@ -1,5 +1,6 @@
 #include "report/Side.h"
 
+#include <analysis/Differences.h>
 #include <analysis/Text.h>
 
 #include <algorithm>
@@ -9,28 +10,39 @@ namespace vifanalysis {
 
 namespace {
 
+const FoundField* FindIn(const Side& side, std::string_view name) {
+  return side.group == nullptr ? nullptr : side.group->Find(name);
+}
+
 /// What the side says, with a link to the field.
-void WriteSaid(CMarkup& page, const Side& side, std::string_view name) {
-  const FoundField* found = side.group == nullptr ? nullptr : side.group->Find(name);
+/// \param withValue whether to write the value, too
+void WriteSaid(CMarkup& page, const Side& side, std::string_view name, bool withValue = false) {
+  const FoundField* found = FindIn(side, name);
   if (found == nullptr) {
     page.Element("span", {{"class", "none"}}, "\u2013");
     return;
   }
-  WriteLink(page, side, *found, side.vif->Says(*side.group, name));
+  const std::string text = side.vif->Says(*found, *side.group);
+  WriteLink(page, side, *found, withValue ? side.vif->Declared(*found).Value() + (" \u00b7 " + text) : text);
 }
 
 bool HasFact(const Sides& sides, const Fact& fact) {
-  return std::any_of(sides.begin(), sides.end(),
-                     [&](const Side& side) { return side.group != nullptr && side.group->Has(fact.name); });
+  return std::any_of(sides.begin(), sides.end(), [&](const Side& side) { return FindIn(side, fact.name) != nullptr; });
 }
 
-/// Whether the sides declare different values, not only different texts for them.
 bool Differs(const Sides& sides, const Fact& fact) {
-  const auto value = [&](const Side& side) -> std::string_view {
-    const FoundField* found = side.group == nullptr ? nullptr : side.group->Find(fact.name);
-    return found == nullptr ? std::string_view() : found->field.Value();
-  };
-  return value(sides.front()) != value(sides.back());
+  return std::any_of(sides.begin(), sides.end(), [&](const Side& side) {
+    const FoundField* found = FindIn(side, fact.name);
+    return found != nullptr && side.rows->IsDifferent(side.vif->PositionOf(*found));
+  });
+}
+
+/// Whether the sides have the fact, and the same text for it.
+bool HaveSameText(const Sides& sides, const Fact& fact) {
+  const FoundField* first = FindIn(sides.front(), fact.name);
+  const FoundField* second = FindIn(sides.back(), fact.name);
+  return first != nullptr && second != nullptr &&
+         sides.front().vif->Says(*first, *sides.front().group) == sides.back().vif->Says(*second, *sides.back().group);
 }
 
 /// The facts of one file, which take less room as a list.
@@ -59,11 +71,16 @@ void WriteTable(CMarkup& page, const std::string& caption, const Sides& sides, c
   page.End();
   page.Begin("tbody");
   for (const Fact& fact : facts) {
-    page.Begin("tr", {{"class", Differs(sides, fact) ? "changed" : "same"}});
-    page.Element("th", {{"scope", "row"}}, fact.label);
+    const bool differs = Differs(sides, fact);
+    const bool withValue = differs && HaveSameText(sides, fact);
+    page.Begin("tr", {{"class", differs ? "changed" : "same"}});
+    page.Begin("th", {{"scope", "row"}});
+    page.Text(fact.label);
+    if (differs) WriteMark(page, KindText(DifferenceKind::Changed));
+    page.End();
     for (const Side& side : sides) {
       page.Begin("td");
-      WriteSaid(page, side, fact.name);
+      WriteSaid(page, side, fact.name, withValue);
       page.End();
     }
     page.End();
@@ -73,6 +90,11 @@ void WriteTable(CMarkup& page, const std::string& caption, const Sides& sides, c
 }
 
 }  // namespace
+
+void WriteMark(CMarkup& page, std::string_view text) {
+  page.Text(" ");
+  page.Element("span", {{"class", "mark"}}, text);
+}
 
 void WriteLink(CMarkup& page, const Side& side, const FoundField& found, std::string_view text) {
   side.rows->WriteLink(page, side.vif->PositionOf(found), text);
@@ -92,7 +114,8 @@ bool WriteFacts(CMarkup& page, const std::string& caption, const Sides& sides, s
 }
 
 std::string FieldLabel(std::string_view name) {
-  for (const std::string_view prefix : {"USB4_PCIe_Endpoint_", "USB4_", "SVID_Mode_", "SVID_"}) {
+  for (const std::string_view prefix :
+       {"USB4_PCIe_Endpoint_", "USB4_Num_", "USB4_", "SVID_Mode_", "SVID_Num_", "SVID_"}) {
     if (!name.starts_with(prefix)) continue;
     name.remove_prefix(prefix.size());
     break;
@@ -106,7 +129,8 @@ std::string FieldLabel(std::string_view name) {
 void WriteOthers(CMarkup& page, std::size_t count, const std::string& noun) {
   if (count <= kMostShown) return;
   page.Begin("p");
-  page.Text("And " + Amount(count - kMostShown, "more " + noun) + ", which are among ");
+  page.Text(Amount(count - kMostShown, "more " + noun) + (count == kMostShown + 1 ? " is" : " are") +
+            " in the list of ");
   page.Element("a", {{"href", "#fields"}}, "all fields");
   page.Text(".");
   page.End();

@@ -38,6 +38,9 @@ using PortSides = std::vector<PortSide>;
 /// Writes a text that is a link to the row of a field.
 void WriteLink(CMarkup& page, const Side& side, const FoundField& found, std::string_view text);
 
+/// Says in a word that something differs, for those who do not see its colour.
+void WriteMark(CMarkup& page, std::string_view text);
+
 /// A field and what a table of facts calls it.
 struct Fact {
   std::string_view name;

@@ -41,25 +41,32 @@ void WriteHeader(CMarkup& page, const CReportedVif& vif) {
   page.End();
 }
 
+bool Differs(const ShownFile& file, std::string_view name) {
+  const FoundField* found = file.vif->View().FindHeader(name);
+  return found != nullptr && file.rows->IsDifferent(file.vif->PositionOf(*found));
+}
+
 /// What two files say about themselves.
-void WriteHeaders(CMarkup& page, const ReportedVifs& vifs) {
+void WriteHeaders(CMarkup& page, const ShownFiles& files) {
   page.Begin("table", {{"class", "facts"}});
   page.Element("caption", "The files");
   page.Begin("thead");
   page.Begin("tr");
   page.Element("td", "");
-  for (const CReportedVif* vif : vifs) page.Element("th", {{"scope", "col"}}, vif->File().name);
+  for (const ShownFile& file : files) page.Element("th", {{"scope", "col"}}, file.label);
   page.End();
   page.End();
   page.Begin("tbody");
   for (const auto& [name, label] : kHeaderFacts) {
-    const std::string before = vifs.front()->HeaderSays(name);
-    const std::string after = vifs.back()->HeaderSays(name);
+    const std::string before = files.front().vif->HeaderSays(name);
+    const std::string after = files.back().vif->HeaderSays(name);
     if (before.empty() && after.empty()) continue;
-    // The two forms of a file are written by different programs.
-    const bool differs = before != after && name != "VIF_Producer";
+    const bool differs = Differs(files.front(), name) || Differs(files.back(), name);
     page.Begin("tr", {{"class", differs ? "changed" : "same"}});
-    page.Element("th", {{"scope", "row"}}, label);
+    page.Begin("th", {{"scope", "row"}});
+    page.Text(label);
+    if (differs) WriteMark(page, KindText(DifferenceKind::Changed));
+    page.End();
     page.Element("td", before);
     page.Element("td", after);
     page.End();
@@ -73,12 +80,12 @@ std::size_t CountOf(const CReportedVif& vif, Severity severity) {
                                                 [&](const Finding& finding) { return finding.severity == severity; }));
 }
 
-void WriteCounts(CMarkup& page, const ReportedVifs& vifs) {
-  for (const CReportedVif* vif : vifs) {
+void WriteCounts(CMarkup& page, const ShownFiles& files) {
+  for (const ShownFile& file : files) {
     page.Begin("p", {{"class", "counts"}});
-    if (vifs.size() == 2) page.Text(vif->File().name + ": ");
+    if (!file.label.empty()) page.Text(std::string(file.label) + ": ");
     for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Note}) {
-      const std::size_t count = CountOf(*vif, severity);
+      const std::size_t count = CountOf(*file.vif, severity);
       const std::string name = SeverityName(severity);
       page.Begin("a", {{"class", "count " + (count == 0 ? std::string("zero") : name)}, {"href", "#findings"}});
       page.Text(Amount(count, name));
@@ -100,8 +107,12 @@ std::string DataInWords(const PortSide& side) {
     const std::string speed = side.vif->Says(component, "USB4_Max_Speed");
     add(speed.empty() ? "USB4" : "USB4 " + speed);
   }
-  if (component.IsYes("Host_Supports_USB_Data")) add("host " + side.vif->Says(component, "Host_Speed"));
-  if (component.IsYes("Device_Supports_USB_Data")) add("device " + side.vif->Says(component, "Device_Speed"));
+  const auto addRole = [&](std::string_view role, std::string_view speed) {
+    const std::string said = side.vif->Says(component, speed);
+    add(std::string(role) + (said.empty() ? "" : " " + said));
+  };
+  if (component.IsYes("Host_Supports_USB_Data")) addRole("host", "Host_Speed");
+  if (component.IsYes("Device_Supports_USB_Data")) addRole("device", "Device_Speed");
   if (IsCable(component)) add(side.vif->Says(component, "Cable_USB_Highest_Speed"));
   return text;
 }
@@ -169,25 +180,33 @@ void WritePortRows(CMarkup& page, const ReportedPorts& ports) {
 
 }  // namespace
 
-std::string TitleOf(const ReportedPort& port) {
-  for (auto side = port.sides.rbegin(); side != port.sides.rend(); ++side) {
-    if (side->component == nullptr) continue;
-    const std::string_view label = side->component->Text("Port_Label");
-    const std::string place = PlaceInWords(side->component->Place());
-    return label.empty() ? place : place + " \u00b7 " + std::string(label);
-  }
-  return {};
+std::string TitleOf(const Sides& sides) {
+  const Side& shown = sides.back().group != nullptr ? sides.back() : sides.front();
+  std::string title = PlaceInWords(shown.group->Place());
+  if (sides.size() == 1) return title;
+  const Side& other = &shown == &sides.back() ? sides.front() : sides.back();
+  if (other.group == nullptr) return title + " (only in " + std::string(shown.label) + ")";
+  const std::string otherTitle = PlaceInWords(other.group->Place());
+  return otherTitle == title ? title : title + " (" + otherTitle + " in " + std::string(other.label) + ")";
 }
 
-void WriteSummary(CMarkup& page, const ReportedVifs& vifs, const ReportedPorts& ports) {
+std::string TitleOf(const ReportedPort& port) {
+  const PortSide& shown = port.sides.back().component != nullptr ? port.sides.back() : port.sides.front();
+  const std::string_view label = shown.component->Text("Port_Label");
+  const std::string title = TitleOf(Sides(port.sides.begin(), port.sides.end()));
+  return label.empty() ? title : title + " \u00b7 " + std::string(label);
+}
+
+void WriteSummary(CMarkup& page, const ShownFiles& files, const ReportedPorts& ports) {
   page.Begin("section", {{"id", "summary"}});
-  const std::string name = ProductName(*vifs.back());
-  page.Element("h1", name.empty() ? vifs.back()->File().name : name);
-  WriteCounts(page, vifs);
-  if (vifs.size() == 1) {
-    WriteHeader(page, *vifs.front());
+  const CReportedVif& vif = *files.back().vif;
+  const std::string name = ProductName(vif);
+  page.Element("h1", name.empty() ? vif.File().name : name);
+  WriteCounts(page, files);
+  if (files.size() == 1) {
+    WriteHeader(page, vif);
   } else {
-    WriteHeaders(page, vifs);
+    WriteHeaders(page, files);
   }
   WritePortRows(page, ports);
   page.End();

@@ -109,4 +109,10 @@ std::optional<FieldExplanation> ExplainField(std::string_view name) {
   return explanation;
 }
 
+std::string EditionsText(const FieldExplanation& field) {
+  if (!field.seen) return "not seen in a file";
+  if (field.firstEdition.empty()) return {};
+  return field.firstEdition == field.lastEdition ? field.firstEdition : field.firstEdition + " to " + field.lastEdition;
+}
+
 }  // namespace vifanalysis

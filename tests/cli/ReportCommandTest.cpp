@@ -63,7 +63,7 @@ TEST(ReportCommand, ShowsFindingsWithNotesAndLinksThemToTheirFields) {
 TEST(ReportCommand, ComparesTwoFiles) {
   const ProgramResult result = Vif({"report", Example(kCharger), Example("gan-charger-65w.xml")});
   EXPECT_EQ(result.status, 0) << result.error;
-  EXPECT_THAT(result.output, HasSubstr("None: both files mean the same."));
+  EXPECT_THAT(result.output, HasSubstr("None. The two files mean the same."));
 }
 
 TEST(ReportCommand, FailsForAFileThatCannotBeLoadedAndWritesNothing) {
@@ -90,6 +90,26 @@ TEST(ReportCommand, SaysWhyThePageCannotBeWritten) {
   const ProgramResult result = Vif({"report", "-o", page.string(), Example(kCharger)});
   EXPECT_EQ(result.status, 2);
   EXPECT_THAT(result.error, AllOf(StartsWith("vif: cannot write " + page.string() + ": "), HasSubstr("directory")));
+}
+
+TEST(ReportCommand, DoesNotTellWhereTheFileWas) {
+  const TempDir dir;
+  const std::string file = dir.Write("a.txt", "PID: 1\n").string();
+  EXPECT_THAT(Vif({"report", file}).output, testing::Not(HasSubstr(dir.Path().string())));
+}
+
+TEST(ReportCommand, TellsFilesOfOneNameApartByTheirPaths) {
+  const TempDir first;
+  const TempDir second;
+  const std::string before = first.Write("a.txt", "PID: 1\n").string();
+  const std::string after = second.Write("a.txt", "PID: 2\n").string();
+  EXPECT_THAT(Vif({"report", before, after}).output, AllOf(HasSubstr(before), HasSubstr(after)));
+}
+
+TEST(ReportCommand, RefusesAnEmptyName) {
+  const ProgramResult result = Vif({"report", "-o", "", Example(kCharger)});
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.output, "");
 }
 
 TEST(ReportCommand, TakesOneFileOrTwo) {

@@ -53,5 +53,11 @@
 
   input.addEventListener("input", apply);
   window.addEventListener("hashchange", showTarget);
+  // A second click on a link does not change the address.
+  document.addEventListener("click", (event) => {
+    const link = event.target.closest('a[href^="#"]');
+    if (link && link.hash === location.hash) showTarget();
+  });
+  showTarget();
   box.hidden = false;
 })();

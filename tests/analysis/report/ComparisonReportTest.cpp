@@ -29,7 +29,7 @@ std::string Section(const std::string& page, const std::string& id) {
 
 TEST(ComparisonReport, SaysThatTwoFilesMeanTheSame) {
   const std::string page = PageOfTwo(CExample("gan-charger-65w.txt"), CExample("gan-charger-65w.xml"));
-  EXPECT_THAT(page, HasSubstr("<p>None: both files mean the same.</p>"));
+  EXPECT_THAT(page, HasSubstr("<p>None. The two files mean the same.</p>"));
   EXPECT_THAT(AllMatches(page, "<tr class=\"changed"), IsEmpty());
   EXPECT_THAT(AllMatches(page, "<tr class=\"field changed"), IsEmpty());
   EXPECT_THAT(AllMatches(page, "<tr class=\"field removed"), IsEmpty());
@@ -76,7 +76,7 @@ TEST(ComparisonReport, ShowsRemovedGroupsByThemselves) {
   CExample after("gan-charger-65w.txt");
   after.RemoveGroup(SrcPdo(1, 6));
   const std::string page = PageOfTwo(before, after);
-  EXPECT_THAT(page, HasSubstr("<caption>Component 1, Source PDO 6 of the first file</caption>"));
+  EXPECT_THAT(page, HasSubstr("<caption>Component 1, Source PDO 6 of before.txt</caption>"));
   EXPECT_THAT(Section(page, "differences"), HasSubstr("<li class=\"removed\">Component 1, Source PDO 6: removed"));
 }
 
@@ -101,17 +101,19 @@ TEST(ComparisonReport, ShowsRoutersThatOnlyOneFileHas) {
   CExample without("usb4-dock.xml");
   without.RemoveGroup(Router(1));
   const std::string page = PageOfTwo(CExample("usb4-dock.xml"), without);
-  EXPECT_THAT(Section(page, "routers"), AllOf(HasSubstr("<h3>Router 0</h3>"), HasSubstr("<h3>Router 1</h3>")));
+  EXPECT_THAT(Section(page, "routers"),
+              AllOf(HasSubstr("<h3>Router 0</h3>"), HasSubstr("<h3>Router 1 (only in before.txt)</h3>")));
 }
 
-TEST(ComparisonReport, ShowsFindingsThatOnlyOneFileHas) {
+TEST(ComparisonReport, ShowsWhichFileHasAFinding) {
   const CExample charger("gan-charger-65w.txt");
   const Finding both = {Severity::Note, "placeholder", 1, 0, "TID", "is in both", 1};
   const Finding fixed = {Severity::Error, "pdo-limits", 2, 0, "A", "was fixed", 2};
   const Finding added = {Severity::Warning, "role-mismatch", 3, 0, "B", "is new", 3};
   const std::string findings = Section(PageOfTwo(charger, charger, {both, fixed}, {both, added}), "findings");
-  EXPECT_THAT(findings, AllOf(HasSubstr("<a href=\"#field-3\">is new</a>"),
-                              HasSubstr("<a href=\"#field-2\">was fixed</a>"), Not(HasSubstr("is in both"))));
+  EXPECT_THAT(findings,
+              AllOf(HasSubstr("<a href=\"#field-3\">is new</a>"), HasSubstr("<a href=\"#field-2\">was fixed</a>"),
+                    HasSubstr("<h3>In both: 1</h3>"), HasSubstr("<a href=\"#field-1\">is in both</a>")));
 }
 
 TEST(ComparisonReport, LinksWhatTheFirstFileHasToTheRowThatShowsIt) {
@@ -138,6 +140,51 @@ TEST(ComparisonReport, ReadsNumbersThatAreOnlySpelledDifferentlyAsTheSame) {
   CExample after("gan-charger-65w.txt");
   after.Set(Component(1), "PD_Port_Type", "0x3", "provides power");
   EXPECT_THAT(AllMatches(PageOfTwo(before, after), "<tr class=\"changed"), IsEmpty());
+}
+
+TEST(ComparisonReport, PairsRoutersAsTheyAreAligned) {
+  const CExample before("usb4-dock.xml");
+  CExample after("usb4-dock.xml");
+  after.RemoveGroup(Router(0));
+  const std::string routers = Section(PageOfTwo(before, after), "routers");
+  EXPECT_THAT(routers, AllOf(HasSubstr("<h3>Router 0 (only in before.txt)</h3>"), HasSubstr("<h3>Router 1</h3>")));
+  const std::string second = Between(routers, "<h3>Router 1</h3>", "<h3>");
+  EXPECT_THAT(second, Not(HasSubstr("\"changed\"")));
+}
+
+TEST(ComparisonReport, ShowsTheValuesOfNumbersThatHaveTheSameText) {
+  const CExample before("usb4-dock.xml");
+  CExample after("usb4-dock.xml");
+  after.Set(Router(0), "USB4_TBT3_VID", "1", "E81B");
+  const std::string routers = Section(PageOfTwo(before, after), "routers");
+  EXPECT_THAT(routers, AllOf(HasSubstr("59419 \u00b7 E81B"), HasSubstr("1 \u00b7 E81B")));
+}
+
+TEST(ComparisonReport, MarksWhatDiffersInWords) {
+  const CExample before("gan-charger-65w.txt");
+  CExample after("gan-charger-65w.txt");
+  after.Set(SrcPdo(1, 2), "Src_PDO_Max_Current", "250").Set(Component(1), "PD_Power_As_Source", "60000");
+  const std::string page = PageOfTwo(before, after);
+  const std::string mark = " <span class=\"mark\">changed</span>";
+  EXPECT_THAT(page, HasSubstr("PD power as source" + mark));
+  EXPECT_THAT(page, HasSubstr(">2</a>" + mark));
+  EXPECT_THAT(Section(page, "fields"), testing::ContainsRegex("Src_PDO_Max_Current.*changed</span></th>"));
+}
+
+TEST(ComparisonReport, ToleratesFindingsOfFieldsThatAreNotThere) {
+  const CExample charger("gan-charger-65w.txt");
+  const std::vector<Finding> findings = {{Severity::Error, "pdo-limits", 1, 0, "", "of no field", 100'000}};
+  const std::string page = PageOfTwo(charger, charger, findings, {});
+  EXPECT_THAT(page, HasSubstr("</span> of no field<span"));
+}
+
+TEST(ComparisonReport, SaysWhichNumberAPortHadBefore) {
+  CExample before("two-port-laptop.xml");
+  CExample after("two-port-laptop.xml");
+  after.RemoveGroup(Component(1));
+  const std::string page = PageOfTwo(before, after);
+  EXPECT_THAT(page, HasSubstr("<h2>Component 1 (only in before.txt) \u00b7 Left</h2>"));
+  EXPECT_THAT(page, HasSubstr("<h2>Component 2 \u00b7 Right</h2>"));
 }
 
 TEST(ComparisonReport, TextsFromTheFilesAreText) {

@@ -137,7 +137,7 @@ TEST(PowerPictureTest, CutsAnEprAvsByItsOwnRating) {
   const SvgElement area = Only(picture, "power-area power-avs");
   EXPECT_NEAR(EdgeAt(area, X(picture, 15)), Y(picture, 5), 0.15);
   EXPECT_NEAR(EdgeAt(area, X(picture, 30)), Y(picture, 4), 0.15);
-  EXPECT_THAT(picture.Texts("power-label"), ElementsAre("AVS 15–30 V · 120 W"));
+  EXPECT_THAT(picture.Texts("power-label"), ElementsAre("EPR AVS 15–30 V · 120 W"));
   ExpectGood(picture);
 }
 
@@ -175,7 +175,7 @@ TEST(PowerPictureTest, LabelsEachPdoOfACrowdedPort) {
   EXPECT_THAT(picture.Texts("power-label"),
               testing::UnorderedElementsAre("5 V", "3 A", "9 V", "3 A", "15 V", "3 A", "20 V", "5 A", "28 V", "5 A",
                                             "36 V", "5 A", "48 V", "5 A", "PPS 3.3–11 V · 5 A", "PPS 3.3–21 V · 5 A",
-                                            "AVS 15–48 V · 240 W", "rating 240 W"));
+                                            "EPR AVS 15–48 V · 240 W", "rating 240 W"));
   EXPECT_THAT(picture.Texts("power-number"), IsEmpty());
   ExpectGood(picture);
 }

@@ -54,7 +54,9 @@ async function faultOfLink(page, href) {
     if (/^#field-/.test(wanted) && !target.matches('tr.field')) return 'is not a field';
     const box = target.getBoundingClientRect();
     if (!target.checkVisibility() || box.height === 0) return 'is hidden';
-    return box.bottom > 0 && box.top < innerHeight ? null : 'is out of view';
+    if (box.bottom <= 0 || box.top >= innerHeight) return 'is out of view';
+    const seen = document.elementFromPoint(box.left + 4, Math.max(box.top, 0) + 4);
+    return target.contains(seen) || seen.contains(target) ? null : `is covered by ${seen.id || seen.tagName}`;
   }, href);
   return fault ? [`${href} ${fault}`] : [];
 }
