@@ -10,6 +10,9 @@ install(TARGETS VendorInfoFile VendorInfoFileAnalysis VendorInfoFileC VendorInfo
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 # Beside the folder of the C++ headers, so that programs in C see none of those.
 install(FILES c/vif.h DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
+if(MINGW AND VENDORINFOFILE_DLLTOOL)
+  install(FILES "${PROJECT_BINARY_DIR}/c/vif.lib" DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+endif()
 install(DIRECTORY include/ DESTINATION "${header_dir}" FILES_MATCHING PATTERN "*.h")
 file(GLOB analysis_headers CONFIGURE_DEPENDS analysis/*.h)
 install(FILES ${analysis_headers} DESTINATION "${header_dir}/analysis")
