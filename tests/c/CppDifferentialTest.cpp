@@ -3,6 +3,7 @@
 #include "content/SampleContents.h"
 
 #include <BaseUtilities/Exceptions.h>
+#include <BaseUtilities/SystemText.h>
 #include <VIFContent.h>
 #include <VIFInvalidFile.h>
 #include <VendorInfoFile.h>
@@ -136,6 +137,7 @@ void CompareBoth(const CVendorInfoFile& before, const CVendorInfoFile& after, co
 
 /// Compares everything for each content, and each content with the one before.
 void ExpectSame(const std::vector<SampleContent>& contents) {
+  const CUtf8Text asInTheCInterface;
   std::optional<CVendorInfoFile> last = CVendorInfoFile();
   FilePointer lastFile = MakeFile();
   for (const SampleContent& content : contents) {

@@ -111,7 +111,12 @@ TEST_F(CFileTest, ADirectoryIsRefused) {
 }
 
 TEST_F(CFileTest, APathThatCannotBeExaminedIsRefused) {
-  ExpectRefused(Path("") + std::string(5000, 'a') + ".txt", VIF_ERROR_FILE);
+#ifdef _WIN32
+  constexpr vif_status status = VIF_ERROR_NO_FILE;  // no file can have a name that is too long
+#else
+  constexpr vif_status status = VIF_ERROR_FILE;
+#endif
+  ExpectRefused(Path("") + std::string(5000, 'a') + ".txt", status);
 }
 
 TEST_F(CFileTest, AnotherExtensionIsRefused) {
