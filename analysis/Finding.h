@@ -25,6 +25,10 @@ struct Finding {
   std::size_t column;   ///< from 1; 0 when there is none, as in text files
   std::string element;  ///< the field in a text file, the element's path in an XML file; empty when there is none
   std::string message;  ///< what is wrong, as a sentence without a full stop
+  std::size_t position = kNoPosition;  ///< the index of the field that it is about among the fields that loading the
+                                       ///< file yields; `kNoPosition` when it is not about one that is loaded
+
+  static constexpr std::size_t kNoPosition = SIZE_MAX;
 };
 
 /// The message of a finding without line numbers, which differ once lines have been added or removed elsewhere in the

@@ -1,4 +1,4 @@
-// Checking files: the command beside `vif list`, and what one line costs in files of different sizes.
+// Checking and reporting on files: the commands beside `vif list`, and what one line costs in files of different sizes.
 #include "ChildProcess.h"
 #include "Samples.h"
 #include "Subjects.h"
@@ -50,8 +50,13 @@ void AddCheck(CRatioTable& table) {
   const CRatioTable::Pair pair =
       table.AddPair({"check/process", "`vif check` of the two-port laptop", "`vif list` of the same file", AtMost(1.5)},
                     OnLaptop({BENCH_VIF_COMMAND, "check"}), OnLaptop({BENCH_VIF_COMMAND, "list"}));
-  pair.ours->UseManualTime();
-  pair.other->UseManualTime();
+  const CRatioTable::Pair report = table.AddPair(
+      {"report/process", "`vif report` of the two-port laptop", "`vif list` of the same file", AtMost(3.0)},
+      OnLaptop({BENCH_VIF_COMMAND, "report"}), OnLaptop({BENCH_VIF_COMMAND, "list"}));
+  for (const CRatioTable::Pair& processes : {pair, report}) {
+    processes.ours->UseManualTime();
+    processes.other->UseManualTime();
+  }
   table.AddSpread({"check/growth", "time per line, checking text VIFs of 1,000 to 100,000 lines",
                    "least of these sizes", AtMost(1.5)},
                   {{"1,000", TimePerLine(1'000)}, {"10,000", TimePerLine(10'000)}, {"100,000", TimePerLine(100'000)}});

@@ -73,6 +73,7 @@ std::vector<Finding> Repaired(std::vector<Finding> findings) {
 }
 
 static_assert(int{VIF_SEVERITY_NOTE} == static_cast<int>(vifanalysis::Severity::Note));
+static_assert(VIF_NO_POSITION == Finding::kNoPosition);
 static_assert(int{VIF_SEVERITY_ERROR} == static_cast<int>(vifanalysis::Severity::Error));
 
 }  // namespace
@@ -109,6 +110,7 @@ vif_status vif_findings_get(const vif_findings* findings, size_t position, vif_f
   filled.message = found.message.c_str();
   filled.line = found.line;
   filled.column = found.column;
+  filled.position = found.position;
   filled.severity = static_cast<int32_t>(found.severity);
   return vifc::HandOut(filled, finding);
 }

@@ -6,7 +6,7 @@
 namespace vifc {
 
 /// The kinds of handles. The types that the caller sees are derived from `CHandle` of their kind.
-enum class HandleKind : std::uint8_t { File, Positions, Findings, Differences, Ports, Explanation };
+enum class HandleKind : std::uint8_t { File, Positions, Findings, Differences, Ports, Explanation, Text };
 
 #ifdef VENDORINFOFILE_CHECK_HANDLES
 

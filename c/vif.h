@@ -310,6 +310,8 @@ typedef struct vif_finding {
   const char* message; /* what is wrong, as a sentence without a full stop, on one line */
   uint64_t line;       /* from 1; 0 when not known */
   uint64_t column;     /* from 1; 0 when not known, as in text files */
+  size_t position;     /* of the field that it is about, in a file that only this one was loaded into; VIF_NO_POSITION
+                        * when it is not about a field that is loaded */
   int32_t severity;    /* one of the above */
 } vif_finding;
 
@@ -444,6 +446,35 @@ VIF_C_API void vif_ports_free(vif_ports* ports);
 VIF_C_API vif_status vif_compare_findings(const vif_findings* before, const vif_findings* after,
                                           const vif_differences* differences, vif_findings** fixed,
                                           vif_findings** added, vif_error** error);
+
+/* Reports */
+
+/* A text of any length. */
+struct vif_text;
+typedef struct vif_text vif_text;
+
+/* A file to report about. */
+typedef struct vif_reported_file {
+  size_t size;
+  const vif_file* file;
+  const char* name;             /* what to call it; NULL for the name that it was loaded by */
+  const vif_findings* findings; /* of checking it; NULL for none */
+} vif_reported_file;
+
+/* Makes an HTML page that shows what a file declares. It is complete in itself and makes no request. If `after` is not
+ * NULL, the page shows how that file differs from the first. progress as for vif_compare. Free the text with
+ * vif_text_free. Returns VIF_ERROR_CANCELLED. */
+VIF_C_API vif_status vif_report(const vif_reported_file* file, const vif_reported_file* after,
+                                const vif_progress* progress, vif_text** page, vif_error** error);
+
+/* The text, which ends with a NUL and lasts as long as the handle; empty for NULL. Does not allocate. */
+VIF_C_API const char* vif_text_data(const vif_text* text);
+
+/* How many bytes the text has, without the NUL; 0 for NULL. Does not allocate. */
+VIF_C_API size_t vif_text_size(const vif_text* text);
+
+/* Frees a text. */
+VIF_C_API void vif_text_free(vif_text* text);
 
 /* Explanations */
 

@@ -4,7 +4,6 @@
 #include "FindingWriters.h"
 #include "SchemasOption.h"
 
-#include <BaseUtilities/PathText.h>
 #include <analysis/Check.h>
 #include <analysis/Rules.h>
 #include <CLI/CLI.hpp>
@@ -85,16 +84,10 @@ void RequireCodes(const char* option, const std::vector<std::string>& codes) {
   }
 }
 
-CheckedFile Check(const std::string& fileName, const vifanalysis::CheckOptions& options) {
-  CheckedFile checked = {fileName, {}};
-  ReadFile(fileName, [&] { checked.findings = vifanalysis::CheckFile(PathFromUtf8(fileName), options); });
-  return checked;
-}
-
 std::vector<CheckedFile> CheckAll(const CheckSettings& settings) {
   std::vector<CheckedFile> files;
   files.reserve(settings.files.size());
-  for (const std::string& file : settings.files) files.push_back(Check(file, settings.options));
+  for (const std::string& file : settings.files) files.push_back({file, FindingsIn(file, settings.options)});
   if (settings.baseline.empty()) return files;
   const CBaseline baseline(settings.baseline);
   for (CheckedFile& file : files) baseline.RemoveFrom(file);

@@ -38,6 +38,7 @@ void AddShowCommand(CLI::App& app, Status& status);
 void AddCheckCommand(CLI::App& app, Status& status);
 void AddExplainCommand(CLI::App& app, Status& status);
 void AddDiffCommand(CLI::App& app, Status& status);
+void AddReportCommand(CLI::App& app, Status& status);
 
 /// Joins each location option of `vif get` with its number, or "any" where it has none, by an equals sign: CLI11 cannot
 /// tell whether the optional number follows.

@@ -4,8 +4,6 @@
 #include "Number.h"
 #include "SchemasOption.h"
 
-#include <BaseUtilities/PathText.h>
-#include <analysis/Check.h>
 #include <analysis/Differences.h>
 #include <CLI/CLI.hpp>
 
@@ -56,12 +54,6 @@ constexpr const char* kFooter =
     "\n"
     "Exit status: 0 if they mean the same, 1 if they differ, 2 if they cannot be compared.";
 
-std::vector<vifanalysis::Finding> FindingsOf(const std::string& fileName) {
-  std::vector<vifanalysis::Finding> findings;
-  ReadFile(fileName, [&] { findings = vifanalysis::CheckFile(PathFromUtf8(fileName)); });
-  return findings;
-}
-
 Status RunFiles(const DiffSettings& settings) {
   FileComparison comparison;
   comparison.before = settings.files.front();
@@ -72,7 +64,7 @@ Status RunFiles(const DiffSettings& settings) {
     comparison.differences = vifanalysis::Compare(before.Fields(), after.Fields(), settings.options);
   }
   comparison.findings =
-      vifanalysis::CompareFindings(FindingsOf(comparison.before), FindingsOf(comparison.after), comparison.differences);
+      vifanalysis::CompareFindings(FindingsIn(comparison.before), FindingsIn(comparison.after), comparison.differences);
   if (settings.format == "json") {
     WriteComparisonAsJson(comparison);
   } else {

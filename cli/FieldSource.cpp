@@ -94,4 +94,10 @@ void ReadFile(const std::string& fileName, const std::function<void()>& read) {
   }
 }
 
+std::vector<vifanalysis::Finding> FindingsIn(const std::string& fileName, const vifanalysis::CheckOptions& options) {
+  std::vector<vifanalysis::Finding> findings;
+  ReadFile(fileName, [&] { findings = vifanalysis::CheckFile(PathFromUtf8(fileName), options); });
+  return findings;
+}
+
 }  // namespace cli

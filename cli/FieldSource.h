@@ -2,6 +2,7 @@
 #pragma once
 
 #include <VendorInfoFile.h>
+#include <analysis/Check.h>
 
 #include <filesystem>
 #include <functional>
@@ -17,5 +18,10 @@ CVendorInfoFile LoadFiles(const std::vector<std::string>& fileNames);
 /// Calls `read`, which reads that file.
 /// \throws Failure with the name of the file and the reason why it cannot be read
 void ReadFile(const std::string& fileName, const std::function<void()>& read);
+
+/// What checking the file finds.
+/// \throws Failure with the name of the file and the reason why it cannot be read
+std::vector<vifanalysis::Finding> FindingsIn(const std::string& fileName,
+                                             const vifanalysis::CheckOptions& options = {});
 
 }  // namespace cli

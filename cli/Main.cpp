@@ -59,6 +59,7 @@ Status Run(int argc, char** argv) {
   cli::AddCheckCommand(app, status);
   cli::AddExplainCommand(app, status);
   cli::AddDiffCommand(app, status);
+  cli::AddReportCommand(app, status);
   try {
     std::vector<std::string> arguments = cli::CompleteLocationOptions({argv + 1, argv + argc});
     std::reverse(arguments.begin(), arguments.end());  // CLI11 takes them from the end

@@ -13,6 +13,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -169,6 +170,20 @@ void Compare(const CInputFile& before, const CInputFile& after) {
   vif_differences_free(differences);
 }
 
+void Report(const CInputFile& file, const CInputFile& after) {
+  auto first = Sized<vif_reported_file>();
+  first.file = file.Get();
+  first.findings = file.GetFindings();
+  auto second = Sized<vif_reported_file>();
+  second.file = after.Get();
+  for (const vif_reported_file* other : {static_cast<const vif_reported_file*>(nullptr), &std::as_const(second)}) {
+    vif_text* page = nullptr;
+    Require(vif_report(&first, other, nullptr, &page, nullptr) == VIF_OK, "there is a report about anything");
+    Require(vif_text_size(page) > 0 && fuzz::IsUtf8({vif_text_data(page), vif_text_size(page)}), "a report is UTF-8");
+    vif_text_free(page);
+  }
+}
+
 void ComparePorts(const vif_file* file) {
   vif_ports* ports = nullptr;
   Require(vif_compare_ports(file, nullptr, nullptr, &ports, nullptr) == VIF_OK,
@@ -194,5 +209,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Compare(first, second);
   Compare(first, first);
   ComparePorts(first.Get());
+  Report(first, second);
   return 0;
 }

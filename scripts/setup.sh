@@ -2,27 +2,44 @@
 # Installs the packages that a task needs and this system lacks, with apt, as root or with sudo. Without apt it only
 # says what is needed.
 #
-#   scripts/setup.sh build | test | check | windows | arm64 | package | bench | languages
+#   scripts/setup.sh build | test | check | windows | arm64 | package | bench | browser | languages
 #
 # "test" includes "build", and "check" includes both. "windows" and "arm64" are for building and testing for other
-# systems, "package" for building the packages for Linux and Windows, "bench" for measuring, "languages" for programs in
-# other languages. CXX and CXXFLAGS choose the compiler and the standard library, as they do for CMake: CXX=clang++
+# systems, "package" for building the packages for Linux and Windows, "bench" for measuring, "browser" for testing pages
+# in a browser, which also takes the npm packages that tests/browser/package-lock.json names, "languages" for programs
+# in other languages. CXX and CXXFLAGS choose the compiler and the standard library, as they do for CMake: CXX=clang++
 # CXXFLAGS=-stdlib=libc++.
 set -euo pipefail
 
 task=${1:-}
 case $task in
-  build | test | check | windows | arm64 | package | bench | languages) ;;
-  *) echo "usage: scripts/setup.sh build | test | check | windows | arm64 | package | bench | languages" >&2; exit 2 ;;
+  build | test | check | windows | arm64 | package | bench | browser | languages) ;;
+  *)
+    echo "usage: scripts/setup.sh build | test | check | windows | arm64 | package | bench | browser | languages" >&2
+    exit 2
+    ;;
 esac
+
+# Into tests/browser/node_modules, unless what the lock file names is there. Nothing that the packages bring is run.
+install_npm_packages() {
+  local folder
+  folder=$(dirname "$0")/../tests/browser
+  local installed=$folder/node_modules/installed-lock.json
+  ! cmp -s "$folder/package-lock.json" "$installed" || return 0
+  echo "==> Installing the npm packages of tests/browser"
+  npm ci --prefix "$folder" --ignore-scripts --no-audit --no-fund --loglevel error
+  cp "$folder/package-lock.json" "$installed"
+}
 
 if ! command -v apt-get >/dev/null; then
   cat >&2 <<'END'
 ==> This system has no apt. Install what is missing from its own packages.
     To build: g++ 12 or clang++ 14, CMake 3.25, Ninja, libxml2 2.9.10 with its headers, CLI11, nlohmann-json 3.11
     To test: GoogleTest with GoogleMock, pkg-config, Python 3
+    To test pages in a browser: Chromium, Node.js 18, npm
     For other tasks: the packages that scripts/setup.sh lists, under their Debian names
 END
+  if [ "$task" = browser ] && command -v npm >/dev/null; then install_npm_packages; fi
   exit 0
 fi
 
@@ -73,6 +90,12 @@ case $task in
   package) wanted=("${build_packages[@]}" "${windows_packages[@]}" dpkg-dev file python3 unzip zip) ;;
   languages) wanted=("${test_packages[@]}" "${windows_packages[@]}" gcc clang lld mono-mcs mono-runtime rustc) ;;
   bench) wanted=("${build_packages[@]}" libbenchmark-dev libxml2-utils valgrind) ;;
+  browser)
+    wanted=(chromium fonts-dejavu-core pngquant)
+    # A Node.js from elsewhere brings its own npm, and excludes Debian's.
+    command -v node >/dev/null || wanted+=(nodejs)
+    command -v npm >/dev/null || wanted+=(npm)
+    ;;
 esac
 
 is_installed() { [ "$(dpkg-query -W -f '${db:Status-Abbrev}' "$1" 2>/dev/null)" = 'ii ' ]; }
@@ -81,10 +104,11 @@ missing=()
 for package in "${wanted[@]}"; do
   is_installed "$package" || missing+=("$package")
 done
-[ ${#missing[@]} -gt 0 ] || exit 0
-
-echo "==> Installing ${missing[*]}"
-[ "$task" != arm64 ] || "${as_root[@]}" dpkg --add-architecture arm64
-# The package lists may be missing or old.
-update_lists
-"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+if [ ${#missing[@]} -gt 0 ]; then
+  echo "==> Installing ${missing[*]}"
+  [ "$task" != arm64 ] || "${as_root[@]}" dpkg --add-architecture arm64
+  # The package lists may be missing or old.
+  update_lists
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+fi
+[ "$task" != browser ] || install_npm_packages

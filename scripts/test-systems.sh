@@ -88,7 +88,7 @@ copy_repository() {
 }
 
 # A count from the report, such as "failures"; - if there is none.
-count() { grep -o " $1=\"[0-9]*\"" "$2" 2>/dev/null | head -n 1 | grep -o '[0-9]*' || echo -; }
+count() { grep -o "[[:blank:]]$1=\"[0-9]*\"" "$2" 2>/dev/null | head -n 1 | grep -o '[0-9]*' || echo -; }
 
 print_row() { printf '%-16s %-14s %-9s %7s %7s %8s %8s  %s\n' "$@"; }
 

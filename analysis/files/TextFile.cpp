@@ -51,7 +51,7 @@ FileContent ReadTextFile(const CheckedFile& file) {
     if (report.problem == eVifLineReadFailed) content.isComplete = false;
   };
   const auto takeField = [&](std::size_t line, const CVIFField& field) {
-    content.fields.push_back({field, line, 0, field.Name()});
+    content.fields.push_back({field, line, 0, field.Name(), content.fields.size()});
   };
   if (file.content) {
     CheckTextVifContent(*file.content, file.name, takeLine, nullptr, takeField);

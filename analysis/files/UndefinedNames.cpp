@@ -127,6 +127,7 @@ class CNameJudge {
 
   void Add(const RuleInfo& rule, const UndefinedName& undefined, std::string message) {
     m_findings.push_back(FindingAt(rule, undefined.line, undefined.column, undefined.element, std::move(message)));
+    m_findings.back().position = undefined.position;
   }
 
   NameStyle m_style;

@@ -103,9 +103,10 @@ class CFollower {
  private:
   void Take(const VifElementReport& report) {
     if (report.field != nullptr) {
-      m_content.fields.push_back({*report.field, report.line, report.column, report.path});
+      const std::size_t position = m_content.fields.size();
+      m_content.fields.push_back({*report.field, report.line, report.column, report.path, position});
       if (IsUndefined(*report.field)) {
-        m_content.undefinedNames.push_back({report.field->Name(), report.line, report.column, report.path});
+        m_content.undefinedNames.push_back({report.field->Name(), report.line, report.column, report.path, position});
       }
     } else if (report.fate == eVifElementNotUnderstood) {
       m_failure = FindingAt(code::kNotValid, report.line, report.column, report.path, {});

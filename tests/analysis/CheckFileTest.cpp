@@ -2,11 +2,13 @@
 #include "support/TempDir.h"
 #include "support/XmlVif.h"
 
+#include <VendorInfoFile.h>
 #include <analysis/Check.h>
 
 #include <gmock/gmock.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace vifanalysis {
@@ -36,6 +38,31 @@ TEST(CheckFileTest, HasFindingsOfTheFormAndOfWhatIsDeclared) {
   const testsupport::TempDir dir;
   EXPECT_THAT(Codes(dir.Write("a.txt", std::string(kFlawed) + "Product_Revision: 1\nCaptive_Cable: 4 ; <select>\n")),
               testing::IsSupersetOf({"declared-twice", "unknown-name", "unanswered"}));
+}
+
+/// The findings about loaded fields, each as the field at its position and the end of its element's path.
+std::vector<std::pair<std::string, std::string>> BlamedFields(const std::filesystem::path& path) {
+  const CVendorInfoFile vif(path);
+  std::vector<std::pair<std::string, std::string>> blamed;
+  for (const Finding& finding : CheckFile(path, {.notes = true})) {
+    if (finding.position == Finding::kNoPosition) continue;
+    std::string name = finding.element.substr(finding.element.find_last_of("/:") + 1);
+    blamed.emplace_back(vif.Fields().at(finding.position).Name(), name.substr(0, name.find('[')));
+  }
+  return blamed;
+}
+
+TEST(CheckFileTest, TellsWhichLoadedFieldAFindingIsAbout) {
+  const testsupport::TempDir dir;
+  const auto text = BlamedFields(dir.Write("a.txt", "Lost line\nXID: 1\nPID: 2\nPID: 3\nMy_Own: 1\n"));
+  EXPECT_THAT(text, testing::Contains(std::pair("PID", "PID")));
+  const auto xml = BlamedFields(
+      dir.Write("a.xml", testsupport::XmlVif("<vif:VIF_Specification>3.22</vif:VIF_Specification><vif:Component>"
+                                             "<vif:PD_Port_Type value=\"3\"/><vif:PID/><vif:PID value=\"1\"/>"
+                                             "<vif:Num_Src_PDOs value=\"1\"/></vif:Component>")));
+  EXPECT_THAT(xml, testing::Contains(std::pair("Num_Src_PDOs", "Num_Src_PDOs")));
+  for (const auto& [field, element] : text) EXPECT_EQ(field, element);
+  for (const auto& [field, element] : xml) EXPECT_EQ(field, element);
 }
 
 TEST(CheckFileTest, DoesNotMissAnythingInAFileThatLoadsOnlyInPart) {

@@ -25,7 +25,7 @@ TEST(VifViewTest, HasComponentsAndPdosInTheOrderOfTheirNumbers) {
   const CComponentView& second = view.Components()[1];
   EXPECT_EQ(second.Index(), 2U);
   ASSERT_EQ(second.Pdos(PdoSide::Source).size(), 3U);
-  for (std::uint64_t i = 0; i < 3; ++i) {
+  for (std::size_t i = 0; i < 3; ++i) {
     EXPECT_EQ(second.Pdos(PdoSide::Source)[i].Index(), i + 1);
     EXPECT_EQ(second.Pdos(PdoSide::Source)[i].OwnNumber("Voltage"), i + 1);
   }

@@ -78,7 +78,7 @@ std::optional<CVendorInfoFile> LoadBoth(const SampleContent& content, vif_file* 
 
 std::string TextOf(const vif_finding& finding) {
   return std::to_string(finding.severity) + finding.code + std::to_string(finding.line) + ":" +
-         std::to_string(finding.column) + finding.element + finding.message;
+         std::to_string(finding.column) + finding.element + finding.message + std::to_string(finding.position);
 }
 
 void CheckBoth(const SampleContent& content) {
@@ -88,7 +88,8 @@ void CheckBoth(const SampleContent& content) {
   Lines expected;
   for (const vifanalysis::Finding& f : vifanalysis::CheckContent(content.bytes, content.name, {true})) {
     expected.push_back(std::to_string(static_cast<int>(f.severity)) + f.code + std::to_string(f.line) + ":" +
-                       std::to_string(f.column) + ValidUtf8(f.element) + ValidUtf8(f.message));
+                       std::to_string(f.column) + ValidUtf8(f.element) + ValidUtf8(f.message) +
+                       std::to_string(f.position));
   }
   Lines found;
   for (std::size_t i = 0; i < vif_findings_count(findings.get()); ++i) {

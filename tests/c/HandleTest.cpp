@@ -53,6 +53,8 @@ TEST(CHandleTest, EveryOtherKindIsChecked) {
   EXPECT_EQ(vif_ports_get(reinterpret_cast<vif_ports*>(freed), 0, &comparison), VIF_ERROR_HANDLE);
   auto field = Sized<vif_explained_field>();
   EXPECT_EQ(vif_explanation_get(reinterpret_cast<vif_explanation*>(freed), &field), VIF_ERROR_HANDLE);
+  EXPECT_EQ(vif_text_size(reinterpret_cast<vif_text*>(freed)), 0U);
+  vif_text_free(reinterpret_cast<vif_text*>(freed));
   EXPECT_EQ(vif_positions_count(reinterpret_cast<vif_positions*>(freed)), 0U);
   vif_differences* differences = nullptr;
   EXPECT_EQ(vif_compare(freed, freed, nullptr, nullptr, &differences, nullptr), VIF_ERROR_HANDLE);

@@ -26,6 +26,7 @@ using PositionsPointer = std::unique_ptr<vif_positions, Freeing<vif_positions_fr
 using FindingsPointer = std::unique_ptr<vif_findings, Freeing<vif_findings_free>>;
 using DifferencesPointer = std::unique_ptr<vif_differences, Freeing<vif_differences_free>>;
 using PortsPointer = std::unique_ptr<vif_ports, Freeing<vif_ports_free>>;
+using TextPointer = std::unique_ptr<vif_text, Freeing<vif_text_free>>;
 using ExplanationPointer = std::unique_ptr<vif_explanation, Freeing<vif_explanation_free>>;
 
 /// Receives an error and frees it.

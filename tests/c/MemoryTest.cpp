@@ -134,6 +134,14 @@ TEST(CMemoryTest, ComparisonsOfFindings) {
   });
 }
 
+TEST(CMemoryTest, Reports) {
+  const FilePointer file = FileOf("PID: 1\nSrc_PDO_Voltage1: 100\n");
+  auto reported = Sized<vif_reported_file>();
+  reported.file = file.get();
+  ExpectMakingBearsFailures<TextPointer>(
+      [&](vif_text** page, vif_error** error) { return vif_report(&reported, nullptr, nullptr, page, error); });
+}
+
 TEST(CMemoryTest, Explanations) {
   ExpectMakingBearsFailures<ExplanationPointer>(
       [](vif_explanation** explanation, vif_error** error) { return vif_explain("PD_Port_Type", explanation, error); });

@@ -107,6 +107,15 @@ TEST(CProgressTest, ChecksAndComparisonsTellBeforeAndAfter) {
     return status;
   });
   ExpectBeforeAndAfter([&](const vif_progress* progress) {
+    auto reported = Sized<vif_reported_file>();
+    reported.file = file.get();
+    vif_text* page = nullptr;
+    const vif_status status = vif_report(&reported, nullptr, progress, &page, nullptr);
+    EXPECT_EQ(page != nullptr, status == VIF_OK);
+    vif_text_free(page);
+    return status;
+  });
+  ExpectBeforeAndAfter([&](const vif_progress* progress) {
     vif_ports* ports = nullptr;
     const vif_status status = vif_compare_ports(file.get(), nullptr, progress, &ports, nullptr);
     EXPECT_EQ(ports != nullptr, status == VIF_OK);

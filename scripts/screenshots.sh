@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# Makes the screenshots of reports in docs/images/, with the release build's command.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+scripts/setup.sh browser
+export VIF=${VIF:-$PWD/build/release/cli/vif}
+if [ ! -x "$VIF" ]; then
+  scripts/setup.sh build
+  scripts/build.sh release --target vif
+fi
+mkdir -p docs/images
+node tests/browser/screenshots.js docs/images
