@@ -17,10 +17,16 @@
 
 /// Not a handle that is checked: it must work even when there is no memory.
 struct vif_error {
-  vif_status status = VIF_ERROR_INTERNAL;
-  const char* message = "";
-  std::string text{};
-  std::vector<DOMDocProblem> reasons{};
+  /// \param lastingMessage is not copied
+  vif_error(vif_status why, const char* lastingMessage) noexcept : status(why), message(lastingMessage) {}
+
+  vif_error(vif_status why, std::string ownMessage, std::vector<DOMDocProblem> given)
+      : status(why), text(std::move(ownMessage)), message(text.c_str()), reasons(std::move(given)) {}
+
+  const vif_status status;
+  const std::string text;
+  const char* const message;
+  const std::vector<DOMDocProblem> reasons;
 };
 
 namespace vifc {
@@ -30,7 +36,7 @@ namespace {
 /// Stands for every error about memory, so that making one does not need any. Never changed or destroyed.
 vif_error& OutOfMemory() noexcept {
   alignas(vif_error) static unsigned char place[sizeof(vif_error)];
-  static vif_error& error = *new (place) vif_error{VIF_ERROR_MEMORY, vif_status_text(VIF_ERROR_MEMORY)};
+  static vif_error& error = *new (place) vif_error(VIF_ERROR_MEMORY, vif_status_text(VIF_ERROR_MEMORY));
   return error;
 }
 
@@ -65,9 +71,7 @@ vif_status Make(vif_error** error, vif_status status, std::string message, std::
     MakeUtf8(reason.element);
     MakeUtf8(reason.reason);
   }
-  auto* made = new vif_error{status, nullptr, std::move(message), std::move(reasons)};
-  made->message = made->text.c_str();
-  *error = made;
+  *error = new vif_error(status, std::move(message), std::move(reasons));
   return status;
 }
 
@@ -106,10 +110,6 @@ vif_status Fail(vif_error** error) noexcept {
     if (error != nullptr) *error = &OutOfMemory();
     return VIF_ERROR_MEMORY;
   }
-}
-
-void Require(bool condition, const char* what) {
-  if (!condition) throw CFailure(VIF_ERROR_ARGUMENT, what);
 }
 
 void CProgress::operator()(std::uint64_t done, std::uint64_t total) const {

@@ -49,7 +49,9 @@ class CFileScope {
 };
 
 /// \throws CFailure with VIF_ERROR_ARGUMENT
-void Require(bool condition, const char* what);
+inline void Require(bool condition, const char* what) {
+  if (!condition) throw CFailure(VIF_ERROR_ARGUMENT, what);
+}
 
 /// \throws CFailure when the handle is null, freed or of another kind
 template <typename Handle>

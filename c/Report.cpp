@@ -2,18 +2,11 @@
 #include "File.h"
 #include "Findings.h"
 #include "Guard.h"
+#include "Text.h"
 
 #include <analysis/Report.h>
 
 #include <memory>
-#include <string>
-#include <utility>
-
-struct vif_text : vifc::CHandle<vifc::HandleKind::Text> {
-  explicit vif_text(std::string content) : text(std::move(content)) {}
-
-  const std::string text;
-};
 
 namespace vifc {
 
@@ -48,9 +41,3 @@ vif_status vif_report(const vif_reported_file* file, const vif_reported_file* af
     *page = made.release();
   });
 }
-
-const char* vif_text_data(const vif_text* text) { return vifc::IsUsable(text) ? text->text.c_str() : ""; }
-
-size_t vif_text_size(const vif_text* text) { return vifc::IsUsable(text) ? text->text.size() : 0; }
-
-void vif_text_free(vif_text* text) { vifc::Free(text); }

@@ -13,10 +13,10 @@
  * What holds for everything:
  *
  * Handles are pointers to types that only the library knows. The function that makes one names the function that frees
- * it; every such function accepts NULL. Libraries built for debugging (VENDORINFOFILE_CHECK_HANDLES) notice a handle
- * that has been freed or is of another kind, unless something new of its kind is at its address: a function that
- * returns a status then returns VIF_ERROR_HANDLE, any other returns what its comment says for NULL, and all say so on
- * standard error. Other builds notice NULL only.
+ * it; every such function accepts NULL. Libraries built for debugging (VENDORINFOFILE_CHECK_HANDLES) notice a handle,
+ * other than an error, that has been freed or is of another kind, unless something new of its kind is at its address: a
+ * function that returns a status then returns VIF_ERROR_HANDLE, any other returns what its comment says for NULL, and
+ * all say so on standard error. Other builds notice NULL only.
  *
  * Structures begin with their size, which the caller sets to sizeof before each call. Later versions may add members at
  * the end; the library then fills in, or reads, only the members that the caller has.
@@ -230,6 +230,40 @@ VIF_C_API size_t vif_file_field_count(const vif_file* file);
 
 /* The field at a position, from 0. VIF_ERROR_ARGUMENT if there is none. Does not allocate. */
 VIF_C_API vif_status vif_file_field(const vif_file* file, size_t position, vif_field* field);
+
+/* A text of any length. */
+struct vif_text;
+typedef struct vif_text vif_text;
+
+/* The text, which ends with a NUL and lasts as long as the handle; empty for NULL. Does not allocate. */
+VIF_C_API const char* vif_text_data(const vif_text* text);
+
+/* How many bytes the text has, without the NUL; 0 for NULL. Does not allocate. */
+VIF_C_API size_t vif_text_size(const vif_text* text);
+
+/* Frees a text. */
+VIF_C_API void vif_text_free(vif_text* text);
+
+/* An exact amount, such as 9000 mV. The unit lasts as long as the library is loaded. */
+typedef struct vif_quantity {
+  size_t size;
+  uint64_t amount;
+  const char* unit; /* a symbol, such as "mV"; empty for a plain number, such as a count or an identifier */
+} vif_quantity;
+
+/* What the number of the field at a position amounts to: 180 as the voltage of a fixed PDO is 9000 mV. That may depend
+ * on the other fields of its PDO and on the edition of the format that the file names. VIF_ERROR_ARGUMENT if there is
+ * no such field, VIF_ERROR_NOT_FOUND if it has no number or its unit is not known. Takes time that grows with the
+ * number of fields. */
+VIF_C_API vif_status vif_file_quantity(const vif_file* file, size_t position, vif_quantity* quantity,
+                                       vif_error** error);
+
+/* What the value of the field at a position stands for, for people, such as "9 V" or "Provider Only"; empty if there is
+ * nothing to say. uncertain, which may be NULL, becomes 1 if that must be shown as uncertain, else 0.
+ * VIF_ERROR_ARGUMENT if there is no such field. Takes time that grows with the number of fields. Free the text with
+ * vif_text_free. */
+VIF_C_API vif_status vif_file_meaning(const vif_file* file, size_t position, vif_text** meaning, int32_t* uncertain,
+                                      vif_error** error);
 
 /* Queries
  *
@@ -449,10 +483,6 @@ VIF_C_API vif_status vif_compare_findings(const vif_findings* before, const vif_
 
 /* Reports */
 
-/* A text of any length. */
-struct vif_text;
-typedef struct vif_text vif_text;
-
 /* A file to report about. */
 typedef struct vif_reported_file {
   size_t size;
@@ -466,15 +496,6 @@ typedef struct vif_reported_file {
  * vif_text_free. Returns VIF_ERROR_CANCELLED. */
 VIF_C_API vif_status vif_report(const vif_reported_file* file, const vif_reported_file* after,
                                 const vif_progress* progress, vif_text** page, vif_error** error);
-
-/* The text, which ends with a NUL and lasts as long as the handle; empty for NULL. Does not allocate. */
-VIF_C_API const char* vif_text_data(const vif_text* text);
-
-/* How many bytes the text has, without the NUL; 0 for NULL. Does not allocate. */
-VIF_C_API size_t vif_text_size(const vif_text* text);
-
-/* Frees a text. */
-VIF_C_API void vif_text_free(vif_text* text);
 
 /* Explanations */
 

@@ -84,7 +84,20 @@ class CInputFile {
       auto field = Sized<vif_field>();
       Require(vif_file_field(file, i, &field) == VIF_OK, "a field can be read");
       RequireTexts({field.name, field.value, field.description});
+      constexpr std::size_t enough = 20;  // each takes time that grows with the number of fields
+      if (i < enough) CheckMeaning(file, i);
     }
+  }
+
+  static void CheckMeaning(const vif_file* file, std::size_t position) {
+    auto quantity = Sized<vif_quantity>();
+    const vif_status status = vif_file_quantity(file, position, &quantity, nullptr);
+    Require(status == VIF_OK || status == VIF_ERROR_NOT_FOUND, "a field has an amount or none");
+    if (status == VIF_OK) RequireText(quantity.unit);
+    vif_text* meaning = nullptr;
+    Require(vif_file_meaning(file, position, &meaning, nullptr, nullptr) == VIF_OK, "any field may have a meaning");
+    RequireText(vif_text_data(meaning));
+    vif_text_free(meaning);
   }
 
   Findings Check() const {

@@ -134,6 +134,15 @@ TEST(CMemoryTest, ComparisonsOfFindings) {
   });
 }
 
+TEST(CMemoryTest, Meanings) {
+  const FilePointer file = FileOf("Src_PDO_Supply_Type1: 0\nSrc_PDO_Voltage1: 100\n");
+  ExpectMakingBearsFailures<TextPointer>([&](vif_text** meaning, vif_error** error) {
+    auto quantity = Sized<vif_quantity>();
+    const vif_status status = vif_file_quantity(file.get(), 1, &quantity, error);
+    return status != VIF_OK ? status : vif_file_meaning(file.get(), 1, meaning, nullptr, error);
+  });
+}
+
 TEST(CMemoryTest, Reports) {
   const FilePointer file = FileOf("PID: 1\nSrc_PDO_Voltage1: 100\n");
   auto reported = Sized<vif_reported_file>();
