@@ -222,6 +222,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Compare(first, second);
   Compare(first, first);
   ComparePorts(first.Get());
-  Report(first, second);
+  constexpr std::size_t oneIn = 16;  // making a page takes much longer than all the rest
+  if (size % oneIn == 0) Report(first, second);
   return 0;
 }
