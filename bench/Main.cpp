@@ -32,6 +32,7 @@ int main(int argc, char** argv) {
   bench::AddGrowth(table);
   bench::AddCheck(table);
   bench::AddDifferences(table);
+  bench::AddCInterface(table);
   const std::size_t count = benchmark::RunSpecifiedBenchmarks(&table);
   return count > 0 && !table.HasFailed() ? EXIT_SUCCESS : EXIT_FAILURE;
 }

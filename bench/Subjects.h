@@ -13,5 +13,6 @@ void AddLibraryLoad(CRatioTable& table);
 void AddGrowth(CRatioTable& table);
 void AddCheck(CRatioTable& table);
 void AddDifferences(CRatioTable& table);
+void AddCInterface(CRatioTable& table);
 
 }  // namespace bench

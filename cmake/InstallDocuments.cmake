@@ -6,8 +6,8 @@ function(project_install_document document)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${document}")
   file(READ "${PROJECT_SOURCE_DIR}/${document}" text)
   cmake_path(GET document PARENT_PATH folder)
-  set(moved include schemas examples/vif)
-  set(moved_to "${header_dir}" "${CMAKE_INSTALL_DATADIR}/vendorinfofile/schemas"
+  set(moved c/vif.h include schemas examples/vif)
+  set(moved_to "${CMAKE_INSTALL_INCLUDEDIR}/vif.h" "${header_dir}" "${CMAKE_INSTALL_DATADIR}/vendorinfofile/schemas"
     "${CMAKE_INSTALL_DATADIR}/vendorinfofile/examples")
   foreach(from to IN ZIP_LISTS moved moved_to)
     file(RELATIVE_PATH source_link "/${folder}" "/${from}")
@@ -19,8 +19,8 @@ function(project_install_document document)
 endfunction()
 
 foreach(document IN ITEMS
-    README.md CHANGELOG.md CONTRIBUTING.md SECURITY.md bench/README.md docs/ci.md docs/command.md docs/reliability.md
-    examples/README.md examples/host/README.md)
+    README.md CHANGELOG.md CONTRIBUTING.md SECURITY.md bench/README.md docs/c.md docs/ci.md docs/command.md docs/reliability.md
+    examples/README.md examples/c/README.md examples/host/README.md)
   project_install_document(${document})
 endforeach()
 install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}")

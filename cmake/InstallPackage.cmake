@@ -4,10 +4,15 @@ include(CMakePackageConfigHelpers)
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/VendorInfoFile")
 set(header_dir "${CMAKE_INSTALL_INCLUDEDIR}/vendorinfofile")
 
-install(TARGETS VendorInfoFile VendorInfoFileAnalysis VendorInfoFileHost EXPORT VendorInfoFileTargets
+install(TARGETS VendorInfoFile VendorInfoFileAnalysis VendorInfoFileC VendorInfoFileHost EXPORT VendorInfoFileTargets
   RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+# Beside the folder of the C++ headers, so that programs in C see none of those.
+install(FILES c/vif.h DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
+if(MINGW AND VENDORINFOFILE_DLLTOOL)
+  install(FILES "${PROJECT_BINARY_DIR}/c/vif.lib" DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+endif()
 install(DIRECTORY include/ DESTINATION "${header_dir}" FILES_MATCHING PATTERN "*.h")
 file(GLOB analysis_headers CONFIGURE_DEPENDS analysis/*.h)
 install(FILES ${analysis_headers} DESTINATION "${header_dir}/analysis")
@@ -46,5 +51,12 @@ if(WIN32)
 endif()
 configure_file(cmake/vendorinfofile.pc.in "${PROJECT_BINARY_DIR}/vendorinfofile.pc" @ONLY)
 configure_file(cmake/vendorinfofile-analysis.pc.in "${PROJECT_BINARY_DIR}/vendorinfofile-analysis.pc" @ONLY)
-install(FILES "${PROJECT_BINARY_DIR}/vendorinfofile.pc" "${PROJECT_BINARY_DIR}/vendorinfofile-analysis.pc"
+if(UNIX AND NOT APPLE)
+  set(vif_rpath_link " -Wl,-rpath-link,\${libdir}")  # where the linker finds the libraries that this one needs
+endif()
+configure_file(cmake/vif.pc.in "${PROJECT_BINARY_DIR}/vif.pc" @ONLY)
+install(FILES
+  "${PROJECT_BINARY_DIR}/vendorinfofile.pc"
+  "${PROJECT_BINARY_DIR}/vendorinfofile-analysis.pc"
+  "${PROJECT_BINARY_DIR}/vif.pc"
   DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")

@@ -16,6 +16,10 @@
 
 class CVIFImpl;
 
+namespace vif {
+class CContentAccess;
+}  // namespace vif
+
 /// The result of a query for several fields: the sole owner of a list of copies, in the order of the file. It may
 /// outlive the object that was queried. The list may be empty, but the pointer is never null. Keep it in a variable: in
 /// `for (... : *vif.GetFields())` the list is destroyed before the loop begins.
@@ -220,6 +224,9 @@ class VIF_API CVendorInfoFile {
   VifFieldList GetCableSvidMode(VifIndexNumber component, VifIndexNumber svid, VifIndexNumber mode) const;
 
  private:
+  // Lets the functions of VIFContent.h, VIFProgress.h and VIFPositions.h at the content.
+  friend class vif::CContentAccess;
+
   CVIFImpl& Content();
 
   CVIFImpl* m_impl;  // owned; null after a move or a failed append, which counts as empty

@@ -1,3 +1,4 @@
+#include "TextContent.h"
 #include "TextFile.h"
 #include "xmlfile/InputFile.h"
 
@@ -52,6 +53,10 @@ std::unique_ptr<std::istream> OpenTextFile(const std::filesystem::path& path) {
   auto stream = std::make_unique<CFileStream>(path);
   if (!stream->IsOpen()) return nullptr;
   return stream;
+}
+
+std::unique_ptr<std::istream> OpenTextContent(std::string_view content) {
+  return std::make_unique<CContentStream>(content);
 }
 
 }  // namespace vif

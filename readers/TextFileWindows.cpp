@@ -1,3 +1,4 @@
+#include "TextContent.h"
 #include "TextFile.h"
 
 #include <fstream>
@@ -11,6 +12,11 @@ std::unique_ptr<std::istream> OpenTextFile(const std::filesystem::path& path) {
   auto stream = std::make_unique<std::ifstream>(path);
   if (!stream->is_open()) return nullptr;
   return stream;
+}
+
+std::unique_ptr<std::istream> OpenTextContent(std::string_view content) {
+  constexpr char endOfText = '\x1A';  // where a stream in text mode ends
+  return std::make_unique<CContentStream>(content.substr(0, content.find(endOfText)));
 }
 
 }  // namespace vif

@@ -5,8 +5,10 @@
 #include "FieldResolver.h"
 #include "LineGrammar.h"
 #include "LineSource.h"
-#include "TextFile.h"
+#include "ProgressMeter.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <regex>
@@ -108,26 +110,50 @@ class CLineReader {
   std::string m_description;
 };
 
-std::unique_ptr<std::istream> Open(const std::filesystem::path& path) {
-  if (path.empty()) ThrowRunTimeError("%s: Internal error: NULL file name.", "CVIFImpl::ReadTextFile");
-  std::unique_ptr<std::istream> stream = OpenTextFile(path);
-  if (stream == nullptr) ThrowRunTimeError("Couldn't open Vendor Info File: %S.", PathToSystem(path));
+std::unique_ptr<std::istream> Open(const CVifSource& source) {
+  if (source.Name().empty() && !source.IsInMemory()) {
+    ThrowRunTimeError("%s: Internal error: NULL file name.", "CVIFImpl::ReadTextFile");
+  }
+  std::unique_ptr<std::istream> stream = source.OpenText();
+  if (stream == nullptr) ThrowRunTimeError("Couldn't open Vendor Info File: %S.", PathToSystem(source.Name()));
   return stream;
+}
+
+/// Calls `read` with each line, until the stream ends or cannot be read.
+template <typename Read>
+void ForEachLine(CLineSource& lines, const Read& read) {
+  std::string_view line;
+  while (lines.Next(line)) read(line);
 }
 
 void ReadLines(std::istream& stream, const std::string& pathText, CLineReader& reader) {
   CLineSource lines(stream, pathText);
-  std::string_view line;
-  while (lines.Next(line)) reader.ReadLine(line);
+  ForEachLine(lines, [&](std::string_view line) { reader.ReadLine(line); });
   // A read error that the stream does not report by exception ends the file without one.
   if (lines.HasFailed()) reader.ReportReadFailure();
 }
 
 }  // namespace
 
-void ReadTextVif(const std::filesystem::path& path, const std::vector<VifFieldDef>* table, FieldSink sink) {
-  const std::unique_ptr<std::istream> stream = Open(path);
-  ReadTextVif(*stream, PathToSystem(path), table, sink);
+void ReadTextVif(const CVifSource& source, const std::vector<VifFieldDef>* table, FieldSink sink) {
+  const std::unique_ptr<std::istream> stream = Open(source);
+  const std::string pathText = PathToSystem(source.Name());
+  if (source.Progress() == nullptr) {
+    ReadTextVif(*stream, pathText, table, sink);
+    return;
+  }
+  constexpr std::uint64_t stretch = 65'536;
+  CProgressMeter meter(source, stretch);
+  ++sink.componentCount;
+  CLineReader reader(table, sink);
+  CLineSource lines(*stream, pathText);
+  std::uint64_t bytes = 0;
+  ForEachLine(lines, [&](std::string_view line) {
+    reader.ReadLine(line);
+    bytes += line.size() + 1;  // the line feed
+    meter.Reach(bytes, std::min(bytes, meter.Total()));
+  });
+  meter.Finish();
 }
 
 void ReadTextVif(std::istream& stream, const std::string& pathText, const std::vector<VifFieldDef>* table,
@@ -137,9 +163,9 @@ void ReadTextVif(std::istream& stream, const std::string& pathText, const std::v
   ReadLines(stream, pathText, reader);
 }
 
-void FollowTextVif(const std::filesystem::path& path, const std::vector<VifFieldDef>* table, TextObservers observers) {
-  const std::unique_ptr<std::istream> stream = Open(path);
-  FollowTextVif(*stream, PathToSystem(path), table, observers);
+void FollowTextVif(const CVifSource& source, const std::vector<VifFieldDef>* table, TextObservers observers) {
+  const std::unique_ptr<std::istream> stream = Open(source);
+  FollowTextVif(*stream, PathToSystem(source.Name()), table, observers);
 }
 
 void FollowTextVif(std::istream& stream, const std::string& pathText, const std::vector<VifFieldDef>* table,

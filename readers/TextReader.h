@@ -4,8 +4,8 @@
 #include "FieldSink.h"
 #include "VIFFieldDefs.h"
 #include "VIFTextCheck.h"
+#include "VifSource.h"
 
-#include <filesystem>
 #include <istream>
 #include <string>
 #include <vector>
@@ -14,14 +14,14 @@ namespace vif {
 
 /// Appends the fields of a text VIF, which is one component, to the sink. Lines that declare nothing are skipped. After
 /// a failure, the fields appended so far stay and the component stays counted.
-/// \param path a regular file; anything else is refused, since a directory, a pipe or a device may never end
+/// \param source a regular file; anything else is refused, since a directory, a pipe or a device may never end; or bytes
 /// \param table the definitions for resolving names, borrowed; null means the built-in table
 /// \throws CZoRunTimeException with one of the messages
 ///   "CVIFImpl::ReadTextFile: Internal error: NULL file name.",
 ///   "Couldn't open Vendor Info File: <path>." (nothing appended, no component counted),
 ///   "I/O read failure on Vendor Info File <path>: <reason>",
 ///   "Internal error - Unknown EVifLocation: <value>", or the text of a regular expression's error
-void ReadTextVif(const std::filesystem::path& path, const std::vector<VifFieldDef>* table, FieldSink sink);
+void ReadTextVif(const CVifSource& source, const std::vector<VifFieldDef>* table, FieldSink sink);
 
 /// The same from an open stream.
 /// \param pathText the file's name for messages
@@ -36,7 +36,7 @@ struct TextObservers {
 
 /// Reads a text VIF as `ReadTextVif` does, as component 1, but keeps no field: it reports to the observers instead.
 /// \throws CZoRunTimeException as `ReadTextVif` does, and whatever an observer throws
-void FollowTextVif(const std::filesystem::path& path, const std::vector<VifFieldDef>* table, TextObservers observers);
+void FollowTextVif(const CVifSource& source, const std::vector<VifFieldDef>* table, TextObservers observers);
 
 /// The same from an open stream.
 void FollowTextVif(std::istream& stream, const std::string& pathText, const std::vector<VifFieldDef>* table,

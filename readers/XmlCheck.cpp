@@ -108,15 +108,19 @@ class CElementReporter {
 }  // namespace
 
 void CheckXmlVif(const std::filesystem::path& fileName, const VifElementObserver& observer) {
+  vif::FollowXmlVif(fileName, observer);
+}
+
+void vif::FollowXmlVif(const CVifSource& source, const VifElementObserver& observer) {
   CDOMDocVIF document;
-  vif::LoadXmlVif(fileName, document);
+  LoadXmlVif(source, document);
   CElementReporter reporter(document, observer);
   std::vector<CVIFField> fields;
   std::uint32_t componentCount = 0;
-  const vif::XmlObserver extraction = {
+  const XmlObserver extraction = {
       [&](IXMLDOMNode& element, const CVIFField& field) { reporter.Report(eVifElementField, element, &field); },
       [&](IXMLDOMNode& group) { reporter.Report(eVifElementNotUnderstood, group); }};
   const DOMElementPtr root = document.GetRootElement();
-  vif::ExtractFields(*root, {fields, componentCount}, &extraction);
+  ExtractFields(*root, {fields, componentCount}, &extraction);
   reporter.ReportSkipped(*root);
 }

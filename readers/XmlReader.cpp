@@ -8,6 +8,7 @@
 #include "Errors.h"
 #include "GroupNames.h"
 #include "HeaderElements.h"
+#include "ProgressMeter.h"
 #include "VIFInvalidFile.h"
 
 #include <algorithm>
@@ -15,7 +16,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -202,28 +202,38 @@ class CExtraction {
 
 /// Makes room for the fields of a file, which has about 90 bytes for each, so that the list is not moved again and
 /// again while it grows.
-void ReserveFor(const std::filesystem::path& path, std::vector<CVIFField>& fields) {
+void ReserveFor(const CVifSource& source, std::vector<CVIFField>& fields) {
   constexpr std::uintmax_t bytesOfField = 80;
   constexpr std::uintmax_t most = 100'000;  // the rest of a file may be of any size
-  std::error_code error;
-  const std::uintmax_t size = std::filesystem::file_size(path, error);
-  if (!error) Reserve(fields, static_cast<std::size_t>(std::min(size / bytesOfField, most)));
+  const std::optional<std::uintmax_t> size = source.Size();
+  if (size) Reserve(fields, static_cast<std::size_t>(std::min(*size / bytesOfField, most)));
 }
 
 }  // namespace
 
-void ReadXmlVif(const std::filesystem::path& path, FieldSink sink) {
+void ReadXmlVif(const CVifSource& source, FieldSink sink) {
+  constexpr std::uint64_t stretch = 1'000;
+  CProgressMeter meter(source, stretch);
   CDOMDocVIF document;
-  LoadXmlVif(path, document);
-  ReserveFor(path, sink.fields);
-  ExtractFields(*document.GetRootElement(), sink);
+  LoadXmlVif(source, document);
+  ReserveFor(source, sink.fields);
+  if (source.Progress() == nullptr) {
+    ExtractFields(*document.GetRootElement(), sink);
+  } else {
+    std::uint64_t fieldCount = 0;
+    meter.Finish();
+    const auto onField = [&](IXMLDOMNode&, const CVIFField&) { meter.Reach(++fieldCount, meter.Total()); };
+    const XmlObserver observer = {onField, [](IXMLDOMNode&) {}};
+    ExtractFields(*document.GetRootElement(), sink, &observer);
+    meter.Finish();
+  }
   // A file may consist almost entirely of something other than fields.
   if (sink.fields.capacity() > 2 * sink.fields.size()) sink.fields.shrink_to_fit();
 }
 
-void LoadXmlVif(const std::filesystem::path& path, CDOMDocVIF& document) {
-  if (document.ValidateDoc(path)) return;
-  throw CVIFInvalidFile(MessageBuffer().Printf("%s is not a valid Vendor Info File.", PathToSystem(path)),
+void LoadXmlVif(const CVifSource& source, CDOMDocVIF& document) {
+  if (source.ValidateIn(document)) return;
+  throw CVIFInvalidFile(MessageBuffer().Printf("%s is not a valid Vendor Info File.", PathToSystem(source.Name())),
                         document.Problems());
 }
 

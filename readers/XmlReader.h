@@ -2,9 +2,10 @@
 #pragma once
 
 #include "FieldSink.h"
+#include "VIFXmlCheck.h"
+#include "VifSource.h"
 #include "msxml/MsXml.h"
 
-#include <filesystem>
 #include <functional>
 
 class CDOMDocVIF;
@@ -29,11 +30,14 @@ struct XmlObserver {
 ///   CZoDOMDocException "Unexpected list element name: <name>", "ERROR:  Couldn't get node name.\r\n", or
 ///     "Couldn't load the schema <file>: <reason>"
 ///   _com_error when a call on the document fails
-void ReadXmlVif(const std::filesystem::path& path, FieldSink sink);
+void ReadXmlVif(const CVifSource& source, FieldSink sink);
 
 /// Loads and validates the file.
 /// \throws as above
-void LoadXmlVif(const std::filesystem::path& path, CDOMDocVIF& document);
+void LoadXmlVif(const CVifSource& source, CDOMDocVIF& document);
+
+/// Reads an XML VIF, but keeps no field: it reports what becomes of each element, as `CheckXmlVif` describes.
+void FollowXmlVif(const CVifSource& source, const VifElementObserver& observer);
 
 /// Appends the fields of a validated document to the sink and counts its components.
 /// \param observer may be null; its functions must not be empty

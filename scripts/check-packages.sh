@@ -18,7 +18,7 @@ check() {
   local file
   for file in include/vendorinfofile/{VendorInfoFile,VIFField,TestSuiteVIF,DOMDocVIF}.h \
     include/vendorinfofile/TestUtilities/DOMDoc.h include/vendorinfofile/msxml/MsXml.h \
-    lib/cmake/VendorInfoFile/VendorInfoFileConfig.cmake lib/pkgconfig/vendorinfofile.pc \
+    include/vif.h lib/cmake/VendorInfoFile/VendorInfoFileConfig.cmake lib/pkgconfig/{vendorinfofile,vif}.pc \
     share/vendorinfofile/schemas/VendorInfoFile{,OptionalContent}.xsd share/doc/VendorInfoFile/{LICENSE,README.md}; do
     [ -f "$file" ] || fail "$file is missing"
   done
@@ -43,7 +43,7 @@ packages=$root/build/packages
 unpack_into zip
 unzip -q "$packages"/VendorInfoFile-*-win64.zip
 cd VendorInfoFile-*-win64
-for file in bin/{VendorInfoFile,VendorInfoFileAnalysis,VendorInfoFileHost}.dll bin/vif.exe lib/libVendorInfoFile{,Analysis,Host}.dll.a; do
+for file in bin/{VendorInfoFile,VendorInfoFileAnalysis,VendorInfoFileHost,vif}.dll bin/vif.exe lib/vif.lib lib/libvif.dll.a lib/libVendorInfoFile{,Analysis,Host}.dll.a; do
   [ -f "$file" ] || fail "$file is missing"
 done
 check "$PWD" "$root/scripts/run-windows.sh" bin/vif.exe

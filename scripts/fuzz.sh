@@ -21,11 +21,11 @@ else
   exit 2
 fi
 
-fuzzers=(text_reader xml_reader query name number format text_conversion rules command)
+fuzzers=(text_reader xml_reader query name number format text_conversion rules c_interface command)
 # Limits on the length of inputs, because long ones mostly just take longer. Those of the readers and the rules leave
 # room for the examples with one component.
 declare -A longest=([text_reader]=8192 [xml_reader]=12288 [query]=256 [name]=128 [number]=64 [format]=256
-  [text_conversion]=256 [rules]=12288 [command]=2048)
+  [text_conversion]=256 [rules]=12288 [c_interface]=4096 [command]=2048)
 cores=$(nproc)
 rounds=$(((${#fuzzers[@]} + cores - 1) / cores))
 share=$((seconds > rounds ? seconds / rounds : 1))

@@ -2,18 +2,22 @@
 # Installs the packages that a task needs and this system lacks, with apt, as root or with sudo. Without apt it only
 # says what is needed.
 #
-#   scripts/setup.sh build | test | check | windows | arm64 | package | bench | browser
+#   scripts/setup.sh build | test | check | windows | arm64 | package | bench | browser | languages
 #
 # "test" includes "build", and "check" includes both. "windows" and "arm64" are for building and testing for other
 # systems, "package" for building the packages for Linux and Windows, "bench" for measuring, "browser" for testing pages
-# in a browser, which also takes the npm packages that tests/browser/package-lock.json names. CXX and CXXFLAGS choose
-# the compiler and the standard library, as they do for CMake: CXX=clang++ CXXFLAGS=-stdlib=libc++.
+# in a browser, which also takes the npm packages that tests/browser/package-lock.json names, "languages" for programs
+# in other languages. CXX and CXXFLAGS choose the compiler and the standard library, as they do for CMake: CXX=clang++
+# CXXFLAGS=-stdlib=libc++.
 set -euo pipefail
 
 task=${1:-}
 case $task in
-  build | test | check | windows | arm64 | package | bench | browser) ;;
-  *) echo "usage: scripts/setup.sh build | test | check | windows | arm64 | package | bench | browser" >&2; exit 2 ;;
+  build | test | check | windows | arm64 | package | bench | browser | languages) ;;
+  *)
+    echo "usage: scripts/setup.sh build | test | check | windows | arm64 | package | bench | browser | languages" >&2
+    exit 2
+    ;;
 esac
 
 # Into tests/browser/node_modules, unless what the lock file names is there. Nothing that the packages bring is run.
@@ -68,7 +72,8 @@ fi
 header_packages=(libcli11-dev nlohmann-json3-dev)
 build_packages=("${compiler_packages[@]}" cmake ninja-build libxml2-dev "${header_packages[@]}")
 test_packages=("${build_packages[@]}" "${googletest_packages[@]}" pkg-config python3)
-windows_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest wine wine64 "${header_packages[@]}")
+# llvm makes the import library for compilers with Microsoft's ABI.
+windows_packages=(llvm cmake ninja-build g++-mingw-w64-x86-64-posix googletest wine wine64 "${header_packages[@]}")
 case $task in
   build) wanted=("${build_packages[@]}") ;;
   test) wanted=("${test_packages[@]}") ;;
@@ -83,6 +88,7 @@ case $task in
   windows) wanted=("${windows_packages[@]}") ;;
   arm64) wanted=(cmake ninja-build g++-aarch64-linux-gnu googletest libxml2-dev:arm64 qemu-user-static "${header_packages[@]}") ;;
   package) wanted=("${build_packages[@]}" "${windows_packages[@]}" dpkg-dev file python3 unzip zip) ;;
+  languages) wanted=("${test_packages[@]}" "${windows_packages[@]}" gcc clang lld mono-mcs mono-runtime rustc) ;;
   bench) wanted=("${build_packages[@]}" libbenchmark-dev libxml2-utils valgrind) ;;
   browser)
     wanted=(chromium fonts-dejavu-core pngquant)

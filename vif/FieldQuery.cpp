@@ -30,18 +30,18 @@ FoundFields FindFields(const SearchedFields& searched, CFieldQuery query) {
   return found;
 }
 
-std::vector<CVIFField> FirstComponentFields(const std::vector<CVIFField>& fields, std::uint32_t componentCount,
-                                            CFieldQuery query) {
+std::vector<const CVIFField*> FirstComponentFields(const std::vector<CVIFField>& fields, std::uint32_t componentCount,
+                                                   CFieldQuery query) {
   // Sorted by component before any name is matched: a name in a later component must not make the query fail.
   std::map<VifIndexNumber, std::vector<const CVIFField*>> byComponent;
   for (const CVIFField& field : fields) {
     const VifIndexNumber component = field.Index(eVifLocComponent);
     if (component < componentCount && query.PassesLocations(field)) byComponent[component].push_back(&field);
   }
-  std::vector<CVIFField> passing;
+  std::vector<const CVIFField*> passing;
   for (const auto& [component, candidates] : byComponent) {
     for (const CVIFField* field : candidates) {
-      if (query.PassesName(*field)) passing.push_back(*field);
+      if (query.PassesName(*field)) passing.push_back(field);
     }
     if (!passing.empty()) break;
   }

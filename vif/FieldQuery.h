@@ -98,9 +98,9 @@ struct FoundFields {
 
 FoundFields FindFields(const SearchedFields& searched, CFieldQuery query);
 
-/// Copies of the passing fields of the lowest component number below `componentCount` that has any. The query's slots
+/// The passing fields, borrowed, of the lowest component number below `componentCount` that has any. The query's slots
 /// are those besides the component.
-std::vector<CVIFField> FirstComponentFields(const std::vector<CVIFField>& fields, std::uint32_t componentCount,
-                                            CFieldQuery query);
+std::vector<const CVIFField*> FirstComponentFields(const std::vector<CVIFField>& fields, std::uint32_t componentCount,
+                                                   CFieldQuery query);
 
 }  // namespace vif

@@ -1,8 +1,10 @@
 // The queries of CVendorInfoFile: one filter with different arguments.
 #include "BaseUtilities/StringConvert.h"
+#include "ContentAccess.h"
 #include "Errors.h"
 #include "FieldQuery.h"
 #include "VIFImpl.h"
+#include "VIFPositions.h"
 #include "VendorInfoFile.h"
 
 #include <stdexcept>
@@ -81,7 +83,29 @@ std::tuple<CVIFField, bool> CVendorInfoFile::GetSingleField(const char* pattern,
 VifFieldList CVendorInfoFile::GetFirstFields(const char* pattern, const VifIndex& index2,
                                              const VifIndex& index3) const {
   const CFieldQuery query(pattern, {CVIFField::UNSPECIFIED_INDEX, index2, index3});
-  return MakeList(vif::FirstComponentFields(Fields(), ComponentCount(), query));
+  std::vector<CVIFField> first;
+  for (const CVIFField* field : vif::FirstComponentFields(Fields(), ComponentCount(), query)) first.push_back(*field);
+  return MakeList(std::move(first));
+}
+
+std::vector<std::size_t> FindVifFields(const CVendorInfoFile& vif, const char* pattern, const QuerySlots& query) {
+  CFieldQuery filter(pattern, query);
+  const CVIFField* begin = vif.Fields().data();
+  std::vector<std::size_t> positions;
+  vif::ForEachPassing(Searched(vif::CContentAccess::ContentOf(vif)), filter,
+                      [&](const CVIFField& field) { positions.push_back(static_cast<std::size_t>(&field - begin)); });
+  return positions;
+}
+
+std::vector<std::size_t> FindFirstVifFields(const CVendorInfoFile& vif, const char* pattern, const VifIndex& index2,
+                                            const VifIndex& index3) {
+  const CFieldQuery query(pattern, {CVIFField::UNSPECIFIED_INDEX, index2, index3});
+  const CVIFField* begin = vif.Fields().data();
+  std::vector<std::size_t> positions;
+  for (const CVIFField* field : vif::FirstComponentFields(vif.Fields(), vif.ComponentCount(), query)) {
+    positions.push_back(static_cast<std::size_t>(field - begin));
+  }
+  return positions;
 }
 
 CVIFField CVendorInfoFile::GetFirstUniqueField(const char* pattern, const VifIndex& index2,

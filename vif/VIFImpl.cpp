@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <new>
+#include <optional>
 #include <system_error>
 #include <utility>
 
@@ -27,10 +28,12 @@ void RequireExistence(const std::filesystem::path& fileName) {
   if (!std::filesystem::status_known(status)) throw std::filesystem::filesystem_error("exists", fileName, error);
 }
 
-FileType DetermineFileType(const std::filesystem::path& fileName) {
-  if (fileName.empty()) return FileType::None;
-  RequireExistence(fileName);
-  std::string extension = PathToSystem(fileName.extension());
+FileType DetermineFileType(const vif::CVifSource& source) {
+  if (!source.IsInMemory()) {
+    if (source.Name().empty()) return FileType::None;
+    RequireExistence(source.Name());
+  }
+  std::string extension = PathToSystem(source.Name().extension());
   ToLower(extension);
   if (extension == ".txt") return FileType::Text;
   if (extension == ".xml") return FileType::Xml;
@@ -38,14 +41,13 @@ FileType DetermineFileType(const std::filesystem::path& fileName) {
 }
 
 /// Makes room for about as many fields as a text file has, so that they are not moved repeatedly while it is read.
-void ReserveForText(const std::filesystem::path& fileName, std::vector<CVIFField>& fields) {
+void ReserveForText(const vif::CVifSource& source, std::vector<CVIFField>& fields) {
   constexpr std::uintmax_t bytesPerField = 32;      // a short line; with comments it is about 50
   constexpr std::uintmax_t mostFields = 1'000'000;  // whatever size the file claims to have
-  std::error_code error;
-  const std::uintmax_t size = std::filesystem::file_size(fileName, error);
-  if (error) return;
+  const std::optional<std::uintmax_t> size = source.Size();
+  if (!size) return;
   try {
-    fields.reserve(static_cast<std::size_t>(std::min(size / bytesPerField, mostFields)));
+    fields.reserve(static_cast<std::size_t>(std::min(*size / bytesPerField, mostFields)));
   } catch (const std::bad_alloc&) {  // NOLINT(bugprone-empty-catch)
     // There may still be enough memory for the fields that the file really has.
   }
@@ -58,16 +60,16 @@ CVIFImpl::CVIFImpl(const std::filesystem::path& fileName, std::vector<VifFieldDe
   Append(fileName);
 }
 
-void CVIFImpl::Append(const std::filesystem::path& fileName) {
-  switch (const FileType type = DetermineFileType(fileName); type) {
+void CVIFImpl::Append(const vif::CVifSource& source) {
+  switch (const FileType type = DetermineFileType(source); type) {
     case FileType::None: break;
-    case FileType::Text: ReadTextFile(fileName); break;
-    case FileType::Xml: ReadXmlFile(fileName); break;
+    case FileType::Text: ReadTextFile(source); break;
+    case FileType::Xml: ReadXmlFile(source); break;
     case FileType::Other: vif::ThrowRunTimeError("Invalid file type for VIF!  Must be text (*.txt) or XML (*.xml)");
     default: vif::ThrowRunTimeError("%s: Internal error: unknown file type %u.", "CVIFImpl::Append", type);
   }
   m_digests.Cover(m_fields);
-  if (m_fileName.empty()) m_fileName = PathToWide(fileName);
+  if (m_fileName.empty()) m_fileName = PathToWide(source.Name());
 }
 
 void CVIFImpl::Append(const std::vector<CVIFField>& fields) {
@@ -79,13 +81,11 @@ void CVIFImpl::Append(const std::vector<CVIFField>& fields) {
   m_digests.Cover(m_fields);
 }
 
-void CVIFImpl::ReadTextFile(const std::filesystem::path& fileName) {
-  if (m_fields.empty()) ReserveForText(fileName, m_fields);
-  vif::ReadTextVif(fileName, m_fieldDefs, {m_fields, m_componentCount});
+void CVIFImpl::ReadTextFile(const vif::CVifSource& source) {
+  if (m_fields.empty()) ReserveForText(source, m_fields);
+  vif::ReadTextVif(source, m_fieldDefs, {m_fields, m_componentCount});
   // A file may consist almost entirely of something other than fields.
   if (m_fields.capacity() / 4 > m_fields.size()) m_fields.shrink_to_fit();
 }
 
-void CVIFImpl::ReadXmlFile(const std::filesystem::path& fileName) {
-  vif::ReadXmlVif(fileName, {m_fields, m_componentCount});
-}
+void CVIFImpl::ReadXmlFile(const vif::CVifSource& source) { vif::ReadXmlVif(source, {m_fields, m_componentCount}); }

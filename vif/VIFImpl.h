@@ -4,6 +4,7 @@
 #include "FieldDigest.h"
 #include "VIFField.h"
 #include "VIFFieldDefs.h"
+#include "VifSource.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -18,8 +19,9 @@ class CVIFImpl {
   /// Remembers the file's name and loads the file.
   CVIFImpl(const std::filesystem::path& fileName, std::vector<VifFieldDef>* fieldDefs);
 
-  /// Loads one file and appends its fields. After a failure, what was read before it stays.
-  void Append(const std::filesystem::path& fileName);
+  /// Loads one file, or bytes that stand for one, and appends its fields. After a failure, what was read before it
+  /// stays.
+  void Append(const vif::CVifSource& source);
 
   /// Appends copies of the fields. When that fails, some may have been appended.
   void Append(const std::vector<CVIFField>& fields);
@@ -30,8 +32,8 @@ class CVIFImpl {
   std::uint32_t ComponentCount() const { return m_componentCount; }
 
  private:
-  void ReadTextFile(const std::filesystem::path& fileName);
-  void ReadXmlFile(const std::filesystem::path& fileName);
+  void ReadTextFile(const vif::CVifSource& source);
+  void ReadXmlFile(const vif::CVifSource& source);
 
   std::vector<CVIFField> m_fields;
   vif::CFieldDigests m_digests;                     // of all fields but those read before a failure

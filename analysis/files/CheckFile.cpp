@@ -59,17 +59,18 @@ void CheckWhole(const FoundFields& fields, const GroupTree& tree, bool isText, F
   AddContradictions(fields, findings);
 }
 
-Findings CheckPath(const std::filesystem::path& path) {
-  std::error_code error;
-  const std::filesystem::file_status status = std::filesystem::status(path, error);
-  if (status.type() == std::filesystem::file_type::not_found) throw CCheckError("there is no such file");
-  if (!std::filesystem::status_known(status)) throw CCheckError(error.message());
-  const bool isText = HasExtension(path, ".txt");
-  if (!isText && !HasExtension(path, ".xml")) throw CCheckError("a VIF is a text (*.txt) or XML (*.xml) file");
-  if (!std::filesystem::is_regular_file(status)) throw CCheckError("only a regular file can be read");
-  auto [fields, undefinedNames, findings, isComplete] = isText ? ReadTextFile(path) : ReadXmlFile(path);
+/// Whether the file is a text file; otherwise it is an XML file.
+bool IsText(const std::filesystem::path& name) {
+  const bool isText = HasExtension(name, ".txt");
+  if (!isText && !HasExtension(name, ".xml")) throw CCheckError("a VIF is a text (*.txt) or XML (*.xml) file");
+  return isText;
+}
+
+Findings FindAll(const CheckedFile& file) {
+  const bool isText = IsText(file.name);
+  auto [fields, undefinedNames, findings, isComplete] = isText ? ReadTextFile(file) : ReadXmlFile(file);
   if (fields.empty()) {
-    const std::optional<std::string> advice = AdviceOnExtension(path);
+    const std::optional<std::string> advice = AdviceOnExtension(file);
     if (advice) return {FindingAt(code::kWrongExtension, 0, 0, {}, *advice)};
   }
   const Edition edition = EditionNamedBy(fields).value_or(Edition{});
@@ -79,6 +80,16 @@ Findings CheckPath(const std::filesystem::path& path) {
   FindNothing(fields, findings);
   if (isComplete) CheckWhole(fields, tree, isText, findings);
   return findings;
+}
+
+/// \throws CCheckError when there is no file that can be checked
+void RequireFile(const std::filesystem::path& path) {
+  std::error_code error;
+  const std::filesystem::file_status status = std::filesystem::status(path, error);
+  if (status.type() == std::filesystem::file_type::not_found) throw CCheckError("there is no such file");
+  if (!std::filesystem::status_known(status)) throw CCheckError(error.message());
+  IsText(path);  // the wrong extension is the more useful reason
+  if (!std::filesystem::is_regular_file(status)) throw CCheckError("only a regular file can be read");
 }
 
 /// The codes of rules, as findings have them.
@@ -104,18 +115,28 @@ void KeepWanted(Findings& findings, const CheckOptions& options) {
   });
 }
 
-}  // namespace
-
-CCheckError::~CCheckError() = default;
-
-std::vector<Finding> CheckFile(const std::filesystem::path& path, const CheckOptions& options) {
-  Findings findings = CheckPath(path);
+/// The findings that the options ask for, in the order of the file.
+Findings Wanted(Findings findings, const CheckOptions& options) {
   KeepWanted(findings, options);
   std::stable_sort(findings.begin(), findings.end(), [](const Finding& a, const Finding& b) {
     // Findings without a line are about the whole file and come last.
     return std::make_tuple(a.line == 0, a.line, a.column) < std::make_tuple(b.line == 0, b.line, b.column);
   });
   return findings;
+}
+
+}  // namespace
+
+CCheckError::~CCheckError() = default;
+
+std::vector<Finding> CheckFile(const std::filesystem::path& path, const CheckOptions& options) {
+  RequireFile(path);
+  return Wanted(FindAll({path}), options);
+}
+
+std::vector<Finding> CheckContent(std::string_view content, const std::filesystem::path& name,
+                                  const CheckOptions& options) {
+  return Wanted(FindAll({name, content}), options);
 }
 
 }  // namespace vifanalysis

@@ -1,3 +1,4 @@
+#include "CheckedFile.h"
 #include "FileBeginning.h"
 
 #include <analysis/FileForm.h>
@@ -67,9 +68,11 @@ FileForm FindForm(std::string_view beginning) {
   return BeginsLikeText(beginning) ? FileForm::Text : FileForm::Unknown;
 }
 
-std::optional<std::string> AdviceOnExtension(const std::filesystem::path& path) {
+std::optional<std::string> AdviceOnExtension(const CheckedFile& file) {
   constexpr std::size_t enoughBytes = 4096;
-  const FileForm form = FindForm(FileBeginning(path, enoughBytes));
+  const std::filesystem::path& path = file.name;
+  const FileForm form =
+      file.content ? FindForm(file.content->substr(0, enoughBytes)) : FindForm(FileBeginning(path, enoughBytes));
   if (form == FileForm::Text && HasExtension(path, ".xml")) {
     return "this is a text VIF, not XML; the name of a text VIF ends in .txt";
   }
@@ -77,6 +80,10 @@ std::optional<std::string> AdviceOnExtension(const std::filesystem::path& path) 
     return "this is XML, not a text VIF; the name of an XML VIF ends in .xml";
   }
   return std::nullopt;
+}
+
+std::optional<std::string> AdviceOnExtension(const std::filesystem::path& path) {
+  return AdviceOnExtension(CheckedFile{path});
 }
 
 }  // namespace vifanalysis

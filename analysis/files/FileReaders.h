@@ -1,9 +1,8 @@
 // The two forms of a file, read into fields with their places.
 #pragma once
 
+#include "CheckedFile.h"
 #include "FoundField.h"
-
-#include <filesystem>
 
 namespace vifanalysis {
 
@@ -17,10 +16,10 @@ struct FileContent {
 
 /// Reads a text file.
 /// \throws CZoRunTimeException as `CheckTextVif` does
-FileContent ReadTextFile(const std::filesystem::path& path);
+FileContent ReadTextFile(const CheckedFile& file);
 
 /// Reads an XML file. The reasons why it is not valid are findings.
 /// \throws CCheckError, or what `CheckXmlVif` throws, when it cannot be read for a reason that is not in the file
-FileContent ReadXmlFile(const std::filesystem::path& path);
+FileContent ReadXmlFile(const CheckedFile& file);
 
 }  // namespace vifanalysis

@@ -3,6 +3,7 @@
 #include "Sentence.h"
 #include "TextLineDiagnosis.h"
 
+#include <VIFContent.h>
 #include <VIFTextCheck.h>
 
 #include <cstddef>
@@ -38,7 +39,7 @@ Finding DescribeLostLine(const VifLineReport& report) {
 
 }  // namespace
 
-FileContent ReadTextFile(const std::filesystem::path& path) {
+FileContent ReadTextFile(const CheckedFile& file) {
   FileContent content;
   const auto takeLine = [&](const VifLineReport& report) {
     if (report.problem == eVifLineUnknownName) {
@@ -52,7 +53,11 @@ FileContent ReadTextFile(const std::filesystem::path& path) {
   const auto takeField = [&](std::size_t line, const CVIFField& field) {
     content.fields.push_back({field, line, 0, field.Name(), content.fields.size()});
   };
-  CheckTextVif(path, takeLine, nullptr, takeField);
+  if (file.content) {
+    CheckTextVifContent(*file.content, file.name, takeLine, nullptr, takeField);
+  } else {
+    CheckTextVif(file.name, takeLine, nullptr, takeField);
+  }
   return content;
 }
 

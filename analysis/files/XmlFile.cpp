@@ -3,6 +3,7 @@
 #include "Sentence.h"
 
 #include <BaseUtilities/Exceptions.h>
+#include <VIFContent.h>
 #include <VIFInvalidFile.h>
 #include <VIFXmlCheck.h>
 #include <analysis/Check.h>
@@ -59,20 +60,20 @@ bool IsUndefined(const CVIFField& field) {
   return FindDefined(field.Name()) == nullptr && !IsEmptyList(field) && !IsApplicationDescription(field);
 }
 
-bool CanBeRead(const std::filesystem::path& path) {
+bool CanBeRead(const CheckedFile& file) {
   try {
-    return !FirstUnreadableLine(path);
+    return file.content || !FirstUnreadableLine(file.name);
   } catch (const CZoRunTimeException&) {
     return false;
   }
 }
 
-Findings DescribeProblems(const std::vector<DOMDocProblem>& problems, const std::filesystem::path& path) {
+Findings DescribeProblems(const std::vector<DOMDocProblem>& problems, const CheckedFile& file) {
   if (problems.empty()) throw CCheckError("the file is not valid, but the reason is not known");
   // A reason without a place may be a read error, but MSXML gives no place for what breaks the schema, either.
   const bool hasPlace =
       std::any_of(problems.begin(), problems.end(), [](const DOMDocProblem& problem) { return problem.line != 0; });
-  if (!hasPlace && !CanBeRead(path)) throw CCheckError(problems.front().reason);
+  if (!hasPlace && !CanBeRead(file)) throw CCheckError(problems.front().reason);
   Findings findings;
   for (const DOMDocProblem& problem : problems) findings.push_back(DescribeProblem(problem));
   return findings;
@@ -81,11 +82,16 @@ Findings DescribeProblems(const std::vector<DOMDocProblem>& problems, const std:
 /// Follows the loading of one file.
 class CFollower {
  public:
-  FileContent Read(const std::filesystem::path& path) {
+  FileContent Read(const CheckedFile& file) {
+    const auto take = [this](const VifElementReport& report) { Take(report); };
     try {
-      CheckXmlVif(path, [this](const VifElementReport& report) { Take(report); });
+      if (file.content) {
+        CheckXmlVifContent(*file.content, file.name, take);
+      } else {
+        CheckXmlVif(file.name, take);
+      }
     } catch (const CVIFInvalidFile& error) {
-      return {{}, {}, DescribeProblems(error.Problems(), path), false};
+      return {{}, {}, DescribeProblems(error.Problems(), file), false};
     } catch (const CZoRunTimeException& error) {
       TakeFailure(error);
     } catch (const CZoDOMDocException& error) {
@@ -123,6 +129,6 @@ class CFollower {
 
 }  // namespace
 
-FileContent ReadXmlFile(const std::filesystem::path& path) { return CFollower().Read(path); }
+FileContent ReadXmlFile(const CheckedFile& file) { return CFollower().Read(file); }
 
 }  // namespace vifanalysis

@@ -4,11 +4,15 @@
 
 #ifdef _WIN32
 
+#include "BaseUtilities/SystemText.h"
 #include "CodePageWindows.h"
 
 namespace {
 
-UINT CodePageOfFiles() { return AreFileApisANSI() != 0 ? CP_ACP : CP_OEMCP; }
+UINT CodePageOfFiles() {
+  if (IsSystemTextUtf8()) return CP_UTF8;
+  return AreFileApisANSI() != 0 ? CP_ACP : CP_OEMCP;
+}
 
 }  // namespace
 

@@ -19,7 +19,9 @@ struct CDOMDoc::Content {
   CFileDocument document;
 
   /// Loads a file into a document; if that fails, `problems` has the reasons.
-  bool Load(const std::filesystem::path& path, CFileDocument& into);
+  /// \param source a path, or the bytes of a file
+  template <typename Source>
+  bool Load(const Source& source, CFileDocument& into);
 
   /// Whether a loaded document is valid; if not, `problems` has the reasons.
   bool Validate(CFileDocument& loaded);
@@ -41,9 +43,10 @@ void CheckRoot(CFileDocument& document, const std::string* namespaceUri, const s
 
 }  // namespace
 
-bool CDOMDoc::Content::Load(const std::filesystem::path& path, CFileDocument& into) {
+template <typename Source>
+bool CDOMDoc::Content::Load(const Source& source, CFileDocument& into) {
   xmlfile::CProblems found;
-  into.Load(path, found);
+  into.Load(source, found);
   problems = found.Take();
   return into.IsLoaded();
 }
@@ -81,6 +84,11 @@ bool CDOMDoc::ValidateDoc(const std::filesystem::path& file) {
   m_content->file = file;
   if (!ParseDoc()) return false;
   return m_content->document.IsLoaded() && m_content->Validate(m_content->document);
+}
+
+bool CDOMDoc::ValidateContent(std::string_view content) {
+  m_content->file.clear();
+  return m_content->Load(content, m_content->document) && m_content->Validate(m_content->document);
 }
 
 DOMElementPtr CDOMDoc::GetRootElement() const {

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -59,6 +60,9 @@ class ZO_API CDOMDoc {
   /// \throws CZoDOMDocException "Couldn't load the schema <file>: <reason>" when a schema file is missing or broken,
   ///   and std::bad_alloc
   bool ValidateDoc(const std::filesystem::path& file);
+
+  /// The same for the content of a file, in memory. `ParseDoc` has no file afterwards.
+  bool ValidateContent(std::string_view content);
 
   /// The root element; empty when nothing has been loaded.
   DOMElementPtr GetRootElement() const;

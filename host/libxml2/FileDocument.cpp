@@ -23,6 +23,11 @@ struct CFileDocument::Content {
     return *places;
   }
 
+  void Clear() {
+    places = nullptr;
+    document->SetTree(nullptr);
+  }
+
   CComPointer<libxml2::CDomDocument> document;
   std::unique_ptr<const CElementPlaces> places;  // created on first use
 };
@@ -34,9 +39,13 @@ CFileDocument::~CFileDocument() = default;
 IXMLDOMDocument2& CFileDocument::Document() const { return *m_content->document; }
 
 void CFileDocument::Load(const std::filesystem::path& file, CProblems& problems) {
-  m_content->places = nullptr;
-  m_content->document->SetTree(nullptr);
+  m_content->Clear();
   m_content->document->SetTree(libxml2::ParseXmlFile(file, problems));
+}
+
+void CFileDocument::Load(std::string_view content, CProblems& problems) {
+  m_content->Clear();
+  m_content->document->SetTree(libxml2::ParseXml(ReadFileText(content, problems), problems));
 }
 
 bool CFileDocument::IsLoaded() const { return m_content->document->Tree() != nullptr; }

@@ -3,7 +3,6 @@
 #include "libxml2/Errors.h"
 #include "libxml2/XmlText.h"
 #include "xmlfile/Bounds.h"
-#include "xmlfile/FileText.h"
 #include "xmlfile/Limits.h"
 
 #include <libxml/SAX2.h>
@@ -151,7 +150,10 @@ DocumentPointer Parse(Run& run) {
 }  // namespace
 
 std::shared_ptr<const CXmlTree> ParseXmlFile(const std::filesystem::path& path, xmlfile::CProblems& problems) {
-  std::optional<xmlfile::FileText> file = xmlfile::ReadFileText(path, problems);
+  return ParseXml(xmlfile::ReadFileText(path, problems), problems);
+}
+
+std::shared_ptr<const CXmlTree> ParseXml(std::optional<xmlfile::FileText> file, xmlfile::CProblems& problems) {
   if (!file) return nullptr;
   const xmlfile::Bounds bounds = xmlfile::CheckBounds(*file);
   const std::string_view bytes = std::string_view(file->bytes).substr(0, file->ByteOffset(bounds.end));

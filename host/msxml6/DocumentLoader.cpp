@@ -97,6 +97,30 @@ VARIANT Number(LONG value) {
   return variant;
 }
 
+/// Loads the text of a file into an empty document; if that fails, the document is still empty.
+/// \param file nothing if it could not be read, which is a problem already
+std::optional<xmlfile::FileText> LoadText(IXMLDOMDocument2& document, std::optional<xmlfile::FileText> file,
+                                          xmlfile::CProblems& problems) {
+  if (!file) return std::nullopt;
+  const xmlfile::Bounds bounds = xmlfile::CheckBounds(*file);
+  const MarkupFindings markup = CheckMarkup(*file, bounds.end);
+  if (const auto& problem = markup.problem ? markup.problem : bounds.problem; problem) {
+    problems.Add(problem->line, problem->column, problem->element, problem->reason);
+    return std::nullopt;
+  }
+  if (!LoadBytes(document, file->bytes, markup.mismatch, problems)) return std::nullopt;
+  if (HasDocumentType(document)) {
+    problems.Add(0, 0, {}, xmlfile::kDocumentTypeReason);
+  } else if (bounds.tagCount == 0) {
+    // Only in a document whose encoding was misjudged can there be no tags, and so no bounds.
+    problems.Add(0, 0, {}, "The encoding of the file is not supported here.");
+  } else {
+    return file;
+  }
+  Clear(document);
+  return std::nullopt;
+}
+
 }  // namespace
 
 DOMDocument2Ptr MakeDocument() {
@@ -117,25 +141,13 @@ DOMDocument2Ptr MakeDocument() {
 std::optional<xmlfile::FileText> LoadFile(IXMLDOMDocument2& document, const std::filesystem::path& path,
                                           xmlfile::CProblems& problems) {
   Clear(document);  // before anything can fail
-  std::optional<xmlfile::FileText> file = xmlfile::ReadFileText(path, problems);
-  if (!file) return std::nullopt;
-  const xmlfile::Bounds bounds = xmlfile::CheckBounds(*file);
-  const MarkupFindings markup = CheckMarkup(*file, bounds.end);
-  if (const auto& problem = markup.problem ? markup.problem : bounds.problem; problem) {
-    problems.Add(problem->line, problem->column, problem->element, problem->reason);
-    return std::nullopt;
-  }
-  if (!LoadBytes(document, file->bytes, markup.mismatch, problems)) return std::nullopt;
-  if (HasDocumentType(document)) {
-    problems.Add(0, 0, {}, xmlfile::kDocumentTypeReason);
-  } else if (bounds.tagCount == 0) {
-    // Only in a document whose encoding was misjudged can there be no tags, and so no bounds.
-    problems.Add(0, 0, {}, "The encoding of the file is not supported here.");
-  } else {
-    return file;
-  }
+  return LoadText(document, xmlfile::ReadFileText(path, problems), problems);
+}
+
+std::optional<xmlfile::FileText> LoadContent(IXMLDOMDocument2& document, std::string_view content,
+                                             xmlfile::CProblems& problems) {
   Clear(document);
-  return std::nullopt;
+  return LoadText(document, xmlfile::ReadFileText(content, problems), problems);
 }
 
 std::optional<DOMDocProblem> ProblemOf(IXMLDOMParseError& error) {

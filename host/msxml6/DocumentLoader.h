@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <string_view>
 
 namespace msxml6 {
 
@@ -22,6 +23,10 @@ DOMDocument2Ptr MakeDocument();
 /// \throws _com_error
 std::optional<xmlfile::FileText> LoadFile(IXMLDOMDocument2& document, const std::filesystem::path& path,
                                           xmlfile::CProblems& problems);
+
+/// The same for the content of a file.
+std::optional<xmlfile::FileText> LoadContent(IXMLDOMDocument2& document, std::string_view content,
+                                             xmlfile::CProblems& problems);
 
 /// The error that MSXML reports; its reason may be empty. Nothing when there is no error.
 std::optional<DOMDocProblem> ProblemOf(IXMLDOMParseError& error);

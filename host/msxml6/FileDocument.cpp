@@ -16,6 +16,11 @@ struct CFileDocument::Content {
   std::optional<FileText> file;            // the text that the document was loaded from
   std::unique_ptr<CElementPlaces> places;  // created on first use
 
+  void Clear() {
+    places = nullptr;
+    file.reset();
+  }
+
   CElementPlaces& Places() {
     if (places == nullptr) places = std::make_unique<CElementPlaces>(*document, FindTags(*file));
     return *places;
@@ -29,9 +34,13 @@ CFileDocument::~CFileDocument() = default;
 IXMLDOMDocument2& CFileDocument::Document() const { return *m_content->document; }
 
 void CFileDocument::Load(const std::filesystem::path& file, CProblems& problems) {
-  m_content->places = nullptr;
-  m_content->file.reset();
+  m_content->Clear();
   m_content->file = msxml6::LoadFile(Document(), file, problems);
+}
+
+void CFileDocument::Load(std::string_view content, CProblems& problems) {
+  m_content->Clear();
+  m_content->file = msxml6::LoadContent(Document(), content, problems);
 }
 
 bool CFileDocument::IsLoaded() const { return m_content->file.has_value(); }

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace xmlfile {
@@ -30,6 +31,9 @@ class CFileDocument {
 
   /// Loads a file; if there are problems, the document is empty.
   void Load(const std::filesystem::path& file, CProblems& problems);
+
+  /// The same for the content of a file.
+  void Load(std::string_view content, CProblems& problems);
 
   bool IsLoaded() const;
 

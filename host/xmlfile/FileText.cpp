@@ -32,26 +32,49 @@ bool HasNul(std::string_view bytes, std::size_t from) {
   return false;
 }
 
-/// Reads a file to its end, or until shortly after the first NUL: a file that contains one is useless, and an endless
-/// one may consist of nothing else.
-/// \return the error as the end of a sentence; empty if there is none
-std::string ReadBytes(const std::filesystem::path& path, std::string& bytes) {
+/// Reads to the end, or until shortly after the first NUL: content with a NUL is useless, and an endless file may
+/// consist of nothing else.
+/// \param expectedSize in bytes; 0 when unknown
+/// \param read as `CInputFile::Read`
+/// \return false when there is too much
+template <typename Read>
+bool ReadPieces(std::size_t expectedSize, const Read& read, std::string& bytes) {
   constexpr std::size_t least = std::size_t{1} << 16;
   constexpr std::size_t most = std::size_t{1} << 20;
-  CInputFile file(path);
-  if (!file.IsOpen()) return file.Error();
   // One byte more, so that the first read shows that there is nothing left.
-  const std::size_t size = file.ExpectedSize();
-  const auto chunk = static_cast<int>(size != 0 ? std::min(size, most) + 1 : least);
+  const auto chunk = static_cast<int>(expectedSize != 0 ? std::min(expectedSize, most) + 1 : least);
   for (;;) {
     const std::size_t before = bytes.size();
-    if (before > kLargestFile) return "is too large";
+    if (before > kLargestFile) return false;
     bytes.resize(before + static_cast<std::size_t>(chunk));
-    const int count = CInputFile::Read(&file, bytes.data() + before, chunk);
+    const int count = read(bytes.data() + before, chunk);
     bytes.resize(before + static_cast<std::size_t>(std::max(count, 0)));
-    if (file.HasFailed()) return file.Error();
-    if (count < chunk || HasNul(bytes, before)) return {};
+    if (count < chunk || HasNul(bytes, before)) return true;
   }
+}
+
+constexpr const char* kTooLarge = "is too large";
+
+/// Reads a file.
+/// \return the error as the end of a sentence; empty if there is none
+std::string ReadBytes(const std::filesystem::path& path, std::string& bytes) {
+  CInputFile file(path);
+  if (!file.IsOpen()) return file.Error();
+  const auto read = [&](char* buffer, int length) { return CInputFile::Read(&file, buffer, length); };
+  const bool isRead = ReadPieces(file.ExpectedSize(), read, bytes);
+  if (file.HasFailed()) return file.Error();
+  return isRead ? "" : kTooLarge;
+}
+
+/// Reads bytes in memory in the pieces that a file is read in, so that as much is read after a NUL.
+std::string ReadBytes(std::string_view content, std::string& bytes) {
+  const std::size_t size = content.size();
+  const auto read = [&](char* buffer, int length) {
+    const std::size_t count = content.copy(buffer, static_cast<std::size_t>(length));
+    content.remove_prefix(count);
+    return static_cast<int>(count);
+  };
+  return ReadPieces(size, read, bytes) ? "" : kTooLarge;
 }
 
 /// An unpaired surrogate becomes a replacement character.
@@ -126,20 +149,11 @@ std::string UnsupportedEncoding(std::string_view bytes, Form form, const std::st
   return isUtf16 && !hasMark ? "UTF-16" : "";
 }
 
-}  // namespace
-
-std::size_t FileText::ByteOffset(std::size_t offset) const {
-  if (decoded.empty()) return mark + offset;
-  const std::string_view before = Text().substr(0, offset);
-  const auto isFirst = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
-  const auto isPair = [](char c) { return static_cast<unsigned char>(c) >= 0xF0; };
-  const auto count = [&](auto isCounted) { return std::count_if(before.begin(), before.end(), isCounted); };
-  return mark + 2 * static_cast<std::size_t>(count(isFirst) + count(isPair));
-}
-
-std::optional<FileText> ReadFileText(const std::filesystem::path& path, CProblems& problems) {
+/// \param content a path, or bytes in memory
+template <typename Content>
+std::optional<FileText> Decode(const Content& content, CProblems& problems) {
   FileText file;
-  if (const std::string error = ReadBytes(path, file.bytes); !error.empty()) {
+  if (const std::string error = ReadBytes(content, file.bytes); !error.empty()) {
     problems.Add(0, 0, {}, "The file " + error + ".");
     return std::nullopt;
   }
@@ -168,6 +182,25 @@ std::optional<FileText> ReadFileText(const std::filesystem::path& path, CProblem
     }
   }
   return file;
+}
+
+}  // namespace
+
+std::size_t FileText::ByteOffset(std::size_t offset) const {
+  if (decoded.empty()) return mark + offset;
+  const std::string_view before = Text().substr(0, offset);
+  const auto isFirst = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
+  const auto isPair = [](char c) { return static_cast<unsigned char>(c) >= 0xF0; };
+  const auto count = [&](auto isCounted) { return std::count_if(before.begin(), before.end(), isCounted); };
+  return mark + 2 * static_cast<std::size_t>(count(isFirst) + count(isPair));
+}
+
+std::optional<FileText> ReadFileText(const std::filesystem::path& path, CProblems& problems) {
+  return Decode(path, problems);
+}
+
+std::optional<FileText> ReadFileText(std::string_view content, CProblems& problems) {
+  return Decode(content, problems);
 }
 
 }  // namespace xmlfile

@@ -35,4 +35,7 @@ struct FileText {
 /// \return nothing when there is a problem
 std::optional<FileText> ReadFileText(const std::filesystem::path& path, CProblems& problems);
 
+/// The same for bytes in memory, with the same result as for a file of these bytes.
+std::optional<FileText> ReadFileText(std::string_view content, CProblems& problems);
+
 }  // namespace xmlfile

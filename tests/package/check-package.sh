@@ -140,7 +140,7 @@ EOF
       fail 'the global names that the headers declare differ from tests/package/names/global-names.txt'
     ;;
   ExportsOnlyWhatIsIntended)
-    for library in VendorInfoFile VendorInfoFileAnalysis VendorInfoFileHost; do
+    for library in VendorInfoFile VendorInfoFileAnalysis VendorInfoFileHost vif; do
       exported_by "$library" >"$work/$library.txt"
       [ -s "$work/$library.txt" ] || fail "$library exports nothing"
       # A DLL exports whole classes, and the list has the type names of 64-bit systems.
@@ -154,7 +154,7 @@ EOF
     ;;
   ExportsNoUniqueSymbols)
     [ -z "$EMULATOR" ] || { echo 'SKIPPED: Windows has no unique symbols'; exit; }
-    for library in VendorInfoFile VendorInfoFileAnalysis VendorInfoFileHost; do
+    for library in VendorInfoFile VendorInfoFileAnalysis VendorInfoFileHost vif; do
       ! nm -DC --defined-only "$lib/lib$library.so" | grep ' u ' ||
         fail "the symbols above keep $library from being unloaded"
     done
@@ -163,7 +163,7 @@ EOF
     [ -z "$EMULATOR" ] || { echo 'SKIPPED: the name of a DLL has no version'; exit; }
     abi=${VERSION%%.*}
     [ "$abi" != 0 ] || abi=${VERSION%.*}
-    for library in VendorInfoFile VendorInfoFileAnalysis VendorInfoFileHost; do
+    for library in VendorInfoFile VendorInfoFileAnalysis VendorInfoFileHost vif; do
       readelf -d "$lib/lib$library.so" | grep -qF "[lib$library.so.$abi]" || fail "$library is not named for ABI $abi"
       [ -z "$(nm -D --defined-only "$lib/lib$library.so" | grep -vE "(@@| A )${library^^}_$abi\$")" ] ||
         fail "$library has symbols without the version $abi"
