@@ -15,6 +15,9 @@ namespace vifanalysis {
 /// \throws CZoRunTimeException when it cannot be opened
 VIF_ANALYSIS_API std::optional<std::size_t> FirstUnreadableLine(const std::filesystem::path& path);
 
+/// Whether all of a file can be read, whatever it holds; false for anything but a regular file.
+VIF_ANALYSIS_API bool CanBeRead(const std::filesystem::path& path);
+
 /// Whether a path has that extension in any letter case.
 /// \param extension in lower case, with its dot
 VIF_ANALYSIS_API bool HasExtension(const std::filesystem::path& path, std::string_view extension);

@@ -3,12 +3,12 @@
 #include "Guard.h"
 #include "Utf8.h"
 
+#include <BaseUtilities/Exceptions.h>
 #include <analysis/Check.h>
 #include <analysis/Files.h>
 
 #include <functional>
 #include <memory>
-#include <system_error>
 #include <utility>
 
 namespace vifc {
@@ -35,11 +35,10 @@ CheckOptions OptionsOf(const vif_check_options* given) {
 
 /// The status of a failure to check that only its message tells.
 vif_status CheckStatus(const std::filesystem::path& path, bool isInMemory) {
-  std::error_code error;
-  const bool isMissing = std::filesystem::status(path, error).type() == std::filesystem::file_type::not_found;
-  if (isMissing && !isInMemory) return VIF_ERROR_NO_FILE;
+  if (!isInMemory && IsMissing(path)) return VIF_ERROR_NO_FILE;
   const bool hasForm = vifanalysis::HasExtension(path, ".txt") || vifanalysis::HasExtension(path, ".xml");
-  return hasForm ? VIF_ERROR_FILE : VIF_ERROR_FORM;
+  if (!hasForm) return VIF_ERROR_FORM;
+  return isInMemory ? VIF_ERROR_INTERNAL : VIF_ERROR_FILE;
 }
 
 /// \param check gets the path and the options
@@ -57,6 +56,8 @@ vif_status GiveFindings(const char* name, bool isInMemory, const vif_check_optio
     try {
       made = std::make_unique<vif_findings>(check(path, OptionsOf(options)));
     } catch (const vifanalysis::CCheckError& failure) {
+      throw CFailure(CheckStatus(path, isInMemory), failure.what());
+    } catch (const CZoRunTimeException& failure) {  // it cannot be opened
       throw CFailure(CheckStatus(path, isInMemory), failure.what());
     }
     progress(1, 1);

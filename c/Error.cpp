@@ -124,7 +124,7 @@ const char* vif_status_text(vif_status status) {
   return status >= 0 && status < count ? vifc::kStatusTexts[status] : "unknown status";
 }
 
-vif_status vif_error_status(const vif_error* error) { return error != nullptr ? error->status : VIF_ERROR_HANDLE; }
+vif_status vif_error_status(const vif_error* error) { return error != nullptr ? error->status : VIF_OK; }
 
 const char* vif_error_message(const vif_error* error) { return error != nullptr ? error->message : ""; }
 

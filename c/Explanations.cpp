@@ -82,7 +82,7 @@ vif_status vif_explanation_value(const vif_explanation* explanation, size_t posi
   if (position >= explanation->content.values.size()) return VIF_ERROR_ARGUMENT;
   const vifanalysis::ExplainedValue& found = explanation->content.values[position];
   return vifc::HandOut(vif_explained_value{0, found.value.c_str(), found.text.c_str(), vifc::TextOf(found.confidence),
-                                           found.seen ? 1 : 0},
+                                           found.seen ? 1 : 0, 0},
                        value);
 }
 

@@ -11,7 +11,6 @@
 #include <VIFProgress.h>
 #include <analysis/Files.h>
 
-#include <system_error>
 #include <utility>
 
 namespace vifc {
@@ -21,9 +20,7 @@ namespace {
 /// The status of a failure to load that only its message tells.
 /// \param isInMemory whether no file was opened
 vif_status LoadStatus(const std::filesystem::path& path, bool isInMemory) {
-  std::error_code error;
-  const bool isMissing = std::filesystem::status(path, error).type() == std::filesystem::file_type::not_found;
-  if (isMissing && !isInMemory) return VIF_ERROR_NO_FILE;
+  if (!isInMemory && IsMissing(path)) return VIF_ERROR_NO_FILE;
   if (vifanalysis::HasExtension(path, ".xml")) return VIF_ERROR_SCHEMA;  // it admits what cannot be read
   if (!vifanalysis::HasExtension(path, ".txt")) return VIF_ERROR_FORM;
   return isInMemory ? VIF_ERROR_INTERNAL : VIF_ERROR_FILE;
@@ -55,7 +52,9 @@ void LoadInto(vif_file& handle, const std::filesystem::path& path, bool isInMemo
   FileContent content = handle.content;
   try {
     load(content.file, observer);
-  } catch (const CVIFInvalidFile&) {
+  } catch (const CVIFInvalidFile& failure) {
+    // To the reader of XML, what cannot be read is not valid either.
+    if (!isInMemory && !vifanalysis::CanBeRead(path)) throw CFailure(VIF_ERROR_FILE, failure.what());
     throw;
   } catch (const CZoRunTimeException& failure) {
     throw CFailure(LoadStatus(path, isInMemory), failure.what());

@@ -10,7 +10,9 @@
 #include <cstddef>
 #include <cstring>
 #include <exception>
+#include <filesystem>
 #include <string>
+#include <system_error>
 
 namespace vifc {
 
@@ -48,6 +50,12 @@ class CFileScope {
   CComApartment m_com;
 };
 
+/// Whether there is no file of that name.
+inline bool IsMissing(const std::filesystem::path& path) {
+  std::error_code error;
+  return std::filesystem::status(path, error).type() == std::filesystem::file_type::not_found;
+}
+
 /// \throws CFailure with VIF_ERROR_ARGUMENT
 inline void Require(bool condition, const char* what) {
   if (!condition) throw CFailure(VIF_ERROR_ARGUMENT, what);
@@ -68,23 +76,26 @@ vif_status StatusOf(const Handle* handle) noexcept {
   return IsUsable(handle) ? VIF_OK : VIF_ERROR_HANDLE;
 }
 
+/// The size that a structure had in the first version that had it. To be specialised when it gets more members.
+template <typename Structure>
+inline constexpr std::size_t kFirstSize = sizeof(Structure);
+
 /// The options that a caller gives: the members that both know, the rest as in a new structure. Null means none are
 /// given.
-/// \throws CFailure when the size is too small for the first members
+/// \throws CFailure when the size is smaller than that of the first version
 template <typename Structure>
 Structure TakeIn(const Structure* given) {
   Structure structure = {};
   if (given == nullptr) return structure;
-  Require(given->size > sizeof(given->size), "the size of a structure is too small");
+  Require(given->size >= kFirstSize<Structure>, "the size of a structure is too small");
   std::memcpy(&structure, given, given->size < sizeof(structure) ? given->size : sizeof(structure));
   return structure;
 }
 
 /// Fills in a caller's structure as far as it reaches. Members that only the caller knows become 0.
-/// \param least the size that the structure had in the first version
 template <typename Structure>
-vif_status HandOut(Structure filled, Structure* wanted, std::size_t least = sizeof(Structure)) noexcept {
-  if (wanted == nullptr || wanted->size < least) return VIF_ERROR_ARGUMENT;
+vif_status HandOut(Structure filled, Structure* wanted) noexcept {
+  if (wanted == nullptr || wanted->size < kFirstSize<Structure>) return VIF_ERROR_ARGUMENT;
   const std::size_t size = wanted->size;
   if (size > sizeof(filled)) std::memset(static_cast<void*>(wanted), 0, size);
   filled.size = size;

@@ -18,7 +18,8 @@ void Give(const vifanalysis::RuleInfo& found, vif_rule* rule) {
                            vifanalysis::ConfidenceText(found.confidence).data(),  // a literal, which ends with a NUL
                            static_cast<int32_t>(found.severity),
                            found.first.major,
-                           found.first.minor};
+                           found.first.minor,
+                           0};
   Require(HandOut(filled, rule) == VIF_OK, "the rule is NULL, or its size is too small");
 }
 

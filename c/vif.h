@@ -22,16 +22,17 @@
  * the end; the library then fills in, or reads, only the members that the caller has.
  *
  * Texts are UTF-8 and end with a NUL, names of files included, on Windows too. Outside Windows, any bytes that name a
- * file will do. In texts that come from the library, bytes of a file that are not UTF-8 appear as U+FFFD, and so do
- * NULs. Texts belong to the library; the comment of the structure or the function says how long they last. They are
- * never NULL, except where it says so. The texts that are passed in are borrowed for the call, and none may be NULL
- * except where it says so.
+ * file will do. In texts that come from the library, bytes of a file that are not UTF-8 appear as U+FFFD; the text of a
+ * field ends before a NUL, and in other texts NULs appear as U+FFFD, too. Texts belong to the library; the comment of
+ * the structure or the function says how long they last. They are never NULL, except where it says so. The texts that
+ * are passed in are borrowed for the call, and none may be NULL except where it says so.
  *
- * Most functions return VIF_OK or say with another status what is wrong. Then nothing has changed, outputs are NULL, 0
- * or as they were, and the output of type vif_error says more, unless the caller passed NULL for it. On success that
- * output is set to NULL. So is every output that is a handle when the call fails. Any function may return
+ * Most functions return VIF_OK or say with another status what is wrong. Then nothing has changed, outputs are NULL, 0,
+ * VIF_NO_POSITION or as they were, and the output of type vif_error says more, unless the caller passed NULL for it. On
+ * success that output is set to NULL. So is every output that is a handle when the call fails. Any function may return
  * VIF_ERROR_ARGUMENT, VIF_ERROR_HANDLE, and, unless it says that it does not allocate, VIF_ERROR_MEMORY. No exception
- * leaves a function.
+ * leaves a function. Memory that runs out inside libxml2, or while the first message of a thread is made, may end the
+ * process.
  *
  * Any number of threads may call functions at once. Several may read one handle; while one changes it or frees it, no
  * other may use it. A handle may be used on another thread than the one it was made on. On Windows, functions
@@ -51,6 +52,13 @@
 #define VIF_C_API __attribute__((visibility("default")))
 #else
 #define VIF_C_API
+#endif
+
+/* The greatest number of an unsigned type. C++98 does not have the limits of <stdint.h>. */
+#ifdef __cplusplus
+#define VIF_ALL_BITS(type) (static_cast<type>(~static_cast<type>(0)))
+#else
+#define VIF_ALL_BITS(type) ((type)-1)
 #endif
 
 #ifdef __cplusplus
@@ -105,7 +113,8 @@ typedef struct vif_reason {
   const char* text;    /* a sentence for people, on one line */
 } vif_reason;
 
-/* The status with which the call that made the error failed. VIF_ERROR_HANDLE for NULL. Does not allocate. */
+/* The status with which the call that made the error failed. VIF_OK for NULL, which stands for no error. Does not
+ * allocate. */
 VIF_C_API vif_status vif_error_status(const vif_error* error);
 
 /* What went wrong, a sentence for people. Empty for NULL. It lasts as long as the error. Does not allocate. */
@@ -159,13 +168,13 @@ enum {
 VIF_C_API const char* vif_location_name(int32_t location);
 
 /* The number of a group that has none; in a query, any number. */
-#define VIF_ANY_NUMBER UINT64_MAX
+#define VIF_ANY_NUMBER VIF_ALL_BITS(uint64_t)
 
 /* A field's number when its value is not a number. */
-#define VIF_NO_NUMBER UINT64_MAX
+#define VIF_NO_NUMBER VIF_ALL_BITS(uint64_t)
 
 /* A position that does not exist. */
-#define VIF_NO_POSITION SIZE_MAX
+#define VIF_NO_POSITION VIF_ALL_BITS(size_t)
 
 /* How many groups a field can be in, one inside the other. */
 #define VIF_INDEX_COUNT 3
@@ -204,9 +213,9 @@ VIF_C_API void vif_file_free(vif_file* file);
  * ".txt" as a text VIF, which is one component, ".xml" as an XML VIF. If a text file cannot be read to its end, the
  * fields up to there are loaded; vif_check_file reports that.
  *
- * progress, which may be NULL, is called with numbers of bytes: for a text file about every 64 kB; for an XML file,
- * whose parsing and validation cannot be interrupted, at its start, when it is valid, and after about every 1,000
- * fields; and at the end.
+ * progress, which may be NULL, is called with numbers of bytes: for a text file between lines, about every 64 kB; for
+ * an XML file, whose parsing and validation cannot be interrupted, at its start, when it is valid, and after about
+ * every 1,000 fields; and at the end.
  *
  * Returns VIF_ERROR_NO_FILE, VIF_ERROR_FILE, VIF_ERROR_FORM, VIF_ERROR_INVALID, VIF_ERROR_SCHEMA, VIF_ERROR_CANCELLED,
  * VIF_ERROR_SYSTEM. */
@@ -252,9 +261,9 @@ typedef struct vif_quantity {
 } vif_quantity;
 
 /* What the number of the field at a position amounts to: 180 as the voltage of a fixed PDO is 9000 mV. That may depend
- * on the other fields of its PDO and on the edition of the format that the file names. VIF_ERROR_ARGUMENT if there is
- * no such field, VIF_ERROR_NOT_FOUND if it has no number or its unit is not known. Takes time that grows with the
- * number of fields. */
+ * on the other fields of its PDO and on the edition of the format, unless the files that were loaded name different
+ * ones. VIF_ERROR_ARGUMENT if there is no such field, VIF_ERROR_NOT_FOUND if it has no number or its unit is not known.
+ * Takes time that grows with the number of fields. */
 VIF_C_API vif_status vif_file_quantity(const vif_file* file, size_t position, vif_quantity* quantity,
                                        vif_error** error);
 
@@ -347,6 +356,7 @@ typedef struct vif_finding {
   size_t position;     /* of the field that it is about, in a file that only this one was loaded into; VIF_NO_POSITION
                         * when it is not about a field that is loaded */
   int32_t severity;    /* one of the above */
+  int32_t reserved;    /* 0 */
 } vif_finding;
 
 /* Checks whether a file is well-formed and whether what it declares is consistent. A file that is not a valid VIF has
@@ -378,6 +388,7 @@ enum { VIF_CHANGED = 0, VIF_ADDED = 1, VIF_REMOVED = 2, VIF_MOVED = 3, VIF_RENUM
 typedef struct vif_compare_options {
   size_t size;
   int32_t descriptions; /* whether fields with the same value but other descriptions differ, too: 1 or 0 */
+  int32_t reserved;     /* 0 */
 } vif_compare_options;
 
 /* How a second file differs from a first. */
@@ -530,6 +541,7 @@ typedef struct vif_explained_value {
   const char* text;       /* what it stands for */
   const char* confidence; /* "high", "medium" or "low" */
   int32_t seen;           /* 1 if a real file is known that has it, else 0 */
+  int32_t reserved;       /* 0 */
 } vif_explained_value;
 
 typedef struct vif_explained_spelling {
@@ -575,6 +587,7 @@ typedef struct vif_rule {
   int32_t severity;       /* of its findings */
   uint32_t first_major;   /* the first edition of the format that it is applied to, as 3 and 22 for 3.22; 0 and 0 for */
   uint32_t first_minor;   /* every file */
+  uint32_t reserved;      /* 0 */
 } vif_rule;
 
 /* How many rules there are; 0 if memory runs out. */

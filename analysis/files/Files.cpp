@@ -1,3 +1,4 @@
+#include <BaseUtilities/Exceptions.h>
 #include <BaseUtilities/StringConvert.h>
 #include <VIFTextCheck.h>
 #include <analysis/Files.h>
@@ -19,6 +20,14 @@ bool HasExtension(const std::filesystem::path& path, std::string_view extension)
   std::string text(given.begin(), given.end());
   ToLower(text);
   return text == extension;
+}
+
+bool CanBeRead(const std::filesystem::path& path) {
+  try {
+    return !FirstUnreadableLine(path);
+  } catch (const CZoRunTimeException&) {
+    return false;
+  }
 }
 
 }  // namespace vifanalysis

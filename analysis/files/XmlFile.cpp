@@ -60,20 +60,12 @@ bool IsUndefined(const CVIFField& field) {
   return FindDefined(field.Name()) == nullptr && !IsEmptyList(field) && !IsApplicationDescription(field);
 }
 
-bool CanBeRead(const CheckedFile& file) {
-  try {
-    return file.content || !FirstUnreadableLine(file.name);
-  } catch (const CZoRunTimeException&) {
-    return false;
-  }
-}
-
 Findings DescribeProblems(const std::vector<DOMDocProblem>& problems, const CheckedFile& file) {
   if (problems.empty()) throw CCheckError("the file is not valid, but the reason is not known");
   // A reason without a place may be a read error, but MSXML gives no place for what breaks the schema, either.
   const bool hasPlace =
       std::any_of(problems.begin(), problems.end(), [](const DOMDocProblem& problem) { return problem.line != 0; });
-  if (!hasPlace && !CanBeRead(file)) throw CCheckError(problems.front().reason);
+  if (!hasPlace && !file.content && !CanBeRead(file.name)) throw CCheckError(problems.front().reason);
   Findings findings;
   for (const DOMDocProblem& problem : problems) findings.push_back(DescribeProblem(problem));
   return findings;

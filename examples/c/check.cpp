@@ -45,8 +45,8 @@ int main(int argc, char** argv) {
   }
   for (size_t i = 0; i < findings.Count(); ++i) {
     const vif_finding finding = findings.At(i);
-    std::printf("line %lu: %s: %s [%s]\n", static_cast<unsigned long>(finding.line), SeverityOf(finding),
-                finding.message, finding.code);
+    std::printf("line %lu: %s: %s [%s]%s\n", static_cast<unsigned long>(finding.line), SeverityOf(finding),
+                finding.message, finding.code, finding.position == VIF_NO_POSITION ? " (no field)" : "");
   }
   return findings.Count() == 0 ? 0 : 1;
 }

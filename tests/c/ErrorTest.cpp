@@ -31,7 +31,7 @@ TEST(CErrorTest, SuccessClearsAnEarlierError) {
 }
 
 TEST(CErrorTest, NullIsNoError) {
-  EXPECT_EQ(vif_error_status(nullptr), VIF_ERROR_HANDLE);
+  EXPECT_EQ(vif_error_status(nullptr), VIF_OK);
   EXPECT_STREQ(vif_error_message(nullptr), "");
   EXPECT_EQ(vif_error_reason_count(nullptr), 0U);
   auto reason = Sized<vif_reason>();

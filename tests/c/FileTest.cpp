@@ -109,6 +109,11 @@ TEST_F(CFileTest, ADirectoryIsRefused) {
   EXPECT_EQ(m_error.Message(), "Couldn't open Vendor Info File: " + Path("folder.txt") + ".");
 }
 
+TEST_F(CFileTest, ADirectoryNamedAsXmlIsRefused) {
+  std::filesystem::create_directory(Path("folder.xml"));
+  ExpectRefused(Path("folder.xml"), VIF_ERROR_FILE);
+}
+
 TEST_F(CFileTest, APathThatCannotBeExaminedIsRefused) {
 #ifdef _WIN32
   constexpr vif_status status = VIF_ERROR_NO_FILE;  // no file can have a name that is too long

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 
 namespace {
@@ -28,6 +29,12 @@ struct LaterField {
   std::uint64_t later;
 };
 
+/// Options as a later version might have them.
+struct LaterOptions {
+  vif_check_options options;
+  std::uint64_t later;
+};
+
 TEST(CStructureTest, MembersThatTheLibraryDoesNotKnowBecomeZero) {
   const FilePointer file = FileOf("PID: 1\n");
   LaterField field;
@@ -39,14 +46,44 @@ TEST(CStructureTest, MembersThatTheLibraryDoesNotKnowBecomeZero) {
   EXPECT_EQ(field.later, 0U);
 }
 
-TEST(CStructureTest, OptionsThatTheCallerDoesNotKnowAreNotRead) {
-  vif_check_options options;
-  std::memset(&options, 0xFF, sizeof(options));
-  options.size = offsetof(vif_check_options, only);
-  options.notes = 0;
+/// The status of checking with options of that size.
+vif_status CheckWithSize(std::size_t size) {
+  LaterOptions options = {};
+  options.options.size = size;
   vif_findings* findings = nullptr;
-  ASSERT_EQ(vif_check_bytes("PID: 1\n", 7, "a.txt", &options, nullptr, &findings, nullptr), VIF_OK);
+  const vif_status status = vif_check_bytes("PID: 1\n", 7, "a.txt", &options.options, nullptr, &findings, nullptr);
   vif_findings_free(findings);
+  return status;
+}
+
+TEST(CStructureTest, OptionsOfEverySmallerSizeAreRefused) {
+  for (std::size_t size = 0; size < sizeof(vif_check_options); ++size) {
+    EXPECT_EQ(CheckWithSize(size), VIF_ERROR_ARGUMENT) << size;
+  }
+}
+
+TEST(CStructureTest, OptionsThatTheLibraryDoesNotKnowAreNotRead) {
+  EXPECT_EQ(CheckWithSize(sizeof(vif_check_options)), VIF_OK);
+  EXPECT_EQ(CheckWithSize(sizeof(LaterOptions)), VIF_OK);
+}
+
+int32_t NeverCalled(void*, uint64_t, uint64_t) {
+  ADD_FAILURE() << "half a pointer was called";
+  return 0;
+}
+
+TEST(CStructureTest, HalfAPointerIsNeverUsed) {
+  for (std::size_t size = 0; size < sizeof(vif_progress); ++size) {
+    const vif_progress progress = {size, NeverCalled, nullptr};
+    vif_findings* findings = nullptr;
+    EXPECT_EQ(vif_check_bytes("", 0, "a.txt", nullptr, &progress, &findings, nullptr), VIF_ERROR_ARGUMENT) << size;
+  }
+  const FilePointer file = FileOf("PID: 1\n");
+  for (std::size_t size = 0; size < sizeof(vif_reported_file); ++size) {
+    const vif_reported_file reported = {size, file.get(), nullptr, nullptr};
+    vif_text* page = nullptr;
+    EXPECT_EQ(vif_report(&reported, nullptr, nullptr, &page, nullptr), VIF_ERROR_ARGUMENT) << size;
+  }
 }
 
 }  // namespace
