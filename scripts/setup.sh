@@ -82,7 +82,7 @@ case $task in
     [ -n "$(apt-cache madison clang)" ] || update_lists
     # sed reads to the end: if it stopped at the first match, apt-cache could fail for lack of a reader.
     clang=$(apt-cache depends clang | sed -n '0,/clang-[0-9]/s/.*\(clang-[0-9]*\).*/\1/p')
-    wanted=("${test_packages[@]}" clang clang-format clang-tidy cppcheck "lib${clang/-/-rt-}-dev" llvm)
+    wanted=("${test_packages[@]}" abigail-tools clang clang-format clang-tidy cppcheck "lib${clang/-/-rt-}-dev" llvm)
     # A newer clang-tidy, where there is one, is twice as fast; both report nothing for what is committed.
     [ -z "$(apt-cache madison clang-tidy-22)" ] || wanted+=(clang-tidy-22)
     ;;
