@@ -125,12 +125,12 @@ TEST_P(ExampleFile, HasAsManyPdosAsItStates) {
 TEST_P(ExampleFile, HasAsManySvidsAndModesAsItStates) {
   for (const Fields& component : Components()) {
     EXPECT_EQ(Groups(component, eVifLocSopSvid), UpTo(Number(component, "Num_SVIDs_Max_SOP")));
-    for (const std::size_t svid : Groups(component, eVifLocSopSvid)) {
+    for (const VifIndexNumber svid : Groups(component, eVifLocSopSvid)) {
       const VifIndex place = {eVifLocSopSvid, svid};
       EXPECT_EQ(Groups(component, eVifLocSopSvidMode, place), UpTo(Number(component, "SVID_Num_Modes_Max_SOP", place)));
     }
     EXPECT_EQ(Groups(component, eVifLocCableSvid), UpTo(Number(component, "Cable_Num_SVIDs_Max")));
-    for (const std::size_t svid : Groups(component, eVifLocCableSvid)) {
+    for (const VifIndexNumber svid : Groups(component, eVifLocCableSvid)) {
       const VifIndex place = {eVifLocCableSvid, svid};
       EXPECT_EQ(Groups(component, eVifLocCableSvidMode, place), UpTo(Number(component, "SVID_Num_Modes_Max", place)));
     }
@@ -139,7 +139,7 @@ TEST_P(ExampleFile, HasAsManySvidsAndModesAsItStates) {
 
 TEST_P(ExampleFile, HasAsManyPcieEndpointsAsItsRoutersState) {
   const VifFieldList fields = m_vif.GetFields();
-  for (const std::size_t router : Groups(*fields, eVifLocRouter)) {
+  for (const VifIndexNumber router : Groups(*fields, eVifLocRouter)) {
     const VifIndex place = {eVifLocRouter, router};
     EXPECT_EQ(Groups(*fields, eVifLocRouterPcie, place), UpTo(Number(*fields, "USB4_Num_PCIe_Endpoints", place)));
   }
@@ -176,7 +176,7 @@ TEST_P(ExampleFile, SpellsOutItsMillivoltsMilliamperesAndMilliwatts) {
 TEST_P(ExampleFile, StatesThePowerOfItsStrongestFixedPdo) {
   const auto strongest = [](const Fields& fields, EVifLocation side, const std::string& prefix, const char* current) {
     std::uint64_t most = 0;
-    for (const std::size_t pdo : Groups(fields, side)) {
+    for (const VifIndexNumber pdo : Groups(fields, side)) {
       const VifIndex place = {side, pdo};
       if (Number(fields, (prefix + "_Supply_Type").c_str(), place) != 0u) continue;
       const auto milliwatts = Number(fields, (prefix + "_Voltage").c_str(), place).value_or(0) * 50 *

@@ -44,7 +44,7 @@ TEST(LoadingTest, AllConstantsOfAFieldAreFoundByName) {
   const CLoaded library(kLibrary);
   ASSERT_TRUE(library.IsLoaded());
   ExpectExported<std::size_t>(library, "_ZN9CVIFField15MAX_INDEX_DEPTHE", 3);
-  ExpectExported<std::size_t>(library, "_ZN9CVIFField19INDEX_NOT_SPECIFIEDE", 0xFFFFFFFFFFFFFFFF);
+  ExpectExported<VifIndexNumber>(library, "_ZN9CVIFField19INDEX_NOT_SPECIFIEDE", 0xFFFFFFFFFFFFFFFF);
   ExpectExported<VifIndex>(library, "_ZN9CVIFField17UNSPECIFIED_INDEXE", {eVifLocUnset, 0xFFFFFFFFFFFFFFFF});
   ExpectExported<std::uint64_t>(library, "_ZN9CVIFField18VIF_VALUE_UNSET_64E", 0xFFFFFFFFFFFFFFFF);
   ExpectExported<std::uint32_t>(library, "_ZN9CVIFField15VIF_VALUE_UNSETE", 0xFFFFFFFF);
