@@ -81,7 +81,8 @@ case $task in
   check)
     # A fresh system has no package lists to look versions up in.
     [ -n "$(apt-cache madison clang)" ] || update_lists
-    clang=$(apt-cache depends clang | grep -om 1 'clang-[0-9]*')
+    # sed reads to the end: if it stopped at the first match, apt-cache could fail for lack of a reader.
+    clang=$(apt-cache depends clang | sed -n '0,/clang-[0-9]/s/.*\(clang-[0-9]*\).*/\1/p')
     wanted=("${test_packages[@]}" clang clang-format clang-tidy cppcheck "lib${clang/-/-rt-}-dev" llvm)
     # A newer clang-tidy, where there is one, is twice as fast; both report nothing for what is committed.
     [ -z "$(apt-cache madison clang-tidy-22)" ] || wanted+=(clang-tidy-22)
