@@ -63,11 +63,11 @@ class BuildWithLibrary(build_py):
     """Adds the library, and the modules that are generated for it."""
 
     def run(self):
-        super().run()
         package = os.path.join(self.build_lib, "vendorinfofile")
-        folder = os.path.join(package, "_lib")
-        shutil.rmtree(folder, ignore_errors=True)
-        library = add_library(folder)
+        # What an earlier build has left there, such as a library of another version, would go into the wheel.
+        shutil.rmtree(package, ignore_errors=True)
+        super().run()
+        library = add_library(os.path.join(package, "_lib"))
         shutil.copy(os.path.join(ROOT, "LICENSE"), package)
         subprocess.check_call(
             [sys.executable, os.path.join(HERE, "generate.py"), os.path.join(ROOT, "c", "vif.h")]

@@ -92,10 +92,9 @@ case $task in
   package) wanted=("${build_packages[@]}" "${windows_packages[@]}" dpkg-dev file python3 unzip zip) ;;
   languages) wanted=("${test_packages[@]}" "${windows_packages[@]}" gcc clang lld mono-mcs mono-runtime rustc) ;;
   python)
-    # lxml is what the benchmark compares with.
-    # exceptiongroup and tomli are what pytest needs before Python 3.11.
-    wanted=("${test_packages[@]}" gcc mypy pypy3 python3-cffi python3-exceptiongroup python3-lxml python3-mypy python3-pip python3-pytest
-      python3-setuptools python3-tomli python3-venv python3-wheel)
+    # lxml is what the benchmark compares with. Before Python 3.11, pytest needs exceptiongroup and tomli.
+    wanted=("${test_packages[@]}" gcc pypy3 python3-cffi python3-exceptiongroup python3-lxml python3-mypy python3-pip
+      python3-pytest python3-setuptools python3-tomli python3-venv python3-wheel)
     ;;
   bench) wanted=("${build_packages[@]}" libbenchmark-dev libxml2-utils valgrind) ;;
   browser)

@@ -4,6 +4,7 @@
 # Then checks its types, and an installation as for a distribution.
 #
 #   scripts/test-python.sh [--no-asan] [ARGUMENT...]     further arguments go to pytest
+#   scripts/test-python.sh --bench                       only measures the installed wheel; see bench/README.md
 #
 # PYTHON names the interpreter, which must have cffi and what else `scripts/setup.sh python` installs.
 set -euo pipefail
@@ -11,10 +12,11 @@ cd "$(dirname "$0")/.."
 root=$PWD
 python=${PYTHON:-/usr/bin/python3}
 asan=yes
-if [ "${1:-}" = --no-asan ]; then
-  asan=no
-  shift
-fi
+bench=no
+case ${1:-} in
+  --no-asan) asan=no; shift ;;
+  --bench) bench=yes; shift ;;
+esac
 
 scripts/setup.sh python
 scripts/build.sh release -DVENDORINFOFILE_BUILD_TESTS=ON --target vif --target VendorInfoFileC --target generate_vifs
@@ -28,8 +30,9 @@ unset PYTHONPATH VENDORINFOFILE_LIBRARY
 
 echo "==> Building the wheel"
 # From a copy of the sources, so that nothing is left beside them.
-mkdir "$work/sources"
-cp -r CMakeLists.txt LICENSE c python "$work/sources"
+mkdir -p "$work/sources/python"
+cp -r CMakeLists.txt LICENSE c "$work/sources"
+cp -r python/{generate.py,pyproject.toml,setup.py,src} "$work/sources/python"
 (cd "$work/sources/python" && VENDORINFOFILE_BUILD=$root/build/release \
   "$python" -m pip wheel --quiet --no-deps --no-build-isolation --no-index --wheel-dir "$work/wheels" .)
 wheels=("$work"/wheels/vendorinfofile-*-py3-none-*.whl)
@@ -38,6 +41,13 @@ wheels=("$work"/wheels/vendorinfofile-*-py3-none-*.whl)
 echo "==> Installing it into a fresh environment"
 "$python" -m venv --system-site-packages "$work/env"
 "$work/env/bin/python" -m pip install --quiet --no-index "${wheels[0]}"
+
+if [ $bench = yes ]; then
+  scripts/setup.sh bench
+  scripts/build.sh release -DVENDORINFOFILE_BUILD_BENCHMARKS=ON --target ask_vif
+  "$work/env/bin/python" python/bench/compare.py build/release/bench/ask_vif "$root"
+  exit
+fi
 
 export VENDORINFOFILE_SOURCES=$root VENDORINFOFILE_COMMAND=$root/build/release/cli/vif
 export VENDORINFOFILE_GENERATED=$work/generated
@@ -61,10 +71,25 @@ fi
 if [ $asan = yes ]; then
   echo "==> Testing it with AddressSanitizer"
   (cd "$root" && scripts/setup.sh check && scripts/build.sh asan --target VendorInfoFileC)
+  runtime=$(clang++ -print-file-name="libclang_rt.asan-$(uname -m).so")
   # Python does not free everything at its end. The coverage of these runs is not that of the unit tests.
-  VENDORINFOFILE_LIBRARY=$root/build/asan/c/libvif.so ASAN_OPTIONS=detect_leaks=0 LLVM_PROFILE_FILE=/dev/null \
-    PYTHONMALLOC=malloc LD_PRELOAD="$(clang++ -print-file-name=libclang_rt.asan-x86_64.so) $(g++ -print-file-name=libstdc++.so.6)" \
-    env/bin/python -m pytest -q "$@" tests
+  with_asan() {
+    VENDORINFOFILE_LIBRARY=$root/build/asan/c/libvif.so ASAN_OPTIONS=detect_leaks=0 LLVM_PROFILE_FILE=/dev/null \
+      PYTHONMALLOC=malloc LD_PRELOAD="$runtime $(g++ -print-file-name=libstdc++.so.6)" env/bin/python "$@"
+  }
+  # It must notice a text that is read after it was freed.
+  ! with_asan -c '
+from vendorinfofile import _source, _library
+source = _source.Source()
+source.load_bytes(b"VID: 1", "a.txt")
+field = _library.Structure("vif_field")()
+_library.lib.vif_file_field(source.handle, 0, field)
+_library.ffi.gc(source.handle, None)
+_library.lib.vif_file_free(source._raw)
+_library.py_text(field.description)
+' 2>asan.log || { echo "AddressSanitizer is not at work" >&2; exit 1; }
+  grep -q heap-use-after-free asan.log || { cat asan.log >&2; exit 1; }
+  with_asan -m pytest -q "$@" tests
 fi
 
 echo "==> Installing it as for a distribution"

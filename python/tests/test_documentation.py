@@ -37,7 +37,7 @@ def examples(path):
     page = path.read_text(encoding="utf-8")
     return [
         (code, expected)
-        for code, _, expected in re.findall(r"```python\n(.*?)```\n(\n```text\n(.*?)```)?", page, flags=re.DOTALL)
+        for code, _, expected in re.findall(r"```python\n(.*?)```\n(\n```output\n(.*?)```)?", page, flags=re.DOTALL)
     ]
 
 

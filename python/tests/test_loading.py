@@ -1,6 +1,7 @@
 """Loading."""
 
 import errno
+import gc
 import mmap
 import os
 import pathlib
@@ -136,6 +137,26 @@ def test_schemas_are_taken_from_the_directory_set(tmp_path):
 
 def test_the_version_is_that_of_the_project():
     assert f"project(VendorInfoFile VERSION {vif.__version__} " in (SOURCES / "CMakeLists.txt").read_text()
+
+
+@pytest.mark.skipif("asan" in os.environ.get("LD_PRELOAD", ""), reason="AddressSanitizer keeps what is freed")
+def test_what_is_no_longer_referred_to_is_freed():
+    resource = pytest.importorskip("resource")
+
+    def peak_after(rounds):
+        for _ in range(rounds):
+            product = vif.load(DOCK)
+            vif.check_bytes(TEXT, "a.txt")
+            vif.diff(product, product)
+            with pytest.raises(vif.FieldNotFound):
+                product["Nothing"]
+            product = None
+            gc.collect()
+        return resource.getrusage(resource.RUSAGE_SELF).ru_maxrss
+
+    before = peak_after(20)
+    # The fields of one product take more than 100 kB.
+    assert peak_after(200) - before < 10000
 
 
 def test_nothing_is_left_for_the_end_of_the_process_to_trip_over():

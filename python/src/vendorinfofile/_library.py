@@ -84,9 +84,12 @@ class Structure:
         return ffi.new(self._pointer, self._size)
 
 
-def owned(handle: Any, free: Any) -> Any:
-    """A handle that is freed with the last reference to it."""
-    return ffi.gc(handle, free)
+def owned(handle: Any, free: Any, size: int = 0) -> Any:
+    """A handle that is freed with the last reference to it.
+
+    :param size: about how many bytes it holds, for PyPy, which frees the sooner the more there are
+    """
+    return ffi.gc(handle, free, size)
 
 
 if sys.platform == "win32" and sys.getfilesystemencoding() != "utf-8":

@@ -283,6 +283,7 @@ def load(path: Path | Iterable[Path]) -> Product:
     source = Source()
     for one in [path] if isinstance(path, (str, bytes, os.PathLike)) else path:
         source.load(one)
+    source.end_loading()
     return Product(source)
 
 
@@ -295,4 +296,5 @@ def loads(data: Any, name: Path) -> Product:
     """
     source = Source()
     source.load_bytes(data, name)
+    source.end_loading()
     return Product(source)

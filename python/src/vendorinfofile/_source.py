@@ -10,6 +10,8 @@ from ._fields import Field, Meaning, Quantity, field_of, quantity_of
 from ._library import NO_POSITION, Path, Structure, c_path, c_text, ffi, lib, owned, py_text
 from ._places import Places
 
+_BYTES_PER_FIELD = 300  # with its texts, roughly
+
 _FIELD = Structure("vif_field")
 _SIZE_OUTPUT = ffi.typeof("size_t*")
 _QUANTITY = Structure("vif_quantity")
@@ -21,7 +23,14 @@ class Source:
     def __init__(self) -> None:
         handle = ffi.new("vif_file**")
         call(lib.vif_file_make, handle)
-        self.handle = owned(handle[0], lib.vif_file_free)
+        self._raw = handle[0]
+        self.handle = owned(self._raw, lib.vif_file_free)
+
+    def end_loading(self) -> None:
+        """Tells the interpreter how much memory the fields take."""
+        loading = self.handle
+        self.handle = owned(self._raw, lib.vif_file_free, self.field_count() * _BYTES_PER_FIELD)
+        ffi.gc(loading, None)  # from now on it does not own the handle
 
     def load(self, path: Path) -> None:
         call(lib.vif_file_load, self.handle, c_path(path), ffi.NULL, path=path)
