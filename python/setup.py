@@ -43,7 +43,8 @@ def configured_build():
 def add_library(folder):
     """Builds the library, and puts it with what it needs of this project into the folder. Returns its file name."""
     build = configured_build()
-    subprocess.check_call(["cmake", "--build", build, "--parallel", "--target", "VendorInfoFileC"])
+    os.environ.setdefault("CMAKE_BUILD_PARALLEL_LEVEL", str(os.cpu_count() or 1))
+    subprocess.check_call(["cmake", "--build", build, "--target", "VendorInfoFileC"])
     os.makedirs(folder, exist_ok=True)
     with tempfile.TemporaryDirectory() as prefix:
         subprocess.check_call(
