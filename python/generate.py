@@ -26,7 +26,7 @@ def constant(name, value):
         return f"#define {name} {value}" if value else ""
     if re.fullmatch(r"\d+", value):
         return f"#define {name} {value}"
-    raise SystemExit(f"generate.py: the macro {name} is no number")
+    raise SystemExit(f"generate.py: the macro {name} is not a number")
 
 
 def declarations(header):

@@ -94,7 +94,8 @@ fi
 
 echo "==> Installing it as for a distribution"
 cmake -S "$root" -B distribution -DVENDORINFOFILE_BUILD_PYTHON=ON -DPython3_EXECUTABLE="$python" \
-  -DVENDORINFOFILE_BUILD_TOOLS=OFF -DVENDORINFOFILE_BUILD_EXAMPLES=OFF >distribution.log || { cat distribution.log >&2; exit 1; }
+  -DVENDORINFOFILE_BUILD_TOOLS=OFF -DVENDORINFOFILE_BUILD_EXAMPLES=OFF >distribution.log ||
+  { cat distribution.log >&2; exit 1; }
 cmake --build distribution --target VendorInfoFilePython >/dev/null
 cmake --install distribution --component Python --prefix "$work/prefix" >/dev/null
 cmake --install "$root/build/release" --component Library --prefix "$work/prefix" >/dev/null

@@ -29,7 +29,7 @@ def test_the_text_of_an_xml_element_is_its_description(dock):
     assert field.text == field.description != ""
 
 
-def test_a_number_of_more_than_64_bits_is_none():
+def test_a_number_of_more_than_64_bits_is_not_given():
     (field,) = vif.loads(b"PID: 99999999999999999999\n", "a.txt")
     assert (field.number, field.is_numeric) == (None, True)
 

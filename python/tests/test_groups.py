@@ -1,8 +1,10 @@
 """Products and groups."""
 
+import copy
 import csv
 import gc
 import io
+import pickle
 
 import pytest
 
@@ -76,7 +78,7 @@ def test_a_text_is_found_with_and_without_dollar_sign(product):
     assert "Vendor_Name" in product and "$Vendor_Name" in product
 
 
-def test_a_name_is_no_pattern(product):
+def test_a_name_is_not_a_pattern(product):
     with pytest.raises(vif.FieldNotFound):
         product["VI."]
     assert product.get("V*") is None
@@ -128,6 +130,15 @@ def test_rows_can_be_written_as_csv(product):
     writer.writeheader()
     writer.writerows(rows)
     assert out.getvalue().count("\n") == 4
+
+
+def test_only_fields_can_be_pickled(product):
+    for group in (product, product.component(1)):
+        with pytest.raises(TypeError, match="their fields can"):
+            pickle.dumps(group)
+        with pytest.raises(TypeError, match="their fields can"):
+            copy.copy(group)
+    assert pickle.loads(pickle.dumps(product.fields)) == product.fields
 
 
 def test_repr_says_what_it_is(product):

@@ -126,7 +126,7 @@ def test_a_name_that_is_not_utf8(tmp_path):
 def test_schemas_are_taken_from_the_directory_set(tmp_path):
     try:
         for name in ("VendorInfoFile.xsd", "VendorInfoFileOptionalContent.xsd"):
-            (tmp_path / name).write_text("this is no schema")
+            (tmp_path / name).write_text("not a schema")
         vif.set_schema_directory(tmp_path)
         with pytest.raises(vif.SchemaError):
             vif.load(DOCK)

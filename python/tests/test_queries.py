@@ -60,7 +60,7 @@ def test_first_looks_in_the_first_component_that_has_any(dock):
 
 
 @pytest.mark.parametrize("pattern", ["(", "[", "a{2,1}", "*"])
-def test_a_pattern_that_is_none_is_refused(product, pattern):
+def test_what_is_not_a_regular_expression_is_refused(product, pattern):
     for query in (product.unique, product.single, product.find, product.count):
         with pytest.raises(vif.InvalidPattern):
             query(pattern)
@@ -83,6 +83,15 @@ def test_a_number_must_be_an_integer_in_range(product):
 def test_there_are_at_most_three_places(product):
     with pytest.raises(ValueError, match="at most 3 places"):
         product.find(component=1, src_pdo=1, snk_pdo=1, router=0)
+
+
+def test_a_pattern_must_be_a_text(product):
+    with pytest.raises(TypeError, match="expected str, not int"):
+        product.find(3)
+    with pytest.raises(TypeError, match="expected str, not bytes"):
+        vif.explain(b"VID")
+    with pytest.raises(ValueError, match="surrogates"):
+        product.find("\ud800")
 
 
 def test_a_nul_does_not_end_a_text_early(product):

@@ -110,8 +110,8 @@ class Field:
     def quantity(self) -> Quantity | None:
         """The number with its unit, exactly as declared: ``(9.0, "V")``, ``(2.25, "A")``, ``(27.0, "W")``.
 
-        The unit is one of "V", "A", "W", "ms", "%", "mOhm" and "°C". None if the number is no such amount, or what the
-        unit depends on, such as the kind of supply, is missing.
+        The unit is one of "V", "A", "W", "ms", "%", "mOhm" and "°C". None if the number is not an amount of any of
+        these, or if what the unit depends on, such as the kind of supply, is missing.
         """
         return self._known_meaning().quantity
 

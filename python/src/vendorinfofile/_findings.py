@@ -35,7 +35,7 @@ class Finding(NamedTuple):
     element: str
     """The field in a text file, the element's path in an XML file; empty if there is none."""
     position: int | None
-    """The position, from 0, of the field that it is about, in a product of this file alone; None if it is about none."""
+    """The position, from 0, of the field that it is about in a product of this file alone; None if there is none."""
 
     def __str__(self) -> str:
         line = f":{self.line}" if self.line else ""

@@ -3,7 +3,6 @@
 from __future__ import annotations
 
 import os
-import sys
 from typing import Any, Union
 
 from ._build import LIBRARY
@@ -33,8 +32,11 @@ NO_POSITION = int(ffi.cast("size_t", -1))
 def c_text(text: str) -> bytes:
     """A text for the library.
 
-    :raises ValueError: it contains a NUL, which would end it
+    :raises TypeError: it is not a text
+    :raises ValueError: it contains a NUL, which would end it, or a lone surrogate
     """
+    if not isinstance(text, str):
+        raise TypeError(f"expected str, not {type(text).__name__}")
     encoded = text.encode("utf-8")
     if b"\0" in encoded:
         raise ValueError("embedded null character")
@@ -90,7 +92,3 @@ def owned(handle: Any, free: Any, size: int = 0) -> Any:
     :param size: about how many bytes it holds, for PyPy, which frees the sooner the more there are
     """
     return ffi.gc(handle, free, size)
-
-
-if sys.platform == "win32" and sys.getfilesystemencoding() != "utf-8":
-    raise ImportError("vendorinfofile needs UTF-8 as the encoding of file names, which is Python's default")

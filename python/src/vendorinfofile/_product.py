@@ -156,7 +156,8 @@ class Group:
 
     def find(self, pattern: str | None = None, **places: int) -> list[Field]:
         """The fields that match, in the order of the file."""
-        return [self._source.field(position) for position in self._source.find(pattern, self._places.and_also(places))]
+        positions = self._source.find(pattern, self._places.and_also(places))
+        return [self._source.field(position) for position in positions]
 
     def count(self, pattern: str | None = None, **places: int) -> int:
         """How many fields match."""
@@ -214,8 +215,12 @@ class Group:
         """
         return [_row(field) for field in self]
 
+    def __reduce__(self) -> tuple[Any, ...]:
+        raise TypeError("groups and products can be neither pickled nor copied; their fields can")
+
     def __repr__(self) -> str:
-        return f"<Group {', '.join(f'{key}={number}' for key, number in self._places.numbers.items())}: {len(self)} fields>"
+        place = ", ".join(f"{keyword}={number}" for keyword, number in self._places.numbers.items())
+        return f"<Group {place}: {len(self)} fields>"
 
 
 def _row(field: Field) -> dict[str, Any]:
@@ -258,11 +263,12 @@ class Product(Group):
         return [self._source.field(position) for position in range(self._source.field_count())]
 
     def first(self, pattern: str | None = None, **places: int) -> list[Field]:
-        """The fields that match in the first component that has any; at most two places besides the component.
+        """The fields that match in the first component that has any; at most two places.
 
         The component with the highest number is never searched: in a product of one component nothing is found.
         """
-        return [self._source.field(position) for position in self._source.find_first(pattern, self._places.and_also(places))]
+        positions = self._source.find_first(pattern, self._places.and_also(places))
+        return [self._source.field(position) for position in positions]
 
     def __repr__(self) -> str:
         return f"<Product {self.name}: {len(self)} fields, {self.component_count} components>"
