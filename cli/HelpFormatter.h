@@ -7,11 +7,13 @@
 
 namespace cli {
 
-/// Breaks lines that are wider than an ordinary terminal between words. What follows is aligned with the last column of
-/// the line, where columns are separated by two or more blanks. The text of the help is ASCII.
-class CHelpFormatter : public CLI::Formatter {
+/// Lays out the help itself, because the layout of CLI11's own formatter differs from version to version. Lines wider
+/// than an ordinary terminal are broken between words. What follows is aligned with the last column of the line, where
+/// columns are separated by two or more blanks. The text of the help is ASCII.
+///
+/// What an option takes is described by its `option_text` only.
+class CHelpFormatter : public CLI::FormatterBase {
  public:
-  CHelpFormatter();
   std::string make_help(const CLI::App* app, std::string name, CLI::AppFormatMode mode) const override;
 };
 

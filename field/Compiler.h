@@ -34,6 +34,14 @@ constexpr bool kHasLargeFrames = false;
 /// no more stack for a longer text. It cannot match back-references.
 constexpr bool kHasStepwiseEngine = true;
 
+#if _GLIBCXX_RELEASE >= 16
+constexpr bool kHasFramesOnHeap = true;
+#else
+/// Whether the recursive engine keeps its frames in a vector instead of on the stack, each with one position in the
+/// text. Nothing but the memory of the machine limits that vector.
+constexpr bool kHasFramesOnHeap = false;
+#endif
+
 /// `std::regex_match` with the stepwise engine. An expression with a back-reference is matched recursively.
 template <typename Iterator, typename Char>
 bool StepwiseRegexMatch(Iterator first, Iterator last, std::match_results<Iterator>& match,
@@ -54,6 +62,7 @@ bool StepwiseRegexMatch(Iterator first, Iterator last, std::match_results<Iterat
 #else
 
 constexpr bool kHasStepwiseEngine = false;
+constexpr bool kHasFramesOnHeap = false;
 
 template <typename Iterator, typename Char>
 bool StepwiseRegexMatch(Iterator first, Iterator last, std::match_results<Iterator>& match,

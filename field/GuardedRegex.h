@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Compiler.h"
+#include "LivePositions.h"
 #include "PatternError.h"
 #include "RegexShape.h"
 #include "StackSpace.h"
@@ -11,6 +12,7 @@
 #include <cstdint>
 #include <iterator>
 #include <limits>
+#include <optional>
 #include <regex>
 #include <string_view>
 
@@ -31,10 +33,13 @@ constexpr std::size_t kStepwiseStepBudget = 100'000'000;
 /// a sanitizer.
 constexpr std::uintptr_t kStackPerAlternative = kHasLargeFrames ? 768 : 256;
 
-/// What a match may still use.
+/// What a match may still use. An engine with frames on the heap may take as much memory for them as is left of the
+/// stack, so that a match that goes too deep fails in the same way as with frames on the stack.
 struct MatchBudget {
   std::uintptr_t lowestFrame = 0;
   std::size_t stepsLeft = kMatchStepBudget;
+  bool hasFramesOnHeap = kHasFramesOnHeap;
+  std::optional<std::size_t> positionsBefore = std::nullopt;  // those that were there at the first step
 
   /// \throws std::regex_error (`error_stack`) if the match has gone too deep
   void CheckStack() const {
@@ -44,16 +49,26 @@ struct MatchBudget {
   /// \throws std::regex_error if the match has gone too deep (`error_stack`) or on for too long (`error_complexity`)
   void Check() {
     CheckStack();
+    if (hasFramesOnHeap) CheckFramesOnHeap();
     if (stepsLeft-- == 0) ThrowTooManySteps();
+  }
+
+ private:
+  void CheckFramesOnHeap() {
+    const std::size_t positions = PositionCount::Count();
+    if (!positionsBefore) positionsBefore = positions;
+    const std::size_t frames = positions - std::min(positions, *positionsBefore);
+    if (frames > (VIF_FRAME_ADDRESS() - lowestFrame) / kHeapPerFrame) ThrowStackTooSmall();
   }
 };
 
 /// Iterates over text for a regular expression, and checks the budget whenever a character is read, positions are
 /// compared or a position is kept. libstdc++ recurses for every character, repetition, group and assertion it matches,
-/// and does one of these each time; only alternatives that directly follow each other escape the guard. Where the
-/// standard library guards its own stack, its guard simply acts before this one.
+/// and does one of these each time; only alternatives that directly follow each other escape the guard. From version 16
+/// on, it recurses for assertions only and keeps the rest on the heap. Where the standard library guards its own stack,
+/// its guard simply acts before this one.
 template <typename Char>
-class CGuardedIterator {
+class CGuardedIterator : private PositionCount {
  public:
   using iterator_category = std::bidirectional_iterator_tag;
   using value_type = Char;
@@ -119,6 +134,8 @@ template <typename Char>
 bool GuardedRegexMatch(std::basic_string_view<Char> text, GuardedMatch<Char>& match,
                        const std::basic_regex<Char>& expression, MatchBudget budget,
                        Engine engine = Engine::Recursive) {
+  // The stepwise engine's frames are no more than the states of the expression.
+  if (engine == Engine::Stepwise) budget.hasFramesOnHeap = false;
   const CGuardedIterator<Char> first(text.data(), budget);
   const CGuardedIterator<Char> last(text.data() + text.size(), budget);
   return engine == Engine::Recursive ? std::regex_match(first, last, match, expression)

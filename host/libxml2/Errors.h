@@ -18,10 +18,10 @@ using ErrorPointer = xmlError*;
 #endif
 
 /// Whether an error can be ignored. A namespace is a name, whether or not it has the form of a URI, and an attribute
-/// called `xml:id` is an ordinary attribute.
+/// called `xml:id` is an ordinary attribute, which libxml2 2.15 holds against the file if its value is no NCName.
 inline bool IsHarmless(const xmlError& error) {
-  return error.level == XML_ERR_WARNING || error.code == XML_WAR_NS_URI || error.domain == XML_FROM_DTD ||
-         error.domain == XML_FROM_VALID;
+  return error.level == XML_ERR_WARNING || error.code == XML_WAR_NS_URI || error.code == XML_DTD_XMLID_VALUE ||
+         error.domain == XML_FROM_DTD || error.domain == XML_FROM_VALID;
 }
 
 /// Adds a libxml2 error.

@@ -77,7 +77,7 @@ const std::vector<std::filesystem::path>& CleanExamples() {
 
 CExample::CExample(std::string_view name) {
   const std::filesystem::path path = PathOf(name);
-  m_fields = (HasExtension(path, ".txt") ? ReadTextFile(path) : ReadXmlFile(path)).fields;
+  m_fields = (HasExtension(path, ".txt") ? ReadTextFile({path}) : ReadXmlFile({path})).fields;
 }
 
 CExample& CExample::Set(const Place& place, std::string_view name, const std::string& value) {

@@ -4,7 +4,6 @@
 #include "support/ForEveryFailingAllocation.h"
 #include "support/XmlVif.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -14,7 +13,6 @@
 
 namespace {
 
-using testing::ElementsAre;
 using namespace testsupport;
 
 /// A status that is right when memory ran out, or when it did not matter.

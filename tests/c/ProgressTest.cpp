@@ -19,8 +19,10 @@ using namespace testsupport;
 
 /// Records calls, and cancels at one of them.
 struct Recorder {
-  std::size_t cancelAt = 0;  // from 1; 0 for never
-  std::vector<std::pair<std::uint64_t, std::uint64_t>> calls{};
+  explicit Recorder(std::size_t when = 0) : cancelAt(when) {}
+
+  std::size_t cancelAt;  // from 1; 0 for never
+  std::vector<std::pair<std::uint64_t, std::uint64_t>> calls;
 };
 
 extern "C" int32_t Record(void* user, uint64_t done, uint64_t total) {
@@ -57,7 +59,7 @@ TEST(CProgressTest, CancellingChangesNothing) {
     const FilePointer file = FileOf("PID: 1\n");
     std::size_t cancelled = 0;
     for (std::size_t k = 1;; ++k) {
-      Recorder recorder = {k};
+      Recorder recorder(k);
       const vif_progress progress = ProgressTo(recorder);
       CError error;
       const vif_status status =
@@ -83,7 +85,7 @@ void ExpectBeforeAndAfter(const Call& call) {
   EXPECT_EQ(call(&progress), VIF_OK);
   EXPECT_THAT(recorder.calls, ElementsAre(Pair(0, 1), Pair(1, 1)));
   for (const std::size_t k : {1U, 2U}) {
-    Recorder cancelling = {k};
+    Recorder cancelling(k);
     progress = ProgressTo(cancelling);
     EXPECT_EQ(call(&progress), VIF_ERROR_CANCELLED);
     EXPECT_EQ(cancelling.calls.size(), k);

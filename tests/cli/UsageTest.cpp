@@ -37,6 +37,23 @@ TEST(Usage, HelpOfACommandNamesItsOptionsAndGivesExamples) {
   EXPECT_THAT(result.output, HasSubstr("vif list --format json"));
 }
 
+TEST(Usage, HelpIsLaidOutAlikeWithEveryVersionOfTheParser) {
+  EXPECT_THAT(Vif({"list", "--help"}).output,
+              StartsWith("List all fields\n"
+                         "Usage: vif list [OPTIONS] FILE...\n"
+                         "\n"
+                         "Positionals:\n"
+                         "  FILE ...          The files, text (.txt) or XML (.xml)\n"
+                         "\n"
+                         "Options:\n"
+                         "  -h,--help         Print this help and exit\n"
+                         "  --format FORMAT   The output format: table (the default), json or csv\n"));
+  EXPECT_THAT(Vif({"--help"}).output, HasSubstr("\nUsage: vif [OPTIONS] COMMAND ...\n\nOptions:\n"));
+  EXPECT_THAT(Vif({"--help"}).output, HasSubstr("\n\nCommands:\n  list              List all fields\n"));
+  EXPECT_THAT(Vif({"check", "--help"}).output, HasSubstr("\n  --fail-on SEVERITY\n                    The lowest"));
+  EXPECT_THAT(Vif({"get", "--help"}).output, HasSubstr("\nUsage: vif get [OPTIONS] FILE [PATTERN]\n"));
+}
+
 class UsageOfEveryCommand : public testing::TestWithParam<std::vector<std::string>> {};
 
 TEST_P(UsageOfEveryCommand, HelpFitsAnOrdinaryTerminal) {

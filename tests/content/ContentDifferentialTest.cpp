@@ -72,7 +72,8 @@ Lines Loaded(const Load& load) {
 
 std::string TextOf(const vifanalysis::Finding& finding) {
   return std::string(SeverityName(finding.severity)) + " " + finding.code + " " + std::to_string(finding.line) + ":" +
-         std::to_string(finding.column) + " " + finding.element + " " + finding.message + " " + std::to_string(finding.position);
+         std::to_string(finding.column) + " " + finding.element + " " + finding.message + " " +
+         std::to_string(finding.position);
 }
 
 Lines TextsOf(const std::vector<vifanalysis::Finding>& findings) {

@@ -1,6 +1,7 @@
 // Positions of fields are those of the copies that queries return.
 #include "SampleContents.h"
 #include "VIFContent.h"
+#include "VIFInvalidFile.h"
 #include "VIFPositions.h"
 #include "VendorInfoFile.h"
 #include "support/FieldText.h"
@@ -29,7 +30,8 @@ CVendorInfoFile Samples() {
   for (const testsupport::SampleContent& content : testsupport::ContentsInSources()) {
     try {
       AppendVifContent(vif, content.bytes, content.name);
-    } catch (const std::exception&) {  // some show what is not valid
+    } catch (const CVIFInvalidFile& error) {  // some show what is not valid
+      EXPECT_FALSE(error.Problems().empty());
     }
   }
   return vif;

@@ -121,6 +121,20 @@ TYPED_TEST(GuardedRegex, FailsInsteadOfRunningOffTheStack) {
   }
 }
 
+TYPED_TEST(GuardedRegex, FailsInsteadOfTakingAnyAmountOfMemory) {
+  // A frame or two for each group and character is more than a gigabyte in all, on the stack or on the heap.
+  const std::string groups = "(?:" + std::string(100, '(') + "a" + std::string(100, ')') + ")*";
+  const std::basic_regex<TypeParam> expression(Converted<TypeParam>(groups));
+  const std::basic_string<TypeParam> text(1'000'000, 'a');
+  GuardedMatch<TypeParam> match;
+  const RegexOutcome outcome = RegexOutcomeOf([&] { return RecursiveMatch<TypeParam>(text, match, expression); });
+#if defined(__GLIBCXX__)
+  EXPECT_EQ(outcome.error, std::regex_constants::error_stack);
+#else
+  EXPECT_TRUE(outcome.IsWantOfStackOrTime());
+#endif
+}
+
 // With narrow text.
 
 TEST(GuardedRegexMatch, MatchesTheWholeText) {

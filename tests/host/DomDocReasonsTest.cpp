@@ -60,8 +60,9 @@ TEST(DomDocReasonsTest, ReportTextThatCannotBeDecoded) {
   const std::string reason = ProblemsOf(kHalfAPair).at(0).reason;
 #ifdef _WIN32  // MSXML has its own words
   EXPECT_THAT(reason, Not(IsEmpty()));
-#else
-  EXPECT_THAT(reason, testing::HasSubstr("input conversion failed"));
+#else  // libxml2 changed its words in 2.14
+  EXPECT_THAT(reason, testing::AnyOf(testing::HasSubstr("input conversion failed"),
+                                     testing::HasSubstr("Invalid bytes in character encoding")));
 #endif
 }
 

@@ -366,7 +366,7 @@ TEST(PowerPictureTest, HasAStyleSheetThatAsksForNothing) {
 
 /// A number that is often at the edge of what makes sense.
 std::uint64_t RandomNumber(std::mt19937_64& random) {
-  constexpr std::uint64_t bounds[] = {2, 100, 600, 1000, 4000, 1'000'002};
+  constexpr std::size_t bounds[] = {2, 100, 600, 1000, 4000, 1'000'002};
   return testsupport::RandomBelow(random, bounds[testsupport::RandomBelow(random, std::size(bounds))]);
 }
 
