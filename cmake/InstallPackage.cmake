@@ -1,12 +1,13 @@
-# What `cmake --install` installs, including the files that CMake and pkg-config need to find it.
+# What `cmake --install` installs, including the files that CMake and pkg-config need to find it. The component Library
+# is what a program needs to run: `cmake --install BUILD --component Library` installs that alone.
 include(CMakePackageConfigHelpers)
 
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/VendorInfoFile")
 set(header_dir "${CMAKE_INSTALL_INCLUDEDIR}/vendorinfofile")
 
 install(TARGETS VendorInfoFile VendorInfoFileAnalysis VendorInfoFileC VendorInfoFileHost EXPORT VendorInfoFileTargets
-  RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
-  LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+  RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT Library
+  LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT Library
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 # Beside the folder of the C++ headers, so that programs in C see none of those.
 install(FILES c/vif.h DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")

@@ -135,6 +135,7 @@ check_sample() {
       fi
       ;;
     *.c) ;;  # check-languages.sh runs these
+    *.python | *.output) ;;  # python/tests/test_documentation.py runs these
     *.sh) [ -n "$EMULATOR" ] || check_shell_sample "$1" ;;
     *.yaml) grep -qF 'vif check' "$1" || fail "$1 does not run vif" ;;  # DocumentedWorkflowRuns runs it
     *.gitattributes | *.gitconfig) ;;  # DiffInGit uses these

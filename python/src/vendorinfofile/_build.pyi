@@ -1,0 +1,2 @@
+LIBRARY: str
+VERSION: str
