@@ -1,6 +1,3 @@
-// On a 32-bit system, a file of more than two gigabytes could not be opened otherwise.
-#define _FILE_OFFSET_BITS 64  // NOLINT(bugprone-reserved-identifier): the C library's own
-
 #include "xmlfile/InputFile.h"
 
 #include <fcntl.h>

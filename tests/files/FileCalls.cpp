@@ -171,17 +171,4 @@ extern "C" FRONT int open64(const char* name, int flags, ...) {
 extern "C" FRONT std::FILE* fopen64(const char* name, const char* mode) {
   return testsupport::OpenStream("fopen64", name, mode);
 }
-
-// Only on 32-bit systems do these take another structure, and does anyone call them.
-#if __WORDSIZE == 32
-extern "C" FRONT int stat64(const char* name, struct stat64* status) noexcept {
-  static auto* const real = Real<int(const char*, struct stat64*)>("stat64");
-  return IsWatched(name) && Decide(Kind::Stat).error != 0 ? -1 : real(name, status);
-}
-
-extern "C" FRONT int fstat64(int descriptor, struct stat64* status) noexcept {
-  static auto* const real = Real<int(int, struct stat64*)>("fstat64");
-  return IsWatched(descriptor) && Decide(Kind::Status).error != 0 ? -1 : real(descriptor, status);
-}
-#endif
 #endif
