@@ -33,8 +33,8 @@ std::string CReportedVif::Says(const FoundField& found, const CGroupView& group)
   FieldMeaning meaning = MeaningOf(found, group, GetEdition());
   std::string description = found.field.Description();
   // Of an ID, the description says more than its digits.
-  const bool isId = meaning.text.starts_with("0x");
-  if (!meaning.text.empty() && !meaning.isUncertain && !(isId && !description.empty())) return std::move(meaning.text);
+  const bool saysMost = !meaning.text.starts_with("0x") || description.empty();
+  if (!meaning.text.empty() && !meaning.isUncertain && saysMost) return std::move(meaning.text);
   return description.empty() ? Declared(found).Value() : description;
 }
 
