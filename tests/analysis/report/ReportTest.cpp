@@ -17,7 +17,6 @@ namespace vifanalysis::reporttest {
 namespace {
 
 using testing::AllOf;
-using testing::Contains;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
