@@ -1,6 +1,7 @@
 #include "PatternDepth.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <vector>
 
 namespace vif {
@@ -11,8 +12,10 @@ constexpr std::size_t kEnough = std::size_t{1} << 30;  // counting stops here, s
 
 std::size_t Sum(std::size_t a, std::size_t b) { return std::min(kEnough, a + b); }
 
-// The product itself would not fit where std::size_t has 32 bits.
-std::size_t Product(std::size_t a, std::size_t b) { return a > 0 && b > kEnough / a ? kEnough : a * b; }
+// In 64 bits, because the product itself would not fit where std::size_t has 32.
+std::size_t Product(std::size_t a, std::size_t b) {
+  return static_cast<std::size_t>(std::min(std::uint64_t{kEnough}, std::uint64_t{a} * b));
+}
 
 /// An open group; the whole pattern is the outermost.
 struct OpenGroup {
