@@ -15,12 +15,14 @@ fail() { echo "FAILED: $*" >&2; exit 1; }
 skip() { echo "SKIPPED: $*"; exit; }
 need() { command -v "$1" >/dev/null || skip "there is no $1"; }
 
-# Expects a program to print a text.
+# Expects a program to end with a status and to print a text.
 expect() {
-  local wanted=$1 printed
-  shift
-  printed=$("$@" | tr -d '\r') || true
-  [[ $printed == *"$wanted"* ]] || fail "$* printed, without '$wanted':
+  local wanted_status=$1 wanted=$2 printed status=0
+  shift 2
+  printed=$("$@") || status=$?
+  [ $status -eq "$wanted_status" ] || fail "$* ended with $status instead of $wanted_status, and printed:
+$printed"
+  [[ ${printed//$'\r'/} == *"$wanted"* ]] || fail "$* printed, without '$wanted':
 $printed"
 }
 
@@ -37,7 +39,7 @@ if [ "$1" = MicrosoftAbi ]; then
     -I"$PREFIX/include" -c "$sources/tests/package/microsoft-abi/program.c" -o program.obj
   lld-link /entry:Start /subsystem:console /nodefaultlib program.obj "$lib/vif.lib" kernel32.lib /out:program.exe
   cp "$vifs/usb4-dock.xml" dock.xml
-  WINEPATH="Z:${PREFIX//\//\\}\\bin" expect '378 fields' "$EMULATOR" program.exe
+  WINEPATH="Z:${PREFIX//\//\\}\\bin" expect 0 '378 fields' "$EMULATOR" program.exe
   exit
 fi
 
@@ -51,11 +53,11 @@ strict=(-pedantic -Wall -Wextra -Werror)
 compile_c() {
   need "$1"
   "$1" -std=c99 "${strict[@]}" "$programs/fields.c" "${package[@]}" -o "$work/fields"
-  expect 'Component 3: Port_Label' "$work/fields" "$vifs/usb4-dock.xml"
-  expect 'Fields: 378, components: 3' "$work/fields" "$vifs/usb4-dock.xml"
-  expect 'fields: VIF Does not exist.' bash -c "'$work/fields' missing.txt 2>&1"
+  expect 0 'Component 3: Port_Label' "$work/fields" "$vifs/usb4-dock.xml"
+  expect 0 'Fields: 378, components: 3' "$work/fields" "$vifs/usb4-dock.xml"
+  expect 1 'fields: VIF Does not exist.' bash -c "'$work/fields' missing.txt 2>&1"
   printf '<a/>' >"$work/a.xml"
-  expect "line 1: The root element is 'a'" bash -c "'$work/fields' '$work/a.xml' 2>&1"
+  expect 1 "line 1: The root element is 'a'" bash -c "'$work/fields' '$work/a.xml' 2>&1"
 }
 
 case $1 in
@@ -63,25 +65,25 @@ case $1 in
     compile_c gcc
     python3 -B "$sources/tests/package/code_blocks.py" "$work/samples" "$sources/docs/c.md" >/dev/null
     gcc -std=c99 "${strict[@]}" "$work"/samples/*.c "${package[@]}" -o "$work/sample"
-    expect 'source PDO 2: 180 x 50 mV' "$work/sample" "$vifs/gan-charger-65w.txt"
+    expect 0 'source PDO 2: 180 x 50 mV' "$work/sample" "$vifs/gan-charger-65w.txt"
     ;;
   C99WithClang) compile_c clang ;;
   Cpp98)
     need g++
     g++ -std=c++98 "${strict[@]}" -fno-exceptions "$programs/check.cpp" "${package[@]}" -o "$work/check"
-    expect '[pdo-above-rating]' "$work/check" "$sources/docs/overrated-charger.txt"
+    expect 1 '[pdo-above-rating]' "$work/check" "$sources/docs/overrated-charger.txt"
     ;;
   CSharp)
     need mcs
     need mono
     mcs -warnaserror -out:"$work/Compare.exe" "$programs/Compare.cs"
-    expect 'PD_Power_As_Source: 60000 -> 65000' \
+    expect 0 'PD_Power_As_Source: 60000 -> 65000' \
       mono "$work/Compare.exe" "$sources/docs/overrated-charger.txt" "$sources/docs/revised-charger.txt"
     ;;
   Rust)
     need rustc
     rustc -D warnings "$programs/source_pdos.rs" -L "$lib" -C link-arg=-Wl,-rpath-link,"$lib" -o "$work/source_pdos"
-    expect 'Component 1, source PDO 2: 9 V' "$work/source_pdos" "$vifs/gan-charger-65w.txt"
+    expect 0 'Component 1, source PDO 2: 9 V' "$work/source_pdos" "$vifs/gan-charger-65w.txt"
     ;;
   CMake)
     need cmake
@@ -96,7 +98,7 @@ END
     cp "$programs/fields.c" "$work"
     cmake -S "$work" -B "$work/build" -G Ninja -DCMAKE_PREFIX_PATH="$PREFIX"
     cmake --build "$work/build"
-    expect 'Fields: 378, components: 3' "$work/build/fields" "$vifs/usb4-dock.xml"
+    expect 0 'Fields: 378, components: 3' "$work/build/fields" "$vifs/usb4-dock.xml"
     ;;
   *) fail "unknown check: $1" ;;
 esac
