@@ -44,6 +44,25 @@ Structure Sized() {
   return structure;
 }
 
+/// Cancels the loading of a file at its first, second, ... report, until it ends before that.
+void Cancel(std::string_view content, const char* name) {
+  constexpr std::uint64_t enough = 4;
+  for (std::uint64_t left = 0; left < enough; ++left) {
+    std::uint64_t calls = left;
+    auto progress = Sized<vif_progress>();
+    progress.user = &calls;
+    progress.function = [](void* user, std::uint64_t, std::uint64_t) -> std::int32_t {
+      return (*static_cast<std::uint64_t*>(user))-- == 0 ? 1 : 0;
+    };
+    vif_file* made = nullptr;
+    Require(vif_file_make(&made, nullptr) == VIF_OK, "a file can be made");
+    const File file(made);
+    const vif_status status = vif_file_load_bytes(made, content.data(), content.size(), name, &progress, nullptr);
+    if (status != VIF_ERROR_CANCELLED) return;
+    Require(vif_file_field_count(made) == 0, "nothing is loaded when loading is cancelled");
+  }
+}
+
 /// One file of the input.
 class CInputFile {
  public:
@@ -52,6 +71,7 @@ class CInputFile {
 
   const vif_file* Get() const { return m_file.get(); }
   const vif_findings* GetFindings() const { return m_findings.get(); }
+  void CancelLoading() const { Cancel(m_content, m_name); }
 
  private:
   File Load() const {
@@ -124,6 +144,35 @@ class CInputFile {
   Findings m_findings;
 };
 
+void Explain(const std::string& name) {
+  vif_explanation* explanation = nullptr;
+  const vif_status status = vif_explain(name.c_str(), &explanation, nullptr);
+  Require(status == VIF_OK || status == VIF_ERROR_NOT_FOUND, "a name means a field or none");
+  if (status != VIF_OK) return;
+  auto field = Sized<vif_explained_field>();
+  Require(vif_explanation_get(explanation, &field) == VIF_OK, "an explanation can be read");
+  RequireTexts({field.name, field.asked, field.also_means, field.declares, field.unit});
+  vif_explanation_free(explanation);
+}
+
+/// What a query for the only one of `count` fields returns.
+vif_status StatusOfOnly(std::size_t count) {
+  if (count == 0) return VIF_ERROR_NOT_FOUND;
+  return count == 1 ? VIF_OK : VIF_ERROR_AMBIGUOUS;
+}
+
+void QueryFirst(const vif_file* file, const std::string& pattern, const std::vector<vif_index>& places) {
+  const std::size_t used = places.size() - 1;  // the component takes the third
+  vif_positions* positions = nullptr;
+  const vif_status status = vif_file_find_first(file, pattern.c_str(), places.data(), used, &positions, nullptr);
+  const std::size_t count = vif_positions_count(positions);
+  std::size_t only = 0;
+  const vif_status found = vif_file_find_first_unique(file, pattern.c_str(), places.data(), used, &only, nullptr);
+  Require(found == (status == VIF_OK ? StatusOfOnly(count) : status), "the first component has the only field or not");
+  if (found == VIF_OK) Require(vif_positions_data(positions)[0] == only, "it is the one that the other query finds");
+  vif_positions_free(positions);
+}
+
 void Query(const vif_file* file, std::string_view line) {
   std::vector<vif_index> places;
   for (const auto& [location, number] : fuzz::SlotsIn(fuzz::TakeUpTo('|', line))) places.push_back({location, number});
@@ -138,16 +187,17 @@ void Query(const vif_file* file, std::string_view line) {
   std::size_t only = 0;
   const vif_status found = vif_file_find_unique(file, pattern.c_str(), places.data(), places.size(), &only, nullptr);
   if (status == VIF_OK) {
-    Require(found == (count == 0   ? VIF_ERROR_NOT_FOUND
-                      : count == 1 ? VIF_OK
-                                   : VIF_ERROR_AMBIGUOUS),
-            "the only field is found if there is one");
+    Require(found == StatusOfOnly(count), "the only field is found if there is one");
     if (count == 1) Require(vif_positions_data(positions)[0] == only, "it is the one that any other query finds");
+    std::size_t single = 0;
+    const vif_status singly =
+        vif_file_find_single(file, pattern.c_str(), places.data(), places.size(), &single, nullptr);
+    Require(singly == (count > 1 ? VIF_ERROR_AMBIGUOUS : VIF_OK), "no field is not an error");
+    if (count < 2) Require(single == (count == 0 ? VIF_NO_POSITION : only), "there is no field, or the only one");
   }
   vif_positions_free(positions);
-  if (vif_file_find_first(file, pattern.c_str(), places.data(), 2, &positions, nullptr) == VIF_OK) {
-    vif_positions_free(positions);
-  }
+  QueryFirst(file, pattern, places);
+  Explain(pattern);
 }
 
 void CheckDifferences(const vif_differences* differences, bool areSame) {
@@ -218,6 +268,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::size_t end = input.find(separator);
   const CInputFile first(input.substr(0, end));
   const CInputFile second(end == std::string_view::npos ? std::string_view() : input.substr(end + separator.size()));
+  first.CancelLoading();
   Query(first.Get(), query);
   Compare(first, second);
   Compare(first, first);

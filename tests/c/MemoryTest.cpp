@@ -2,6 +2,7 @@
 #include "Handles.h"
 #include "memory/Samples.h"
 #include "support/ForEveryFailingAllocation.h"
+#include "support/TempDir.h"
 #include "support/XmlVif.h"
 
 #include <gtest/gtest.h>
@@ -102,6 +103,43 @@ TEST(CMemoryTest, Queries) {
   }
 }
 
+TEST(CMemoryTest, QueriesForOneField) {
+  const FilePointer file = FileOf("PID: 1\n");
+  ASSERT_EQ(LoadBytes(file.get(), "PID: 2\n", "b.txt"), VIF_OK);
+  const vif_index component = {VIF_LOCATION_COMPONENT, 1};
+  for (const auto find : {vif_file_find_unique, vif_file_find_single, vif_file_find_first_unique}) {
+    ForEveryFailingAllocation(
+        [] { return VIF_NO_POSITION; },
+        [&](std::size_t& position) {
+          vif_error* error = nullptr;
+          const vif_status status = find(file.get(), "P.D", &component, 1, &position, &error);
+          ExpectDone(status, error);
+        },
+        [](std::size_t position, bool isDone) { EXPECT_EQ(position, isDone ? 0U : VIF_NO_POSITION); });
+  }
+}
+
+TEST(CMemoryTest, LoadingFromDisk) {
+  const TempDir directory;
+  const std::string path = directory.Write("a.xml", XmlDocumentText()).string();
+  ForEveryFailingAllocation(
+      [] { return MakeFile(); },
+      [&](FilePointer& file) {
+        vif_error* error = nullptr;
+        const vif_status status = vif_file_load(file.get(), path.c_str(), nullptr, &error);
+        ExpectDone(status, error);
+      },
+      [](const FilePointer& file, bool isDone) { EXPECT_EQ(vif_file_field_count(file.get()) > 0, isDone); });
+}
+
+TEST(CMemoryTest, ChecksFromDisk) {
+  const TempDir directory;
+  const std::string path = directory.Write("a.txt", "no declaration\nPID: 1\nPID: 2\n").string();
+  ExpectMakingBearsFailures<FindingsPointer>([&](vif_findings** findings, vif_error** error) {
+    return vif_check_file(path.c_str(), nullptr, nullptr, findings, error);
+  });
+}
+
 TEST(CMemoryTest, Checks) {
   const std::string bytes = "no declaration that has some length\nPID: 1\nPID: 2\n" + TextVif();
   ExpectMakingBearsFailures<FindingsPointer>([&](vif_findings** findings, vif_error** error) {
@@ -147,6 +185,19 @@ TEST(CMemoryTest, Reports) {
   reported.file = file.get();
   ExpectMakingBearsFailures<TextPointer>(
       [&](vif_text** page, vif_error** error) { return vif_report(&reported, nullptr, nullptr, page, error); });
+}
+
+TEST(CMemoryTest, ReportsOfTwoFiles) {
+  const FilePointer before = FileOf("PID: 1\nSrc_PDO_Voltage1: 100\n");
+  const FilePointer after = FileOf("PID: 2\nSrc_PDO_Voltage1: 180\n");
+  const FindingsPointer findings = Check("PID: 1\nPID: 2\n", "a.txt");
+  auto first = Sized<vif_reported_file>();
+  first.file = before.get();
+  auto second = Sized<vif_reported_file>();
+  second.file = after.get();
+  second.findings = findings.get();
+  ExpectMakingBearsFailures<TextPointer>(
+      [&](vif_text** page, vif_error** error) { return vif_report(&first, &second, nullptr, page, error); });
 }
 
 TEST(CMemoryTest, Explanations) {
