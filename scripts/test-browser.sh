@@ -15,4 +15,5 @@ if [ ! -x "$VIF" ]; then
 fi
 [ $# -gt 0 ] || set -- tests/browser/*.test.js
 echo "==> Testing reports in a browser"
-node --test --test-reporter=spec "$@"
+# Two files at a time, because the tests mostly wait.
+node --test --test-reporter=spec --test-concurrency=2 "$@"
