@@ -43,8 +43,10 @@ struct CheckOptions {
 ///   std::bad_alloc
 VIF_ANALYSIS_API std::vector<Finding> CheckFile(const std::filesystem::path& path, const CheckOptions& options = {});
 
-/// The same for the content of a file, in memory. The bytes are borrowed for the call.
+/// The same for the content of a file, in memory.
+/// \param content the bytes, borrowed for the call
 /// \param name stands for the path; its extension decides how the bytes are read. No file of that name is looked at
+/// \param options which findings to report
 /// \throws CCheckError when the name has another extension than .txt or .xml, or the content cannot be validated for a
 ///   reason that is not in it; otherwise as `CheckFile`
 VIF_ANALYSIS_API std::vector<Finding> CheckContent(std::string_view content, const std::filesystem::path& name,

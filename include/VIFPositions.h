@@ -12,7 +12,9 @@ class CVendorInfoFile;
 
 /// The positions in `CVendorInfoFile::Fields()` of the fields that `CVendorInfoFile::GetFields` copies, in rising
 /// order.
+/// \param vif the object to search
 /// \param pattern UTF-8; null or empty matches any name
+/// \param query the three slots, as for `CVIFField::Match`
 /// \throws what `CVendorInfoFile::GetFields` throws
 VIF_API std::vector<std::size_t> FindVifFields(const CVendorInfoFile& vif, const char* pattern,
                                                const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query);
