@@ -4,13 +4,14 @@
 # to other hosts. Fails if Doxygen warns, which it does for every name without a comment, or if a link leads nowhere.
 #
 #   scripts/docs.sh [DIRECTORY]
+#   scripts/docs.sh --headers      prints the public headers
 #
 # VIF names the command that says what rules and fields are, by default that of the release build, which is built if it
 # is not there.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-# What is installed; package.SiteHasEveryHeader compares.
+# The installed ones; package.SiteHasEveryHeader compares.
 headers=(
   include/*.h analysis/*.h c/vif.h host/BaseUtilities/*.h
   host/TestUtilities/{AppState,DOMDoc,DOMDocProblem,TULog,TUUserInput}.h host/ZorvenLog/TestSuiteLog.h
@@ -39,11 +40,15 @@ python3 -B scripts/site/tables.py "$vif" "$work/pages"
 python3 -B scripts/site/interface.py "${headers[@]}" >"$work/pages/interface.md"
 python3 -B scripts/site/python_interface.py python/src/vendorinfofile >"$work/pages/python-interface.md"
 
+if [ -e "$output" ] && [ ! -f "$output/doxygen.css" ] && [ -n "$(ls -A "$output")" ]; then
+  echo "$output is not a site that could be replaced" >&2
+  exit 2
+fi
 rm -rf "$output"
 mkdir -p "$output"
 version=$(sed -n 's/^project(VendorInfoFile VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
-# Doxygen takes the locale for the order of names, and its format for the date of nothing that is shown.
 LC_ALL=C SITE_VERSION=$version SITE_WORK=$work SITE_OUTPUT=$output SITE_PAGES=$work/pages SITE_HEADERS="${headers[*]}" \
   SITE_PICTURES=$(sed "s|^|$work/pages/|" "$work/pictures" | tr '\n' ' ') doxygen scripts/site/Doxyfile
+python3 -B scripts/site/directory_pages.py "$output"
 python3 -B scripts/site/check_links.py "$output"
 echo "==> The site is $output/index.html"

@@ -8,8 +8,8 @@
 # systems, "package" for building the packages for Linux and Windows, "bench" for measuring, "browser" for testing pages
 # in a browser, which also takes the npm packages that tests/browser/package-lock.json names, "languages" for programs
 # in other languages, "python" for building and testing the Python package, "docs" for building the site of the
-# documentation. CXX and CXXFLAGS choose the compiler and the
-# standard library, as they do for CMake: CXX=clang++ CXXFLAGS=-stdlib=libc++.
+# documentation. CXX and CXXFLAGS choose the compiler and the standard library, as they do for CMake: CXX=clang++
+# CXXFLAGS=-stdlib=libc++.
 set -euo pipefail
 
 task=${1:-}
@@ -98,7 +98,7 @@ case $task in
     wanted=("${test_packages[@]}" gcc pypy3 python3-cffi python3-exceptiongroup python3-lxml python3-mypy python3-pip
       python3-pytest python3-setuptools python3-tomli python3-venv python3-wheel)
     ;;
-  docs) wanted=(doxygen doxygen-awesome-css git python3) ;;
+  docs) wanted=(doxygen doxygen-awesome-css gawk python3) ;;
   bench) wanted=("${build_packages[@]}" libbenchmark-dev libxml2-utils valgrind) ;;
   browser)
     wanted=(chromium fonts-dejavu-core pngquant)

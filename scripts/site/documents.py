@@ -11,10 +11,9 @@ import os
 import pathlib
 import re
 import shutil
-import subprocess
 import sys
 
-from markup import code_spans_as_html, header_page, link, slug
+from markup import header_page, link, slug
 
 # Doxygen has pages of these names.
 RESERVED = {"annotated", "classes", "examples", "files", "functions", "globals", "index", "namespaces", "pages"}
@@ -80,14 +79,14 @@ class Site:
         )
 
     def heading(self, document, page, seen, line):
-        level, title = re.fullmatch(r"(#+) (.*)", line).groups()
+        level, title = re.fullmatch(r"(#+) (.*)", line.replace("`", "")).groups()  # Doxygen shows code as it is there
         if len(level) == 1:
-            return f"# {code_spans_as_html(title)}" + ("" if page == "index" else f" {{#{page}}}")
+            return f"# {title}" + ("" if page == "index" else f" {{#{page}}}\n\n[TOC]")
         anchor = slug(title)
         if anchor in seen:
             sys.exit(f"{document}: two headings are '{title}'")
         seen.add(anchor)
-        return f"{level} {code_spans_as_html(title)} {{#{page}--{anchor}}}"
+        return f"{level} {title} {{#{page}--{anchor}}}"
 
     def document(self, path):
         page = page_name(path)
@@ -114,7 +113,7 @@ class Site:
         return "\n".join(parts) + "\n"
 
     def directory_listing(self, path):
-        files = subprocess.run(["git", "ls-files", path], check=True, capture_output=True, text=True).stdout.split()
+        files = sorted(str(file) for file in pathlib.Path(path).rglob("*") if file.is_file())
         rows = "".join(f"- {link(self.target('README.md', name), name)}\n" for name in files)
         return f"# {path}/ {{#{page_name(path)}}}\n\n{rows}"
 

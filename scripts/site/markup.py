@@ -19,7 +19,7 @@ def link(target, text):
 
 def escape(text):
     """Plain text as Markdown in a table. Doxygen would take some characters for commands, tags or links."""
-    text = html.escape(text, quote=False)
+    text = html.escape(text)
     return re.sub(r"([\\@#%$|*_`\[\]])", r"\\\1", text).replace("\\_", "_")
 
 

@@ -152,7 +152,7 @@ def main():
             page.missing.append(name)
     if page.missing:
         sys.exit(f"no docstring: {', '.join(page.missing)}")
-    print(f"# The Python interface {{#{PAGE}}}\n")
+    print(f"# The Python interface {{#{PAGE}}}\n\n[TOC]\n")
     print(prose(ast.get_docstring(init), exported))
     print("\n".join(page.lines))
 

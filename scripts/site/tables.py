@@ -58,37 +58,47 @@ def editions(row):
     return first if first == last else f"{first} to {last}"
 
 
-def anchor(kind, name):
-    return f"{kind}--{slug(name)}"
+def page_of(kind, name):
+    """The name of the page about a rule or a field. Each has one, because the search finds pages and not their parts."""
+    return f"{kind}-{slug(name)}"
 
 
-def rules_page(rules, field_pages):
+def link_to(kind, name):
+    return link(page_of(kind, name) + ".html", name)
+
+
+def rules_page(rules):
     text = [
         "# The rules {#rules}\n",
         "What `vif check` and `CheckFile` look for, as `vif explain CODE` says it, which also names the sources. An",
         "error means that something is lost or cannot be intended; a warning is worth a look; a note is often correct",
         "as it is.\n",
-        "| rule | severity | finds |\n|---|---|---|",
+        "| rule | finds |\n|---|---|",
     ]
     for rule in rules:
-        text.append(f"| {link('#' + anchor('rules', rule['code']), rule['code'])} | {rule['severity']} | {escape(rule['what'])} |")
-    for rule in rules:
-        text.append(f"\n## {rule['code']} {{#{anchor('rules', rule['code'])}}}\n")
-        text.append(f"**{rule['severity'].capitalize()}**: {escape(rule['what'])}.{uncertain(rule)}\n")
-        text.append(with_field_links(rule["why"], field_pages) + "\n")
-        if editions(rule):
-            text.append(f"Editions: {editions(rule)}\n")
-    return "\n".join(text)
+        text.append(f"| {link_to('rule', rule['code'])} | <em>{rule['severity']}</em>: {escape(rule['what'])} |")
+    return "\n".join(text) + "\n"
 
 
-def with_field_links(text, field_pages):
+def rule_page(rule, fields):
+    text = [
+        f"# {rule['code']} {{#{page_of('rule', rule['code'])}}}\n",
+        f"**{rule['severity'].capitalize()}**: {escape(rule['what'])}.{uncertain(rule)}\n",
+        with_field_links(rule["why"], fields) + "\n",
+    ]
+    if editions(rule):
+        text.append(f"Only in files of edition {editions(rule)}.\n")
+    return "\n".join([*text, link("rules.html", "All rules")]) + "\n"
+
+
+def with_field_links(text, fields):
     """The text, in which names of fields are links."""
     words = []
     for word in text.split(" "):
         name = word.strip(".,;:()'")
-        if name in field_pages:
+        if name in fields:
             before, after = word.split(name, 1)
-            word = escape(before) + link(field_pages[name], name) + escape(after)
+            word = escape(before) + link_to("field", name) + escape(after)
         else:
             word = escape(word)
         words.append(word)
@@ -109,49 +119,49 @@ def spelling_text(spelling):
     return f"- `{spelling['name']}`: {escape(spelling['kind'])}{seen}{uncertain(spelling)}\n"
 
 
-def field_section(page, field):
-    text = [f"\n## {field['name']} {{#{anchor(page, field['name'])}}}\n"]
+def field_page(field):
+    group = GROUPS[field["group"]]
+    text = [f"# {field['name']} {{#{page_of('field', field['name'])}}}\n"]
     text.append(escape(field["declares"] or "What it declares is not known.") + uncertain(field) + "\n")
     if field.get("note"):
         text.append(escape(field["note"]) + "\n")
+    text.append(f"- group: {link('fields.html#fields--' + slug(group), group)}")
     facts = [("type", field["type"]), ("unit", field["unit"]), ("editions", editions(field) or "not seen in a file")]
     text.append("".join(f"- {name}: {escape(value)}\n" for name, value in facts if value))
     text.append(values_of(field))
     if field["spellings"]:
         text.append("Other names:\n\n" + "".join(spelling_text(spelling) for spelling in field["spellings"]))
     if field["rules"]:
-        rules = ", ".join(link(f"rules.html#{anchor('rules', rule)}", rule) for rule in field["rules"])
-        text.append(f"Rules that name it: {rules}\n")
+        text.append(f"Rules that name it: {', '.join(link_to('rule', rule) for rule in field['rules'])}\n")
     return "\n".join(text)
 
 
 def main():
     vif, directory = sys.argv[1], pathlib.Path(sys.argv[2])
+
+    def write(name, text):
+        (directory / f"{name}.md").write_text(text, encoding="utf-8")
+
     groups = json.loads(output(vif, "explain", "--format", "json"))["groups"]
-    names = {group["group"]: f"fields-{slug(GROUPS[group['group']])}" for group in groups}
-    field_pages = {
-        field: f"{names[group['group']]}.html#{anchor(names[group['group']], field)}"
-        for group in groups
-        for field in group["fields"]
-    }
+    index = ["# The fields {#fields}\n\n[TOC]\n", "The fields of the format by group, as `vif explain NAME` says them. "
+             "What is known was gathered from public documents and real files: *uncertain* marks what only few of them "
+             "say, *not seen* what none of the files has.\n"]
+    for group in groups:
+        title = GROUPS[group["group"]]
+        index.append(f"\n## {title} {{#fields--{slug(title)}}}\n\n| field | declares |\n|---|---|")
+        for field in explain(vif, group["fields"]):
+            write(page_of("field", field["name"]), field_page(field))
+            index.append(f"| {link_to('field', field['name'])} | {escape(field['declares'])} |")
+    write("fields", "\n".join(index) + "\n")
 
     empty_file = directory / "empty.txt"
     empty_file.write_text("")
     rules = all_rules(vif, str(empty_file))
     empty_file.unlink()
-    (directory / "rules.md").write_text(rules_page(rules, field_pages), encoding="utf-8")
-
-    index = ["# The fields {#fields}\n", "The fields of the format by group, as `vif explain NAME` says them. What is "
-             "known was gathered from public documents and real files: *uncertain* marks what only few of them say, "
-             "*not seen* what none of the files has.\n"]
-    for group in groups:
-        page, title = names[group["group"]], GROUPS[group["group"]]
-        rows = explain(vif, group["fields"])
-        text = [f"# Fields: {title} {{#{page}}}\n", *(field_section(page, row) for row in rows)]
-        (directory / f"{page}.md").write_text("\n".join(text), encoding="utf-8")
-        index.append(f"\n## {link(page + '.html', title)} {{#fields--{slug(title)}}}\n\n| field | declares |\n|---|---|")
-        index += [f"| {link(field_pages[row['name']], row['name'])} | {escape(row['declares'])} |" for row in rows]
-    (directory / "fields.md").write_text("\n".join(index) + "\n", encoding="utf-8")
+    fields = {field for group in groups for field in group["fields"]}
+    write("rules", rules_page(rules))
+    for rule in rules:
+        write(page_of("rule", rule["code"]), rule_page(rule, fields))
 
 
 if __name__ == "__main__":
