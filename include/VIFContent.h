@@ -29,8 +29,9 @@ class CVendorInfoFile;
 /// \param content the bytes, borrowed for the call
 /// \param name stands for the path
 /// \param progress see `VifProgressObserver`; may be empty
-/// \throws what `CVendorInfoFile::Append` throws for a file that exists; "Invalid file type for VIF!  Must be text
-///   (*.txt) or XML (*.xml)" for an empty name, too
+///
+/// Throws what `CVendorInfoFile::Append` throws for a file that exists; "Invalid file type for VIF!  Must be text
+/// (*.txt) or XML (*.xml)" for an empty name, too.
 VIF_API void AppendVifContent(CVendorInfoFile& vif, std::string_view content, const std::filesystem::path& name,
                               const VifProgressObserver& progress = nullptr);
 

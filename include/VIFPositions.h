@@ -15,7 +15,8 @@ class CVendorInfoFile;
 /// \param vif the object to search
 /// \param pattern UTF-8; null or empty matches any name
 /// \param query the three slots, as for `CVIFField::Match`
-/// \throws what `CVendorInfoFile::GetFields` throws
+///
+/// Throws what `CVendorInfoFile::GetFields` throws.
 VIF_API std::vector<std::size_t> FindVifFields(const CVendorInfoFile& vif, const char* pattern,
                                                const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query);
 

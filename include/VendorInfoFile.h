@@ -111,8 +111,9 @@ class VIF_API CVendorInfoFile {
   /// Loads another file, with the definitions given at construction, and appends its fields to those already held. If
   /// the object has no file name yet, it takes this one. After a failure, what was read before it stays.
   /// \param fileName UTF-8; outside Windows any bytes that name a file. Null or empty does nothing.
-  /// \throws what the constructor from a path throws, with one difference: for a failed call on an XML document,
-  ///   `_com_error` (<comdef.h> on Windows, msxml/ComError.h elsewhere), which is not a `std::exception`
+  ///
+  /// Throws what the constructor from a path throws, with one difference: for a failed call on an XML document,
+  /// `_com_error` (<comdef.h> on Windows, msxml/ComError.h elsewhere), which is not a `std::exception`.
   void Append(const char* fileName);
 
   /// Appends copies of the given fields, which may be this object's own `Fields()`. The file name and the component

@@ -106,7 +106,7 @@ for (const scheme of ['light', 'dark']) {
 }
 
 // Waits until the results of the search, which appear in a frame of the page, have what begins with a text.
-async function search(tab, text) {
+async function search(tab, text, timeout = 20000) {
   await tab.goto(address('index.html'), { waitUntil: 'load' });
   await tab.waitForSelector('#MSearchField');
   await tab.type('#MSearchField', text, { delay: 5 });
@@ -117,7 +117,7 @@ async function search(tab, text) {
       const names = links.map((link) => link.textContent.toLowerCase());
       return names.some((name) => name.startsWith(wanted.toLowerCase()));
     },
-    { timeout: 5000 },
+    { timeout },
     text,
   );
 }
@@ -127,6 +127,6 @@ test('the search finds classes, functions, documents, fields and rules', async (
   for (const text of ['CVendorInfoFile', 'vif_check_file', 'Architecture', 'Src_PDO_Voltage', 'pdo-above-rating']) {
     await search(tab, text);
   }
-  await assert.rejects(search(tab, 'no-such-thing'));
+  await assert.rejects(search(tab, 'no-such-thing', 1000));
   await tab.close();
 });
