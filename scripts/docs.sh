@@ -38,7 +38,7 @@ echo "==> Building the site"
 python3 -B scripts/site/documents.py "$work/pages" "${headers[@]}" >"$work/pictures"
 python3 -B scripts/site/tables.py "$vif" "$work/pages"
 python3 -B scripts/site/interface.py "${headers[@]}" >"$work/pages/interface.md"
-python3 -B scripts/site/python_interface.py python/src/vendorinfofile >"$work/pages/python-interface.md"
+python3 -B scripts/site/python_interface.py python/src/vendorinfofile "$work/pages"
 
 if [ -e "$output" ] && [ ! -f "$output/doxygen.css" ] && [ -n "$(ls -A "$output")" ]; then
   echo "$output is not a site that could be replaced" >&2

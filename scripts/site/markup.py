@@ -18,9 +18,9 @@ def link(target, text):
 
 
 def escape(text):
-    """Plain text as Markdown in a table. Doxygen would take some characters for commands, tags or links."""
-    text = html.escape(text)
-    return re.sub(r"([\\@#%$|*_`\[\]])", r"\\\1", text).replace("\\_", "_")
+    """Plain text as Markdown in a table. Doxygen would take some characters for commands, tags, links or quotations."""
+    text = re.sub(r"([\\@#%$|*`\[\]])", r"\\\1", text)
+    return text.replace("&", "&amp;").replace("<", "&lt;").replace(">", "&gt;").replace('"', "&quot;")
 
 
 def header_page(header):

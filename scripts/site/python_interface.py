@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Prints the page about the Python package: every name that it exports, from its sources. Fails for a name without a
-docstring.
+"""Writes the pages about the Python package, one for each name that it exports, from its sources. Fails for a name
+without a docstring.
 
-    python_interface.py PACKAGE
+    python_interface.py PACKAGE DIRECTORY
 """
 import ast
 import inspect
@@ -13,61 +13,46 @@ import textwrap
 
 from markup import escape, link
 
-PAGE = "python-interface"
-
-
-def anchor(*names):
-    return f"{PAGE}--" + "-".join(names)
-
-
-def inline(text, exported):
-    """A paragraph of a docstring as Markdown, with links to what the package exports."""
-
-    def code(name):
-        base = name.split(".")[0].removesuffix("()")
-        return link("#" + anchor(base), f"`{name}`") if base in exported else f"<code>{escape_code(name)}</code>"
-
-    parts = re.split(r"(:\w+:`[^`]+`|``[^`]+``)", text)
-    return "".join(code(re.sub(r"^:\w+:|`", "", part)) if "`" in part else escape(part) for part in parts)
+INDEX = "python-interface"
+FIELDS = {"param": "", "raises": "raises ", "return": "returns ", "returns": "returns "}
 
 
 def escape_code(text):
     return text.replace("&", "&amp;").replace("<", "&lt;").replace(">", "&gt;")
 
 
-def prose(docstring, exported):
-    """A docstring as Markdown."""
-    text = re.sub(r"^:[^\n]*(?:\n {4}\S[^\n]*)+", lambda lines: " ".join(lines[0].split()), docstring, flags=re.MULTILINE)
-    blocks = []
-    for block in re.split(r"\n{2,}(?! )", text):
-        if block.startswith("    "):
-            blocks.append("~~~{.py}\n" + textwrap.dedent(block) + "\n~~~")
-        elif block.startswith(":"):
-            blocks.append("\n".join(field(line, exported) for line in block.splitlines()))
-        else:
-            first, *code = block.split("\n\n    ", 1)
-            blocks.append(inline(" ".join(first.split()).removesuffix("::"), exported))
-            blocks += ["~~~{.py}\n" + textwrap.dedent("    " + lines) + "\n~~~" for lines in code]
-    return "\n\n".join(blocks) + "\n"
+def page_of(name):
+    """The page of an exported name. Case alone does not tell pages apart: there are `rule` and `Rule`."""
+    return f"python-{'class-' if name[0].isupper() else ''}{name.lower()}"
 
 
-def field(line, exported):
-    """A line such as ``:raises KeyError, ValueError: there is no such field``."""
-    kind, names, text = re.fullmatch(r":(\w+)(?: ([\w., ]+))?: *(.*)", line).groups()
-    subject = ", ".join(inline(f"``{name}``", exported) for name in names.split(", ")) + ": " if names else ""
-    before = {"param": "", "raises": "raises ", "return": "returns ", "returns": "returns "}[kind]
-    return f"- {before}{subject}{inline(text, exported)}"
+class Package:
+    """The sources of the package."""
 
+    def __init__(self, folder):
+        self.folder = folder
+        self.init = self.parse("__init__")
+        self.origins = {
+            alias.name: statement.module
+            for statement in self.init.body
+            if isinstance(statement, ast.ImportFrom) and statement.level == 1
+            for alias in statement.names
+            if not (alias.asname or "").startswith("__")
+        }
+        self.names = sorted(self.origins, key=lambda name: (name[0].isupper(), name))
 
-def signature(function):
-    arguments = ast.unparse(function.args)
-    arguments = re.sub(r"^(self|cls)(, )?", "", arguments)
-    returns = f" -> {ast.unparse(function.returns)}" if function.returns else ""
-    return f"{function.name}({arguments}){returns}"
+    def parse(self, module):
+        return ast.parse((self.folder / f"{module}.py").read_text(encoding="utf-8"))
 
-
-def is_decorated(function, name):
-    return any(ast.unparse(decorator).split(".")[-1] == name for decorator in function.decorator_list)
+    def definition(self, name):
+        """The statement that defines an exported name, and the string after it, if there is one."""
+        for statement, following in strings_after(self.parse(self.origins[name]).body):
+            if isinstance(statement, (ast.ClassDef, ast.FunctionDef)) and statement.name == name:
+                if not is_decorated(statement, "overload"):
+                    return statement, following
+            elif isinstance(statement, ast.AnnAssign) and statement.target.id == name:
+                return statement, following
+        sys.exit(f"{name} is defined nowhere")
 
 
 def strings_after(body):
@@ -77,10 +62,23 @@ def strings_after(body):
         yield statement, inspect.cleandoc(following.value.value) if is_text else None
 
 
-class Page:
-    def __init__(self, package):
-        self.package = package
-        self.lines = []
+def is_decorated(function, name):
+    return isinstance(function, ast.FunctionDef) and any(
+        ast.unparse(decorator).split(".")[-1] == name for decorator in function.decorator_list
+    )
+
+
+def signature(function):
+    arguments = re.sub(r"^(self|cls)(, )?", "", ast.unparse(function.args))
+    returns = f" -> {ast.unparse(function.returns)}" if function.returns else ""
+    return f"{function.name}({arguments}){returns}"
+
+
+class Writer:
+    """Turns docstrings into Markdown."""
+
+    def __init__(self, exported):
+        self.exported = exported
         self.missing = []
 
     def documented(self, name, docstring):
@@ -88,73 +86,89 @@ class Page:
             self.missing.append(name)
         return docstring or ""
 
-    def entry(self, level, names, code, docstring, exported):
-        title = ".".join(names)
-        self.lines.append(f"\n{level} {title} {{#{anchor(*names)}}}\n\n~~~{{.py}}\n{code}\n~~~\n")
-        self.lines.append(prose(self.documented(title, docstring), exported))
+    def code(self, text):
+        name = text.split(".")[0].removesuffix("()")
+        return link(page_of(name) + ".html", f"`{text}`") if name in self.exported else f"<code>{escape_code(text)}</code>"
 
-    def function(self, function, exported):
-        self.entry("##", [function.name], signature(function), ast.get_docstring(function), exported)
+    def inline(self, text):
+        """A paragraph, with links to what the package exports."""
+        parts = re.split(r"(:\w+:`[^`]+`|``[^`]+``)", " ".join(text.split()))
+        return "".join(self.code(re.sub(r"^:\w+:|`", "", part)) if "`" in part else escape(part) for part in parts)
 
-    def value(self, statement, docstring, exported):
-        name = statement.target.id
-        self.entry("##", [name], f"{name}: {ast.unparse(statement.annotation)}", docstring, exported)
+    def field(self, line):
+        """A line such as ``:raises KeyError, ValueError: there is no such field``."""
+        kind, names, text = re.fullmatch(r":(\w+)(?: ([\w., ]+))?: *(.*)", line).groups()
+        subject = ", ".join(self.code(name) for name in names.split(", ")) + ": " if names else ""
+        return f"- {FIELDS[kind]}{subject}{self.inline(text)}"
 
-    def of_class(self, definition, exported):
-        bases = ", ".join(ast.unparse(base) for base in definition.bases)
-        code = f"class {definition.name}" + (f"({bases})" if bases else "")
-        self.entry("##", [definition.name], code, ast.get_docstring(definition), exported)
-        fields = []
-        for statement, docstring in strings_after(definition.body):
-            if isinstance(statement, ast.AnnAssign) and not statement.target.id.startswith("_"):
-                fields.append((statement.target.id, ast.unparse(statement.annotation), docstring))
-            elif isinstance(statement, ast.FunctionDef) and is_decorated(statement, "property"):
-                if not statement.name.startswith("_"):
-                    fields.append((statement.name, ast.unparse(statement.returns), ast.get_docstring(statement)))
-        if fields:
-            self.lines.append("| member | type | |\n|---|---|---|")
-        for name, kind, docstring in fields:
-            text = inline(" ".join(self.documented(f"{definition.name}.{name}", docstring).split()), exported)
-            self.lines.append(f"| <code>{name}</code> | <code>{escape_code(kind).replace('|', '&#124;')}</code> | {text} |")
+    def block(self, block):
+        """A paragraph, fields, or a paragraph with the code after it."""
+        if block.startswith(":"):
+            return "\n".join(self.field(line) for line in block.splitlines())
+        text, *code = block.split("\n\n    ", 1)
+        blocks = [f"~~~{{.py}}\n{textwrap.dedent('    ' + lines)}\n~~~" for lines in code]
+        return "\n\n".join([self.inline(text.removesuffix("::")), *blocks])
+
+    def prose(self, docstring):
+        lines = re.sub(r"^:[^\n]*(?:\n {4}\S[^\n]*)+", lambda field: " ".join(field[0].split()), docstring, flags=re.M)
+        return "\n\n".join(self.block(block) for block in re.split(r"\n{2,}(?! )", lines)) + "\n"
+
+    def entry(self, name, code, docstring):
+        return f"~~~{{.py}}\n{code}\n~~~\n\n{self.prose(self.documented(name, docstring))}"
+
+    def attributes(self, definition):
+        """The fields and properties of a class, as a list: types have characters that would part the cells of a table."""
+        rows = []
+        for statement, following in strings_after(definition.body):
+            if isinstance(statement, ast.AnnAssign):
+                name, kind, docstring = statement.target.id, statement.annotation, following
+            elif is_decorated(statement, "property"):
+                name, kind, docstring = statement.name, statement.returns, ast.get_docstring(statement)
+            else:
+                continue
+            if not name.startswith("_"):
+                text = self.inline(self.documented(f"{definition.name}.{name}", docstring))
+                rows.append(f"- <code>{escape_code(f'{name}: {ast.unparse(kind)}')}</code>  \n  {text}\n")
+        return "\n" + "".join(rows)
+
+    def methods(self, definition):
+        text = ""
         for statement in definition.body:
-            if isinstance(statement, ast.FunctionDef) and not statement.name.startswith("_"):
-                if not is_decorated(statement, "property") and not is_decorated(statement, "overload"):
-                    self.entry("###", [definition.name, statement.name], signature(statement),
-                               ast.get_docstring(statement), exported)
+            if not isinstance(statement, ast.FunctionDef) or statement.name.startswith("_"):
+                continue
+            if not is_decorated(statement, "property") and not is_decorated(statement, "overload"):
+                entry = self.entry(f"{definition.name}.{statement.name}", signature(statement), ast.get_docstring(statement))
+                text += f"\n## {statement.name} {{#{page_of(definition.name)}--{statement.name}}}\n\n{entry}"
+        return text
+
+    def page(self, name, statement, following):
+        if isinstance(statement, ast.FunctionDef):
+            return self.entry(name, signature(statement), ast.get_docstring(statement))
+        if isinstance(statement, ast.AnnAssign):
+            return self.entry(name, f"{name}: {ast.unparse(statement.annotation)}", following)
+        bases = f"({', '.join(ast.unparse(base) for base in statement.bases)})" if statement.bases else ""
+        text = self.entry(name, f"class {name}{bases}", ast.get_docstring(statement))
+        return text + self.attributes(statement) + self.methods(statement)
+
+
+def first_sentence(statement, following):
+    docstring = following if isinstance(statement, ast.AnnAssign) else ast.get_docstring(statement)
+    return re.match(r".*?(?:[.:](?=\s|$)|$)", " ".join((docstring or "").split()))[0].removesuffix(":")
 
 
 def main():
-    package = pathlib.Path(sys.argv[1])
-    init = ast.parse((package / "__init__.py").read_text(encoding="utf-8"))
-    origins = {
-        alias.asname or alias.name: statement.module
-        for statement in init.body
-        if isinstance(statement, ast.ImportFrom) and statement.level == 1
-        for alias in statement.names
-    }
-    exported = {name for name in origins if not name.startswith("__")}
-    modules = {origin: ast.parse((package / f"{origin}.py").read_text(encoding="utf-8"))
-               for name, origin in origins.items() if name in exported}
-    page = Page(package)
-    for name in sorted(exported, key=lambda name: (name[0].isupper(), name)):
-        found = False
-        for statement, docstring in strings_after(modules[origins[name]].body):
-            if isinstance(statement, ast.ClassDef) and statement.name == name:
-                page.of_class(statement, exported)
-            elif isinstance(statement, ast.FunctionDef) and statement.name == name and not is_decorated(statement, "overload"):
-                page.function(statement, exported)
-            elif isinstance(statement, ast.AnnAssign) and statement.target.id == name:
-                page.value(statement, docstring, exported)
-            else:
-                continue
-            found = True
-        if not found:
-            page.missing.append(name)
-    if page.missing:
-        sys.exit(f"no docstring: {', '.join(page.missing)}")
-    print(f"# The Python interface {{#{PAGE}}}\n\n[TOC]\n")
-    print(prose(ast.get_docstring(init), exported))
-    print("\n".join(page.lines))
+    package, directory = Package(pathlib.Path(sys.argv[1])), pathlib.Path(sys.argv[2])
+    writer = Writer(set(package.names))
+    index = [f"# The Python interface {{#{INDEX}}}\n", writer.prose(ast.get_docstring(package.init)),
+             "| name | is |\n|---|---|"]
+    for name in package.names:
+        definition = package.definition(name)
+        text = f"# {name} in Python {{#{page_of(name)}}}\n\n[TOC]\n\n{writer.page(name, *definition)}"
+        (directory / f"{page_of(name)}.md").write_text(text, encoding="utf-8")
+        index.append(f"| {writer.code(name)} | {writer.inline(first_sentence(*definition))} |")
+    if writer.missing:
+        sys.exit(f"no docstring: {', '.join(writer.missing)}")
+    (directory / f"{INDEX}.md").write_text("\n".join(index) + "\n", encoding="utf-8")
 
 
 if __name__ == "__main__":

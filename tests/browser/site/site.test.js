@@ -17,9 +17,11 @@ const samples = [
   'field-src_pdo_supply_type.html',
   'field-port_source_power_gang_max_power.html',
   'rule-pdo-above-rating.html',
+  'rule-unanswered.html',
+  'python-class-finding.html',
 ];
 const pages = readdirSync(site).filter(
-  (name) => name.endsWith('.html') && !/^(file|field|rule)-|-members\.html$/.test(name) || samples.includes(name),
+  (name) => name.endsWith('.html') && !/^(file|field|rule|python-class)-|-members\.html$/.test(name) || samples.includes(name),
 );
 
 let browser;
@@ -45,6 +47,17 @@ async function openTab(width, scheme) {
   return tab;
 }
 
+// Whether a reader sees markup where there should be text.
+const showsMarkup = () => /&(#x?[0-9a-f]+|lt|gt|amp|quot);|<\/?(a|code|em|img)\b/i.test(
+  [...document.querySelectorAll('.contents, .headertitle')]
+    .flatMap((part) => [...part.querySelectorAll('p, li, td, th, h1, h2, h3, code, .title')])
+    .filter((element) => !element.closest('pre, .fragment'))
+    .map((element) => [...element.childNodes].filter((node) => node.nodeType === Node.TEXT_NODE))
+    .flat()
+    .map((node) => node.data)
+    .join(' '),
+);
+
 const isTooWide = () => document.documentElement.scrollWidth > window.innerWidth;
 
 // The contrast of the running text with the page, as WCAG defines it.
@@ -65,7 +78,7 @@ test('there are pages of every kind', () => {
   assert.deepEqual(kinds.filter((name) => !existsSync(join(site, `${name}.html`))), []);
 });
 
-test('every page needs no network and no more width than a telephone has', async () => {
+test('every page needs no network, fits on a telephone and shows no markup', async () => {
   const wrong = [];
   const rest = [...pages];
   const visitRest = async () => {
@@ -74,6 +87,7 @@ test('every page needs no network and no more width than a telephone has', async
       const page = rest.pop();
       await tab.goto(address(page), { waitUntil: 'load' });
       if (await tab.evaluate(isTooWide)) wrong.push(`${page} is too wide`);
+      if (await tab.evaluate(showsMarkup)) wrong.push(`${page} shows markup`);
       wrong.push(...tab.problems.splice(0).map((problem) => `${page} ${problem}`));
     }
     await tab.close();
@@ -89,6 +103,10 @@ test('the checks of the pages can fail', async () => {
     document.body.insertAdjacentHTML('beforeend', '<div style="width: 400px">wide</div>');
   });
   assert.equal(await tab.evaluate(isTooWide), true);
+  await tab.evaluate(() => {
+    document.querySelector('.contents').insertAdjacentHTML('beforeend', '<p>&amp;quot;</p>');
+  });
+  assert.equal(await tab.evaluate(showsMarkup), true);
   await tab.evaluate(() => fetch('https://example.invalid/').catch(() => {}));
   assert.ok(tab.problems.some((problem) => problem.includes('asks for https://example.invalid/')), tab.problems.join());
   await tab.close();
@@ -122,9 +140,9 @@ async function search(tab, text, timeout = 20000) {
   );
 }
 
-test('the search finds classes, functions, documents, fields and rules', async () => {
+test('the search finds classes, functions, documents, fields, rules and Python', async () => {
   const tab = await openTab(1200, 'light');
-  for (const text of ['CVendorInfoFile', 'vif_check_file', 'Architecture', 'Src_PDO_Voltage', 'pdo-above-rating']) {
+  for (const text of ['CVendorInfoFile', 'vif_check_file', 'Architecture', 'Src_PDO_Voltage', 'pdo-above-rating', 'load in Python']) {
     await search(tab, text);
   }
   await assert.rejects(search(tab, 'no-such-thing', 1000));
