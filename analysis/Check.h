@@ -39,12 +39,16 @@ struct CheckOptions {
 /// `CComApartment`.
 /// \throws CCheckError when the file is missing, is not a regular file, has another extension than .txt or .xml, or
 ///   cannot be validated for a reason that is not in the file
-/// \throws CZoRunTimeException, CZoDOMDocException and _com_error as `CheckTextVif` and `CheckXmlVif` do, and
-///   std::bad_alloc
+/// \throws CZoRunTimeException as `CheckTextVif` and `CheckXmlVif` do
+/// \throws CZoDOMDocException as `CheckXmlVif` does
+/// \throws _com_error as `CheckXmlVif` does
+/// \throws std::bad_alloc
 VIF_ANALYSIS_API std::vector<Finding> CheckFile(const std::filesystem::path& path, const CheckOptions& options = {});
 
-/// The same for the content of a file, in memory. The bytes are borrowed for the call.
+/// The same for the content of a file, in memory.
+/// \param content the bytes, borrowed for the call
 /// \param name stands for the path; its extension decides how the bytes are read. No file of that name is looked at
+/// \param options which findings to report
 /// \throws CCheckError when the name has another extension than .txt or .xml, or the content cannot be validated for a
 ///   reason that is not in it; otherwise as `CheckFile`
 VIF_ANALYSIS_API std::vector<Finding> CheckContent(std::string_view content, const std::filesystem::path& name,

@@ -69,7 +69,7 @@ constexpr const char* KindText(DifferenceKind kind) noexcept {
 
 /// One field that differs.
 struct Difference {
-  DifferenceKind kind{};
+  DifferenceKind kind{};                ///< what happened to it
   std::string name;                     ///< its canonical name
   GroupPlace place{};                   ///< its group in the second file; if the group or one around it was removed,
                                         ///< the removed numbers, as the first file has them, within the counterpart
@@ -79,6 +79,7 @@ struct Difference {
   std::optional<DeclaredField> before;  ///< the first's; nothing if added
   std::optional<DeclaredField> after;   ///< the second's; nothing if removed
 
+  /// Stands for no group.
   static constexpr std::size_t kNoGroup = SIZE_MAX;
 };
 
@@ -105,7 +106,7 @@ constexpr const char* KindText(GroupChangeKind kind) noexcept {
 /// for that, and neither are those that a file has once: its header, its application's and the product, which are
 /// compared field by field even if only one file has them.
 struct GroupChange {
-  GroupChangeKind kind{};
+  GroupChangeKind kind{};      ///< what happened to it
   GroupPlace before{};         ///< its place in the first; if added, that of its parent's counterpart there
   GroupPlace after{};          ///< its place in the second; if removed, that of its parent's counterpart there
   std::size_t fieldCount = 0;  ///< the number of its fields, with those in its inner groups; in the second, if it is
@@ -116,8 +117,8 @@ struct GroupChange {
 
 /// All differences, in the order of the groups of the second file, those of the first standing where they would be.
 struct Differences {
-  std::vector<Difference> fields;  ///< those of added and removed groups included
-  std::vector<GroupChange> groups;
+  std::vector<Difference> fields;   ///< those of added and removed groups included
+  std::vector<GroupChange> groups;  ///< the groups that are not the same, or have another number
 
   /// Whether both mean the same.
   bool IsEmpty() const noexcept { return fields.empty() && groups.empty(); }
@@ -135,7 +136,7 @@ VIF_ANALYSIS_API Differences Compare(std::span<const CVIFField> before, std::spa
 struct PortComparison {
   std::uint64_t component = 0;  ///< the number of the one, which is the second side of the differences
   std::uint64_t other = 0;      ///< the number of the one that it is compared with, which is the first side
-  Differences differences;
+  Differences differences;      ///< how the first side became the second
 };
 
 /// Compares each component with the earlier ones of the same kind: the same PD role, Type-C state machine, connector
@@ -147,8 +148,10 @@ VIF_ANALYSIS_API std::vector<PortComparison> ComparePorts(std::span<const CVIFFi
                                                           const CompareOptions& options = {});
 
 /// Compares two components of any kind in the same way.
+/// \param fields all fields of the file
 /// \param other the number of the first side
 /// \param component the number of the second side
+/// \param options how to compare
 /// \throws std::out_of_range "there is no component <number>"
 VIF_ANALYSIS_API PortComparison ComparePorts(std::span<const CVIFField> fields, std::uint64_t other,
                                              std::uint64_t component, const CompareOptions& options = {});
@@ -164,6 +167,8 @@ struct FindingChanges {
 /// where the PDO is now, and findings in a removed group are fixed. Line numbers do not count, but values do: a
 /// finding whose message quotes a value that has changed is another one. Where one file is text and the other XML, only
 /// the last name of an element's path counts.
+/// \param before the findings of the first file
+/// \param after the findings of the second file
 /// \param differences how the files differ, from `Compare`; without it, each group corresponds to that of its number
 VIF_ANALYSIS_API FindingChanges CompareFindings(const std::vector<Finding>& before, const std::vector<Finding>& after,
                                                 const Differences& differences = {});

@@ -16,8 +16,8 @@ namespace vifanalysis {
 
 /// An edition of the format, as VIF_Specification gives it: "3.22" is {3, 22}, and later than {3, 3}.
 struct Edition {
-  std::uint32_t major = 0;
-  std::uint32_t minor = 0;
+  std::uint32_t major = 0;  ///< the number before the point
+  std::uint32_t minor = 0;  ///< the number after the point
 
   friend constexpr auto operator<=>(const Edition&, const Edition&) = default;
 };

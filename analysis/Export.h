@@ -1,6 +1,9 @@
 // What the library exports: on Windows through declspec, elsewhere through visibility.
 #pragma once
 
+/// \def VIF_ANALYSIS_API
+/// Marks what VendorInfoFileAnalysis exports.
+
 #if defined(_WIN32) && defined(VENDORINFOFILE_ANALYSIS_STATIC)
 #define VIF_ANALYSIS_API
 #elif defined(_WIN32) && defined(VENDORINFOFILE_ANALYSIS_BUILDING)

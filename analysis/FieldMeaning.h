@@ -16,6 +16,7 @@ struct FieldMeaning {
 };
 
 /// The text of a field's value, or the amount that its number is. May be called from any number of threads at once.
+/// \param field the field whose value it is
 /// \param context the PDO that the field is in, if any, and the edition of the file
 /// \throws std::bad_alloc
 VIF_ANALYSIS_API FieldMeaning MeaningOf(const CVIFField& field, const PdoContext& context = {});

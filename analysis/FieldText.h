@@ -54,6 +54,7 @@ VIF_ANALYSIS_API std::string LocationText(const CVIFField& field);
 
 /// A place in words, outermost group first, such as "Component 1, Source PDO 2". The file, its application and the
 /// product go without saying. May be called from any number of threads at once.
+/// \param place the place
 /// \param from how many of the outer slots to leave out; the result is empty when there are no more
 /// \throws std::bad_alloc
 VIF_ANALYSIS_API std::string PlaceInWords(const GroupPlace& place, std::size_t from = 0);

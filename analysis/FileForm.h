@@ -11,6 +11,7 @@
 
 namespace vifanalysis {
 
+/// The form of a file.
 enum class FileForm : std::uint8_t {
   Unknown,  ///< the beginning is like neither
   Text,     ///< it begins with a declaration or a comment

@@ -19,6 +19,7 @@ VIF_ANALYSIS_API std::optional<std::size_t> FirstUnreadableLine(const std::files
 VIF_ANALYSIS_API bool CanBeRead(const std::filesystem::path& path);
 
 /// Whether a path has that extension in any letter case.
+/// \param path the path; there need not be such a file
 /// \param extension in lower case, with its dot
 VIF_ANALYSIS_API bool HasExtension(const std::filesystem::path& path, std::string_view extension);
 

@@ -14,7 +14,7 @@ namespace vifanalysis {
 VIF_ANALYSIS_API std::string ValidUtf8(std::string_view text);
 
 /// The text as valid UTF-8 on one line. Characters that could control a terminal, or mislead the reader by changing the
-/// direction of text, become escapes such as \n and \x1b.
+/// direction of text, become escapes such as `\n` and `\x1b`.
 VIF_ANALYSIS_API std::string Printable(std::string_view text);
 
 /// Whether the character is one of 0 to 9, in any locale.

@@ -25,9 +25,13 @@ class CVendorInfoFile;
 
 /// Reads a VIF from memory and appends its fields to those that an object holds, as `CVendorInfoFile::Append` does. If
 /// the object has no file name yet, it takes this name.
+/// \param vif the object that receives the fields
+/// \param content the bytes, borrowed for the call
+/// \param name stands for the path
 /// \param progress see `VifProgressObserver`; may be empty
-/// \throws what `CVendorInfoFile::Append` throws for a file that exists; "Invalid file type for VIF!  Must be text
-///   (*.txt) or XML (*.xml)" for an empty name, too
+///
+/// Throws what `CVendorInfoFile::Append` throws for a file that exists; "Invalid file type for VIF!  Must be text
+/// (*.txt) or XML (*.xml)" for an empty name, too.
 VIF_API void AppendVifContent(CVendorInfoFile& vif, std::string_view content, const std::filesystem::path& name,
                               const VifProgressObserver& progress = nullptr);
 

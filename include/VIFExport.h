@@ -1,6 +1,9 @@
 // Marks what the library exports: with declspec on Windows, with visibility elsewhere.
 #pragma once
 
+/// \def VIF_API
+/// Marks what VendorInfoFile exports.
+
 #if defined(_WIN32) && defined(VENDORINFOFILE_STATIC)
 #define VIF_API
 #elif defined(_WIN32) && defined(VENDORINFOFILE_BUILDING)

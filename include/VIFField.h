@@ -53,6 +53,8 @@ class VIF_API CVIFField {
 
   /// A field whose description repeats its value.
   /// \param isNumeric whether to read the value as a number
+  /// \param name the name, without index digits
+  /// \param value the value's text
   /// \param indexes the location slots; unused ones hold `UNSPECIFIED_INDEX`
   CVIFField(bool isNumeric, const std::string& name, const std::string& value,
             const std::array<VifIndex, MAX_INDEX_DEPTH>& indexes);
@@ -73,7 +75,10 @@ class VIF_API CVIFField {
   CVIFField(bool isNumeric, const std::string& name, const std::string& value, const std::string& description,
             const VifIndex& index1, const VifIndex& index2, const VifIndex& index3);
 
+  /// An independent copy.
   CVIFField(const CVIFField& other);
+
+  /// Copies the other's content.
   CVIFField& operator=(const CVIFField& other);
 
   /// Moves the three texts and copies the rest. The source is left with empty texts.
@@ -134,6 +139,7 @@ class VIF_API CVIFField {
   /// `INDEX_NOT_SPECIFIED`.
   /// \param pattern a regular expression (ECMAScript) that must match the whole name, ignoring letter case as the
   ///   global locale defines it; null or empty matches any name
+  /// \param index1,index2,index3 the query slots, in any order
   /// \throws std::regex_error if the locations match and the pattern is not a regular expression, or compiling or
   ///   matching it takes too much stack, time or memory; see below
   ///

@@ -12,8 +12,11 @@ class CVendorInfoFile;
 
 /// The positions in `CVendorInfoFile::Fields()` of the fields that `CVendorInfoFile::GetFields` copies, in rising
 /// order.
+/// \param vif the object to search
 /// \param pattern UTF-8; null or empty matches any name
-/// \throws what `CVendorInfoFile::GetFields` throws
+/// \param query the three slots, as for `CVIFField::Match`
+///
+/// Throws what `CVendorInfoFile::GetFields` throws.
 VIF_API std::vector<std::size_t> FindVifFields(const CVendorInfoFile& vif, const char* pattern,
                                                const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query);
 

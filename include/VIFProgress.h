@@ -23,8 +23,10 @@ class CVendorInfoFile;
 using VifProgressObserver = std::function<void(std::uint64_t done, std::uint64_t total)>;
 
 /// Loads a file and appends its fields, as `CVendorInfoFile::Append` does.
+/// \param vif the object that receives the fields
 /// \param file an empty path does nothing
 /// \param progress may be empty
-/// \throws what `CVendorInfoFile::Append` throws, and what the observer throws
+///
+/// Throws what `CVendorInfoFile::Append` throws, and what the observer throws.
 VIF_API void AppendVifFile(CVendorInfoFile& vif, const std::filesystem::path& file,
                            const VifProgressObserver& progress);

@@ -40,6 +40,7 @@ using VifFieldObserver = std::function<void(std::size_t line, const CVIFField& f
 ///
 /// The file is component 1. No field is kept, so a file of any length takes no more memory than its longest line needs.
 /// May be called from any number of threads at once, each with observers of its own.
+/// \param fileName the file, whatever its extension
 /// \param observer receives the lines, an unknown name before its field; may be empty
 /// \param fieldDefs the definitions for resolving names, borrowed for the call; null means the built-in table
 /// \param fieldObserver receives the fields; may be empty

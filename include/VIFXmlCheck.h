@@ -43,6 +43,7 @@ using VifElementObserver = std::function<void(const VifElementReport&)>;
 /// an empty product, which many files have, are not reported.
 ///
 /// May be called from any number of threads at once, each with an observer of its own.
+/// \param fileName the file, whatever its extension
 /// \param observer receives each element; may be empty
 /// \throws CVIFInvalidFile when the file is not a valid VIF; CZoRunTimeException or CZoDOMDocException when loading
 ///   fails on a group; CZoDOMDocException when a schema cannot be used; _com_error when a call on the document fails;

@@ -37,6 +37,23 @@ using VifFieldList = std::unique_ptr<std::vector<CVIFField>, std::function<void(
 /// Several threads may call `const` members of one object at once. While a thread appends to it, assigns to it, moves
 /// from it or destroys it, no other may use it. A moved-from object is empty and may be used again, with the built-in
 /// definitions.
+///
+/// \par Queries
+/// A query is a name pattern and three slots; `CVIFField::Match` says which fields match it. The pattern is UTF-8, or
+/// wide text, which is converted to UTF-8. Null or empty matches any name; a literal null must be nullptr, not NULL.
+/// The slot (eVifLocSrcPdo, 2) matches source PDO 2, (eVifLocSrcPdo, INDEX_NOT_SPECIFIED) any source PDO, and
+/// UNSPECIFIED_INDEX everything. Separate slots and an array of them mean the same.
+///
+/// \par
+/// A query never changes the object, and its results are copies. The pattern is compiled at most once, when the first
+/// field's locations match; a query whose locations match no field ignores it. Besides what is said below, every query
+/// throws `std::regex_error` if it compiles the pattern and that is not a regular expression or is too complex (see
+/// `CVIFField::Match`), and `std::bad_alloc`.
+///
+/// \par Groups
+/// `GetComponent`, `GetRouter`, `GetSrcPdo` and the like return the fields of one group of the file, and of the groups
+/// inside it. `INDEX_NOT_SPECIFIED` as a number matches any. Components, PDOs, SVIDs, modes and endpoints are numbered
+/// from 1, USB4 routers from 0; in a text VIF the numbers are those written in the names.
 class VIF_API CVendorInfoFile {
  public:
   /// An empty object: no fields, no file name, the built-in field definitions.
@@ -44,6 +61,7 @@ class VIF_API CVendorInfoFile {
 
   /// Loads a file. An empty path, or a literal null, loads nothing and never fails. If reading a text file fails
   /// midway, the fields up to there are loaded and nothing is thrown; `CheckTextVif` reports the failure.
+  /// \param fileName the path
   /// \param fieldDefs the definitions for resolving names of text VIFs, here and in later appends. Null means the built-in
   ///   table. The table is borrowed: it must outlive the object and its copies and must not change during a load. Names
   ///   may be of any length, unless one of the caller's own patterns has a back-reference or a look-ahead.
@@ -63,12 +81,14 @@ class VIF_API CVendorInfoFile {
   /// \throws CZoDOMDocException (BaseUtilities/Exceptions.h) for an XML file: "Couldn't load the schema <file>: <reason>"
   ///   if a schema is missing or broken; "Unexpected list element name: <name>" and
   ///   "ERROR:  Couldn't get node name.\r\n" if other schemas admit what the library cannot read;
-  ///   "Vendor Info File Create Exception (file name: "<path>") - <reason>" if a call on the document fails,
+  ///   "Vendor Info File Create Exception (file name: \"<path>\") - <reason>" if a call on the document fails,
   ///   as every call does on Windows while COM is not initialised
   /// \throws std::filesystem::filesystem_error if the file cannot be examined, because its name is too long or a
   ///   directory in its path is not searchable
   /// \throws std::bad_alloc
   CVendorInfoFile(const std::filesystem::path& fileName, std::vector<VifFieldDef>* fieldDefs = nullptr);
+
+  /// Loads nothing, as an empty path does.
   CVendorInfoFile(std::nullptr_t, std::vector<VifFieldDef>* fieldDefs = nullptr);
 
   /// Holds copies of the given fields, with no file name and a component count of 0.
@@ -91,8 +111,9 @@ class VIF_API CVendorInfoFile {
   /// Loads another file, with the definitions given at construction, and appends its fields to those already held. If
   /// the object has no file name yet, it takes this one. After a failure, what was read before it stays.
   /// \param fileName UTF-8; outside Windows any bytes that name a file. Null or empty does nothing.
-  /// \throws what the constructor from a path throws, with one difference: for a failed call on an XML document,
-  ///   `_com_error` (<comdef.h> on Windows, msxml/ComError.h elsewhere), which is not a `std::exception`
+  ///
+  /// Throws what the constructor from a path throws, with one difference: for a failed call on an XML document,
+  /// `_com_error` (<comdef.h> on Windows, msxml/ComError.h elsewhere), which is not a `std::exception`.
   void Append(const char* fileName);
 
   /// Appends copies of the given fields, which may be this object's own `Fields()`. The file name and the component
@@ -108,25 +129,23 @@ class VIF_API CVendorInfoFile {
   /// The number of fields held.
   std::size_t Count() const noexcept;
 
-  // Queries.
-  //
-  // A query is a name pattern and three slots; `CVIFField::Match` says which fields match it. The pattern is UTF-8, or
-  // wide text, which is converted to UTF-8. Null or empty matches any name; a literal null must be nullptr, not NULL.
-  // The slot (eVifLocSrcPdo, 2) matches source PDO 2, (eVifLocSrcPdo, INDEX_NOT_SPECIFIED) any source PDO, and
-  // UNSPECIFIED_INDEX everything. Separate slots and an array of them mean the same.
-  //
-  // A query never changes the object, and its results are copies. The pattern is compiled at most once, when the first
-  // field's locations match; a query whose locations match no field ignores it. Besides what is said below, every query
-  // throws `std::regex_error` if it compiles the pattern and that is not a regular expression or is too complex (see
-  // `CVIFField::Match`), and `std::bad_alloc`.
-
   /// The number of matching fields.
   std::size_t Count(const char* pattern, const VifIndex& index1, const VifIndex& index2, const VifIndex& index3) const;
+
+  /// The same with a wide pattern.
   std::size_t Count(const wchar_t* pattern, const VifIndex& index1, const VifIndex& index2,
                     const VifIndex& index3) const;
+
+  /// The same with the slots in an array.
   std::size_t Count(const char* pattern, const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
+
+  /// The same with a wide pattern and the slots in an array.
   std::size_t Count(const wchar_t* pattern, const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
+
+  /// The same for fields of any name.
   std::size_t Count(std::nullptr_t, const VifIndex& index1, const VifIndex& index2, const VifIndex& index3) const;
+
+  /// The same for fields of any name, with the slots in an array.
   std::size_t Count(std::nullptr_t, const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
 
   /// All fields held, without copying them. Valid until this object is changed or destroyed.
@@ -138,11 +157,21 @@ class VIF_API CVendorInfoFile {
   /// Copies of all matching fields.
   VifFieldList GetFields(const char* pattern, const VifIndex& index1, const VifIndex& index2,
                          const VifIndex& index3) const;
+
+  /// The same with a wide pattern.
   VifFieldList GetFields(const wchar_t* pattern, const VifIndex& index1, const VifIndex& index2,
                          const VifIndex& index3) const;
+
+  /// The same with the slots in an array.
   VifFieldList GetFields(const char* pattern, const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
+
+  /// The same with a wide pattern and the slots in an array.
   VifFieldList GetFields(const wchar_t* pattern, const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
+
+  /// The same for fields of any name.
   VifFieldList GetFields(std::nullptr_t, const VifIndex& index1, const VifIndex& index2, const VifIndex& index3) const;
+
+  /// The same for fields of any name, with the slots in an array.
   VifFieldList GetFields(std::nullptr_t, const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
 
   /// The one matching field.
@@ -150,26 +179,46 @@ class VIF_API CVendorInfoFile {
   ///   "<n> fields in \"<file>\" matched with \"<pattern>\"."; an object without a file name is called "this VIF"
   CVIFField GetUniqueField(const char* pattern, const VifIndex& index1, const VifIndex& index2,
                            const VifIndex& index3) const;
+
+  /// The same with a wide pattern.
   CVIFField GetUniqueField(const wchar_t* pattern, const VifIndex& index1, const VifIndex& index2,
                            const VifIndex& index3) const;
+
+  /// The same with the slots in an array.
   CVIFField GetUniqueField(const char* pattern, const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
+
+  /// The same with a wide pattern and the slots in an array.
   CVIFField GetUniqueField(const wchar_t* pattern, const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
+
+  /// The same for fields of any name.
   CVIFField GetUniqueField(std::nullptr_t, const VifIndex& index1, const VifIndex& index2,
                            const VifIndex& index3) const;
+
+  /// The same for fields of any name, with the slots in an array.
   CVIFField GetUniqueField(std::nullptr_t, const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
 
   /// The one matching field and true, or the empty field and false if none matches.
   /// \throws CZoRunTimeException "<n> fields in \"<file>\" matched with \"<pattern>\"." if more than one matches
   std::tuple<CVIFField, bool> GetSingleField(const char* pattern, const VifIndex& index1, const VifIndex& index2,
                                              const VifIndex& index3) const;
+
+  /// The same with a wide pattern.
   std::tuple<CVIFField, bool> GetSingleField(const wchar_t* pattern, const VifIndex& index1, const VifIndex& index2,
                                              const VifIndex& index3) const;
+
+  /// The same with the slots in an array.
   std::tuple<CVIFField, bool> GetSingleField(const char* pattern,
                                              const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
+
+  /// The same with a wide pattern and the slots in an array.
   std::tuple<CVIFField, bool> GetSingleField(const wchar_t* pattern,
                                              const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
+
+  /// The same for fields of any name.
   std::tuple<CVIFField, bool> GetSingleField(std::nullptr_t, const VifIndex& index1, const VifIndex& index2,
                                              const VifIndex& index3) const;
+
+  /// The same for fields of any name, with the slots in an array.
   std::tuple<CVIFField, bool> GetSingleField(std::nullptr_t,
                                              const std::array<VifIndex, CVIFField::MAX_INDEX_DEPTH>& query) const;
 
@@ -179,22 +228,26 @@ class VIF_API CVendorInfoFile {
   /// Only the component numbers 0 to `ComponentCount() - 1` are searched. Since components are numbered from 1, the one
   /// with the highest number is not: with one component loaded, nothing is found. Query that one by its number.
   VifFieldList GetFirstFields(const char* pattern, const VifIndex& index2, const VifIndex& index3) const;
+
+  /// The same with a wide pattern.
   VifFieldList GetFirstFields(const wchar_t* pattern, const VifIndex& index2, const VifIndex& index3) const;
+
+  /// The same for fields of any name.
   VifFieldList GetFirstFields(std::nullptr_t, const VifIndex& index2, const VifIndex& index3) const;
 
   /// The one field that `GetFirstFields` finds.
   /// \throws CZoRunTimeException "<n> fields in \"<pattern>\" matched with \"<pattern>\"." if it finds several
   /// \throws std::out_of_range "invalid vector subscript" if it finds none
   CVIFField GetFirstUniqueField(const char* pattern, const VifIndex& index2, const VifIndex& index3) const;
+
+  /// The same with a wide pattern.
   CVIFField GetFirstUniqueField(const wchar_t* pattern, const VifIndex& index2, const VifIndex& index3) const;
+
+  /// The same for fields of any name.
   CVIFField GetFirstUniqueField(std::nullptr_t, const VifIndex& index2, const VifIndex& index3) const;
 
   /// The number of components read so far from all files loaded, which is also the highest component number assigned.
   std::uint32_t ComponentCount() const noexcept;
-
-  // The fields of one group of the file, and of the groups inside it. `INDEX_NOT_SPECIFIED` as a number matches any.
-  // Components, PDOs, SVIDs, modes and endpoints are numbered from 1, USB4 routers from 0; in a text VIF the numbers
-  // are those written in the names.
 
   /// The fields of a component.
   VifFieldList GetComponent(VifIndexNumber component) const;

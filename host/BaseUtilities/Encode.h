@@ -9,6 +9,7 @@ namespace zotext {
 
 /// Copies ASCII text into characters of another width. Nearly all text of a VIF is ASCII, and copying it many
 /// characters at a time is much faster than decoding them one by one.
+/// \param text the text to copy
 /// \param copy room for as many characters as the text has
 /// \return whether the text was ASCII; if not, the copy is useless
 template <typename From, typename To>
@@ -31,6 +32,7 @@ bool CopyAscii(std::basic_string_view<From> text, To* copy) {
 }
 
 /// Appends a character as UTF-8.
+/// \param text receives one to four bytes at its end
 /// \param code a Unicode code point
 inline void AppendUtf8(std::string& text, char32_t code) {
   const auto append = [&](char32_t byte) { text += static_cast<char>(byte); };

@@ -31,6 +31,8 @@ class CSafeString {
 
   /// Takes the other's text and leaves the other empty.
   CSafeString(CSafeString&& other) noexcept : m_text(std::move(other.m_text)) { other.m_text.clear(); }
+
+  /// Takes the other's text and leaves the other empty.
   CSafeString& operator=(CSafeString&& other) noexcept {
     if (this != &other) {
       m_text = std::move(other.m_text);

@@ -15,29 +15,59 @@
 /// One argument of a format, with its type. Texts are borrowed: they must stay valid until the format call returns.
 class CFormatArgument {
  public:
-  enum class Kind { Signed, Unsigned, Character, Narrow, Wide, NullText };
+  /// The kind of an argument.
+  enum class Kind {
+    Signed,     ///< a signed number
+    Unsigned,   ///< an unsigned number
+    Character,  ///< a character, narrow or wide
+    Narrow,     ///< a narrow text
+    Wide,       ///< a wide text
+    NullText,   ///< a null pointer to a text
+  };
 
+  /// A narrow text; may be null.
   CFormatArgument(const char* text) : m_kind(text != nullptr ? Kind::Narrow : Kind::NullText), m_narrow(Text(text)) {}
+
+  /// A wide text; may be null.
   CFormatArgument(const wchar_t* text) : m_kind(text != nullptr ? Kind::Wide : Kind::NullText), m_wide(Text(text)) {}
+
+  /// A null text.
   CFormatArgument(std::nullptr_t) : m_kind(Kind::NullText) {}
+
+  /// A narrow text, with any NULs in it.
   CFormatArgument(const std::string& text) : m_kind(Kind::Narrow), m_narrow(text) {}
+
+  /// A wide text, with any NULs in it.
   CFormatArgument(const std::wstring& text) : m_kind(Kind::Wide), m_wide(text) {}
+
+  /// A narrow text.
   CFormatArgument(const CSafeString& text) : CFormatArgument(text.get()) {}
+
+  /// A byte as a character.
   CFormatArgument(char character) : m_kind(Kind::Character), m_number(static_cast<unsigned char>(character)) {}
+
+  /// A wide character.
   CFormatArgument(wchar_t character) : m_kind(Kind::Character), m_number(static_cast<uint64_t>(character)) {}
 
+  /// A number of any integral type.
   template <std::integral Number>
   CFormatArgument(Number number)
       : m_kind(std::is_signed_v<Number> ? Kind::Signed : Kind::Unsigned),
         m_size(sizeof(Number)),
         m_number(static_cast<uint64_t>(number)) {}
 
+  /// The number of an enumerator.
   template <typename Enum>
   requires std::is_enum_v<Enum> CFormatArgument(Enum value)
       : CFormatArgument(static_cast<std::underlying_type_t<Enum>>(value)) {}
 
+  /// What it is.
   Kind GetKind() const { return m_kind; }
+
+  /// The text of a narrow one; otherwise empty.
   std::string_view Narrow() const { return m_narrow; }
+
+  /// The text of a wide one; otherwise empty.
   std::wstring_view Wide() const { return m_wide; }
 
   /// The number or character code. Signed numbers are sign-extended to 64 bits.

@@ -17,10 +17,14 @@ class ZO_API CAppState {
 
   /// The host's user-input module; null if there is none.
   static CTUUserInput* UserInput() noexcept;
+
+  /// Sets the user-input module; null for none.
   static void SetUserInput(CTUUserInput* userInput) noexcept;
 
   /// The log of the running suite; null if there is none.
   static CTestSuiteLog* TestSuiteLog() noexcept;
+
+  /// Sets the log of the running suite; null for none.
   static void SetTestSuiteLog(CTestSuiteLog* log) noexcept;
 
   /// The VIF of the product under test; null if none is published. Tests read it between the two hooks of a suite and

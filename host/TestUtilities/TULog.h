@@ -45,6 +45,8 @@ class ZO_API CTULog {
   static eZoLogVerbosity GetDefaultLogVerbosity(TEST_STATUS status) noexcept;
 
   /// Receives a line.
+  /// \param status the line's
+  /// \param verbosity how verbose the log must be for the line to appear
   /// \param format may be null
   /// \param text UTF-8, except for the bytes of file names that are not; without a line end; borrowed for the call,
   ///   never null

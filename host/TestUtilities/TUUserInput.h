@@ -23,7 +23,11 @@ class ZO_API CTUUserInput {
   /// \return the answer; no if there is nobody to ask
   virtual bool AskYesNo(const wchar_t* prompt, const wchar_t* caption);
 
-  /// Asks for a number from `lowest` to `highest`.
+  /// Asks for a number.
+  /// \param prompt what to enter
+  /// \param caption the title of the question
+  /// \param lowest the least number to accept
+  /// \param highest the greatest number to accept
   /// \param number receives it; unchanged if the operator gives none
   /// \return whether the operator gave one
   virtual bool AskNumber(const wchar_t* prompt, const wchar_t* caption, long lowest, long highest, long* number);

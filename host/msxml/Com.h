@@ -45,22 +45,25 @@ using Result = std::int32_t;
 /// A pointer was null where it must not be.
 constexpr Result kNullPointer = static_cast<Result>(0x80004003);
 
+/// Memory ran out.
 constexpr Result kOutOfMemory = static_cast<Result>(0x8007000E);
 
 /// The identifier of an interface.
 struct Guid {
-  std::uint32_t Data1;
-  std::uint16_t Data2;
-  std::uint16_t Data3;
-  std::uint8_t Data4[8];
+  std::uint32_t Data1;    ///< the first eight hexadecimal digits
+  std::uint16_t Data2;    ///< the next four
+  std::uint16_t Data3;    ///< the next four
+  std::uint8_t Data4[8];  ///< the last sixteen, in pairs
 
   friend constexpr bool operator==(const Guid&, const Guid&) = default;
 };
 
+/// The identifier of `Unknown`.
 constexpr Guid kUnknownId = {0x00000000, 0x0000, 0x0000, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
 
 /// What all interfaces have in common: a reference count. When it reaches 0, the object is deleted.
 struct Unknown {
+  /// \param iid the identifier of the interface asked for
   /// \param object receives the interface, with a reference for the caller; null if the object does not have it
   virtual Result QueryInterface(const Guid& iid, void** object) = 0;
 
@@ -83,6 +86,7 @@ ZO_API Text SysAllocString(const wchar_t* text);
 
 /// Copies `length` characters. The caller frees the copy.
 /// \param text may be null: the caller then fills in the content
+/// \param length how many
 /// \return null if memory runs out
 ZO_API Text SysAllocStringLen(const wchar_t* text, std::uint32_t length);
 
@@ -92,15 +96,14 @@ ZO_API void SysFreeString(Text text);
 /// The number of characters; 0 for null.
 ZO_API std::uint32_t SysStringLen(Text text);
 
-// The types of a value.
-constexpr std::uint16_t kEmptyVariant = 0;
-constexpr std::uint16_t kNullVariant = 1;
-constexpr std::uint16_t kTextVariant = 8;
+constexpr std::uint16_t kEmptyVariant = 0;  ///< the type of an empty value
+constexpr std::uint16_t kNullVariant = 1;   ///< the type of a null value
+constexpr std::uint16_t kTextVariant = 8;   ///< the type of a text
 
 /// A value that knows its type: empty, null or a text. `CVariant` owns one.
 struct Variant {
-  std::uint16_t vt;
-  Text bstrVal;  ///< set only if the value is a text
+  std::uint16_t vt;  ///< its type: `kEmptyVariant`, `kNullVariant` or `kTextVariant`
+  Text bstrVal;      ///< set only if the value is a text
 };
 
 /// Initialises memory as an empty value.

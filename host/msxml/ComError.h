@@ -10,6 +10,8 @@
 /// on every system. As in COM, it is not a `std::exception`.
 class ZO_API _com_error {  // NOLINT(bugprone-reserved-identifier)
  public:
+  /// \param result the failed call's result
+  /// \param iid the interface that it was made on
   explicit _com_error(zocom::Result result, const zocom::Guid& iid = zocom::kUnknownId) noexcept;
   _com_error(const _com_error&) noexcept = default;
   _com_error& operator=(const _com_error&) noexcept = default;
@@ -33,7 +35,9 @@ class ZO_API _com_error {  // NOLINT(bugprone-reserved-identifier)
 [[noreturn]] ZO_API void _com_issue_error(zocom::Result result);  // NOLINT(bugprone-reserved-identifier)
 
 /// Throws a `_com_error` that names the interface.
+/// \param result the failed call's result
 /// \param object the object that failed; may be null
+/// \param iid the interface
 [[noreturn]] ZO_API void _com_issue_errorex(zocom::Result result,  // NOLINT(bugprone-reserved-identifier)
                                             zocom::Unknown* object, const zocom::Guid& iid);
 

@@ -26,20 +26,28 @@ template <typename Interface>
 class CComPointer {
  public:
   CComPointer() noexcept = default;
+
+  /// An empty pointer.
   CComPointer(std::nullptr_t) noexcept {}
 
+  /// \param pointer the interface; may be null
   /// \param addRef whether to count a reference; false takes over the caller's
   explicit CComPointer(Interface* pointer, bool addRef = true) noexcept : m_pointer(pointer) {
     if (addRef && m_pointer != nullptr) m_pointer->AddRef();
   }
 
+  /// Counts a reference of its own.
   CComPointer(const CComPointer& other) noexcept : CComPointer(other.m_pointer) {}
+  /// Takes over the other's reference and leaves it empty.
   CComPointer(CComPointer&& other) noexcept : m_pointer(std::exchange(other.m_pointer, nullptr)) {}
 
+  /// Releases its reference and counts one to the other's object.
   CComPointer& operator=(const CComPointer& other) noexcept {
     if (this != &other) *this = CComPointer(other);
     return *this;
   }
+
+  /// Swaps the two pointers.
   CComPointer& operator=(CComPointer&& other) noexcept {
     std::swap(m_pointer, other.m_pointer);
     return *this;
@@ -70,6 +78,7 @@ class CComPointer {
   /// Hands the reference over to the caller.
   Interface* Detach() noexcept { return std::exchange(m_pointer, nullptr); }
 
+  /// Whether it is not empty.
   explicit operator bool() const noexcept { return m_pointer != nullptr; }
   friend bool operator==(const CComPointer& pointer, std::nullptr_t) noexcept { return pointer.m_pointer == nullptr; }
 
@@ -89,6 +98,8 @@ class CBstr {
   }
 
   CBstr(const CBstr&) = delete;
+
+  /// Takes over the other's text and leaves it empty.
   CBstr(CBstr&& other) noexcept : m_text(std::exchange(other.m_text, nullptr)) {}
   CBstr& operator=(const CBstr&) = delete;
   CBstr& operator=(CBstr&&) = delete;
@@ -97,6 +108,7 @@ class CBstr {
   /// The text, borrowed; null is the empty text.
   zocom::Text get() const noexcept { return m_text; }
 
+  /// The text, valid until this is changed or destroyed.
   std::wstring_view View() const noexcept { return {m_text != nullptr ? m_text : L"", zocom::SysStringLen(m_text)}; }
 
   /// Empties this and returns the place where a call stores its answer, which this then owns.
@@ -116,6 +128,8 @@ class CBstr {
 class CVariant {
  public:
   CVariant() noexcept { zocom::VariantInit(&m_variant); }
+
+  /// A value that is a text.
   explicit CVariant(CBstr text) noexcept : CVariant() {
     m_variant.vt = zocom::kTextVariant;
     m_variant.bstrVal = text.Detach();
@@ -124,6 +138,7 @@ class CVariant {
   CVariant& operator=(const CVariant&) = delete;
   ~CVariant() { zocom::VariantClear(&m_variant); }
 
+  /// The value, borrowed.
   const zocom::Variant& get() const noexcept { return m_variant; }
 
   /// The text; empty if the value is not a text.

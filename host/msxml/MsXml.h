@@ -19,13 +19,18 @@ EXTERN_C const IID DECLSPEC_SELECTANY IID_IXMLDOMDocument2 = {
 struct IXMLDOMNodeList;
 struct IXMLDOMNamedNodeMap;
 
+/// The identifier of `IXMLDOMNode`.
 constexpr zocom::Guid IID_IXMLDOMNode = {0x2933BF80, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
+/// The identifier of `IXMLDOMNodeList`.
 constexpr zocom::Guid IID_IXMLDOMNodeList = {
     0x2933BF82, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
+/// The identifier of `IXMLDOMNamedNodeMap`.
 constexpr zocom::Guid IID_IXMLDOMNamedNodeMap = {
     0x2933BF83, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
+/// The identifier of `IXMLDOMElement`.
 constexpr zocom::Guid IID_IXMLDOMElement = {
     0x2933BF86, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
+/// The identifier of `IXMLDOMDocument2`.
 constexpr zocom::Guid IID_IXMLDOMDocument2 = {
     0x2933BF95, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
 
@@ -68,21 +73,26 @@ struct IXMLDOMNode : zocom::Unknown {
   ~IXMLDOMNode() = default;
 };
 
+/// An element.
 struct IXMLDOMElement : IXMLDOMNode {
  protected:
   ~IXMLDOMElement() = default;
 };
 
+/// Nodes in document order.
 struct IXMLDOMNodeList : zocom::Unknown {
   /// \param index from 0; out of range: 1 and null
+  /// \param node receives the node
   virtual zocom::Result get_item(std::int32_t index, IXMLDOMNode** node) = 0;
 
+  /// \param length receives the number of nodes
   virtual zocom::Result get_length(std::int32_t* length) = 0;
 
  protected:
   ~IXMLDOMNodeList() = default;
 };
 
+/// The attributes of an element.
 struct IXMLDOMNamedNodeMap : zocom::Unknown {
   /// The attribute with that qualified name.
   virtual zocom::Result getNamedItem(zocom::Text name, IXMLDOMNode** attribute) = 0;
@@ -109,8 +119,8 @@ struct IXMLDOMDocument2 : IXMLDOMNode {
 
 #endif
 
-using DOMNodePtr = CComPointer<IXMLDOMNode>;
-using DOMElementPtr = CComPointer<IXMLDOMElement>;
-using DOMNodeListPtr = CComPointer<IXMLDOMNodeList>;
-using DOMNamedNodeMapPtr = CComPointer<IXMLDOMNamedNodeMap>;
-using DOMDocument2Ptr = CComPointer<IXMLDOMDocument2>;
+using DOMNodePtr = CComPointer<IXMLDOMNode>;                  ///< owns a reference to a node
+using DOMElementPtr = CComPointer<IXMLDOMElement>;            ///< owns a reference to an element
+using DOMNodeListPtr = CComPointer<IXMLDOMNodeList>;          ///< owns a reference to a list of nodes
+using DOMNamedNodeMapPtr = CComPointer<IXMLDOMNamedNodeMap>;  ///< owns a reference to the attributes of an element
+using DOMDocument2Ptr = CComPointer<IXMLDOMDocument2>;        ///< owns a reference to a document

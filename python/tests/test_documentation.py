@@ -41,9 +41,11 @@ def examples(path):
     ]
 
 
-@pytest.mark.parametrize("page", ["docs/python.md", "README.md"])
+@pytest.mark.parametrize("page", ["docs/python.md", "docs/tutorial.md", "README.md"])
 def test_examples_print_what_they_say(page, tmp_path, monkeypatch):
     prepare(tmp_path)
+    for linked in re.findall(r"\]\(([\w-]+\.(?:txt|xml))\)", (SOURCES / page).read_text(encoding="utf-8")):
+        shutil.copy((SOURCES / page).parent / linked, tmp_path)
     monkeypatch.chdir(tmp_path)
     names = {}
     found = examples(SOURCES / page)

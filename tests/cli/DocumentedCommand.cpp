@@ -86,9 +86,10 @@ std::string Shown(Words command, const std::filesystem::path& folder) {
 
 }  // namespace
 
-std::vector<std::string> RunDocumented(const std::string& line) {
+std::filesystem::path ExampleFolder() { return VIF_EXAMPLES; }
+
+std::vector<std::string> RunDocumented(const std::string& line, std::filesystem::path folder) {
   Words words = SplitWords(line);
-  std::filesystem::path folder = VIF_EXAMPLES;
   if (words.size() > 3 && words[0] == "cd" && words[2] == "&&") folder /= TakeUpTo("&&", words)[1];
   std::vector<std::string> lines = Lines(Shown(TakeUpTo("|", words), folder));
   if (!words.empty()) Filter(lines, words);

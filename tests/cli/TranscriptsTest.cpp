@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -55,15 +56,18 @@ void ExpectShown(const std::vector<std::string>& shown, const Transcript& transc
   EXPECT_EQ(shown, told) << "$ " << transcript.command;
 }
 
-void ExpectAllShown(const std::string& path, std::size_t atLeast) {
+void ExpectAllShown(const std::string& path, std::size_t atLeast,
+                    const std::filesystem::path& folder = testsupport::ExampleFolder()) {
   const std::vector<Transcript> transcripts = ReadTranscripts(path);
   EXPECT_GE(transcripts.size(), atLeast);
   for (const Transcript& transcript : transcripts) {
-    ExpectShown(testsupport::RunDocumented(transcript.command), transcript);
+    ExpectShown(testsupport::RunDocumented(transcript.command, folder), transcript);
   }
 }
 
 TEST(Transcripts, OfTheCommandAreTrue) { ExpectAllShown(std::string(VIF_DOCS) + "/command.md", 6); }
+
+TEST(Transcripts, OfTheTutorialAreTrue) { ExpectAllShown(std::string(VIF_DOCS) + "/tutorial.md", 6, VIF_DOCS); }
 
 TEST(Transcripts, OfTheReadmeAreTrue) { ExpectAllShown(std::string(VIF_DOCS) + "/../README.md", 1); }
 

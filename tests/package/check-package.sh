@@ -219,6 +219,16 @@ EOF
     mapfile -t documents < <(find "$sources" -name '*.md' -not -path "$sources/build/*" -not -path '*/node_modules/*')
     python3 -B "$here/broken_links.py" "${documents[@]}" ||
       fail 'the links above, in the sources, are broken'
+    mapfile -t scripts < <(grep -ohE '(scripts|tests|python)/[A-Za-z0-9_/.-]+\.(sh|py|cpp|h)\b' "${documents[@]}" | sort -u)
+    [ ${#scripts[@]} -ge 20 ] || fail "the documents name only ${#scripts[@]} scripts"
+    for script in "${scripts[@]}"; do
+      [ -e "$sources/$script" ] || fail "the documents name $script, which does not exist"
+    done
+    ;;
+  SiteHasEveryHeader)
+    "$sources/scripts/docs.sh" --headers | sed -E '/^c\/vif\.h$/d; s#^(include|host)/##' | LC_ALL=C sort >"$work/site.txt"
+    (cd "$headers" && find . -name '*.h' -printf '%P\n') | LC_ALL=C sort | diff "$work/site.txt" - ||
+      fail 'the site (<) and the installation (>) do not have the same headers'
     ;;
   *) fail "unknown check: $1" ;;
 esac

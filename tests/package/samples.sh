@@ -3,9 +3,9 @@
 # Where the samples are extracted to.
 samples=$work/samples
 
-# Writes all code blocks of the README and of docs/ to $samples.
+# Writes all code blocks of the README, of CONTRIBUTING and of docs/ to $samples.
 extract_samples() {
-  python3 -B "$here/code_blocks.py" "$samples" "$sources/README.md" "$sources"/docs/*.md >"$work/blocks.txt"
+  python3 -B "$here/code_blocks.py" "$samples" "$sources"/{README,CONTRIBUTING}.md "$sources"/docs/*.md >"$work/blocks.txt"
   [ -s "$work/blocks.txt" ] || fail 'the documents have no samples'
 }
 
@@ -81,6 +81,9 @@ prepare_shell() {
     [ -x "$sources/scripts/$tool.sh" ] || fail "there is no scripts/$tool.sh"
     printf '#!/bin/sh\n' >"$tree/scripts/$tool.sh"
   done
+  mkdir "$tree/.ci"
+  [ -f "$sources/.ci/run" ] || fail 'there is no .ci/run'
+  printf '#!/bin/sh\n' >"$tree/.ci/run"
   cat >"$work/bin/cmake" <<END
 #!/usr/bin/env bash
 # Checks that a preset exists instead of configuring or building, and installs what is already built.

@@ -85,7 +85,7 @@ def check(path: Path, *, notes: bool = False, only: Iterable[str] = (), without:
     :param notes: whether to report notes, too
     :param only: unless empty, the codes of the findings to report
     :param without: codes of findings not to report
-    :raises MissingFile: UnreadableFile, UnknownForm, SchemaError: as for :func:`load`
+    :raises MissingFile, UnreadableFile, UnknownForm, SchemaError: as for :func:`load`
     """
     made = ffi.new("vif_findings**")
     with_options = _Options(notes, only, without)

@@ -297,7 +297,7 @@ def loads(data: Any, name: Path) -> Product:
     """Loads a VIF from memory: bytes, or anything with a buffer of them, such as ``bytearray`` or ``mmap``.
 
     :param name: stands for the file's name in messages, and its extension for the form; no such file is looked at
-    :raises UnknownForm: InvalidVif, SchemaError: as for :func:`load`
+    :raises UnknownForm, InvalidVif, SchemaError: as for :func:`load`
     :raises TypeError: data is not bytes
     """
     source = Source()

@@ -23,13 +23,13 @@ export function findBrowser() {
   return [chosen, ...candidates].find((path) => path && isExecutable(path));
 }
 
-export function launchBrowser() {
+export function launchBrowser(more = []) {
   // Chromium refuses to run as root in its sandbox.
   const sandbox = process.getuid?.() === 0 ? ['--no-sandbox'] : [];
   return puppeteer.launch({
     executablePath: findBrowser(),
     headless: true,
     pipe: true,
-    args: [...sandbox, '--disable-dev-shm-usage', '--force-color-profile=srgb', '--lang=en'],
+    args: [...sandbox, '--disable-dev-shm-usage', '--force-color-profile=srgb', '--lang=en', ...more],
   });
 }
