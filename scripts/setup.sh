@@ -2,20 +2,21 @@
 # Installs the packages that a task needs and this system lacks, with apt, as root or with sudo. Without apt it only
 # says what is needed.
 #
-#   scripts/setup.sh build | test | check | windows | arm64 | package | bench | browser | languages | python
+#   scripts/setup.sh build | test | check | windows | arm64 | package | bench | browser | languages | python | manual
 #
 # "test" includes "build", and "check" includes both. "windows" and "arm64" are for building and testing for other
 # systems, "package" for building the packages for Linux and Windows, "bench" for measuring, "browser" for testing pages
 # in a browser, which also takes the npm packages that tests/browser/package-lock.json names, "languages" for programs
-# in other languages, "python" for building and testing the Python package. CXX and CXXFLAGS choose the compiler and the
-# standard library, as they do for CMake: CXX=clang++ CXXFLAGS=-stdlib=libc++.
+# in other languages, "python" for building and testing the Python package, "manual" for testing manual pages and the
+# completion of shells. CXX and CXXFLAGS choose the compiler and the standard library, as they do for CMake: CXX=clang++
+# CXXFLAGS=-stdlib=libc++.
 set -euo pipefail
 
 task=${1:-}
 case $task in
-  build | test | check | windows | arm64 | package | bench | browser | languages | python) ;;
+  build | test | check | windows | arm64 | package | bench | browser | languages | python | manual) ;;
   *)
-    echo "usage: scripts/setup.sh build | test | check | windows | arm64 | package | bench | browser | languages | python" >&2
+    echo "usage: scripts/setup.sh build | test | check | windows | arm64 | package | bench | browser | languages | python | manual" >&2
     exit 2
     ;;
 esac
@@ -96,6 +97,7 @@ case $task in
     wanted=("${test_packages[@]}" gcc pypy3 python3-cffi python3-exceptiongroup python3-lxml python3-mypy python3-pip
       python3-pytest python3-setuptools python3-tomli python3-venv python3-wheel)
     ;;
+  manual) wanted=("${test_packages[@]}" bash-completion bsdextrautils fish groff-base man-db mandoc zsh) ;;
   bench) wanted=("${build_packages[@]}" libbenchmark-dev libxml2-utils valgrind) ;;
   browser)
     wanted=(chromium fonts-dejavu-core pngquant)
