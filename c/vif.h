@@ -6,7 +6,8 @@
  *
  *     vif_file* file = NULL;
  *     vif_error* error = NULL;
- *     if (vif_file_make(&file, &error) == VIF_OK && vif_file_load(file, "dock.xml", NULL, &error) == VIF_OK) {
+ *     if (vif_file_make(&file, &error) == VIF_OK &&
+ *         vif_file_load(file, "dock.xml", NULL, &error) == VIF_OK) {
  *       ...
  *     }
  *     vif_error_free(error);
@@ -647,9 +648,8 @@ typedef struct vif_rule {
   const char* why;        /**< why that is wrong and what to do about it, in sentences */
   const char* confidence; /**< how certain it is that what it finds is wrong: "high", "medium" or "low" */
   int32_t severity;       /**< of its findings */
-  uint32_t first_major;   /**< the first edition of the format that it is applied to, as 3 and 22 for 3.22; 0 and 0 for
-                             every file */
-  uint32_t first_minor;   /**< its second number */
+  uint32_t first_major;   /**< of the first edition of the format that it is applied to: 3 for 3.22; 0 for every file */
+  uint32_t first_minor;   /**< of the same edition: 22 for 3.22 */
   uint32_t reserved;      /**< 0 */
 } vif_rule;
 

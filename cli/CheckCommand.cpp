@@ -3,6 +3,7 @@
 #include "FieldSource.h"
 #include "FindingWriters.h"
 #include "SchemasOption.h"
+#include "Values.h"
 
 #include <analysis/Check.h>
 #include <analysis/Rules.h>
@@ -56,9 +57,8 @@ constexpr const char* kRestOfFooter =
     "  vif check --format json port0.xml port1.xml > known.json\n"
     "  vif check --baseline known.json port0.xml port1.xml\n"
     "\n"
-    "Exit status: 0 if there are no findings of the severity that --fail-on names, or higher; 1 if there are; 2, "
-    "without "
-    "findings, if a file cannot be checked.";
+    "Exit status: 0 if there are no findings of the severity that --fail-on names, or higher; 1 if there are; 2 if a "
+    "file cannot be checked, without findings.";
 
 /// The list of codes in the help.
 std::string CodeList() {
@@ -119,27 +119,33 @@ Status RunCheck(const CheckSettings& settings) {
 }
 
 void AddCodesOption(CLI::App& command, const char* name, std::vector<std::string>& codes, const char* description) {
-  command.add_option(name, codes, description)->delimiter(',')->allow_extra_args(false)->option_text("CODE,...");
+  command.add_option(name, codes, description)
+      ->delimiter(',')
+      ->allow_extra_args(false)
+      ->type_name(kFindingCodes)
+      ->option_text("CODE,...");
 }
 
 void AddOptions(CLI::App& command, CheckSettings& settings) {
-  command.add_option("--format", settings.format, "The output format: text (the default), json or sarif")
-      ->check(CLI::IsMember({"text", "json", "sarif"}).description(""))
-      ->option_text("FORMAT");
+  AddFormat(command, settings.format, "The output format: text (the default), json or sarif",
+            {"text", "json", "sarif"});
   command.add_flag("--notes", settings.options.notes, "Print notes, too");
   AddCodesOption(command, "--only", settings.options.only, "Print only findings with these codes, notes included");
   AddCodesOption(command, "--except", settings.options.except, "Print no findings with these codes");
-  command
-      .add_option("--fail-on", settings.failOn,
-                  "The lowest severity that makes the exit status 1: error (the default), warning, note or never")
-      ->check(CLI::IsMember({"error", "warning", "note", "never"}).description(""))
+  AddChoice(command, "--fail-on", settings.failOn,
+            "The lowest severity that makes the exit status 1: error (the default), warning, note or never",
+            {"error", "warning", "note", "never"})
       ->option_text("SEVERITY");
   command
       .add_option("--baseline", settings.baseline,
                   "Leave out the findings of an earlier run, whose JSON output is in this file; lines may have moved")
+      ->type_name(kJsonFile)
       ->option_text("JSON");
   AddSchemasOption(command);
-  command.add_option("FILE", settings.files, "The files, text (.txt) or XML (.xml)")->required()->option_text("...");
+  command.add_option("FILE", settings.files, "The files, text (.txt) or XML (.xml)")
+      ->required()
+      ->type_name(kVifFile)
+      ->option_text("...");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "FieldSource.h"
 #include "Number.h"
 #include "SchemasOption.h"
+#include "Values.h"
 
 #include <analysis/Differences.h>
 #include <CLI/CLI.hpp>
@@ -52,7 +53,7 @@ constexpr const char* kFooter =
     "  vif diff --ports laptop.xml\n"
     "  vif diff --ports --component 1 --component 3 laptop.xml\n"
     "\n"
-    "Exit status: 0 if they mean the same, 1 if they differ, 2 if they cannot be compared.";
+    "Exit status: 0 if they mean the same; 1 if they differ; 2 if they cannot be compared.";
 
 Status RunFiles(const DiffSettings& settings) {
   FileComparison comparison;
@@ -130,17 +131,17 @@ void AddDiffCommand(CLI::App& app, Status& status) {
   command->footer(kFooter);
   command->group("Commands");
   const auto settings = std::make_shared<DiffSettings>();
-  command->add_option("--format", settings->format, "The output format: text (the default) or json")
-      ->check(CLI::IsMember({"text", "json"}).description(""))
-      ->option_text("FORMAT");
+  AddFormat(*command, settings->format, "The output format: text (the default) or json", {"text", "json"});
   command->add_flag("--descriptions", settings->options.descriptions, "Compare descriptions and comments, too");
   command->add_flag("--ports", settings->ports, "Compare the ports of one file");
   command->add_option("--component", settings->components, "With --ports, twice: the components to compare")
       ->allow_extra_args(false)
+      ->type_name(kNumber)
       ->option_text("N");
   AddSchemasOption(*command);
   command->add_option("FILE", settings->files, "The two files, text (.txt) or XML (.xml)")
       ->required()
+      ->type_name(kVifFile)
       ->option_text("...");
   command->callback([settings, &status] {
     RequireValidCombination(*settings);

@@ -1,6 +1,7 @@
 #include "Command.h"
 #include "ExplanationWriters.h"
 #include "Output.h"
+#include "Values.h"
 
 #include <analysis/FieldExplanation.h>
 #include <analysis/Rules.h>
@@ -92,10 +93,10 @@ void AddExplainCommand(CLI::App& app, Status& status) {
   command->footer(kFooter);
   command->group("Commands");
   const auto settings = std::make_shared<ExplainSettings>();
-  command->add_option("--format", settings->format, "The output format: text (the default) or json")
-      ->check(CLI::IsMember({"text", "json"}).description(""))
-      ->option_text("FORMAT");
-  command->add_option("NAME", settings->names, "Names of fields and codes of findings")->option_text("...");
+  AddFormat(*command, settings->format, "The output format: text (the default) or json", {"text", "json"});
+  command->add_option("NAME", settings->names, "Names of fields and codes of findings")
+      ->type_name(kExplained)
+      ->option_text("...");
   command->callback([settings, &status] {
     RunExplain(*settings);
     status = kDone;

@@ -1,6 +1,7 @@
 #include "ExplanationWriters.h"
 
 #include "Columns.h"
+#include "ExplanationText.h"
 #include "Json.h"
 #include "Output.h"
 #include "Style.h"
@@ -59,30 +60,6 @@ void WriteItem(std::string_view label, std::string_view text) {
   if (!text.empty()) WriteWrapped(label, kIndent + kLabelWidth, text);
 }
 
-/// The mark after a fact that is not well known.
-std::string Mark(bool isSeen, Confidence confidence) {
-  std::string mark = isSeen ? "" : "not seen";
-  if (confidence == Confidence::Low) mark.append(mark.empty() ? "" : ", ").append("uncertain");
-  return mark.empty() ? mark : std::string(" (").append(mark).append(")");
-}
-
-std::string SpellingText(const ExplainedSpelling& spelling) {
-  std::string text = spelling.name + ": " + std::string(NameKindText(spelling.kind));
-  if (!spelling.first.empty()) {
-    text += ", " + spelling.first;
-    if (spelling.last != spelling.first) text += " to " + spelling.last;
-  }
-  if (!spelling.why.empty()) text += ". " + spelling.why;
-  return text + Mark(true, spelling.confidence);
-}
-
-std::string CodesAbout(const std::string& field) {
-  std::string codes;
-  for (const RuleInfo* rule : vifanalysis::RulesAbout(field))
-    codes.append(codes.empty() ? "" : ", ").append(rule->code);
-  return codes;
-}
-
 /// Why the name asked for is not the field's own.
 std::string AskedText(const FieldExplanation& field) {
   if (field.asked == NameKind::Canonical || field.asked == NameKind::TextForm || field.asked == NameKind::LetterCase) {
@@ -110,12 +87,6 @@ Json SpellingJson(const ExplainedSpelling& spelling) {
           {"confidence", ConfidenceText(spelling.confidence)}};
 }
 
-std::string EditionsText(const RuleInfo& rule) {
-  return rule.first == vifanalysis::Edition{} ? "all" : EditionText(rule.first) + " and later";
-}
-
-std::string GroupName(EVifLocation location) { return location == eVifLocUnset ? "" : GetVifLocInfo(location).name; }
-
 }  // namespace
 
 void WriteFieldAsText(const FieldExplanation& field) {
@@ -125,7 +96,7 @@ void WriteFieldAsText(const FieldExplanation& field) {
   WriteItem("asked for", AskedText(field));
   WriteItem("group", field.group.empty() ? "none" : field.group);
   WriteItem("type", field.type);
-  WriteItem("unit", field.unit.empty() ? field.unit : field.unit + (field.unitIsWeak ? " (uncertain)" : ""));
+  WriteItem("unit", UnitText(field));
   WriteItem("editions", EditionsText(field));
   const char* label = "values";
   for (const ExplainedValue& value : field.values) {

@@ -3,6 +3,7 @@
 #include "Number.h"
 #include "Output.h"
 #include "SchemasOption.h"
+#include "Values.h"
 
 #include <BaseUtilities/Exceptions.h>
 #include <analysis/FieldText.h>
@@ -171,6 +172,7 @@ void AddGetCommand(CLI::App& app, Status& status) {
   const auto options = std::make_shared<GetOptions>();
   for (size_t i = 0; i < options->numbers.size(); ++i) {
     command->add_option(kLocationOptions[i].name, options->numbers[i], kLocationOptions[i].help)
+        ->type_name(kNumberOrAny)
         ->option_text("[N]")
         ->group("Location options");
   }
@@ -178,8 +180,11 @@ void AddGetCommand(CLI::App& app, Status& status) {
   command->add_flag("--with-name", options->withName, "Print name, place and value, separated by tabs");
   command->add_flag("--unique", options->unique, "Require exactly one matching field");
   AddSchemasOption(*command);
-  command->add_option("FILE", options->file, "The file, text (.txt) or XML (.xml)")->required()->option_text(" ");
-  command->add_option("PATTERN", options->pattern, "The names to match")->option_text(" ");
+  command->add_option("FILE", options->file, "The file, text (.txt) or XML (.xml)")
+      ->required()
+      ->type_name(kVifFile)
+      ->option_text(" ");
+  command->add_option("PATTERN", options->pattern, "The names to match")->type_name(kFieldName)->option_text(" ");
   command->callback([options, &status] { status = RunGet(*options); });
 }
 

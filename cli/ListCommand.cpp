@@ -1,6 +1,7 @@
 #include "Command.h"
 #include "FieldSource.h"
 #include "SchemasOption.h"
+#include "Values.h"
 #include "Writers.h"
 
 #include <CLI/CLI.hpp>
@@ -36,7 +37,7 @@ constexpr const char* kFooter =
     "  vif list charger.txt\n"
     "  vif list --format json port0.txt port1.txt\n"
     "\n"
-    "Exit status: 0 if all files load, 2 if one does not.";
+    "Exit status: 0 if all files load; 2 if one does not.";
 
 void RunList(const ListOptions& options) {
   const CVendorInfoFile vif = LoadFiles(options.files);
@@ -56,11 +57,12 @@ void AddListCommand(CLI::App& app, Status& status) {
   command->footer(kFooter);
   command->group("Commands");
   const auto options = std::make_shared<ListOptions>();
-  command->add_option("--format", options->format, "The output format: table (the default), json or csv")
-      ->check(CLI::IsMember({"table", "json", "csv"}).description(""))
-      ->option_text("FORMAT");
+  AddFormat(*command, options->format, "The output format: table (the default), json or csv", {"table", "json", "csv"});
   AddSchemasOption(*command);
-  command->add_option("FILE", options->files, "The files, text (.txt) or XML (.xml)")->required()->option_text("...");
+  command->add_option("FILE", options->files, "The files, text (.txt) or XML (.xml)")
+      ->required()
+      ->type_name(kVifFile)
+      ->option_text("...");
   command->callback([options, &status] {
     RunList(*options);
     status = kDone;

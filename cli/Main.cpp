@@ -1,6 +1,6 @@
 // The `vif` command.
+#include "Application.h"
 #include "Command.h"
-#include "HelpFormatter.h"
 #include "Output.h"
 
 #include <analysis/Text.h>
@@ -21,17 +21,8 @@ namespace {
 
 using cli::kDone;
 using cli::kFailed;
+using cli::MakeApplication;
 using cli::Status;
-
-constexpr const char* kDescription =
-    "Reads Vendor Info Files (VIFs), in which the vendor of a USB Type-C, USB Power Delivery or USB4 product declares "
-    "its capabilities for compliance testing.";
-
-constexpr const char* kFooter =
-    "'vif COMMAND --help' describes a command, with examples.\n"
-    "\n"
-    "Exit status: 0 done; 1 ran, but found no match, problems or differences; 2 failed, with one line on standard "
-    "error that says why.";
 
 Status Fail(std::string_view reason, Status status = kFailed) {
   std::fprintf(stderr, "vif: %s\n", vifanalysis::Printable(reason).c_str());
@@ -46,20 +37,8 @@ std::string UsageProblem(const CLI::App& app, const CLI::ParseError& error) {
 
 Status Run(int argc, char** argv) {
   Status status = kFailed;
-  CLI::App app(kDescription, "vif");
-  app.formatter(std::make_shared<cli::CHelpFormatter>());
-  app.footer(kFooter);
-  app.set_version_flag("--version", "vif " VIF_VERSION, "Print the version and exit");
-  app.set_help_flag("-h,--help", "Print this help and exit");
-  app.allow_windows_style_options(false);  // a path may begin with a slash
-  app.require_subcommand(1);
-  cli::AddListCommand(app, status);
-  cli::AddGetCommand(app, status);
-  cli::AddShowCommand(app, status);
-  cli::AddCheckCommand(app, status);
-  cli::AddExplainCommand(app, status);
-  cli::AddDiffCommand(app, status);
-  cli::AddReportCommand(app, status);
+  const std::unique_ptr<CLI::App> owned = MakeApplication(status);
+  CLI::App& app = *owned;
   try {
     std::vector<std::string> arguments = cli::CompleteLocationOptions({argv + 1, argv + argc});
     std::reverse(arguments.begin(), arguments.end());  // CLI11 takes them from the end

@@ -3,6 +3,7 @@
 #include "FileOutput.h"
 #include "Output.h"
 #include "SchemasOption.h"
+#include "Values.h"
 
 #include <BaseUtilities/PathText.h>
 #include <analysis/Check.h>
@@ -36,7 +37,7 @@ constexpr const char* kFooter =
     "  vif report -o charger.html charger.xml\n"
     "  vif report -o changes.html passed.txt revised.xml\n"
     "\n"
-    "Exit status: 0 if the page was written, 2 if not.";
+    "Exit status: 0 if the page was written; 2 if not.";
 
 /// A file with what the report says about it.
 struct LoadedFile {
@@ -85,10 +86,12 @@ void AddReportCommand(CLI::App& app, Status& status) {
   command->group("Commands");
   const auto settings = std::make_shared<ReportSettings>();
   command->add_option("-o,--output", settings->output, "The file to write; standard output unless it is given")
+      ->type_name(kNewFile)
       ->option_text("FILE");
   AddSchemasOption(*command);
   command->add_option("FILE", settings->files, "One file or two, text (.txt) or XML (.xml)")
       ->required()
+      ->type_name(kVifFile)
       ->option_text("...");
   command->callback([settings, &status] {
     RunReport(*settings);

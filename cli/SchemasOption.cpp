@@ -1,6 +1,7 @@
 #include "SchemasOption.h"
 
 #include "Command.h"
+#include "Values.h"
 
 #include <BaseUtilities/PathText.h>
 #include <TestUtilities/DOMDoc.h>
@@ -31,6 +32,7 @@ void AddSchemasOption(CLI::App& command) {
   command
       .add_option_function<std::string>("--schemas", UseSchemas,
                                         "The directory with the schemas for XML files; the installed ones by default")
+      ->type_name(kDirectory)
       ->option_text("DIR");
 }
 

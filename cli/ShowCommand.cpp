@@ -4,6 +4,7 @@
 #include "Output.h"
 #include "SchemasOption.h"
 #include "Style.h"
+#include "Values.h"
 
 #include <analysis/Edition.h>
 #include <analysis/FieldMeaning.h>
@@ -41,7 +42,6 @@ constexpr const char* kFooter =
     "file leaves open, such as the voltage of a PDO without a supply type.\n"
     "\n"
     "A text in parentheses is not the file's: it is what the format says about a value that the file does not "
-    ""
     "describe, or the number in its unit. \"uncertain\" marks what is concluded from few sources.\n"
     "\n"
     "On a terminal, headings are bold and texts in parentheses dimmed, unless NO_COLOR is set.\n"
@@ -50,7 +50,7 @@ constexpr const char* kFooter =
     "  vif show charger.txt\n"
     "  vif show port0.txt port1.txt | less\n"
     "\n"
-    "Exit status: 0 if all files load, 2 if one does not.";
+    "Exit status: 0 if all files load; 2 if one does not.";
 
 using FieldPointers = std::vector<const CVIFField*>;
 
@@ -198,7 +198,10 @@ void AddShowCommand(CLI::App& app, Status& status) {
   command->group("Commands");
   const auto files = std::make_shared<std::vector<std::string>>();
   AddSchemasOption(*command);
-  command->add_option("FILE", *files, "The files, text (.txt) or XML (.xml)")->required()->option_text("...");
+  command->add_option("FILE", *files, "The files, text (.txt) or XML (.xml)")
+      ->required()
+      ->type_name(kVifFile)
+      ->option_text("...");
   command->callback([files, &status] {
     RunShow(*files);
     status = kDone;

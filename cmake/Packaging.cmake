@@ -14,6 +14,7 @@ else()
   set(CPACK_SYSTEM_NAME linux-${CMAKE_SYSTEM_PROCESSOR})
   set(CPACK_PACKAGE_DESCRIPTION
     "A shared library that turns a VIF, in text or XML, into a list of fields that\ncompliance test suites can ask, with headers, and the command vif.")
+  set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/DebianCompletion.cmake")
   set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
   set(CPACK_DEBIAN_PACKAGE_SECTION libdevel)
   set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)

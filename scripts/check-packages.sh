@@ -34,6 +34,16 @@ check() {
   cd "$root"
 }
 
+# Expects the manual pages and the completion of three shells, that of zsh in the given folder.
+#   check_manual DIRECTORY FOLDER
+check_manual() {
+  local file
+  for file in man/man1/vif{,-check,-diff,-explain,-get,-list,-report,-show}.1 man/man3/vif.3 \
+    man/man7/vif-{rules,fields}.7 bash-completion/completions/vif fish/vendor_completions.d/vif.fish "zsh/$2/_vif"; do
+    [ -s "$1/share/$file" ] || fail "share/$file is missing"
+  done
+}
+
 # Creates the directory for a package and enters it.
 unpack_into() { mkdir -p "$work/$1" && echo "==> $1" && cd "$work/$1"; }
 
@@ -46,15 +56,18 @@ cd VendorInfoFile-*-win64
 for file in bin/{VendorInfoFile,VendorInfoFileAnalysis,VendorInfoFileHost,vif}.dll bin/vif.exe lib/vif.lib lib/libvif.dll.a lib/libVendorInfoFile{,Analysis,Host}.dll.a; do
   [ -f "$file" ] || fail "$file is missing"
 done
+[ ! -e share/man ] || fail 'there are manual pages for Windows'
 check "$PWD" "$root/scripts/run-windows.sh" bin/vif.exe
 
 unpack_into tar
 tar xzf "$packages"/VendorInfoFile-*-linux-*.tar.gz
 cd VendorInfoFile-*
+check_manual . site-functions
 check "$PWD" bin/vif
 
 unpack_into deb
 dpkg-deb -x "$packages"/vendorinfofile_*.deb .
+check_manual usr vendor-completions
 check "$PWD/usr" bin/vif
 dpkg-deb -f "$packages"/vendorinfofile_*.deb Depends | grep -q libxml2 || fail 'the package does not depend on libxml2'
 

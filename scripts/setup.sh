@@ -2,21 +2,22 @@
 # Installs the packages that a task needs and this system lacks, with apt, as root or with sudo. Without apt it only
 # says what is needed.
 #
-#   scripts/setup.sh build | test | check | windows | arm64 | package | bench | browser | languages | python | docs
+#   scripts/setup.sh build | test | check | windows | arm64 | package | bench | browser | languages | python | docs |
+#                    manual
 #
 # "test" includes "build", and "check" includes both. "windows" and "arm64" are for building and testing for other
 # systems, "package" for building the packages for Linux and Windows, "bench" for measuring, "browser" for testing pages
 # in a browser, which also takes the npm packages that tests/browser/package-lock.json names, "languages" for programs
 # in other languages, "python" for building and testing the Python package, "docs" for building the site of the
-# documentation. CXX and CXXFLAGS choose the compiler and the standard library, as they do for CMake: CXX=clang++
-# CXXFLAGS=-stdlib=libc++.
+# documentation, "manual" for testing manual pages and the completion of shells. CXX and CXXFLAGS choose the compiler and
+# the standard library, as they do for CMake: CXX=clang++ CXXFLAGS=-stdlib=libc++.
 set -euo pipefail
 
 task=${1:-}
 case $task in
-  build | test | check | windows | arm64 | package | bench | browser | languages | python | docs) ;;
+  build | test | check | windows | arm64 | package | bench | browser | languages | python | docs | manual) ;;
   *)
-    echo "usage: scripts/setup.sh build | test | check | windows | arm64 | package | bench | browser | languages | python | docs" >&2
+    sed -n 's/^#   \(scripts.*\)/usage: \1/p; s/^#    \( .*\)/       \1/p' "$0" >&2
     exit 2
     ;;
 esac
@@ -99,6 +100,7 @@ case $task in
       python3-pytest python3-setuptools python3-tomli python3-venv python3-wheel)
     ;;
   docs) wanted=(doxygen doxygen-awesome-css gawk python3) ;;
+  manual) wanted=("${test_packages[@]}" bash-completion bsdextrautils fish groff-base man-db mandoc zsh) ;;
   bench) wanted=("${build_packages[@]}" libbenchmark-dev libxml2-utils valgrind) ;;
   browser)
     wanted=(chromium fonts-dejavu-core pngquant)

@@ -22,16 +22,25 @@ struct Transcript {
   std::string output;
 };
 
-/// All transcripts of a document: the lines between ```console and ```, with "$ " before each command.
-std::vector<Transcript> ReadTranscripts(const std::string& path) {
+/// The lines that begin and end a transcript.
+struct Fences {
+  std::string_view begin;
+  std::string_view end;
+};
+
+constexpr Fences kOfDocuments = {"```console", "```"};
+constexpr Fences kOfManualPages = {"@transcript", "@end"};
+
+/// All transcripts of a document, with "$ " before each command.
+std::vector<Transcript> ReadTranscripts(const std::string& path, const Fences& fences) {
   std::ifstream file(path);
   std::stringstream content;
   content << file.rdbuf();
   std::vector<Transcript> transcripts;
   bool inside = false;
   for (const std::string& line : Lines(content.str())) {
-    if (line.starts_with("```")) {
-      inside = line == "```console";
+    if (line == fences.begin || line == fences.end) {
+      inside = line == fences.begin;
     } else if (inside && line.starts_with("$ ")) {
       transcripts.push_back({line.substr(2), {}});
     } else if (inside && !transcripts.empty()) {
@@ -58,7 +67,7 @@ void ExpectShown(const std::vector<std::string>& shown, const Transcript& transc
 
 void ExpectAllShown(const std::string& path, std::size_t atLeast,
                     const std::filesystem::path& folder = testsupport::ExampleFolder()) {
-  const std::vector<Transcript> transcripts = ReadTranscripts(path);
+  const std::vector<Transcript> transcripts = ReadTranscripts(path, kOfDocuments);
   EXPECT_GE(transcripts.size(), atLeast);
   for (const Transcript& transcript : transcripts) {
     ExpectShown(testsupport::RunDocumented(transcript.command, folder), transcript);
@@ -68,6 +77,25 @@ void ExpectAllShown(const std::string& path, std::size_t atLeast,
 TEST(Transcripts, OfTheCommandAreTrue) { ExpectAllShown(std::string(VIF_DOCS) + "/command.md", 6); }
 
 TEST(Transcripts, OfTheTutorialAreTrue) { ExpectAllShown(std::string(VIF_DOCS) + "/tutorial.md", 6, VIF_DOCS); }
+
+/// The command, run where the files that it names are.
+std::string Located(const std::string& command) {
+  for (const auto& entry : std::filesystem::directory_iterator(VIF_DOCS)) {
+    if (command.find(' ' + entry.path().filename().string()) != std::string::npos) return "cd ../../docs && " + command;
+  }
+  return command;
+}
+
+TEST(Transcripts, OfTheManualPagesAreTrue) {
+  std::size_t count = 0;
+  for (const auto& page : std::filesystem::directory_iterator(VIF_DOCS "/../manual/pages")) {
+    for (const Transcript& transcript : ReadTranscripts(page.path().string(), kOfManualPages)) {
+      ExpectShown(testsupport::RunDocumented(Located(transcript.command)), transcript);
+      ++count;
+    }
+  }
+  EXPECT_GE(count, 10U);
+}
 
 TEST(Transcripts, OfTheReadmeAreTrue) { ExpectAllShown(std::string(VIF_DOCS) + "/../README.md", 1); }
 
