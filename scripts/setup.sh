@@ -2,20 +2,21 @@
 # Installs the packages that a task needs and this system lacks, with apt, as root or with sudo. Without apt it only
 # says what is needed.
 #
-#   scripts/setup.sh build | test | check | windows | arm64 | package | bench | browser | languages | python
+#   scripts/setup.sh build | test | check | windows | arm64 | package | bench | browser | languages | python | web
 #
 # "test" includes "build", and "check" includes both. "windows" and "arm64" are for building and testing for other
 # systems, "package" for building the packages for Linux and Windows, "bench" for measuring, "browser" for testing pages
 # in a browser, which also takes the npm packages that tests/browser/package-lock.json names, "languages" for programs
-# in other languages, "python" for building and testing the Python package. CXX and CXXFLAGS choose the compiler and the
-# standard library, as they do for CMake: CXX=clang++ CXXFLAGS=-stdlib=libc++.
+# in other languages, "python" for building and testing the Python package, "web" for building the page that reads VIFs.
+# CXX and CXXFLAGS choose the compiler and the standard library, as they do for CMake: CXX=clang++
+# CXXFLAGS=-stdlib=libc++.
 set -euo pipefail
 
 task=${1:-}
 case $task in
-  build | test | check | windows | arm64 | package | bench | browser | languages | python) ;;
+  build | test | check | windows | arm64 | package | bench | browser | languages | python | web) ;;
   *)
-    echo "usage: scripts/setup.sh build | test | check | windows | arm64 | package | bench | browser | languages | python" >&2
+    echo "usage: scripts/setup.sh build | test | check | windows | arm64 | package | bench | browser | languages | python | web" >&2
     exit 2
     ;;
 esac
@@ -37,6 +38,7 @@ if ! command -v apt-get >/dev/null; then
     To build: g++ 12 or clang++ 14, CMake 3.25, Ninja, libxml2 2.9.10 with its headers, CLI11, nlohmann-json 3.11
     To test: GoogleTest with GoogleMock, pkg-config, Python 3
     To test pages in a browser: Chromium, Node.js 18, npm
+    For the page that reads VIFs: emscripten 3.1.6, Node.js 18, libxml2 built with it
     For Python: cffi, pip, setuptools, wheel; to test it also pytest and mypy
     For other tasks: the packages that scripts/setup.sh lists, under their Debian names
 END
@@ -97,6 +99,7 @@ case $task in
       python3-pytest python3-setuptools python3-tomli python3-venv python3-wheel)
     ;;
   bench) wanted=("${build_packages[@]}" libbenchmark-dev libxml2-utils valgrind) ;;
+  web) wanted=(cmake dpkg-dev emscripten ninja-build nodejs) ;;
   browser)
     wanted=(chromium fonts-dejavu-core pngquant)
     # A Node.js from elsewhere brings its own npm, and excludes Debian's.
