@@ -386,8 +386,7 @@
       if (schemas.length > 0) await takeSchemas(schemas);
       if (entries.length === 0) return;
       files = [...files, ...entries];
-      shown = entries[0];
-      showTabs();
+      showEntry(entries[0]);
       await readAll(entries);
     });
   };
