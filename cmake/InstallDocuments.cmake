@@ -19,7 +19,7 @@ function(project_install_document document)
 endfunction()
 
 foreach(document IN ITEMS
-    README.md CHANGELOG.md CONTRIBUTING.md SECURITY.md bench/README.md docs/c.md docs/ci.md docs/command.md docs/python.md docs/reliability.md
+    README.md CHANGELOG.md CONTRIBUTING.md SECURITY.md bench/README.md docs/c.md docs/ci.md docs/command.md docs/python.md docs/reliability.md docs/web.md
     examples/README.md examples/c/README.md examples/host/README.md)
   project_install_document(${document})
 endforeach()

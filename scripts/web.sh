@@ -4,6 +4,7 @@
 #   scripts/web.sh                 builds and tests
 #   scripts/web.sh build           only builds
 #   scripts/web.sh serve [PORT]    builds, and serves the page on this machine until it is interrupted
+#   scripts/web.sh screenshot      builds, and makes docs/images/page-dock.png, to be looked at
 #   scripts/web.sh bench           measures the time to the first report, in Chromium and by the command
 #
 # VIF names the native command to compare with, by default that of the release build. VIF_WEB_COUNT says how many files
@@ -35,6 +36,11 @@ case $task in
     build_page
     exec node tests/web/serve.js "${2:-8000}"
     ;;
+  screenshot)
+    build_page
+    setup_tests
+    exec node tests/web/screenshot.js docs/images/page-dock.png
+    ;;
   bench)
     build_page
     setup_tests
@@ -54,7 +60,7 @@ case $task in
     node --test --test-reporter=spec tests/web/page.test.js tests/web/controls.test.js
     ;;
   *)
-    sed -n '4,7s/^# *//p' "$0" >&2
+    sed -n '4,8s/^# *//p' "$0" >&2
     exit 2
     ;;
 esac

@@ -7,7 +7,7 @@ import { settle } from '../../browser/support/page.js';
 import { recordEvents } from '../../browser/support/recorder.js';
 import { page as pageFile } from './paths.js';
 
-const defaults = { address: pathToFileURL(pageFile).href, width: 1024, height: 768, scheme: 'light' };
+const defaults = { address: pathToFileURL(pageFile).href, width: 1024, height: 768, scale: 1, scheme: 'light' };
 
 // What the page may do although a report may not: start its worker, show a report in a frame, and save a file.
 const isItsOwn = (event) =>
@@ -17,12 +17,12 @@ const isItsOwn = (event) =>
 // Opens the page, cuts off the network, calls `use(page, events, recorded)`, and closes the page. `events()` is what the page did
 // that it must not do, of all that is in `recorded`.
 export async function withVifPage(browser, options, use) {
-  const { address, width, height, scheme } = { ...defaults, ...options };
+  const { address, width, height, scale, scheme } = { ...defaults, ...options };
   const page = await browser.newPage();
   page.setDefaultTimeout(60_000);
   try {
     const events = await recordEvents(page, address);
-    await page.setViewport({ width, height });
+    await page.setViewport({ width, height, deviceScaleFactor: scale });
     await page.emulateMediaFeatures([{ name: 'prefers-color-scheme', value: scheme }]);
     await page.goto(address, { waitUntil: 'load' });
     await page.setOfflineMode(true);
