@@ -11,7 +11,7 @@ import { stopsWhatIsInjected } from '../browser/checks/policy.js';
 import { makeFolder } from '../browser/support/folder.js';
 import { settle } from '../browser/support/page.js';
 import { describeInBrowser } from '../browser/support/suite.js';
-import { choose, shownReport, withVifPage } from './support/pageDriver.js';
+import { choose, drop, openTab, shownRefusal, shownReport, withVifPage } from './support/pageDriver.js';
 import { example, page as pageFile } from './support/paths.js';
 
 const folder = makeFolder();
@@ -53,6 +53,23 @@ describeInBrowser('The checks of the page notice', (browser) => {
     stopsWhatIsInjected);
   notices('too little contrast', append('style', '.promises { color: #ccc; }'), /color-contrast/, satisfiesAxeBesideItsFrames);
   notices('a page that is too wide', append('style', '.drop { width: 500px; }'), /pixels wide on 360/, fitsItsWidth);
+
+  // No file is known that makes the library trap, so the module's script is made to do so for one name.
+  it('nothing of a library that trapped: the page starts it afresh', { timeout: 120_000 }, () => {
+    const call = 'require(module._reader_report(files.length));';
+    const trap = "if (files[0].name === 'trap.txt') throw new WebAssembly.RuntimeError('unreachable');";
+    const html = sound.replace(call, () => JSON.stringify(`${trap}${call}`).slice(1, -1));
+    assert.notEqual(html, sound);
+    return withVifPage(browser(), { address: addressOf(html) }, async (page, events, recorded) => {
+      await drop(page, { name: 'trap.txt', text: 'PID: 1\n' }, { name: 'sound.txt', text: 'PID: 1\n' });
+      assert.match(await shownRefusal(page), /unreachable/);
+      await page.waitForFunction(() => document.querySelectorAll('#tabs .reading').length === 0);
+      await openTab(page, 'sound.txt');
+      await shownReport(page, 'sound.txt');
+      assert.equal(recorded.filter((event) => event.startsWith('worker')).length, 2);
+      assert.deepEqual(events(), []);
+    });
+  });
 
   it('a report whose style the policy does not name', { timeout: 120_000 }, () => {
     const html = sound.replace(/(style-src '[^']*') '[^']*'/, '$1');
