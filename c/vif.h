@@ -421,6 +421,16 @@ VIF_C_API vif_status vif_findings_get(const vif_findings* findings, size_t posit
 /** Frees findings. */
 VIF_C_API void vif_findings_free(vif_findings* findings);
 
+/** The line of a file's content that a finding or a reason is about, in two parts: the text before the column and the
+ * text from it on, without line breaks. Characters that could control a terminal or reorder text become escapes, tabs
+ * become blanks, and what is far from the column is cut off, with an ellipsis in its stead. UTF-16 is decoded if it has
+ * a byte order mark; in other encodings, characters beyond ASCII become U+FFFD.
+ *
+ * line and column are from 1. If the column is 0, `after` has the whole line. Both texts are empty if there is no such
+ * line. bytes may be NULL if size is 0. Free both texts with vif_text_free. */
+VIF_C_API vif_status vif_source_line(const void* bytes, size_t size, uint64_t line, uint64_t column, vif_text** before,
+                                     vif_text** after, vif_error** error);
+
 /** \} */
 
 /**
@@ -542,6 +552,34 @@ VIF_C_API void vif_ports_free(vif_ports* ports);
 VIF_C_API vif_status vif_compare_findings(const vif_findings* before, const vif_findings* after,
                                           const vif_differences* differences, vif_findings** fixed,
                                           vif_findings** added, vif_error** error);
+
+/** \} */
+
+/**
+ * \name Documents
+ *
+ * Texts for other programs, as the command `vif` prints them; docs/command.md describes them. They are UTF-8 and end
+ * with a line break. In the JSON of fields, a NUL is an escape. Free each with vif_text_free.
+ * \{
+ */
+
+/** The fields of the files that were loaded, as JSON: `vif list --format json`. The names are those of the files; they
+ * may be NULL if name_count is 0. */
+VIF_C_API vif_status vif_file_json(const vif_file* file, const char* const* names, size_t name_count, vif_text** text,
+                                   vif_error** error);
+
+/** The same as comma-separated values: `vif list --format csv`. */
+VIF_C_API vif_status vif_file_csv(const vif_file* file, vif_text** text, vif_error** error);
+
+/** The findings of one file, of that name, as JSON: `vif check --format json`. */
+VIF_C_API vif_status vif_findings_json(const vif_findings* findings, const char* name, vif_text** text,
+                                       vif_error** error);
+
+/** The differences between files of these names as JSON: `vif diff --format json`. fixed and added are findings that
+ * vif_compare_findings gave; each may be NULL for none. */
+VIF_C_API vif_status vif_differences_json(const vif_differences* differences, const char* before, const char* after,
+                                          const vif_findings* fixed, const vif_findings* added, vif_text** text,
+                                          vif_error** error);
 
 /** \} */
 

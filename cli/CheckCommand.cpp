@@ -2,6 +2,7 @@
 #include "Command.h"
 #include "FieldSource.h"
 #include "FindingWriters.h"
+#include "Output.h"
 #include "SchemasOption.h"
 #include "Values.h"
 
@@ -95,7 +96,7 @@ std::vector<CheckedFile> CheckAll(const CheckSettings& settings) {
 }
 
 void WriteFindings(const std::string& format, const std::vector<CheckedFile>& files) {
-  if (format == "json") return WriteFindingsAsJson(files);
+  if (format == "json") return vifanalysis::WriteFindingsAsJson(files, Write);
   if (format == "sarif") return WriteFindingsAsSarif(files);
   WriteFindingsAsText(files);
 }

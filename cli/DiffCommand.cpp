@@ -2,6 +2,7 @@
 #include "DifferenceWriters.h"
 #include "FieldSource.h"
 #include "Number.h"
+#include "Output.h"
 #include "SchemasOption.h"
 #include "Values.h"
 
@@ -67,7 +68,7 @@ Status RunFiles(const DiffSettings& settings) {
   comparison.findings =
       vifanalysis::CompareFindings(FindingsIn(comparison.before), FindingsIn(comparison.after), comparison.differences);
   if (settings.format == "json") {
-    WriteComparisonAsJson(comparison);
+    vifanalysis::WriteComparisonAsJson(comparison, Write);
   } else {
     WriteComparisonAsText(comparison, settings.options.descriptions);
   }
@@ -103,11 +104,11 @@ Status RunPorts(const DiffSettings& settings) {
   const CVendorInfoFile vif = LoadFiles({settings.files.front()});
   const FilePorts ports = {settings.files.front(), CountComponents(vif), ComparePorts(vif, settings)};
   if (settings.format == "json") {
-    WritePortsAsJson(ports);
+    vifanalysis::WritePortsAsJson(ports, Write);
   } else {
     WritePortsAsText(ports, settings.options.descriptions);
   }
-  return ports.AreSame() ? kDone : kNegative;
+  return vifanalysis::AreSame(ports) ? kDone : kNegative;
 }
 
 /// \throws Failure for options and files that do not go together

@@ -76,10 +76,6 @@ const char* WhyNothingIsCompared(std::size_t components) {
 
 }  // namespace
 
-bool FilePorts::AreSame() const {
-  return std::all_of(ports.begin(), ports.end(), [](const PortComparison& port) { return port.differences.IsEmpty(); });
-}
-
 void WriteComparisonAsText(const FileComparison& comparison, bool withDescriptions) {
   WriteLines(comparison.differences, withDescriptions);
   Write(DifferenceSummary(comparison.differences) + '\n');

@@ -1,6 +1,5 @@
 #include "FindingWriters.h"
 
-#include "Json.h"
 #include "Output.h"
 
 #include <analysis/Text.h>
@@ -35,36 +34,7 @@ std::string Summary(const std::vector<CheckedFile>& files) {
   return text.empty() ? "no findings" : text;
 }
 
-Json NumberOrNull(std::size_t number) { return number != 0 ? Json(number) : Json(); }
-
-Json ToJson(const Finding& finding) {
-  return {
-      {"severity", SeverityName(finding.severity)},
-      {"code", finding.code},
-      {"line", NumberOrNull(finding.line)},
-      {"column", NumberOrNull(finding.column)},
-      {"element", finding.element.empty() ? Json() : Json(finding.element)},
-      {"message", finding.message},
-  };
-}
-
-void WriteFileAsJson(const CheckedFile& file) {
-  Write("{\"file\":" + Dump(file.name) + ",\"valid\":" + (file.Count(Severity::Error) == 0 ? "true" : "false"));
-  Write(",\"findings\":[");
-  const char* separator = "\n";
-  for (const Finding& finding : file.findings) {
-    Write(separator + Dump(ToJson(finding)));
-    separator = ",\n";
-  }
-  Write(file.findings.empty() ? "]}" : "\n]}");
-}
-
 }  // namespace
-
-std::size_t CheckedFile::Count(Severity severity) const {
-  return static_cast<std::size_t>(std::count_if(findings.begin(), findings.end(),
-                                                [&](const Finding& finding) { return finding.severity == severity; }));
-}
 
 void WriteFindingsAsText(const std::vector<CheckedFile>& files) {
   for (const CheckedFile& file : files) {
@@ -74,22 +44,13 @@ void WriteFindingsAsText(const std::vector<CheckedFile>& files) {
   Write(Summary(files) + '\n');
 }
 
-void WriteFindingsAsJson(const std::vector<CheckedFile>& files) {
-  Write("{\"files\":[");
-  const char* separator = "\n";
-  for (const CheckedFile& file : files) {
-    Write(separator);
-    WriteFileAsJson(file);
-    separator = ",\n";
-  }
-  Write("\n],\n\"errors\":" + std::to_string(CountFindings(files, Severity::Error)));
-  Write(",\"warnings\":" + std::to_string(CountFindings(files, Severity::Warning)));
-  Write(",\"notes\":" + std::to_string(CountFindings(files, Severity::Note)) + "}\n");
-}
-
 std::size_t CountFindings(const std::vector<CheckedFile>& files, Severity severity) {
   std::size_t count = 0;
-  for (const CheckedFile& file : files) count += file.Count(severity);
+  for (const CheckedFile& file : files) {
+    count +=
+        static_cast<std::size_t>(std::count_if(file.findings.begin(), file.findings.end(),
+                                               [&](const Finding& finding) { return finding.severity == severity; }));
+  }
   return count;
 }
 

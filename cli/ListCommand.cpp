@@ -1,9 +1,11 @@
 #include "Command.h"
 #include "FieldSource.h"
+#include "Output.h"
 #include "SchemasOption.h"
 #include "Values.h"
 #include "Writers.h"
 
+#include <analysis/Writers.h>
 #include <CLI/CLI.hpp>
 
 #include <memory>
@@ -42,9 +44,9 @@ constexpr const char* kFooter =
 void RunList(const ListOptions& options) {
   const CVendorInfoFile vif = LoadFiles(options.files);
   if (options.format == "json") {
-    WriteJson(options.files, vif);
+    vifanalysis::WriteFieldsAsJson(options.files, vif.ComponentCount(), vif.Fields(), Write);
   } else if (options.format == "csv") {
-    WriteCsv(vif);
+    vifanalysis::WriteFieldsAsCsv(vif.Fields(), Write);
   } else {
     WriteTable(vif);
   }

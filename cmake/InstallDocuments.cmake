@@ -20,7 +20,7 @@ endfunction()
 
 foreach(document IN ITEMS
     README.md CHANGELOG.md CONTRIBUTING.md SECURITY.md bench/README.md docs/architecture.md docs/c.md docs/ci.md docs/command.md
-    docs/python.md docs/reliability.md docs/tutorial.md docs/windows.md
+    docs/python.md docs/reliability.md docs/tutorial.md docs/web.md docs/windows.md
     examples/README.md examples/c/README.md examples/host/README.md)
   project_install_document(${document})
 endforeach()

@@ -9,7 +9,10 @@ endif()
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
-set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+# A page has one module, in which all libraries are static.
+if(NOT EMSCRIPTEN)
+  set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+endif()
 
 # Windows looks for a program's libraries next to it, and their names have no prefix.
 if(WIN32)
@@ -42,7 +45,7 @@ endif()
 if(NOT MSVC)
   target_compile_definitions(VendorInfoFileSettings INTERFACE _GLIBCXX_ASSERTIONS)
 endif()
-if(UNIX AND NOT APPLE)
+if(UNIX AND NOT APPLE AND NOT EMSCRIPTEN)
   target_compile_options(VendorInfoFileSettings INTERFACE -fstack-protector-strong)
   # A library that has a unique symbol is never unloaded.
   target_compile_options(VendorInfoFileSettings INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
@@ -52,6 +55,12 @@ if(UNIX AND NOT APPLE)
     target_compile_options(VendorInfoFileSettings INTERFACE "SHELL:-include \"${CMAKE_CURRENT_LIST_DIR}/Fortify.h\"")
   endif()
   target_link_options(VendorInfoFileSettings INTERFACE LINKER:-z,relro,-z,now,-z,noexecstack)
+endif()
+
+if(EMSCRIPTEN)
+  # Its compiler spends most of its time on the headers of the standard library.
+  target_precompile_headers(VendorInfoFileSettings INTERFACE
+    <algorithm> <filesystem> <functional> <map> <memory> <optional> <regex> <span> <string> <string_view> <vector>)
 endif()
 
 if(VENDORINFOFILE_SANITIZE)
@@ -86,7 +95,7 @@ endif()
 # instantiations of the standard library's templates, which are visible by default.
 function(project_set_interface target map)
   set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${VENDORINFOFILE_ABI})
-  if(UNIX AND NOT APPLE)
+  if(UNIX AND NOT APPLE AND NOT EMSCRIPTEN)
     set(versioned_map "${PROJECT_BINARY_DIR}/${target}.map")
     configure_file("${map}" "${versioned_map}" @ONLY)
     target_link_options(${target} PRIVATE "LINKER:--version-script=${versioned_map}")

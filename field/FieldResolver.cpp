@@ -132,7 +132,8 @@ void CFieldResolver::ResolveByTable(std::string_view name, const KnownFieldMatch
   const auto capture = [&](size_t group) -> std::string_view {
     if (!hasOwnPattern) return known.indexDigits[group - 1];
     // A capture group that took no part in the match, or does not exist, is empty and stands at the end of the name.
-    captured = Utf16ToUtf8({match[group].first.Position(), match[group].second.Position()});
+    const wchar_t* const begin = match[group].first.Position();
+    captured = Utf16ToUtf8({begin, static_cast<size_t>(match[group].second.Position() - begin)});
     return captured;
   };
   FillSlots(definition->locations, m_component, capture, result);

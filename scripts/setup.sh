@@ -3,19 +3,20 @@
 # says what is needed.
 #
 #   scripts/setup.sh build | test | check | windows | arm64 | package | bench | browser | languages | python | docs |
-#                    manual
+#                    manual | web
 #
 # "test" includes "build", and "check" includes both. "windows" and "arm64" are for building and testing for other
 # systems, "package" for building the packages for Linux and Windows, "bench" for measuring, "browser" for testing pages
 # in a browser, which also takes the npm packages that tests/browser/package-lock.json names, "languages" for programs
 # in other languages, "python" for building and testing the Python package, "docs" for building the site of the
-# documentation, "manual" for testing manual pages and the completion of shells. CXX and CXXFLAGS choose the compiler and
-# the standard library, as they do for CMake: CXX=clang++ CXXFLAGS=-stdlib=libc++.
+# documentation, "manual" for testing manual pages and the completion of shells, "web" for building the page that reads
+# VIFs. CXX and CXXFLAGS choose the compiler and the standard library, as they do for CMake: CXX=clang++
+# CXXFLAGS=-stdlib=libc++.
 set -euo pipefail
 
 task=${1:-}
 case $task in
-  build | test | check | windows | arm64 | package | bench | browser | languages | python | docs | manual) ;;
+  build | test | check | windows | arm64 | package | bench | browser | languages | python | docs | manual | web) ;;
   *)
     sed -n 's/^#   \(scripts.*\)/usage: \1/p; s/^#    \( .*\)/       \1/p' "$0" >&2
     exit 2
@@ -40,6 +41,7 @@ if ! command -v apt-get >/dev/null; then
     To test: GoogleTest with GoogleMock, pkg-config, Python 3
     To test pages in a browser: Chromium, Node.js 18, npm
     To build the site: doxygen 1.9.4, doxygen-awesome-css, awk, Python 3
+    For the page that reads VIFs: emscripten 3.1.6, Node.js 18, libxml2 built with it
     For Python: cffi, pip, setuptools, wheel; to test it also pytest and mypy
     For other tasks: the packages that scripts/setup.sh lists, under their Debian names
 END
@@ -102,6 +104,7 @@ case $task in
   docs) wanted=(doxygen doxygen-awesome-css gawk python3) ;;
   manual) wanted=("${test_packages[@]}" bash-completion bsdextrautils fish groff-base man-db mandoc zsh) ;;
   bench) wanted=("${build_packages[@]}" libbenchmark-dev libxml2-utils valgrind) ;;
+  web) wanted=(cmake dpkg-dev emscripten ninja-build nodejs) ;;
   browser)
     wanted=(chromium fonts-dejavu-core pngquant)
     # A Node.js from elsewhere brings its own npm, and excludes Debian's.

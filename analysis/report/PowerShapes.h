@@ -3,12 +3,12 @@
 
 #include "rules/PdoView.h"
 
-#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace vifanalysis {
@@ -23,7 +23,11 @@ struct PowerShape {
   std::optional<std::uint64_t> powerLimit;  ///< what limits the current at high voltages
   std::optional<std::uint64_t> ownPower;    ///< what the PDO itself says of its power
 
-  auto operator<=>(const PowerShape&) const = default;
+  /// All of it, to compare shapes by.
+  auto Key() const { return std::tie(supply, minVoltage, maxVoltage, current, powerLimit, ownPower); }
+
+  friend bool operator==(const PowerShape& a, const PowerShape& b) { return a.Key() == b.Key(); }
+  friend bool operator<(const PowerShape& a, const PowerShape& b) { return a.Key() < b.Key(); }
 
   bool IsRange() const { return supply != Supply::Fixed; }
 };

@@ -91,7 +91,7 @@ std::span<const CGroupView> CGroupView::Groups(EVifLocation kind) const {
   const std::span<const CGroupView> all = AllGroups(kind);
   const auto last = std::partition_point(
       all.begin(), all.end(), [](const CGroupView& group) { return group.Index() != CVIFField::INDEX_NOT_SPECIFIED; });
-  return {all.begin(), last};
+  return all.first(static_cast<std::size_t>(last - all.begin()));
 }
 
 std::span<const CGroupView> CGroupView::AllGroups(EVifLocation kind) const {
@@ -99,7 +99,8 @@ std::span<const CGroupView> CGroupView::AllGroups(EVifLocation kind) const {
                                           [&](const CGroupView& group) { return group.Kind() < kind; });
   const auto last =
       std::partition_point(first, m_groups.end(), [&](const CGroupView& group) { return group.Kind() == kind; });
-  return {first, last};
+  return std::span(m_groups).subspan(static_cast<std::size_t>(first - m_groups.begin()),
+                                     static_cast<std::size_t>(last - first));
 }
 
 }  // namespace vifanalysis

@@ -179,6 +179,28 @@ TEST(CMemoryTest, Meanings) {
   });
 }
 
+TEST(CMemoryTest, Documents) {
+  const FilePointer file = FileOf("PID: 1 ; \"a\"\nSrc_PDO_Voltage1: 100\n");
+  const FindingsPointer findings = Check("PID: 1\nno declaration\n", "a.txt");
+  const char* name = "a name that is too long to be kept without memory.txt";
+  ExpectMakingBearsFailures<TextPointer>(
+      [&](vif_text** text, vif_error** error) { return vif_file_json(file.get(), &name, 1, text, error); });
+  ExpectMakingBearsFailures<TextPointer>(
+      [&](vif_text** text, vif_error** error) { return vif_file_csv(file.get(), text, error); });
+  ExpectMakingBearsFailures<TextPointer>(
+      [&](vif_text** text, vif_error** error) { return vif_findings_json(findings.get(), name, text, error); });
+}
+
+TEST(CMemoryTest, SourceLines) {
+  const std::string line(300, 'x');
+  ExpectMakingBearsFailures<TextPointer>([&](vif_text** before, vif_error** error) {
+    vif_text* after = nullptr;
+    const vif_status status = vif_source_line(line.data(), line.size(), 1, 150, before, &after, error);
+    vif_text_free(after);
+    return status;
+  });
+}
+
 TEST(CMemoryTest, Reports) {
   const FilePointer file = FileOf("PID: 1\nSrc_PDO_Voltage1: 100\n");
   auto reported = Sized<vif_reported_file>();

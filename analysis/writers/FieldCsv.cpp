@@ -1,17 +1,10 @@
-#include "Output.h"
-#include "Writers.h"
-
 #include <analysis/FieldText.h>
 #include <analysis/Text.h>
+#include <analysis/Writers.h>
 
 #include <string_view>
 
-namespace cli {
-
-using vifanalysis::HasNumber;
-using vifanalysis::IsUsed;
-using vifanalysis::LocationName;
-using vifanalysis::ValidUtf8;
+namespace vifanalysis {
 
 namespace {
 
@@ -41,14 +34,14 @@ std::string Line(const CVIFField& field) {
 
 }  // namespace
 
-void WriteCsv(const CVendorInfoFile& vif) {
+void WriteFieldsAsCsv(std::span<const CVIFField> fields, const TextSink& sink) {
   std::string header = "name,value,description,numeric,number";
   for (size_t slot = 1; slot <= CVIFField::MAX_INDEX_DEPTH; ++slot) {
     const std::string number = std::to_string(slot);
     header.append(",location").append(number).append(",index").append(number);
   }
-  Write(header.append(kLineEnd));
-  for (const CVIFField& field : vif.Fields()) Write(Line(field));
+  sink(header.append(kLineEnd));
+  for (const CVIFField& field : fields) sink(Line(field));
 }
 
-}  // namespace cli
+}  // namespace vifanalysis

@@ -1,0 +1,64 @@
+#include <analysis/SourceLine.h>
+
+#include <BaseUtilities/StringConvert.h>
+#include <analysis/Text.h>
+
+#include <algorithm>
+
+namespace vifanalysis {
+
+namespace {
+
+// In characters.
+constexpr std::size_t kMostBefore = 80;
+constexpr std::size_t kMostAfter = 120;
+
+/// The units of UTF-16 after its byte order mark.
+std::wstring UnitsOf(std::string_view bytes) {
+  const std::size_t high = bytes[0] == '\xFE' ? 0 : 1;
+  std::wstring units;
+  units.reserve(bytes.size() / 2);
+  for (std::size_t i = 2; i + 1 < bytes.size(); i += 2) {
+    const auto unit =
+        (static_cast<unsigned char>(bytes[i + high]) << 8U) | static_cast<unsigned char>(bytes[i + 1 - high]);
+    units += static_cast<wchar_t>(unit);
+  }
+  return units;
+}
+
+std::string_view FindLine(std::string_view text, std::size_t line) {
+  for (; line > 1; --line) {
+    const std::size_t end = text.find('\n');
+    if (end == std::string_view::npos) return {};
+    text.remove_prefix(end + 1);
+  }
+  text = text.substr(0, text.find('\n'));
+  if (text.ends_with('\r')) text.remove_suffix(1);
+  return text;
+}
+
+std::string Shown(std::wstring text) {
+  std::replace(text.begin(), text.end(), L'\t', L' ');
+  return Printable(Utf16ToUtf8(text));
+}
+
+}  // namespace
+
+SourceLine FindSourceLine(std::string_view content, std::size_t line, std::size_t column) {
+  if (line == 0) return {};
+  std::string decoded;
+  if (content.starts_with("\xFF\xFE") || content.starts_with("\xFE\xFF")) {
+    decoded = Utf16ToUtf8(UnitsOf(content));
+    content = decoded;
+  } else if (content.starts_with("\xEF\xBB\xBF")) {
+    content.remove_prefix(3);
+  }
+  const std::wstring text = Utf8ToUtf16(FindLine(content, line));
+  const std::size_t place = std::min(column > 0 ? column - 1 : 0, text.size());
+  const std::size_t begin = place > kMostBefore ? place - kMostBefore : 0;
+  const std::size_t end = std::min(text.size(), place + kMostAfter);
+  return {(begin > 0 ? "\u2026" : "") + Shown(text.substr(begin, place - begin)),
+          Shown(text.substr(place, end - place)) + (end < text.size() ? "\u2026" : "")};
+}
+
+}  // namespace vifanalysis

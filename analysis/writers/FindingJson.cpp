@@ -1,0 +1,59 @@
+#include "writers/JsonText.h"
+
+#include <algorithm>
+
+namespace vifanalysis {
+
+namespace {
+
+std::optional<std::uint64_t> NumberOrNull(std::size_t number) {
+  return number != 0 ? std::optional<std::uint64_t>(number) : std::nullopt;
+}
+
+void AppendFinding(std::string& out, const Finding& finding) {
+  out.append(R"({"severity":")").append(SeverityName(finding.severity)).append(R"(","code":)");
+  AppendJson(out, finding.code);
+  out += R"(,"line":)";
+  AppendJson(out, NumberOrNull(finding.line));
+  out += R"(,"column":)";
+  AppendJson(out, NumberOrNull(finding.column));
+  out += R"(,"element":)";
+  AppendTextOrNull(out, finding.element);
+  out += R"(,"message":)";
+  AppendJson(out, finding.message);
+  out += '}';
+}
+
+std::size_t Count(const FileFindings& file, Severity severity) {
+  const auto isOfIt = [&](const Finding& finding) { return finding.severity == severity; };
+  return static_cast<std::size_t>(std::count_if(file.findings.begin(), file.findings.end(), isOfIt));
+}
+
+std::string CountText(std::span<const FileFindings> files, Severity severity) {
+  std::size_t count = 0;
+  for (const FileFindings& file : files) count += Count(file, severity);
+  return std::to_string(count);
+}
+
+void WriteFile(std::string begin, const FileFindings& file, const TextSink& sink) {
+  begin += R"({"file":)";
+  AppendJson(begin, file.name);
+  begin.append(R"(,"valid":)").append(Count(file, Severity::Error) == 0 ? "true" : "false").append(R"(,"findings":)");
+  WriteList(std::move(begin), file.findings, AppendFinding, sink);
+  sink("}");
+}
+
+}  // namespace
+
+void WriteFindingsAsJson(std::span<const FileFindings> files, const TextSink& sink) {
+  sink(R"({"files":[)");
+  const char* separator = "\n";
+  for (const FileFindings& file : files) {
+    WriteFile(separator, file, sink);
+    separator = ",\n";
+  }
+  sink("\n],\n\"errors\":" + CountText(files, Severity::Error) + ",\"warnings\":" +
+       CountText(files, Severity::Warning) + ",\"notes\":" + CountText(files, Severity::Note) + "}\n");
+}
+
+}  // namespace vifanalysis
