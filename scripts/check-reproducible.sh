@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds packages of what is committed twice: in folders of different names and lengths, on different days, as another
-# user with another home and umask, in other locales and time zones. Fails when the packages differ, names the files in
-# them that do, and lets diffoscope, if it is installed, say how.
+# user with another home and umask, in other locales and time zones. Fails when the packages differ, names those that do,
+# and lets diffoscope, if it is installed, say how.
 #
 #   scripts/check-reproducible.sh [KIND]...     the kinds of package.sh; all of them by default
 #
@@ -13,7 +13,8 @@ root=$PWD
 
 [ $# -gt 0 ] || set -- tar zip static wheel debian
 SOURCE_DATE_EPOCH=$(scripts/source-date.sh)
-export SOURCE_DATE_EPOCH CCACHE_DISABLE=1
+export SOURCE_DATE_EPOCH
+unset CMAKE_CXX_COMPILER_LAUNCHER  # each build compiles for itself
 scripts/setup.sh package
 work=$root/build/reproducible
 rm -rf "$work"
