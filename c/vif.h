@@ -106,7 +106,7 @@ enum {
  * library is loaded. Does not allocate. */
 VIF_C_API const char* vif_status_text(vif_status status);
 
-/** The version of the library, such as "0.1.0". It lasts as long as the library is loaded. Does not allocate. */
+/** The version of the library, such as "0.2.0". It lasts as long as the library is loaded. Does not allocate. */
 VIF_C_API const char* vif_version(void);
 
 /** Sets the directory to search first for schemas from now on, in the whole process; NULL or empty for none. Without it

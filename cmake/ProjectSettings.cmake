@@ -13,6 +13,11 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 if(NOT EMSCRIPTEN)
   set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 endif()
+# Whatever the build directory, the files have the same build ID.
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
+if(MINGW)
+  add_link_options(LINKER:--no-insert-timestamp)  # the same sources give the same bytes
+endif()
 
 # Windows looks for a program's libraries next to it, and their names have no prefix.
 if(WIN32)

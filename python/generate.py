@@ -14,7 +14,7 @@ import sys
 import cffi
 
 # Limits that the header defines its constants by. size_t is known only when the library is loaded.
-LIMITS = {"UINT64_MAX": str(2**64 - 1), "SIZE_MAX": None}
+LIMITS = {"VIF_ALL_BITS(uint64_t)": str(2**64 - 1), "VIF_ALL_BITS(size_t)": None}
 
 
 def constant(name, value):

@@ -77,7 +77,19 @@ class BuildWithLibrary(build_py):
 
 
 class AnyPython(bdist_wheel):
-    """One wheel for every Python 3, CPython or not, of this platform: no module is compiled for one of them."""
+    """One wheel for every Python 3, CPython or not, of this platform: no module is compiled for one of them.
+
+    With SOURCE_DATE_EPOCH it has a software bill of materials, which needs Debian's package lists and Ninja.
+    """
+
+    def egg2dist(self, egginfo_path, distinfo_path):
+        super().egg2dist(egginfo_path, distinfo_path)
+        if "SOURCE_DATE_EPOCH" in os.environ:
+            subprocess.check_call(
+                [sys.executable, os.path.join(ROOT, "scripts", "sbom.py"), "--name", "vendorinfofile"]
+                + ["--version", project_version(), "--build", configured_build(), self.bdist_dir]
+                + [os.path.join(distinfo_path, "sboms", "vendorinfofile.cdx.json")]
+            )
 
     def get_tag(self):
         return "py3", "none", super().get_tag()[2]

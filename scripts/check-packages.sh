@@ -1,15 +1,23 @@
 #!/usr/bin/env bash
-# Unpacks each package that package.sh built into an empty directory, checks that all files are there and that the
-# documents' links lead somewhere, and runs the command from there, the Windows one under Wine.
+# Unpacks each package that package.sh built into an empty directory, checks that all files are there, that the
+# documents' links lead somewhere, and that the bill of materials is valid and fits, and runs the command from there, the
+# Windows one under Wine.
+#
+#   scripts/check-packages.sh [KIND]...     the kinds of package.sh; all of them by default
 set -euo pipefail
 cd "$(dirname "$0")/.."
 root=$PWD
 
-work=$root/build/packages/unpacked
+[ $# -gt 0 ] || set -- tar zip static wheel debian
+packages=$root/build/packages
+work=$packages/unpacked
 rm -rf "$work"
 fail() { echo "FAILED: $*" >&2; exit 1; }
+shopt -s failglob
 
-# Expects the files that all packages have, and a command that reads every example.
+check_bill() { python3 -B -W ignore::DeprecationWarning "$root/scripts/check_sbom.py" "$1" "$2" || fail "the bill of materials $1 is wrong"; }
+
+# Expects the files that packages of the library have, and a command that reads every example.
 #   check DIRECTORY PROGRAM...
 check() {
   local directory=$1
@@ -24,11 +32,12 @@ check() {
   done
   python3 -B "$root/tests/package/broken_links.py" $(find share/doc/VendorInfoFile -name '*.md') ||
     fail 'the links above lead nowhere'
+  check_bill share/doc/VendorInfoFile/sbom.cdx.json .
   local examples=(share/vendorinfofile/examples/*.txt share/vendorinfofile/examples/*.xml)
   [ ${#examples[@]} -eq 6 ] || fail "there are ${#examples[@]} examples"
   for file in "${examples[@]}"; do
-    "$@" list "$file" >listed || fail "$* cannot list $file"
-    grep -q 'Component 1' listed || fail "$* lists no component in $file"
+    "$@" list "$file" >"$work/listed" || fail "$* cannot list $file"
+    grep -q 'Component 1' "$work/listed" || fail "$* lists no component in $file"
   done
   [ "$("$@" list --format csv share/vendorinfofile/examples/usb4-dock.xml | wc -l)" -eq 379 ] || fail 'not 378 fields'
   cd "$root"
@@ -47,28 +56,87 @@ check_manual() {
 # Creates the directory for a package and enters it.
 unpack_into() { mkdir -p "$work/$1" && echo "==> $1" && cd "$work/$1"; }
 
-shopt -s failglob
-packages=$root/build/packages
+check_zip() {
+  unpack_into zip
+  unzip -q "$packages"/VendorInfoFile-*-win64.zip
+  cd VendorInfoFile-*-win64
+  local file
+  for file in bin/{VendorInfoFile,VendorInfoFileAnalysis,VendorInfoFileHost,vif}.dll bin/vif.exe lib/vif.lib \
+    lib/libvif.dll.a lib/libVendorInfoFile{,Analysis,Host}.dll.a \
+    bin/lib{stdc++-6,gcc_s_seh-1,winpthread-1}.dll; do
+    [ -f "$file" ] || fail "$file is missing"
+  done
+  [ ! -e share/man ] || fail 'there are manual pages for Windows'
+  check "$PWD" "$root/scripts/run-windows.sh" bin/vif.exe
+}
 
-unpack_into zip
-unzip -q "$packages"/VendorInfoFile-*-win64.zip
-cd VendorInfoFile-*-win64
-for file in bin/{VendorInfoFile,VendorInfoFileAnalysis,VendorInfoFileHost,vif}.dll bin/vif.exe lib/vif.lib lib/libvif.dll.a lib/libVendorInfoFile{,Analysis,Host}.dll.a; do
-  [ -f "$file" ] || fail "$file is missing"
+check_tar() {
+  unpack_into tar
+  tar xzf "$packages"/VendorInfoFile-*-linux-*.tar.gz
+  cd VendorInfoFile-*
+  check_manual . site-functions
+  check "$PWD" bin/vif
+}
+
+check_static() {
+  unpack_into static
+  tar xzf "$packages"/vif-*-static.tar.gz
+  cd vif-*
+  ! readelf --wide --program-headers vif | grep INTERP || fail 'the static command needs libraries'
+  local file
+  for file in "$root"/examples/vif/*.txt "$root"/examples/vif/*.xml; do
+    ./vif list "$file" >"$work/listed" || fail "the static command cannot list $file"
+    grep -q 'Component 1' "$work/listed" || fail "the static command lists no component in $file"
+  done
+  [ -s man/vif-rules.7 ] && [ -s completion/_vif ] || fail 'manual pages or completions are missing'
+  [ -f licences/libc6-dev ] && [ -f LICENSE ] || fail 'licences are missing'
+  check_bill sbom.cdx.json .
+}
+
+check_wheel() {
+  unpack_into wheel
+  unzip -q "$packages"/vendorinfofile-*.whl
+  [ -f vendorinfofile/_lib/VendorInfoFile.xsd ] || fail 'the schemas are missing'
+  # They come after the bill.
+  rm vendorinfofile-*.dist-info/{RECORD,WHEEL}
+  check_bill "$(echo vendorinfofile-*.dist-info/sboms/vendorinfofile.cdx.json)" .
+}
+
+check_debian() {
+  local package name
+  for package in "$packages"/*.deb; do
+    [[ $package != *-dbgsym_* ]] || continue
+    unpack_into "$(basename "${package%%_*}")"
+    name=${PWD##*/}
+    dpkg-deb -x "$package" .
+    check_bill "usr/share/doc/$name/sbom.cdx.json" .
+  done
+  dpkg-deb -f "$packages"/libvendorinfofile0.*.deb Depends | grep -q libxml2 || fail 'the library does not depend on libxml2'
+  echo "==> lintian"
+  lintian --allow-root --fail-on error,warning "$packages"/*.dsc "$packages"/*.deb
+}
+
+for kind; do
+  "check_$kind"
+  cd "$root"
 done
-[ ! -e share/man ] || fail 'there are manual pages for Windows'
-check "$PWD" "$root/scripts/run-windows.sh" bin/vif.exe
 
-unpack_into tar
-tar xzf "$packages"/VendorInfoFile-*-linux-*.tar.gz
-cd VendorInfoFile-*
-check_manual . site-functions
-check "$PWD" bin/vif
+echo "==> Bills of materials that are wrong"
+cd "$work"
+mkdir -p spoilt
+cp "$(find . -name '*.cdx.json' -not -path './spoilt/*' | sort | head -n 1)" spoilt/sound.json
+# Expects the check to object to a bill after an edit.
+expect_objection() {
+  sed "$1" spoilt/sound.json >spoilt/bill.json
+  ! cmp -s spoilt/sound.json spoilt/bill.json || fail "nothing to spoil by $1"
+  local said
+  ! said=$(python3 -B "$root/scripts/check_sbom.py" spoilt/bill.json spoilt 2>&1) || fail "a bill after $1 passes"
+  grep -q "$2" <<<"$said" || fail "a bill after $1 is refused for another reason: $said"
+}
+expect_objection 's/"specVersion": "1.5"/"specVersion": 1.5/' "specVersion: 1.5 is not of type 'string'"
+expect_objection 's/"serialNumber": "urn:uuid:/"serialNumber": "/' 'serialNumber: .* does not match'
+expect_objection '0,/"content": "[0-9a-f]*"/s//"content": "12"/' 'content: .*12'
+expect_objection 's/"lifecycles"/"livecycles"/' "metadata: Additional properties are not allowed"
+expect_objection '0,/"type": "file"/s//"type": "document"/' "is not one of"
 
-unpack_into deb
-dpkg-deb -x "$packages"/vendorinfofile_*.deb .
-check_manual usr vendor-completions
-check "$PWD/usr" bin/vif
-dpkg-deb -f "$packages"/vendorinfofile_*.deb Depends | grep -q libxml2 || fail 'the package does not depend on libxml2'
-
-echo "All packages are complete and work."
+echo "The packages are complete and work: $*"

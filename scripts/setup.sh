@@ -6,11 +6,11 @@
 #                    manual | web
 #
 # "test" includes "build", and "check" includes both. "windows" and "arm64" are for building and testing for other
-# systems, "package" for building the packages for Linux and Windows, "bench" for measuring, "browser" for testing pages
-# in a browser, which also takes the npm packages that tests/browser/package-lock.json names, "languages" for programs
-# in other languages, "python" for building and testing the Python package, "docs" for building the site of the
-# documentation, "manual" for testing manual pages and the completion of shells, "web" for building the page that reads
-# VIFs. CXX and CXXFLAGS choose the compiler and the standard library, as they do for CMake: CXX=clang++
+# systems, "package" for building and checking the packages, "bench" for measuring, "browser" for testing pages in a
+# browser, "languages" for programs in other languages, "python" for building and testing the Python package, "docs" for
+# building the site of the documentation, "manual" for testing manual pages and the completion of shells, "web" for
+# building the page that reads VIFs. "package" and "browser" also take the npm packages that a package-lock.json in tests/
+# names. CXX and CXXFLAGS choose the compiler and the standard library, as they do for CMake: CXX=clang++
 # CXXFLAGS=-stdlib=libc++.
 set -euo pipefail
 
@@ -23,13 +23,14 @@ case $task in
     ;;
 esac
 
-# Into tests/browser/node_modules, unless what the lock file names is there. Nothing that the packages bring is run.
+# Into node_modules of a folder in tests/, unless what its lock file names is there. Nothing that the packages bring is
+# run.
 install_npm_packages() {
   local folder
-  folder=$(dirname "$0")/../tests/browser
+  folder=$(dirname "$0")/../tests/$1
   local installed=$folder/node_modules/installed-lock.json
   ! cmp -s "$folder/package-lock.json" "$installed" || return 0
-  echo "==> Installing the npm packages of tests/browser"
+  echo "==> Installing the npm packages of tests/$1"
   npm ci --prefix "$folder" --ignore-scripts --no-audit --no-fund --loglevel error
   cp "$folder/package-lock.json" "$installed"
 }
@@ -45,7 +46,7 @@ if ! command -v apt-get >/dev/null; then
     For Python: cffi, pip, setuptools, wheel; to test it also pytest and mypy
     For other tasks: the packages that scripts/setup.sh lists, under their Debian names
 END
-  if [ "$task" = browser ] && command -v npm >/dev/null; then install_npm_packages; fi
+  if [ "$task" = browser ] && command -v npm >/dev/null; then install_npm_packages browser; fi
   exit 0
 fi
 
@@ -80,6 +81,11 @@ build_packages=("${compiler_packages[@]}" cmake ninja-build libxml2-dev "${heade
 test_packages=("${build_packages[@]}" "${googletest_packages[@]}" pkg-config python3)
 # llvm makes the import library for compilers with Microsoft's ABI.
 windows_packages=(llvm cmake ninja-build g++-mingw-w64-x86-64-posix googletest wine wine64 "${header_packages[@]}")
+# A Node.js from elsewhere brings its own npm, and excludes Debian's.
+add_node() {
+  command -v node >/dev/null || wanted+=(nodejs)
+  command -v npm >/dev/null || wanted+=(npm)
+}
 case $task in
   build) wanted=("${build_packages[@]}") ;;
   test) wanted=("${test_packages[@]}") ;;
@@ -94,7 +100,11 @@ case $task in
     ;;
   windows) wanted=("${windows_packages[@]}") ;;
   arm64) wanted=(cmake ninja-build g++-aarch64-linux-gnu googletest libxml2-dev:arm64 qemu-user-static "${header_packages[@]}") ;;
-  package) wanted=("${build_packages[@]}" "${windows_packages[@]}" dpkg-dev file python3 unzip zip) ;;
+  package)
+    wanted=("${build_packages[@]}" "${windows_packages[@]}" debhelper dh-python dpkg-dev file liblzma-dev lintian
+      pkg-config python3 python3-cffi python3-jsonschema unzip zip zlib1g-dev)
+    add_node
+    ;;
   languages) wanted=("${test_packages[@]}" "${windows_packages[@]}" gcc clang lld mono-mcs mono-runtime rustc) ;;
   python)
     # lxml is what the benchmark compares with. Before Python 3.11, pytest needs exceptiongroup and tomli.
@@ -107,9 +117,7 @@ case $task in
   web) wanted=(cmake dpkg-dev emscripten ninja-build nodejs) ;;
   browser)
     wanted=(chromium fonts-dejavu-core pngquant)
-    # A Node.js from elsewhere brings its own npm, and excludes Debian's.
-    command -v node >/dev/null || wanted+=(nodejs)
-    command -v npm >/dev/null || wanted+=(npm)
+    add_node
     ;;
 esac
 
@@ -126,4 +134,7 @@ if [ ${#missing[@]} -gt 0 ]; then
   update_lists
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 fi
-[ "$task" != browser ] || install_npm_packages
+case $task in
+  browser) install_npm_packages browser ;;
+  package) install_npm_packages sbom ;;
+esac

@@ -29,12 +29,7 @@ export PYTHONDONTWRITEBYTECODE=1
 unset PYTHONPATH VENDORINFOFILE_LIBRARY
 
 echo "==> Building the wheel"
-# From a copy of the sources, so that nothing is left beside them.
-mkdir -p "$work/sources/python"
-cp -r CMakeLists.txt LICENSE c "$work/sources"
-cp -r python/{generate.py,pyproject.toml,setup.py,src} "$work/sources/python"
-(cd "$work/sources/python" && VENDORINFOFILE_BUILD=$root/build/release \
-  "$python" -m pip wheel --quiet --no-deps --no-build-isolation --no-index --wheel-dir "$work/wheels" .)
+PYTHON=$python scripts/wheel.sh "$work/wheels"
 wheels=("$work"/wheels/vendorinfofile-*-py3-none-*.whl)
 [ -f "${wheels[0]}" ] || { echo "The wheel is not for every Python 3: $(ls "$work/wheels")" >&2; exit 1; }
 

@@ -2,6 +2,7 @@
 #include "BaseUtilities/PathText.h"
 #include "TestUtilities/DOMDoc.h"
 #include "TestUtilities/LibraryDirectory.h"
+#include "xmlfile/EmbeddedSchemas.h"
 
 #include <mutex>
 #include <system_error>
@@ -22,6 +23,10 @@ std::filesystem::path SchemaDirectory() {
 std::vector<std::filesystem::path> Directories() {
   std::vector<std::filesystem::path> directories;
   if (std::filesystem::path chosen = SchemaDirectory(); !chosen.empty()) directories.push_back(std::move(chosen));
+  if (xmlfile::HasEmbeddedSchemas()) {
+    directories.push_back(xmlfile::EmbeddedSchemaDirectory());
+    return directories;
+  }
   const std::vector<std::filesystem::path>& library = LibraryDirectories();
   for (const std::filesystem::path& directory : library) {
     directories.push_back((directory / VENDORINFOFILE_SCHEMAS_FROM_LIBRARY).lexically_normal());
@@ -39,7 +44,8 @@ std::wstring CDOMDoc::MakeFullSchemaPath(const wchar_t* fileName) {
   const std::filesystem::path name = PathFromLosslessWide(fileName != nullptr ? fileName : L"");
   for (const std::filesystem::path& directory : directories) {
     std::error_code ignored;
-    if (std::filesystem::exists(directory / name, ignored)) return PathToLosslessWide(directory / name);
+    if (xmlfile::EmbeddedSchema(directory / name) || std::filesystem::exists(directory / name, ignored))
+      return PathToLosslessWide(directory / name);
   }
   return PathToLosslessWide(directories.front() / name);
 }

@@ -1,6 +1,7 @@
 #include "libxml2/SchemaLoader.h"
 
 #include "libxml2/XmlText.h"
+#include "xmlfile/EmbeddedSchemas.h"
 
 #include <libxml/parser.h>
 #include <libxml/uri.h>
@@ -62,6 +63,10 @@ xmlParserInputPtr MakeInput(const std::string& url, xmlParserCtxtPtr context, xm
   return input;
 }
 
+xmlParserInputBufferPtr MakeBuffer(std::string_view text) {
+  return xmlParserInputBufferCreateMem(text.data(), static_cast<int>(text.size()), XML_CHAR_ENCODING_NONE);
+}
+
 }  // namespace
 
 CSchemaLoader::CSchemaLoader(std::map<std::string, std::string> replaced) : m_replaced(std::move(replaced)) {
@@ -118,17 +123,13 @@ void CSchemaLoader::Fail(std::string reason) {
 }
 
 xmlParserInputPtr CSchemaLoader::LoadFile(const std::string& url, xmlParserCtxtPtr context) {
-  if (url == kXmlNamespaceUrl) {
-    return MakeInput(
-        url, context,
-        xmlParserInputBufferCreateMem(kXmlNamespaceSchema.data(), static_cast<int>(kXmlNamespaceSchema.size()),
-                                      XML_CHAR_ENCODING_NONE));
-  }
+  if (url == kXmlNamespaceUrl) return MakeInput(url, context, MakeBuffer(kXmlNamespaceSchema));
   const std::filesystem::path path = FileOf(url);
   if (path.empty()) {
     Fail(url + ": nothing is loaded from the network");
     return nullptr;
   }
+  if (const auto embedded = xmlfile::EmbeddedSchema(path)) return MakeInput(url, context, MakeBuffer(*embedded));
   xmlfile::CInputFile& file = m_open.emplace_back(path);
   if (!file.IsOpen()) {
     Fail(path.native() + ": the file " + file.Error());

@@ -5,6 +5,7 @@
 #include "libxml2/Errors.h"
 #include "libxml2/XmlParser.h"
 #include "libxml2/XmlText.h"
+#include "xmlfile/EmbeddedSchemas.h"
 
 #include <libxml/uri.h>
 
@@ -97,11 +98,16 @@ void ReplaceImports(const xmlNode& schema, const SchemaSource& source, const std
   }
 }
 
+std::shared_ptr<const CXmlTree> ParseSchema(const std::filesystem::path& path, xmlfile::CProblems& problems) {
+  const auto embedded = xmlfile::EmbeddedSchema(path);
+  return embedded ? ParseXml(xmlfile::ReadFileText(*embedded, problems), problems) : ParseXmlFile(path, problems);
+}
+
 /// libxml2 says little about a schema that cannot be read, and nothing about one for another namespace.
 void CheckSource(const SchemaSource& source, const std::vector<SchemaSource>& sources,
                  std::map<std::string, std::string>& replaced) {
   xmlfile::CProblems problems;
-  const std::shared_ptr<const CXmlTree> tree = ParseXmlFile(source.file, problems);
+  const std::shared_ptr<const CXmlTree> tree = ParseSchema(source.file, problems);
   if (tree == nullptr) ThrowSchemaError(source.file.native(), problems.Take().front());
   RequireNamespace(source.file.native(), std::string(AttributeOf(*tree->Root(), "targetNamespace")),
                    source.targetNamespace);

@@ -169,6 +169,20 @@ EOF
         fail "$library has symbols without the version $abi"
     done
     ;;
+  PackagedForItsVersion)
+    abi=${VERSION%%.*}
+    [ "$abi" != 0 ] || abi=${VERSION%.*}
+    [[ $(head -n 1 "$sources/debian/changelog") == "vendorinfofile ($VERSION-"* ]] ||
+      fail "debian/changelog does not begin with $VERSION"
+    for library in libvendorinfofile libvif; do
+      grep -qx "Package: $library$abi" "$sources/debian/control" || fail "debian/control has no $library$abi"
+      for file in install symbols; do
+        [ -f "$sources/debian/$library$abi.$file" ] || fail "debian/$library$abi.$file is missing"
+      done
+      ! grep -vE "^#|^\*|so\.$abi $library$abi|_$abi $abi\." "$sources/debian/$library$abi.symbols" ||
+        fail "debian/$library$abi.symbols has the lines above for another version"
+    done
+    ;;
   PartOfAnotherProject)
     with=(-DCMAKE_CXX_COMPILER="$CXX")
     [ -z "$TOOLCHAIN" ] || with=(--toolchain "$TOOLCHAIN")

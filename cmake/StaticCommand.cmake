@@ -1,0 +1,36 @@
+# The vif command as one file: static, with the schemas inside, so that it runs on every Linux system of its architecture,
+# whatever libraries that has. The libraries cannot be installed from such a build.
+if(NOT CMAKE_SYSTEM_NAME STREQUAL "Linux")
+  message(FATAL_ERROR "VENDORINFOFILE_STATIC_COMMAND is for Linux")
+endif()
+set(library_type STATIC)
+set(VENDORINFOFILE_EMBED_SCHEMAS ON)
+set(VENDORINFOFILE_INSTALL OFF)
+set(VENDORINFOFILE_BUILD_EXAMPLES OFF)
+
+find_library(LIBXML2_LIBRARY libxml2.a REQUIRED)
+
+# Debian's libxml2 asks ICU for encodings that iconv does not know. ICU's tables would take 30 MB, so every function of
+# ICU is replaced by one that knows no encoding. The names of ICU's functions end with its version.
+execute_process(COMMAND "${CMAKE_NM}" --undefined-only "${LIBXML2_LIBRARY}"
+  OUTPUT_VARIABLE undefined ERROR_QUIET COMMAND_ERROR_IS_FATAL ANY)
+string(REGEX MATCHALL "(ucnv|UCNV)_[A-Za-z_0-9]+" icu_functions "${undefined}")
+list(REMOVE_DUPLICATES icu_functions)
+list(TRANSFORM icu_functions PREPEND "LINKER:--defsym=" OUTPUT_VARIABLE icu_options)
+list(TRANSFORM icu_options APPEND "=OpenNoIcuConverter")
+
+# Links a program so that it needs no library, and none of the modules that glibc loads for encodings.
+function(project_link_statically target)
+  target_sources(${target} PRIVATE "${PROJECT_SOURCE_DIR}/static/Iconv.cpp" "${PROJECT_SOURCE_DIR}/static/NoIcu.cpp")
+  find_package(Python3 REQUIRED COMPONENTS Interpreter)
+  set(tables "${PROJECT_BINARY_DIR}/static/EncodingTables.h")
+  add_custom_command(OUTPUT "${tables}"
+    COMMAND "${CMAKE_COMMAND}" -E make_directory "${PROJECT_BINARY_DIR}/static"
+    COMMAND "${Python3_EXECUTABLE}" -B "${PROJECT_SOURCE_DIR}/static/encoding_tables.py" "${tables}"
+    DEPENDS "${PROJECT_SOURCE_DIR}/static/encoding_tables.py"
+    VERBATIM)
+  target_sources(${target} PRIVATE "${tables}")
+  target_include_directories(${target} PRIVATE "${PROJECT_BINARY_DIR}/static")
+  # The linker warns of libxml2's calls for the network, which nothing here reaches.
+  target_link_options(${target} PRIVATE -static-pie ${icu_options} "LINKER:-Map,${PROJECT_BINARY_DIR}/${target}.map")
+endfunction()
