@@ -77,7 +77,7 @@ extern "C" {
  * \{
  */
 
-/** How a call ended: one of VIF_OK and VIF_ERROR_... */
+/** How a call ended: VIF_OK, or an error. */
 typedef int32_t vif_status;
 
 /** What a call that failed says about it, to be freed with vif_error_free. */
