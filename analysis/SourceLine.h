@@ -18,6 +18,7 @@ struct SourceLine {
 
 /// The line of a file's content at a place. UTF-16 is decoded if it has a byte order mark; in any other encoding than
 /// UTF-8, characters beyond ASCII become U+FFFD.
+/// \param content the bytes of the file
 /// \param line from 1; there is no text if the content has fewer lines, or for 0
 /// \param column the character in the line, from 1; 0 if it is not known, which puts the whole line into `after`
 /// \throws std::bad_alloc; may be called from any number of threads at once

@@ -26,6 +26,9 @@ using TextSink = std::function<void(std::string_view)>;
 
 /// One JSON object with "files", "componentCount" and "fields", each field on a line of its own.
 /// \param fileNames the files that the fields are from
+/// \param componentCount how many components these have
+/// \param fields the fields, in order
+/// \param sink takes the document
 VIF_ANALYSIS_API void WriteFieldsAsJson(std::span<const std::string> fileNames, std::uint32_t componentCount,
                                         std::span<const CVIFField> fields, const TextSink& sink);
 
@@ -34,8 +37,8 @@ VIF_ANALYSIS_API void WriteFieldsAsCsv(std::span<const CVIFField> fields, const 
 
 /// One file and its findings, in the order of the file.
 struct FileFindings {
-  std::string name;
-  std::vector<Finding> findings;
+  std::string name;               ///< the name of the file
+  std::vector<Finding> findings;  ///< what was found in it
 };
 
 /// One JSON object with "files" and the counts "errors", "warnings" and "notes", each finding on a line of its own.
@@ -43,17 +46,17 @@ VIF_ANALYSIS_API void WriteFindingsAsJson(std::span<const FileFindings> files, c
 
 /// How two files differ.
 struct FileComparison {
-  std::string before;  ///< the name of the first file
-  std::string after;   ///< the name of the second file
-  Differences differences;
-  FindingChanges findings;
+  std::string before;       ///< the name of the first file
+  std::string after;        ///< the name of the second file
+  Differences differences;  ///< what is declared differently
+  FindingChanges findings;  ///< the findings that only one of them has
 };
 
 /// How ports of one file differ.
 struct FilePorts {
-  std::string file;
-  std::size_t components = 0;  ///< the number of components in the file
-  std::vector<PortComparison> ports;
+  std::string file;                   ///< its name
+  std::size_t components = 0;         ///< the number of components in the file
+  std::vector<PortComparison> ports;  ///< the comparisons, in the order of the ports
 };
 
 /// Whether no port differs.

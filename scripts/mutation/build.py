@@ -99,7 +99,9 @@ class Build:
         needs = frozenset(self._ninja("inputs", path).splitlines())
         # The commands that follow run the linked program, for instance to list its tests.
         command = self._ninja("commands", "-s", path).split(" && ")[1]
-        parts = tuple(shlex.split(command))
+        # Mutants are linked elsewhere, so where the other libraries are must not depend on the place of the file.
+        origin = str((self.directory / path).parent)
+        parts = tuple(part.replace("\\$ORIGIN", origin) for part in shlex.split(command))
         return Linked(path, tuple(part for part in parts if part in needs), needs, parts)
 
 
