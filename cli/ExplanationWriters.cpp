@@ -19,7 +19,6 @@
 
 namespace cli {
 
-using vifanalysis::Confidence;
 using vifanalysis::ConfidenceText;
 using vifanalysis::DisplayWidth;
 using vifanalysis::ExplainedSpelling;

@@ -214,13 +214,16 @@ std::string FishCommands(const Commands& commands) {
   for (const Command& command : commands) {
     const std::string name = command.name.empty() ? "''" : command.name;
     if (!command.name.empty()) {
-      lines += FishCondition("__vif_in ''") + " -a " + name + " -d " + QuotedForFish(command.description) + '\n';
+      lines.append(FishCondition("__vif_in ''")).append(" -a ").append(name);
+      lines.append(" -d ").append(QuotedForFish(command.description)).append("\n");
     }
     for (const Option& option : command.options) lines += FishOption(name, option);
     int position = 1;
     for (const Option& positional : command.positionals) {
-      const std::string place = positional.isRepeatable ? "" : ' ' + std::to_string(position++);
-      lines += FishCondition("__vif_in " + name + place) + " -a " + QuotedForFish(FishSource(positional.kind)) + '\n';
+      std::string place = "__vif_in " + name;
+      if (!positional.isRepeatable) place.append(" ").append(std::to_string(position++));
+      lines.append(FishCondition(place)).append(" -a ");
+      lines.append(QuotedForFish(FishSource(positional.kind))).append("\n");
     }
   }
   return lines;
@@ -229,7 +232,9 @@ std::string FishCommands(const Commands& commands) {
 std::string FishWords(const Described& words) {
   std::string lines;
   for (const auto& [word, description] : words) {
-    lines += "        " + QuotedForFish(word + '\t' + description) + " \\\n";
+    std::string entry = word;
+    entry.append("\t").append(description);
+    lines.append("        ").append(QuotedForFish(entry)).append(" \\\n");
   }
   return lines.substr(0, lines.size() - 3) + '\n';
 }

@@ -73,8 +73,8 @@ std::string ItemBlock(const HeaderItem& item) {
     case Kind::Type:
       return ".It Vt " + item.name + "\n.Li " + Argument(InC(item.declaration)) + '\n' +
              (comment.empty() ? "" : ".Pp\n" + comment);
-    case Kind::Constants: return {};
-    case Kind::Part: return {};
+    case Kind::Constants:
+    case Kind::Part: break;  // not items of a list
   }
   return {};
 }
