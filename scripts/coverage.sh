@@ -33,7 +33,8 @@ fi
 
 mapfile -t objects < <(
   find "$build" -maxdepth 2 -name 'lib*.so'
-  find "$build/tests" "$build/cli" -type f \( -name '*_tests' -o -name vif \))
+  # Completion scripts are called vif, too.
+  find "$build/tests" "$build/cli" -type f -executable \( -name '*_tests' -o -name vif \))
 others=()
 for object in "${objects[@]:1}"; do others+=(-object "$object"); done
 
