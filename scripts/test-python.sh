@@ -88,7 +88,7 @@ _library.py_text(field.description)
 fi
 
 echo "==> Installing it as for a distribution"
-cmake -S "$root" -B distribution -DVENDORINFOFILE_BUILD_PYTHON=ON -DPython3_EXECUTABLE="$python" \
+cmake -G Ninja -S "$root" -B distribution -DVENDORINFOFILE_BUILD_PYTHON=ON -DPython3_EXECUTABLE="$python" \
   -DVENDORINFOFILE_BUILD_TOOLS=OFF -DVENDORINFOFILE_BUILD_EXAMPLES=OFF >distribution.log ||
   { cat distribution.log >&2; exit 1; }
 cmake --build distribution --target VendorInfoFilePython >/dev/null
