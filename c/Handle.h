@@ -10,13 +10,15 @@ enum class HandleKind : std::uint8_t { File, Positions, Findings, Differences, P
 
 #ifdef VENDORINFOFILE_CHECK_HANDLES
 
+// Handles are told apart by their addresses alone: what is there may not be a handle any more, or not yet.
+
 /// Remembers a handle for as long as it lives.
 /// \throws std::bad_alloc
-void Register(const void* handle, HandleKind kind);
-void Unregister(const void* handle) noexcept;
+void Register(std::uintptr_t handle, HandleKind kind);
+void Unregister(std::uintptr_t handle) noexcept;
 
-/// Whether a handle is alive and of that kind; if not, says so on standard error. Does not look at what it points to.
-bool IsAlive(const void* handle, HandleKind kind) noexcept;
+/// Whether a handle is alive and of that kind; if not, says so on standard error.
+bool IsAlive(std::uintptr_t handle, HandleKind kind) noexcept;
 
 #endif
 
@@ -26,8 +28,8 @@ class CHandle {
   static constexpr HandleKind kKind = Kind;
 
 #ifdef VENDORINFOFILE_CHECK_HANDLES
-  CHandle() { Register(this, Kind); }
-  ~CHandle() { Unregister(this); }
+  CHandle() { Register(reinterpret_cast<std::uintptr_t>(this), Kind); }
+  ~CHandle() { Unregister(reinterpret_cast<std::uintptr_t>(this)); }
 #else
   CHandle() = default;
   ~CHandle() = default;
@@ -40,7 +42,8 @@ class CHandle {
 template <typename Handle>
 bool IsUsable(const Handle* handle) noexcept {
 #ifdef VENDORINFOFILE_CHECK_HANDLES
-  return handle != nullptr && IsAlive(static_cast<const CHandle<Handle::kKind>*>(handle), Handle::kKind);
+  const CHandle<Handle::kKind>* base = handle;
+  return base != nullptr && IsAlive(reinterpret_cast<std::uintptr_t>(base), Handle::kKind);
 #else
   return handle != nullptr;
 #endif

@@ -13,7 +13,7 @@ namespace {
 
 struct Registry {
   std::mutex mutex;
-  std::map<const void*, HandleKind> alive;
+  std::map<std::uintptr_t, HandleKind> alive;
 };
 
 /// Never destroyed: handles may be freed while the process ends.
@@ -24,19 +24,19 @@ Registry& TheRegistry() {
 
 }  // namespace
 
-void Register(const void* handle, HandleKind kind) {
+void Register(std::uintptr_t handle, HandleKind kind) {
   Registry& registry = TheRegistry();
   const std::lock_guard lock(registry.mutex);
   registry.alive[handle] = kind;
 }
 
-void Unregister(const void* handle) noexcept {
+void Unregister(std::uintptr_t handle) noexcept {
   Registry& registry = TheRegistry();
   const std::lock_guard lock(registry.mutex);
   registry.alive.erase(handle);
 }
 
-bool IsAlive(const void* handle, HandleKind kind) noexcept {
+bool IsAlive(std::uintptr_t handle, HandleKind kind) noexcept {
   Registry& registry = TheRegistry();
   const std::lock_guard lock(registry.mutex);
   const auto found = registry.alive.find(handle);
