@@ -18,19 +18,10 @@ namespace {
 using vifanalysis::CheckOptions;
 using vifanalysis::Finding;
 
-std::vector<std::string> CodesOf(const char* const* codes, std::size_t count) {
-  Require(codes != nullptr || count == 0, "the codes are NULL");
-  std::vector<std::string> list;
-  for (std::size_t i = 0; i < count; ++i) {
-    Require(codes[i] != nullptr, "a code is NULL");
-    list.emplace_back(codes[i]);
-  }
-  return list;
-}
-
 CheckOptions OptionsOf(const vif_check_options* given) {
   const vif_check_options options = TakeIn(given);
-  return {options.notes != 0, CodesOf(options.only, options.only_count), CodesOf(options.except, options.except_count)};
+  return {options.notes != 0, TextsOf(options.only, options.only_count, "code"),
+          TextsOf(options.except, options.except_count, "code")};
 }
 
 /// The status of a failure to check that only its message tells.

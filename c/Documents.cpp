@@ -28,16 +28,6 @@ vif_status GiveDocument(vif_text** text, vif_error** error, const Write& write) 
   });
 }
 
-std::vector<std::string> NamesOf(const char* const* names, std::size_t count) {
-  Require(names != nullptr || count == 0, "the names are NULL");
-  std::vector<std::string> list;
-  for (std::size_t i = 0; i < count; ++i) {
-    Require(names[i] != nullptr, "a name is NULL");
-    list.emplace_back(names[i]);
-  }
-  return list;
-}
-
 }  // namespace
 
 }  // namespace vifc
@@ -46,7 +36,8 @@ vif_status vif_file_json(const vif_file* file, const char* const* names, size_t 
                          vif_error** error) {
   return vifc::GiveDocument(text, error, [&](const vifanalysis::TextSink& sink) {
     const CVendorInfoFile& content = vifc::Usable(file).content.file;
-    vifanalysis::WriteFieldsAsJson(vifc::NamesOf(names, name_count), content.ComponentCount(), content.Fields(), sink);
+    vifanalysis::WriteFieldsAsJson(vifc::TextsOf(names, name_count, "name"), content.ComponentCount(), content.Fields(),
+                                   sink);
   });
 }
 

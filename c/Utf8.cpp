@@ -28,6 +28,17 @@ std::filesystem::path PathOf(const char* text) {
   return PathFromUtf8(text);
 }
 
+std::vector<std::string> TextsOf(const char* const* texts, std::size_t count, const std::string& noun) {
+  Require(texts != nullptr || count == 0, ("the " + noun + "s are NULL").c_str());
+  const std::string problem = "a " + noun + " is NULL";
+  std::vector<std::string> list;
+  for (std::size_t i = 0; i < count; ++i) {
+    Require(texts[i] != nullptr, problem.c_str());
+    list.emplace_back(texts[i]);
+  }
+  return list;
+}
+
 std::string_view ContentOf(const void* bytes, std::size_t size) {
   Require(bytes != nullptr || size == 0, "the bytes are NULL");
   return {static_cast<const char*>(bytes), size};

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vifc {
 
@@ -17,6 +18,11 @@ void MakeUtf8(std::string& text);
 /// The path that a caller's text names.
 /// \throws CFailure when it is null or empty
 std::filesystem::path PathOf(const char* text);
+
+/// A caller's list of texts.
+/// \param noun what each of them is
+/// \throws CFailure when one of them is null, or the list although it is not empty
+std::vector<std::string> TextsOf(const char* const* texts, std::size_t count, const std::string& noun);
 
 /// A caller's bytes.
 /// \throws CFailure when they are null although there are some

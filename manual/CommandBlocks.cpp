@@ -5,6 +5,7 @@
 
 #include <cctype>
 #include <cstddef>
+#include <stdexcept>
 #include <string_view>
 #include <utility>
 
@@ -57,11 +58,11 @@ std::vector<std::string> OtherGroups(const Command& command) {
 
 bool IsHelp(const Option& option) { return option.names.back() == "--help"; }
 
-const HelpSection* FindSection(const std::vector<HelpSection>& sections, std::string_view title) {
-  for (const HelpSection& section : sections) {
-    if (section.title == title) return &section;
+HelpSection SectionOf(const Command& command, std::string_view title) {
+  for (HelpSection& section : ParseHelp(command.footer)) {
+    if (section.title == title) return std::move(section);
   }
-  return nullptr;
+  throw std::runtime_error("the help of " + command.name + " has no section '" + std::string(title) + "'");
 }
 
 }  // namespace
@@ -121,8 +122,8 @@ std::string OptionLists(const Command& command) {
 
 std::string RowList(const Command& command, const std::string& section) {
   std::string list = kListBegin;
-  const std::vector<HelpSection> sections = ParseHelp(command.footer);
-  for (const auto& [name, text] : FindSection(sections, section)->rows) {
+  const HelpSection found = SectionOf(command, section);
+  for (const auto& [name, text] : found.rows) {
     std::string sentence = Sentence(text);
     sentence[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(sentence[0])));
     list += ".It Cm " + Argument(name) + '\n' + Paragraph(sentence);
@@ -132,8 +133,8 @@ std::string RowList(const Command& command, const std::string& section) {
 
 std::string ExitStatus(const Command& command) {
   std::string list = ".Bl -tag -width 1n\n";
-  const std::vector<HelpSection> sections = ParseHelp(command.footer);
-  std::string_view rest = FindSection(sections, "Exit status")->paragraphs.front();
+  const HelpSection section = SectionOf(command, kExitStatus);
+  std::string_view rest = section.paragraphs.front();
   while (!rest.empty()) {
     std::size_t end = rest.find("; ");
     while (end != std::string_view::npos && std::isdigit(static_cast<unsigned char>(rest[end + 2])) == 0) {

@@ -1,8 +1,8 @@
 // The parts of vif(3) that come from the comments and declarations of vif.h.
 //
-// The header follows a few rules. The first comment is the introduction. A comment directly before a declaration is
-// about it; any other begins a part: its first sentence or line is the title. A comment on the line of a member or a
-// constant is about that.
+// The header follows a few rules, those of Doxygen among them. The first comment is the introduction. A comment that
+// begins with "\name" begins a part, with the title that follows. Any other is about the declaration after it, or, on
+// the line of a member or a constant, about that.
 #pragma once
 
 #include <string>

@@ -8,7 +8,6 @@ namespace manual {
 
 namespace {
 
-constexpr std::string_view kExitStatus = "Exit status: ";
 constexpr std::string_view kIndent = "  ";
 
 std::pair<std::string, std::string> SplitRow(std::string_view line) {
@@ -26,8 +25,8 @@ std::vector<HelpSection> ParseHelp(std::string_view footer) {
     if (line.empty()) continue;
     if (line.starts_with(kIndent)) {
       sections.back().rows.push_back(SplitRow(line));
-    } else if (line.starts_with(kExitStatus)) {
-      sections.push_back({"Exit status", {std::string(line.substr(kExitStatus.size()))}, {}});
+    } else if (line.starts_with(kExitStatus) && line.substr(kExitStatus.size()).starts_with(": ")) {
+      sections.push_back({std::string(kExitStatus), {std::string(line.substr(kExitStatus.size() + 2))}, {}});
     } else if (line.ends_with(':')) {
       sections.push_back({std::string(line.substr(0, line.size() - 1)), {}, {}});
     } else if (sections.back().title.empty()) {

@@ -15,8 +15,11 @@ struct HelpSection {
   std::vector<std::pair<std::string, std::string>> rows;  ///< names with what they mean; for examples, commands alone
 };
 
-/// Takes a footer apart. A paragraph that begins "Exit status: " is a section, and so are indented lines after a line
-/// that ends in a colon. Anything else is text.
+/// The title of the section on exit statuses.
+inline constexpr std::string_view kExitStatus = "Exit status";
+
+/// Takes a footer apart. A paragraph that begins with `kExitStatus` and a colon is a section, and so are indented lines
+/// after a line that ends in a colon. Anything else is text.
 std::vector<HelpSection> ParseHelp(std::string_view footer);
 
 }  // namespace manual

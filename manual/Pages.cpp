@@ -16,7 +16,6 @@ namespace manual {
 namespace {
 
 constexpr const char* kProgram = "vif";
-constexpr const char* kExitStatus = "Exit status";
 
 }  // namespace
 
@@ -42,6 +41,13 @@ std::string CPages::Head(const std::string& title, const std::string& section) c
   return ".Dd " + m_sources.date + "\n.Dt " + title + ' ' + section + "\n.Os \"vif " + m_sources.version + "\"\n";
 }
 
+const std::string& CPages::Message(const std::string& code) const {
+  const auto example = m_sources.examples.find(code);
+  if (example == m_sources.examples.end())
+    throw std::runtime_error("there is no example of the finding '" + code + "'");
+  return example->second;
+}
+
 std::string CPages::Follow(const std::vector<std::string>& directive) {
   const std::string& name = directive.front();
   const auto argument = [&](std::size_t i) -> const std::string& {
@@ -60,9 +66,12 @@ std::string CPages::Follow(const std::vector<std::string>& directive) {
   if (name == "@description-after-name") return DescriptionAfterName(useHelp(""));
   if (name == "@options") return OptionLists(command());
   if (name == "@rows") return RowList(useHelp(argument(2)), argument(2));
-  if (name == "@exit-status") return ExitStatus(useHelp(kExitStatus));
-  if (name == "@leave-out") return useHelp(argument(2) == "text" ? "" : argument(2)), "";
-  if (name == "@message") return Paragraph(m_sources.examples.at(argument(1)));
+  if (name == "@exit-status") return ExitStatus(useHelp(std::string(kExitStatus)));
+  if (name == "@leave-out") {
+    Use(argument(1), argument(2) == "text" ? "" : argument(2));
+    return {};
+  }
+  if (name == "@message") return Paragraph(Message(argument(1)));
   if (name == "@rules-about-form") return RuleList(true, m_sources.examples);
   if (name == "@rules-about-content") return RuleList(false, m_sources.examples);
   if (name == "@fields") return FieldLists();

@@ -36,6 +36,7 @@ class CPages {
  private:
   std::string Follow(const std::vector<std::string>& directive);
   std::string Head(const std::string& title, const std::string& section) const;
+  const std::string& Message(const std::string& code) const;
   const Command& Find(const std::string& name) const;
   void Use(const std::string& command, const std::string& section);
 

@@ -37,9 +37,22 @@ std::string_view FindLine(std::string_view text, std::size_t line) {
   return text;
 }
 
-std::string Shown(std::wstring text) {
-  std::replace(text.begin(), text.end(), L'\t', L' ');
-  return Printable(Utf16ToUtf8(text));
+bool BeginsCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }
+
+std::size_t Characters(std::string_view text) {
+  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), BeginsCharacter));
+}
+
+/// Where that many characters of the text end.
+std::size_t EndOf(std::string_view text, std::size_t characters) {
+  std::size_t end = 0;
+  while (end < text.size() && (!BeginsCharacter(text[end]) || characters-- > 0)) ++end;
+  return end;
+}
+
+std::string Shown(std::string text) {
+  std::replace(text.begin(), text.end(), '\t', ' ');
+  return Printable(text);
 }
 
 }  // namespace
@@ -53,12 +66,16 @@ SourceLine FindSourceLine(std::string_view content, std::size_t line, std::size_
   } else if (content.starts_with("\xEF\xBB\xBF")) {
     content.remove_prefix(3);
   }
-  const std::wstring text = Utf8ToUtf16(FindLine(content, line));
-  const std::size_t place = std::min(column > 0 ? column - 1 : 0, text.size());
-  const std::size_t begin = place > kMostBefore ? place - kMostBefore : 0;
-  const std::size_t end = std::min(text.size(), place + kMostAfter);
-  return {(begin > 0 ? "\u2026" : "") + Shown(text.substr(begin, place - begin)),
-          Shown(text.substr(place, end - place)) + (end < text.size() ? "\u2026" : "")};
+  const std::string text = ValidUtf8(FindLine(content, line));
+  const std::size_t length = Characters(text);
+  const std::size_t place = std::min(column > 0 ? column - 1 : 0, length);
+  const bool isCutBefore = place > kMostBefore;
+  const bool isCutAfter = length - place > kMostAfter;
+  const std::size_t begin = isCutBefore ? EndOf(text, place - kMostBefore) : 0;
+  const std::size_t middle = EndOf(text, place);
+  const std::size_t end = isCutAfter ? EndOf(text, place + kMostAfter) : text.size();
+  return {(isCutBefore ? "\u2026" : "") + Shown(text.substr(begin, middle - begin)),
+          Shown(text.substr(middle, end - middle)) + (isCutAfter ? "\u2026" : "")};
 }
 
 }  // namespace vifanalysis

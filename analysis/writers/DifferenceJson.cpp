@@ -13,18 +13,12 @@ void AppendDeclared(std::string& out, const std::optional<DeclaredField>& field)
   }
   out += R"({"value":)";
   AppendJson(out, field->value);
-  out += R"(,"number":)";
-  AppendJson(out, field->number);
-  out += R"(,"description":)";
-  AppendJson(out, field->description);
-  out += R"(,"name":)";
-  AppendJson(out, field->name);
-  out += R"(,"indexes":)";
-  AppendJson(out, field->indexes);
-  out += R"(,"meaning":)";
-  AppendTextOrNull(out, field->meaning);
-  out += R"(,"place":)";
-  AppendJson(out, field->place);
+  AppendMember(out, "number", field->number);
+  AppendMember(out, "description", field->description);
+  AppendMember(out, "name", field->name);
+  AppendMember(out, "indexes", field->indexes);
+  AppendTextMember(out, "meaning", field->meaning);
+  AppendMember(out, "place", field->place);
   out += '}';
 }
 
@@ -42,8 +36,7 @@ void AppendDifference(std::string& out, const Difference& difference) {
   AppendDeclared(out, difference.before);
   out += R"(,"new":)";
   AppendDeclared(out, difference.after);
-  out += R"(,"place":)";
-  AppendJson(out, difference.place);
+  AppendMember(out, "place", difference.place);
   out += '}';
 }
 
@@ -66,10 +59,8 @@ void AppendChange(std::string& out, const GroupChange& change) {
 void AppendFinding(std::string& out, const Finding& finding) {
   out.append(R"({"severity":")").append(SeverityName(finding.severity)).append(R"(","code":)");
   AppendJson(out, finding.code);
-  out += R"(,"element":)";
-  AppendTextOrNull(out, finding.element);
-  out += R"(,"message":)";
-  AppendJson(out, finding.message);
+  AppendTextMember(out, "element", finding.element);
+  AppendMember(out, "message", finding.message);
   out += '}';
 }
 

@@ -7,14 +7,11 @@ namespace {
 void AppendField(std::string& out, const CVIFField& field) {
   out += R"({"name":)";
   AppendJson(out, field.Name());
-  out += R"(,"value":)";
-  AppendJson(out, field.Value());
-  out += R"(,"description":)";
-  AppendJson(out, field.Description());
+  AppendMember(out, "value", field.Value());
+  AppendMember(out, "description", field.Description());
   out.append(R"(,"numeric":)").append(field.IsNumeric() ? "true" : "false");
   out.append(R"(,"number":)").append(HasNumber(field) ? std::to_string(field.GetULongNumericValue()) : "null");
-  out += R"(,"indexes":)";
-  AppendJson(out, field.Indexes());
+  AppendMember(out, "indexes", field.Indexes());
   out += '}';
 }
 

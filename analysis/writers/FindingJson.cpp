@@ -13,14 +13,10 @@ std::optional<std::uint64_t> NumberOrNull(std::size_t number) {
 void AppendFinding(std::string& out, const Finding& finding) {
   out.append(R"({"severity":")").append(SeverityName(finding.severity)).append(R"(","code":)");
   AppendJson(out, finding.code);
-  out += R"(,"line":)";
-  AppendJson(out, NumberOrNull(finding.line));
-  out += R"(,"column":)";
-  AppendJson(out, NumberOrNull(finding.column));
-  out += R"(,"element":)";
-  AppendTextOrNull(out, finding.element);
-  out += R"(,"message":)";
-  AppendJson(out, finding.message);
+  AppendMember(out, "line", NumberOrNull(finding.line));
+  AppendMember(out, "column", NumberOrNull(finding.column));
+  AppendTextMember(out, "element", finding.element);
+  AppendMember(out, "message", finding.message);
   out += '}';
 }
 

@@ -50,14 +50,6 @@ void AppendJson(std::string& out, const std::optional<std::uint64_t>& number) {
   out += number ? std::to_string(*number) : "null";
 }
 
-void AppendTextOrNull(std::string& out, std::string_view text) {
-  if (text.empty()) {
-    out += "null";
-  } else {
-    AppendJson(out, text);
-  }
-}
-
 void AppendJson(std::string& out, const GroupPlace& place) {
   out += '[';
   const char* separator = "";
@@ -69,6 +61,14 @@ void AppendJson(std::string& out, const GroupPlace& place) {
     separator = ",";
   }
   out += ']';
+}
+
+void AppendTextMember(std::string& out, std::string_view key, std::string_view text) {
+  if (text.empty()) {
+    out.append(",\"").append(key).append("\":null");
+  } else {
+    AppendMember(out, key, text);
+  }
 }
 
 }  // namespace vifanalysis

@@ -19,11 +19,18 @@ void AppendJson(std::string& out, std::string_view text);
 /// Appends a number, or null.
 void AppendJson(std::string& out, const std::optional<std::uint64_t>& number);
 
-/// Appends a text, or null if it is empty.
-void AppendTextOrNull(std::string& out, std::string_view text);
-
 /// Appends the groups of a place that are in use as a list of objects with "location" and "index".
 void AppendJson(std::string& out, const GroupPlace& place);
+
+/// Appends a member of an object that already has one.
+template <typename Value>
+void AppendMember(std::string& out, std::string_view key, const Value& value) {
+  out.append(",\"").append(key).append("\":");
+  AppendJson(out, value);
+}
+
+/// Appends a member with a text, or null if the text is empty, to an object that already has a member.
+void AppendTextMember(std::string& out, std::string_view key, std::string_view text);
 
 /// Appends a list to what is in `out`, each item on a line of its own, and passes it all on block by block.
 /// \param append gets the text to which it appends an item, and the item

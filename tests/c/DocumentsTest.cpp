@@ -154,6 +154,8 @@ TEST(CSourceLineTest, IsEmptyBeyondTheEnd) {
 TEST(CSourceLineTest, CountsCharacters) {
   EXPECT_EQ(Line("\xEF\xBB\xBF\xC3\xA4\xE2\x82\xAC!", 1, 3), "\xC3\xA4\xE2\x82\xAC|!");
   EXPECT_EQ(Line("\xE4!", 1, 2), "\xEF\xBF\xBD|!");
+  // One that takes two units of UTF-16.
+  EXPECT_EQ(Line("\xF0\x9F\x94\x8C!", 1, 2), "\xF0\x9F\x94\x8C|!");
 }
 
 TEST(CSourceLineTest, DecodesUtf16) {
@@ -174,6 +176,9 @@ TEST(CSourceLineTest, IsPrintable) { EXPECT_EQ(Line("\ta\x1B[31m", 1, 2), " |a\\
 TEST(CSourceLineTest, LeavesOutWhatIsFarFromThePlace) {
   const std::string line(1000, 'x');
   EXPECT_EQ(Line(line, 1, 500), "\u2026" + std::string(80, 'x') + '|' + std::string(120, 'x') + "\u2026");
+  EXPECT_EQ(Line(line, 1, 5000), "\u2026" + std::string(80, 'x') + '|');
+  EXPECT_EQ(Line(line.substr(0, 201), 1, 81), std::string(80, 'x') + '|' + std::string(120, 'x') + "\u2026");
+  EXPECT_EQ(Line(line.substr(0, 200), 1, 81), std::string(80, 'x') + '|' + std::string(120, 'x'));
 }
 
 TEST(CSourceLineTest, NeedsPlacesForBothTexts) {
