@@ -12,6 +12,7 @@
 #include <analysis/Export.h>
 #include <analysis/Finding.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <span>
@@ -41,6 +42,15 @@ struct FileFindings {
   std::vector<Finding> findings;  ///< what was found in it
 };
 
+/// The number of findings of that severity in all files.
+inline std::size_t CountFindings(std::span<const FileFindings> files, Severity severity) {
+  std::size_t count = 0;
+  for (const FileFindings& file : files) {
+    for (const Finding& finding : file.findings) count += finding.severity == severity ? 1 : 0;
+  }
+  return count;
+}
+
 /// One JSON object with "files" and the counts "errors", "warnings" and "notes", each finding on a line of its own.
 VIF_ANALYSIS_API void WriteFindingsAsJson(std::span<const FileFindings> files, const TextSink& sink);
 
@@ -55,7 +65,6 @@ struct FileComparison {
 /// How ports of one file differ.
 struct FilePorts {
   std::string file;                   ///< its name
-  std::size_t components = 0;         ///< the number of components in the file
   std::vector<PortComparison> ports;  ///< the comparisons, in the order of the ports
 };
 

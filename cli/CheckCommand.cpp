@@ -105,7 +105,7 @@ void WriteFindings(const std::string& format, const std::vector<CheckedFile>& fi
 bool HasFindingOf(const std::string& severityName, const std::vector<CheckedFile>& files) {
   for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Note}) {
     if (severityName == "never") return false;
-    if (CountFindings(files, severity) != 0) return true;
+    if (vifanalysis::CountFindings(files, severity) != 0) return true;
     if (severityName == SeverityName(severity)) return false;
   }
   return false;

@@ -3,6 +3,8 @@
 
 #include <analysis/Writers.h>
 
+#include <cstddef>
+
 namespace cli {
 
 using vifanalysis::FileComparison;
@@ -13,6 +15,7 @@ using vifanalysis::FilePorts;
 void WriteComparisonAsText(const FileComparison& comparison, bool withDescriptions);
 
 /// The same for each port.
-void WritePortsAsText(const FilePorts& ports, bool withDescriptions);
+/// \param components how many the file has
+void WritePortsAsText(const FilePorts& ports, std::size_t components, bool withDescriptions);
 
 }  // namespace cli

@@ -4,8 +4,6 @@
 
 #include <analysis/Text.h>
 
-#include <algorithm>
-
 namespace cli {
 
 using vifanalysis::Amount;
@@ -28,7 +26,7 @@ std::string TextLine(const std::string& fileName, const Finding& finding) {
 std::string Summary(const std::vector<CheckedFile>& files) {
   std::string text;
   for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Note}) {
-    const std::size_t count = CountFindings(files, severity);
+    const std::size_t count = vifanalysis::CountFindings(files, severity);
     if (count != 0) text.append(text.empty() ? "" : ", ").append(Amount(count, SeverityName(severity)));
   }
   return text.empty() ? "no findings" : text;
@@ -42,16 +40,6 @@ void WriteFindingsAsText(const std::vector<CheckedFile>& files) {
     for (const Finding& finding : file.findings) Write(TextLine(fileName, finding));
   }
   Write(Summary(files) + '\n');
-}
-
-std::size_t CountFindings(const std::vector<CheckedFile>& files, Severity severity) {
-  std::size_t count = 0;
-  for (const CheckedFile& file : files) {
-    count +=
-        static_cast<std::size_t>(std::count_if(file.findings.begin(), file.findings.end(),
-                                               [&](const Finding& finding) { return finding.severity == severity; }));
-  }
-  return count;
 }
 
 }  // namespace cli

@@ -3,7 +3,6 @@
 
 #include <analysis/Writers.h>
 
-#include <cstddef>
 #include <vector>
 
 namespace cli {
@@ -15,8 +14,5 @@ void WriteFindingsAsText(const std::vector<CheckedFile>& files);
 
 /// SARIF 2.1.0, with all rules.
 void WriteFindingsAsSarif(const std::vector<CheckedFile>& files);
-
-/// The number of findings of that severity in all files.
-std::size_t CountFindings(const std::vector<CheckedFile>& files, vifanalysis::Severity severity);
 
 }  // namespace cli

@@ -2,8 +2,7 @@
 // other.
 //
 // The first line is a query, SLOTS|PATTERN. Then follow two files, the second after a line "%%". A file that begins
-// with
-// "<" is an XML VIF, any other a text VIF.
+// with "<" is an XML VIF, any other a text VIF.
 #include "Checks.h"
 #include "Input.h"
 #include "vif.h"
@@ -44,6 +43,15 @@ Structure Sized() {
   return structure;
 }
 
+/// Expects a function that makes a text to make one in UTF-8.
+template <typename Make>
+void RequireDocument(const Make& make) {
+  vif_text* text = nullptr;
+  Require(make(&text) == VIF_OK, "there is a document about anything");
+  Require(vif_text_size(text) > 0 && fuzz::IsUtf8({vif_text_data(text), vif_text_size(text)}), "a document is UTF-8");
+  vif_text_free(text);
+}
+
 /// Cancels the loading of a file at its first, second, ... report, until it ends before that.
 void Cancel(std::string_view content, const char* name) {
   constexpr std::uint64_t enough = 4;
@@ -72,6 +80,22 @@ class CInputFile {
   const vif_file* Get() const { return m_file.get(); }
   const vif_findings* GetFindings() const { return m_findings.get(); }
   void CancelLoading() const { Cancel(m_content, m_name); }
+
+  void CheckDocuments() const {
+    RequireDocument([&](vif_text** text) { return vif_file_json(Get(), &m_name, 1, text, nullptr); });
+    RequireDocument([&](vif_text** text) { return vif_file_csv(Get(), text, nullptr); });
+    RequireDocument([&](vif_text** text) { return vif_findings_json(GetFindings(), m_name, text, nullptr); });
+  }
+
+  void CheckSourceLine(std::uint64_t line, std::uint64_t column) const {
+    vif_text* before = nullptr;
+    vif_text* after = nullptr;
+    Require(vif_source_line(m_content.data(), m_content.size(), line, column, &before, &after, nullptr) == VIF_OK,
+            "any place has a line");
+    RequireTexts({vif_text_data(before), vif_text_data(after)});
+    vif_text_free(before);
+    vif_text_free(after);
+  }
 
  private:
   File Load() const {
@@ -132,6 +156,8 @@ class CInputFile {
       auto finding = Sized<vif_finding>();
       Require(vif_findings_get(findings, i, &finding) == VIF_OK, "a finding can be read");
       RequireTexts({finding.code, finding.element, finding.message});
+      constexpr std::size_t enough = 20;  // each takes time that grows with the file
+      if (i < enough) CheckSourceLine(finding.line, finding.column);
       auto rule = Sized<vif_rule>();
       Require(vif_find_rule(finding.code, &rule, nullptr) == VIF_OK, "a finding has the code of a rule");
     }
@@ -228,6 +254,8 @@ void Compare(const CInputFile& before, const CInputFile& after) {
   Require(
       vif_compare_findings(before.GetFindings(), after.GetFindings(), differences, &fixed, &added, nullptr) == VIF_OK,
       "any findings can be compared");
+  RequireDocument(
+      [&](vif_text** text) { return vif_differences_json(differences, "a", "b", fixed, added, text, nullptr); });
   vif_findings_free(fixed);
   vif_findings_free(added);
   vif_differences_free(differences);
@@ -240,10 +268,7 @@ void Report(const CInputFile& file, const CInputFile& after) {
   auto second = Sized<vif_reported_file>();
   second.file = after.Get();
   for (const vif_reported_file* other : {static_cast<const vif_reported_file*>(nullptr), &std::as_const(second)}) {
-    vif_text* page = nullptr;
-    Require(vif_report(&first, other, nullptr, &page, nullptr) == VIF_OK, "there is a report about anything");
-    Require(vif_text_size(page) > 0 && fuzz::IsUtf8({vif_text_data(page), vif_text_size(page)}), "a report is UTF-8");
-    vif_text_free(page);
+    RequireDocument([&](vif_text** text) { return vif_report(&first, other, nullptr, text, nullptr); });
   }
 }
 
@@ -269,6 +294,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const CInputFile first(input.substr(0, end));
   const CInputFile second(end == std::string_view::npos ? std::string_view() : input.substr(end + separator.size()));
   first.CancelLoading();
+  first.CheckDocuments();
+  first.CheckSourceLine(query.size(), size);
   Query(first.Get(), query);
   Compare(first, second);
   Compare(first, first);

@@ -157,7 +157,7 @@ std::string ZshArms(const Commands& commands) {
   std::string arms;
   for (const Command& command : commands) {
     if (command.name.empty()) continue;
-    arms += "    " + command.name + ")\n      _arguments";
+    arms += "    " + command.name + ")\n      _arguments -S";
     for (const Option& option : command.options) arms += " \\\n        " + ZshOption(option);
     int position = 1;
     for (const Option& positional : command.positionals) {
@@ -174,7 +174,7 @@ std::string ZshOwnOptions(const Commands& commands) {
   std::string lines;
   for (const Option& option : commands.front().options) {
     for (const std::string& name : option.names) {
-      lines += "    " + Quoted("(- 1 *)" + name + '[' + option.description + ']') + " \\\n";
+      lines += "    " + Quoted("(- 1 *)" + name + '[' + Escaped(option.description, "[]\\:") + ']') + " \\\n";
     }
   }
   return lines;

@@ -1,6 +1,6 @@
 #include <analysis/SourceLine.h>
 
-#include <BaseUtilities/StringConvert.h>
+#include <BaseUtilities/Encode.h>
 #include <analysis/Text.h>
 
 #include <algorithm>
@@ -12,19 +12,6 @@ namespace {
 // In characters.
 constexpr std::size_t kMostBefore = 80;
 constexpr std::size_t kMostAfter = 120;
-
-/// The units of UTF-16 after its byte order mark.
-std::wstring UnitsOf(std::string_view bytes) {
-  const std::size_t high = bytes[0] == '\xFE' ? 0 : 1;
-  std::wstring units;
-  units.reserve(bytes.size() / 2);
-  for (std::size_t i = 2; i + 1 < bytes.size(); i += 2) {
-    const auto unit =
-        (static_cast<unsigned char>(bytes[i + high]) << 8U) | static_cast<unsigned char>(bytes[i + 1 - high]);
-    units += static_cast<wchar_t>(unit);
-  }
-  return units;
-}
 
 std::string_view FindLine(std::string_view text, std::size_t line) {
   for (; line > 1; --line) {
@@ -60,8 +47,9 @@ std::string Shown(std::string text) {
 SourceLine FindSourceLine(std::string_view content, std::size_t line, std::size_t column) {
   if (line == 0) return {};
   std::string decoded;
-  if (content.starts_with("\xFF\xFE") || content.starts_with("\xFE\xFF")) {
-    decoded = Utf16ToUtf8(UnitsOf(content));
+  const bool isBigEndian = content.starts_with("\xFE\xFF");
+  if (isBigEndian || content.starts_with("\xFF\xFE")) {
+    decoded = zotext::Utf8OfUtf16(content.substr(2), isBigEndian);
     content = decoded;
   } else if (content.starts_with("\xEF\xBB\xBF")) {
     content.remove_prefix(3);

@@ -1,7 +1,5 @@
 #include "writers/JsonText.h"
 
-#include <algorithm>
-
 namespace vifanalysis {
 
 namespace {
@@ -20,21 +18,15 @@ void AppendFinding(std::string& out, const Finding& finding) {
   out += '}';
 }
 
-std::size_t Count(const FileFindings& file, Severity severity) {
-  const auto isOfIt = [&](const Finding& finding) { return finding.severity == severity; };
-  return static_cast<std::size_t>(std::count_if(file.findings.begin(), file.findings.end(), isOfIt));
-}
-
 std::string CountText(std::span<const FileFindings> files, Severity severity) {
-  std::size_t count = 0;
-  for (const FileFindings& file : files) count += Count(file, severity);
-  return std::to_string(count);
+  return std::to_string(CountFindings(files, severity));
 }
 
 void WriteFile(std::string begin, const FileFindings& file, const TextSink& sink) {
+  const bool isValid = CountFindings({&file, 1}, Severity::Error) == 0;
   begin += R"({"file":)";
   AppendJson(begin, file.name);
-  begin.append(R"(,"valid":)").append(Count(file, Severity::Error) == 0 ? "true" : "false").append(R"(,"findings":)");
+  begin.append(R"(,"valid":)").append(isValid ? "true" : "false").append(R"(,"findings":)");
   WriteList(std::move(begin), file.findings, AppendFinding, sink);
   sink("}");
 }

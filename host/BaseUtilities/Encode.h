@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -42,6 +43,29 @@ inline void AppendUtf8(std::string& text, char32_t code) {
   if (code >= 0x800 && code < 0x10000) append(0xE0 | code >> 12);
   append(code >= 0x800 ? 0x80 | (code >> 6 & 0x3F) : 0xC0 | code >> 6);
   append(0x80 | (code & 0x3F));
+}
+
+/// The text in bytes of UTF-16. An unpaired surrogate becomes U+FFFD; an odd byte at the end is left out.
+inline std::string Utf8OfUtf16(std::string_view bytes, bool isBigEndian) {
+  const auto unitAt = [&](std::size_t i) -> std::uint32_t {
+    if (i + 1 >= bytes.size()) return 0;
+    const auto first = static_cast<unsigned char>(bytes[i]);
+    const auto second = static_cast<unsigned char>(bytes[i + 1]);
+    return isBigEndian ? first * 256U + second : second * 256U + first;
+  };
+  std::string text;
+  text.reserve(bytes.size() / 2);
+  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+    const std::uint32_t unit = unitAt(i);
+    const std::uint32_t next = unitAt(i + 2);
+    if (unit >= 0xD800 && unit < 0xDC00 && next >= 0xDC00 && next < 0xE000) {
+      AppendUtf8(text, 0x10000 + (unit - 0xD800) * 0x400 + (next - 0xDC00));
+      i += 2;
+    } else {
+      AppendUtf8(text, unit >= 0xD800 && unit < 0xE000 ? 0xFFFD : unit);
+    }
+  }
+  return text;
 }
 
 }  // namespace zotext

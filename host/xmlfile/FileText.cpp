@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
 
 namespace xmlfile {
 
@@ -77,29 +76,6 @@ std::string ReadBytes(std::string_view content, std::string& bytes) {
   return ReadPieces(size, read, bytes) ? "" : kTooLarge;
 }
 
-/// An unpaired surrogate becomes a replacement character.
-std::string Utf8OfUtf16(std::string_view bytes, bool isBigEndian) {
-  const auto unitAt = [&](std::size_t i) -> std::uint32_t {
-    if (i + 1 >= bytes.size()) return 0;
-    const auto first = static_cast<unsigned char>(bytes[i]);
-    const auto second = static_cast<unsigned char>(bytes[i + 1]);
-    return isBigEndian ? first * 256U + second : second * 256U + first;
-  };
-  std::string text;
-  text.reserve(bytes.size() / 2);
-  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
-    const std::uint32_t unit = unitAt(i);
-    const std::uint32_t next = unitAt(i + 2);
-    if (unit >= 0xD800 && unit < 0xDC00 && next >= 0xDC00 && next < 0xE000) {
-      zotext::AppendUtf8(text, 0x10000 + (unit - 0xD800) * 0x400 + (next - 0xDC00));
-      i += 2;
-    } else {
-      zotext::AppendUtf8(text, unit >= 0xD800 && unit < 0xE000 ? 0xFFFD : unit);
-    }
-  }
-  return text;
-}
-
 constexpr std::string_view kBlanks = " \t\r\n";
 
 /// The byte order mark in UTF-8.
@@ -159,7 +135,7 @@ std::optional<FileText> Decode(const Content& content, CProblems& problems) {
   }
   const Form form = FormOf(file.bytes);
   if (form != Form::Bytes) {
-    file.decoded = Utf8OfUtf16(file.bytes, form == Form::BigEndian);
+    file.decoded = zotext::Utf8OfUtf16(file.bytes, form == Form::BigEndian);
     if (file.decoded.starts_with(kMark)) file.decoded.erase(0, kMark.size());
     file.mark = file.bytes[0] == '<' || file.bytes[1] == '<' ? 0 : 2;
   } else if (file.bytes.starts_with(kMark)) {

@@ -16,12 +16,15 @@ end
 function __vif_positionals
     set -l words (commandline -opc)
     set -l option
+    set -l only_positionals
     for word in $words[2..-1]
         if contains -- "$option" (__vif_value_options)
             set option
         else if contains -- "$option" (__vif_number_options); and string match -qr '^(any|[0-9]+)$' -- $word
             set option
-        else if string match -q -- '-*' $word
+        else if test -z "$only_positionals" -a "$word" = --
+            set only_positionals yes
+        else if test -z "$only_positionals"; and string match -q -- '-*' $word
             set option $word
         else
             set option

@@ -123,6 +123,14 @@ TEST(CDocumentsTest, NullIsAnArgumentThatFails) {
   EXPECT_EQ(vif_findings_json(nullptr, "a.txt", &text, nullptr), VIF_ERROR_ARGUMENT);
   EXPECT_EQ(vif_findings_json(findings.get(), nullptr, &text, nullptr), VIF_ERROR_ARGUMENT);
   EXPECT_EQ(vif_differences_json(nullptr, "a", "b", nullptr, nullptr, &text, nullptr), VIF_ERROR_ARGUMENT);
+  vif_differences* differences = nullptr;
+  ASSERT_EQ(vif_compare(file.get(), file.get(), nullptr, nullptr, &differences, nullptr), VIF_OK);
+  const DifferencesPointer owned(differences);
+  EXPECT_EQ(vif_differences_json(differences, nullptr, "b", nullptr, nullptr, &text, nullptr), VIF_ERROR_ARGUMENT);
+  EXPECT_EQ(vif_differences_json(differences, "a", nullptr, nullptr, nullptr, &text, nullptr), VIF_ERROR_ARGUMENT);
+  EXPECT_EQ(vif_differences_json(differences, "a", "b", nullptr, nullptr, nullptr, nullptr), VIF_ERROR_ARGUMENT);
+  EXPECT_EQ(vif_findings_json(findings.get(), "a.txt", nullptr, nullptr), VIF_ERROR_ARGUMENT);
+  EXPECT_EQ(vif_file_csv(file.get(), nullptr, nullptr), VIF_ERROR_ARGUMENT);
   EXPECT_EQ(text, nullptr);
 }
 
@@ -165,6 +173,8 @@ TEST(CSourceLineTest, DecodesUtf16) {
                  2, 2),
             "\xC3\xA4|b");
   EXPECT_EQ(Line("\xFE\xFF\0a\0\n\0\xE4\0b"sv, 2, 2), "\xC3\xA4|b");
+  EXPECT_EQ(Line("\xFF\xFE\x3D\xD8\x0C\xDD!\0"sv, 1, 2), "\xF0\x9F\x94\x8C|!");
+  EXPECT_EQ(Line("\xFF\xFE\x3D\xD8!\0"sv, 1, 2), "\xEF\xBF\xBD|!");
   EXPECT_EQ(Line("\xFF\xFE"
                  "a"sv,
                  1, 1),

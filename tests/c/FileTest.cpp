@@ -112,6 +112,7 @@ TEST_F(CFileTest, ADirectoryIsRefused) {
 TEST_F(CFileTest, ADirectoryNamedAsXmlIsRefused) {
   std::filesystem::create_directory(Path("folder.xml"));
   ExpectRefused(Path("folder.xml"), VIF_ERROR_FILE);
+  EXPECT_EQ(m_error.Message(), "The file is not a regular file.");
 }
 
 TEST_F(CFileTest, APathThatCannotBeExaminedIsRefused) {

@@ -58,6 +58,19 @@ TEST(CHandleTest, EveryOtherKindIsChecked) {
   EXPECT_EQ(vif_positions_count(reinterpret_cast<vif_positions*>(freed)), 0U);
   vif_differences* differences = nullptr;
   EXPECT_EQ(vif_compare(freed, freed, nullptr, nullptr, &differences, nullptr), VIF_ERROR_HANDLE);
+  vif_text* text = nullptr;
+  EXPECT_EQ(vif_file_json(freed, nullptr, 0, &text, nullptr), VIF_ERROR_HANDLE);
+  EXPECT_EQ(vif_file_csv(freed, &text, nullptr), VIF_ERROR_HANDLE);
+  auto* findings = reinterpret_cast<vif_findings*>(freed);
+  EXPECT_EQ(vif_findings_json(findings, "a", &text, nullptr), VIF_ERROR_HANDLE);
+  EXPECT_EQ(vif_differences_json(reinterpret_cast<vif_differences*>(freed), "a", "b", nullptr, nullptr, &text, nullptr),
+            VIF_ERROR_HANDLE);
+  const FilePointer one = FileOf("PID: 1\n");
+  ASSERT_EQ(vif_compare(one.get(), one.get(), nullptr, nullptr, &differences, nullptr), VIF_OK);
+  EXPECT_EQ(vif_differences_json(differences, "a", "b", findings, nullptr, &text, nullptr), VIF_ERROR_HANDLE);
+  EXPECT_EQ(vif_differences_json(differences, "a", "b", nullptr, findings, &text, nullptr), VIF_ERROR_HANDLE);
+  vif_differences_free(differences);
+  EXPECT_EQ(text, nullptr);
   vif_differences_free(reinterpret_cast<vif_differences*>(freed));
   vif_ports_free(reinterpret_cast<vif_ports*>(freed));
   vif_explanation_free(reinterpret_cast<vif_explanation*>(freed));

@@ -189,6 +189,13 @@ TEST(CMemoryTest, Documents) {
       [&](vif_text** text, vif_error** error) { return vif_file_csv(file.get(), text, error); });
   ExpectMakingBearsFailures<TextPointer>(
       [&](vif_text** text, vif_error** error) { return vif_findings_json(findings.get(), name, text, error); });
+  vif_differences* differences = nullptr;
+  const FilePointer other = FileOf("PID: 2\n");
+  ASSERT_EQ(vif_compare(file.get(), other.get(), nullptr, nullptr, &differences, nullptr), VIF_OK);
+  const DifferencesPointer owned(differences);
+  ExpectMakingBearsFailures<TextPointer>([&](vif_text** text, vif_error** error) {
+    return vif_differences_json(differences, name, name, findings.get(), findings.get(), text, error);
+  });
 }
 
 TEST(CMemoryTest, SourceLines) {

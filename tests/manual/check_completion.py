@@ -52,6 +52,7 @@ def expectations(prefix):
         "vif get --src-pdo 2 ch": ["charger.txt"],
         "vif get --src-pdo=a": ["any"],
         "vif get --src-pdo any charger.txt Snk_PDO_Vo": ["Snk_PDO_Voltage"],
+        "vif get -- -x.txt Snk_PDO_Vo": ["Snk_PDO_Voltage"],
         "vif report -o no": ["notes.md"],
     }
 
