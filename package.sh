@@ -5,22 +5,22 @@
 #
 #   tar      the library and the command for Linux
 #   zip      the library and the command for 64-bit Windows
-#   static   the command for Linux systems of every kind, which needs no library
+#   static   the command for every Linux system of this architecture, which needs no library
 #   wheel    the Python package with the library
 #   debian   the packages for this Debian release, of what is committed
 #
-# The same sources give the same bytes, whoever builds them, where and when. SOURCE_DATE_EPOCH is the time that the files
-# in them get, by default that of the last commit.
+# The same sources give the same bytes, whoever builds them, where and when. SOURCE_DATE_EPOCH is the time of the files in
+# the packages, by default that of the last commit.
 set -euo pipefail
 cd "$(dirname "$0")"
 
 [ $# -gt 0 ] || set -- tar zip static wheel debian
 for kind; do
-  [[ $kind =~ ^(tar|zip|static|wheel|debian)$ ]] || { sed -n '2,/^set/s/^# \{0,1\}//p' "$0" >&2; exit 2; }
+  [[ $kind =~ ^(tar|zip|static|wheel|debian)$ ]] || { sed -n '2,/^set/s/^# \{0,1\}//p' package.sh >&2; exit 2; }
 done
 root=$PWD
 packages=$root/build/packages
-version=$(sed -n 's/^project(VendorInfoFile VERSION \([^ ]*\) .*/\1/p' CMakeLists.txt)
+version=$(scripts/version.sh)
 machine=$(uname -m)
 SOURCE_DATE_EPOCH=$(scripts/source-date.sh)
 export SOURCE_DATE_EPOCH LC_ALL=C.UTF-8 TZ=UTC
@@ -38,12 +38,15 @@ add_bill() {
     "$packages/staged/$name" "$packages/staged/$name/$file"
 }
 
-# tar NAME: with all that could differ from one machine to another set.
+# Packs a staged package with fixed times, owners, modes and order.
+#   make_tar NAME
 make_tar() {
   tar --create --directory "$packages/staged" --sort=name --mtime="@$SOURCE_DATE_EPOCH" --owner=0 --group=0 \
     --numeric-owner --mode=u=rwX,go=rX --format=gnu "$1" | gzip -9n >"$packages/$1.tar.gz"
 }
 
+# The same as a zip.
+#   make_zip NAME
 make_zip() {
   cd "$packages/staged"
   chmod -R u=rwX,go=rX "$1"
@@ -100,9 +103,10 @@ package_wheel() {
 }
 
 package_debian() {
-  local work=$packages/staged/debian
+  local work=$packages/staged/debian unpacked
   rm -rf "$work"
-  (cd "$(scripts/debian-source.sh "$work")" &&
+  unpacked=$(scripts/debian-source.sh "$work")
+  (cd "$unpacked" &&
     DEB_BUILD_OPTIONS="nocheck parallel=$(nproc) ${DEB_BUILD_OPTIONS:-}" dpkg-buildpackage -us -uc) >"$packages/debian.log" 2>&1 ||
     { tail -n 30 "$packages/debian.log" >&2; return 1; }
   mv "$work"/*.deb "$work"/*.dsc "$work"/*.tar.* "$packages"

@@ -79,12 +79,13 @@ class BuildWithLibrary(build_py):
 class AnyPython(bdist_wheel):
     """One wheel for every Python 3, CPython or not, of this platform: no module is compiled for one of them.
 
-    With SOURCE_DATE_EPOCH it has a software bill of materials, which needs Debian's package lists and Ninja.
+    With VENDORINFOFILE_SBOM=1 it has a software bill of materials. That needs SOURCE_DATE_EPOCH, which becomes its time,
+    Debian's list of installed packages, and a build by Ninja.
     """
 
     def egg2dist(self, egginfo_path, distinfo_path):
         super().egg2dist(egginfo_path, distinfo_path)
-        if "SOURCE_DATE_EPOCH" in os.environ:
+        if os.environ.get("VENDORINFOFILE_SBOM") == "1":
             subprocess.check_call(
                 [sys.executable, os.path.join(ROOT, "scripts", "sbom.py"), "--name", "vendorinfofile"]
                 + ["--version", project_version(), "--build", configured_build(), self.bdist_dir]

@@ -14,15 +14,16 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 descriptions=tests/package/abi
-abi=$(sed -n 's/^project(VendorInfoFile VERSION \(0\.[0-9]*\|[1-9][0-9]*\)\..*/\1/p' CMakeLists.txt)
+abi=$(scripts/version.sh | sed 's/^\(0\.[0-9]*\|[1-9][0-9]*\)\..*/\1/')
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 fail() { echo "$*" >&2; exit 1; }
 
-# Describes a library.
+# Describes a library, without the name of the temporary directory.
 #   describe HEADERS LIBRARY DESCRIPTION
 describe() {
   abidw --headers-dir "$1" --drop-private-types --no-corpus-path --no-comp-dir-path --no-show-locs --out-file "$3" "$2"
+  sed -i "s|path='$work/|path='|" "$3"
 }
 
 describe_c() {
@@ -59,7 +60,7 @@ for name in vif cpp; do
   else
     abidiff --no-show-locs "$committed" "$work/$name.abi" || true
     keeps "$committed" "$work/$name.abi" >/dev/null ||
-      fail "The interface no longer is what $committed describes. Only a new SOVERSION may change it."
+      fail "The interface is no longer what $committed describes. Only a new SOVERSION may change it."
   fi
   [ "${1:-}" != --update ] || { cp "$work/$name.abi" "$committed" && echo "Wrote $committed"; }
 done

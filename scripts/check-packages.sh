@@ -15,7 +15,13 @@ rm -rf "$work"
 fail() { echo "FAILED: $*" >&2; exit 1; }
 shopt -s failglob
 
-check_bill() { python3 -B -W ignore::DeprecationWarning "$root/scripts/check_sbom.py" "$1" "$2" || fail "the bill of materials $1 is wrong"; }
+# Checks the bill of materials of the package in this directory.
+#   check_bill BILL
+check_bill() {
+  python3 -B -W ignore::DeprecationWarning "$root/scripts/check_sbom.py" "$1" . || fail "the bill of materials $1 is wrong"
+  # A bill that names libraries is spoilt below.
+  ! grep -q '"type": "library"' "$1" || { spoilt_package=$PWD && spoilt_bill=$1; }
+}
 
 # Expects the files that packages of the library have, and a command that reads every example.
 #   check DIRECTORY PROGRAM...
@@ -32,7 +38,7 @@ check() {
   done
   python3 -B "$root/tests/package/broken_links.py" $(find share/doc/VendorInfoFile -name '*.md') ||
     fail 'the links above lead nowhere'
-  check_bill share/doc/VendorInfoFile/sbom.cdx.json .
+  check_bill share/doc/VendorInfoFile/sbom.cdx.json
   local examples=(share/vendorinfofile/examples/*.txt share/vendorinfofile/examples/*.xml)
   [ ${#examples[@]} -eq 6 ] || fail "there are ${#examples[@]} examples"
   for file in "${examples[@]}"; do
@@ -82,15 +88,16 @@ check_static() {
   unpack_into static
   tar xzf "$packages"/vif-*-static.tar.gz
   cd vif-*
-  ! readelf --wide --program-headers vif | grep INTERP || fail 'the static command needs libraries'
-  local file
+  local headers file
+  headers=$(readelf --wide --program-headers vif)
+  [[ $headers != *INTERP* ]] || fail 'the static command needs libraries'
   for file in "$root"/examples/vif/*.txt "$root"/examples/vif/*.xml; do
     ./vif list "$file" >"$work/listed" || fail "the static command cannot list $file"
     grep -q 'Component 1' "$work/listed" || fail "the static command lists no component in $file"
   done
   [ -s man/vif-rules.7 ] && [ -s completion/_vif ] || fail 'manual pages or completions are missing'
   [ -f licences/libc6-dev ] && [ -f LICENSE ] || fail 'licences are missing'
-  check_bill sbom.cdx.json .
+  check_bill sbom.cdx.json
 }
 
 check_wheel() {
@@ -99,17 +106,18 @@ check_wheel() {
   [ -f vendorinfofile/_lib/VendorInfoFile.xsd ] || fail 'the schemas are missing'
   # They come after the bill.
   rm vendorinfofile-*.dist-info/{RECORD,WHEEL}
-  check_bill "$(echo vendorinfofile-*.dist-info/sboms/vendorinfofile.cdx.json)" .
+  check_bill "$(echo vendorinfofile-*.dist-info/sboms/vendorinfofile.cdx.json)"
 }
 
 check_debian() {
   local package name
   for package in "$packages"/*.deb; do
     [[ $package != *-dbgsym_* ]] || continue
-    unpack_into "$(basename "${package%%_*}")"
-    name=${PWD##*/}
+    name=$(basename "$package")
+    name=${name%%_*}
+    unpack_into "$name"
     dpkg-deb -x "$package" .
-    check_bill "usr/share/doc/$name/sbom.cdx.json" .
+    check_bill "$(echo "usr/share/doc/$name"/sbom*.cdx.json)"
   done
   dpkg-deb -f "$packages"/libvendorinfofile0.*.deb Depends | grep -q libxml2 || fail 'the library does not depend on libxml2'
   echo "==> lintian"
@@ -122,21 +130,45 @@ for kind; do
 done
 
 echo "==> Bills of materials that are wrong"
-cd "$work"
-mkdir -p spoilt
-cp "$(find . -name '*.cdx.json' -not -path './spoilt/*' | sort | head -n 1)" spoilt/sound.json
-# Expects the check to object to a bill after an edit.
+cd "${spoilt_package:?no bill names a library}"
+cp "$spoilt_bill" "$work/sound.json"
+# Expects the check to refuse a bill after an edit, in Python.
+#   expect_objection EDIT REASON
 expect_objection() {
-  sed "$1" spoilt/sound.json >spoilt/bill.json
-  ! cmp -s spoilt/sound.json spoilt/bill.json || fail "nothing to spoil by $1"
-  local said
-  ! said=$(python3 -B "$root/scripts/check_sbom.py" spoilt/bill.json spoilt 2>&1) || fail "a bill after $1 passes"
-  grep -q "$2" <<<"$said" || fail "a bill after $1 is refused for another reason: $said"
+  python3 -B - "$work/sound.json" "$spoilt_bill" "$1" <<'END'
+import json, sys
+sound, spoilt, edit = sys.argv[1:]
+bill = json.load(open(sound, encoding="utf-8"))
+parts = bill["components"]
+files = [part for part in parts if part["type"] == "file"]
+exec(edit)
+if bill == json.load(open(sound, encoding="utf-8")):
+    sys.exit(f"nothing to spoil by {edit}")
+json.dump(bill, open(spoilt, "w", encoding="utf-8"))
+END
+  expect_refusal "after $1" "$2"
 }
-expect_objection 's/"specVersion": "1.5"/"specVersion": 1.5/' "specVersion: 1.5 is not of type 'string'"
-expect_objection 's/"serialNumber": "urn:uuid:/"serialNumber": "/' 'serialNumber: .* does not match'
-expect_objection '0,/"content": "[0-9a-f]*"/s//"content": "12"/' 'content: .*12'
-expect_objection 's/"lifecycles"/"livecycles"/' "metadata: Additional properties are not allowed"
-expect_objection '0,/"type": "file"/s//"type": "document"/' "is not one of"
+# Expects the check to refuse the bill as it is.
+#   expect_refusal WHAT REASON
+expect_refusal() {
+  local said
+  ! said=$(python3 -B -W ignore::DeprecationWarning "$root/scripts/check_sbom.py" "$spoilt_bill" . 2>&1) ||
+    fail "a bill $1 passes"
+  grep -q "$2" <<<"$said" || fail "a bill $1 is refused for another reason: $said"
+}
+expect_objection 'bill["specVersion"] = 1.5' "specVersion: 1.5 is not of type 'string'"
+expect_objection 'bill["serialNumber"] = bill["serialNumber"].removeprefix("urn:uuid:")' 'serialNumber: .* does not match'
+expect_objection 'files[0]["hashes"][0]["content"] = "12"' 'content: .*12'
+expect_objection 'bill["metadata"]["livecycles"] = []' 'metadata: Additional properties are not allowed'
+expect_objection 'files[0]["type"] = "document"' 'is not one of'
+expect_objection 'files[0]["hashes"][0]["content"] = "0" * 64' ': another hash$'
+expect_objection 'parts.remove(files[0])' ': not in the bill$'
+expect_objection 'parts.append(dict(files[0], name="absent", **{"bom-ref": "file:absent"}))' ': absent: not in the package$'
+expect_objection 'bill["components"] = files' ': names no library, but the package has programs$'
+cp "$work/sound.json" "$spoilt_bill"
+touch extra
+expect_refusal 'without a file of the package' ': extra: not in the bill$'
+rm extra
+check_bill "$spoilt_bill"
 
 echo "The packages are complete and work: $*"

@@ -49,18 +49,20 @@ def file_problems(bill, path, root):
 def library_problems(bill, root):
     def is_program(name):
         with open(os.path.join(root, name), "rb") as file:
-            return file.read(4) == b"\x7fELF"
+            return file.read(4).startswith((b"\x7fELF", b"MZ"))
 
-    names = {part["type"]: part["name"] for part in bill["components"]}
-    if "library" not in names and any(is_program(part["name"]) for part in bill["components"]):
+    parts = bill["components"]
+    has_library = any(part["type"] == "library" for part in parts)
+    if not has_library and any(is_program(part["name"]) for part in parts if part["type"] == "file"):
         yield "names no library, but the package has programs"
 
 
 def main():
     path, root = sys.argv[1:]
     bill = load(path)
+    # Each check relies on the one before it.
     problems = list(schema_problems(bill))
-    problems = problems or list(file_problems(bill, path, root)) + list(library_problems(bill, root))
+    problems = problems or list(file_problems(bill, path, root)) or list(library_problems(bill, root))
     for problem in problems:
         print(f"{path}: {problem}", file=sys.stderr)
     sys.exit(1 if problems else 0)

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Lists VIFs with this system's command and with the Windows command under Wine, both already built, and expects the
-# same output to the byte. The files are the examples and generated files of both forms.
+# same output, byte for byte. The files are the examples and generated files of both forms.
 #
 #   scripts/compare-platforms.sh [COUNT]     COUNT text files and as many XML files; VIF_TEST_SEED seeds the generator
 set -euo pipefail

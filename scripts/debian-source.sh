@@ -7,7 +7,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 into=${1:?usage: scripts/debian-source.sh DIRECTORY}
-version=$(sed -n 's/^project(VendorInfoFile VERSION \([^ ]*\) .*/\1/p' CMakeLists.txt)
+version=$(scripts/version.sh)
 name=vendorinfofile-$version
 rm -rf "${into:?}/$name"
 mkdir -p "$into"

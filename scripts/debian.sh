@@ -43,9 +43,10 @@ remove_packages() {
 test_packages() {
   echo 'deb [trusted=yes] file:/root/packages ./' >/etc/apt/sources.list.d/packages.list
   apt-get update -qq
-  local tests name='' wanted line
+  local tests name='' wanted line changed
   tests=$(echo /root/packages/vendorinfofile-*/debian/tests)
-  while IFS= read -r line; do
+  # Not by standard input, from which the tests could take the lines.
+  while IFS= read -r -u 3 line; do
     case $line in
       Tests:*) name=${line#Tests: } ;;
       Depends:*)
@@ -53,15 +54,19 @@ test_packages() {
         echo "==> Test \"$name\" with $wanted"
         # shellcheck disable=SC2086  # a list
         apt-get install -y -qq --no-install-recommends ${wanted//,/} >/dev/null
+        # The next test must not find them.
+        # shellcheck disable=SC2086  # a list
+        apt-mark auto ${wanted//,/} >/dev/null
         "$tests/$name"
         remove_packages
         ;;
     esac
-  done <"$tests/control"
+  done 3<"$tests/control"
   echo "==> All packages"
   apt-get install -y -qq --no-install-recommends /root/packages/*.deb >/dev/null
   # shellcheck disable=SC2046  # a list
-  dpkg --verify $(dpkg-query -W -f '${Package} ' '*vif*' '*vendorinfofile*')
+  changed=$(dpkg --verify $(dpkg-query -W -f '${Package} ' '*vif*' '*vendorinfofile*'))
+  [ -z "$changed" ] || { printf 'Installed files differ from those of the packages:\n%s\n' "$changed" >&2; return 1; }
   remove_packages
   [ ! -e /usr/share/vendorinfofile ] || { echo "The packages leave files behind" >&2; return 1; }
 }
@@ -75,7 +80,12 @@ call_inside() {
 for suite in "${suites[@]}"; do
   bare=$home/bare-$suite build=$home/debian-$suite test=$home/debian-test-$suite
   make_system "$suite" amd64 "$bare" ca-certificates
-  [ -d "$build" ] || cp -a --reflink=auto "$bare" "$build"
+  if [ ! -d "$build" ]; then
+    # Under another name until it is complete.
+    rm -rf --one-file-system "$build.new"
+    cp -a --reflink=auto "$bare" "$build.new"
+    mv "$build.new" "$build"
+  fi
   rm -rf "$build/root/packages"
   scripts/debian-source.sh "$build/root/packages" >/dev/null
   echo "==> Building the packages on $suite"

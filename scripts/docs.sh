@@ -46,7 +46,7 @@ if [ -e "$output" ] && [ ! -f "$output/doxygen.css" ] && [ -n "$(ls -A "$output"
 fi
 rm -rf "$output"
 mkdir -p "$output"
-version=$(sed -n 's/^project(VendorInfoFile VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+version=$(scripts/version.sh)
 LC_ALL=C SITE_VERSION=$version SITE_WORK=$work SITE_OUTPUT=$output SITE_PAGES=$work/pages SITE_HEADERS="${headers[*]}" \
   SITE_PICTURES=$(sed "s|^|$work/pages/|" "$work/pictures" | tr '\n' ' ') doxygen scripts/site/Doxyfile
 python3 -B scripts/site/directory_pages.py "$output"

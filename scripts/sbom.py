@@ -42,9 +42,10 @@ LICENCES = {
 }
 
 
-def run(*command):
+def run(*command, may_fail=False):
     environment = dict(os.environ, LC_ALL="C")
-    return subprocess.run(command, env=environment, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True).stdout
+    errors = subprocess.DEVNULL if may_fail else None
+    return subprocess.run(command, check=not may_fail, env=environment, stdout=subprocess.PIPE, stderr=errors, text=True).stdout
 
 
 @functools.lru_cache(maxsize=None)
@@ -52,7 +53,8 @@ def debian_package(path):
     """The name, version and architecture of the package that a file belongs to; None if it belongs to none."""
     # A package may own the file under a name without /usr, which is a link since the directories were merged.
     for name in (path, os.path.realpath(path), path.removeprefix("/usr"), "/usr" + path):
-        owner = run("dpkg-query", "--search", name).split(": ")[0].split(",")[0]
+        # The search fails for a file that belongs to no package.
+        owner = run("dpkg-query", "--search", name, may_fail=True).split(": ")[0].split(",")[0]
         if owner:
             fields = run("dpkg-query", "--show", "--showformat", "${Package} ${Version} ${Architecture}", owner)
             return tuple(fields.split())
@@ -156,15 +158,12 @@ def libraries(paths, arguments):
     programs = [path for path in paths.values() if head_of(path)[:2] == b"MZ" or head_of(path) == b"\x7fELF"]
     for path in programs:
         for name in needed_by(path):
-            if name in present and not OWN_LIBRARIES.match(name):
+            if not OWN_LIBRARIES.match(name):
                 add(loaded_library(name))
-            elif OWN_LIBRARIES.match(name):
-                if name not in present:
-                    add(component("library", name, bom_ref=f"library:{name}", version=arguments.version,
-                                  licenses=[{"expression": "MIT"}],
-                                  properties=[{"name": "vendorinfofile:link", "value": "dynamic"}]))
-            else:
-                add(loaded_library(name))
+            elif name not in present:
+                add(component("library", name, bom_ref=f"library:{name}", version=arguments.version,
+                              licenses=[{"expression": "MIT"}],
+                              properties=[{"name": "vendorinfofile:link", "value": "dynamic"}]))
     if arguments.archives:
         for archive in archives_in(arguments.archives):
             package = debian_package(archive)

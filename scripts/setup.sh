@@ -3,20 +3,21 @@
 # says what is needed.
 #
 #   scripts/setup.sh build | test | check | windows | arm64 | package | bench | browser | languages | python | docs |
-#                    manual | web
+#                    manual | web | reproducible
 #
 # "test" includes "build", and "check" includes both. "windows" and "arm64" are for building and testing for other
 # systems, "package" for building and checking the packages, "bench" for measuring, "browser" for testing pages in a
 # browser, "languages" for programs in other languages, "python" for building and testing the Python package, "docs" for
 # building the site of the documentation, "manual" for testing manual pages and the completion of shells, "web" for
-# building the page that reads VIFs. "package" and "browser" also take the npm packages that a package-lock.json in tests/
-# names. CXX and CXXFLAGS choose the compiler and the standard library, as they do for CMake: CXX=clang++
-# CXXFLAGS=-stdlib=libc++.
+# building the page that reads VIFs, "reproducible" for comparing two builds of the packages. "package" and "browser" also
+# take the npm packages that a package-lock.json in tests/ names. CXX and CXXFLAGS choose the compiler and the standard
+# library, as they do for CMake: CXX=clang++ CXXFLAGS=-stdlib=libc++.
 set -euo pipefail
 
 task=${1:-}
 case $task in
-  build | test | check | windows | arm64 | package | bench | browser | languages | python | docs | manual | web) ;;
+  build | test | check | windows | arm64 | package | bench | browser | languages | python | docs | manual | web | \
+    reproducible) ;;
   *)
     sed -n 's/^#   \(scripts.*\)/usage: \1/p; s/^#    \( .*\)/       \1/p' "$0" >&2
     exit 2
@@ -101,8 +102,9 @@ case $task in
   windows) wanted=("${windows_packages[@]}") ;;
   arm64) wanted=(cmake ninja-build g++-aarch64-linux-gnu googletest libxml2-dev:arm64 qemu-user-static "${header_packages[@]}") ;;
   package)
-    wanted=("${build_packages[@]}" "${windows_packages[@]}" debhelper dh-python dpkg-dev file liblzma-dev lintian
-      pkg-config python3 python3-cffi python3-jsonschema unzip zip zlib1g-dev)
+    # dpkg-buildpackage wants all that debian/control names, so GoogleTest too, although no test runs.
+    wanted=("${build_packages[@]}" "${windows_packages[@]}" debhelper dh-python dpkg-dev file libgmock-dev libgtest-dev
+      liblzma-dev lintian pkg-config python3 python3-cffi python3-jsonschema unzip zip zlib1g-dev)
     add_node
     ;;
   languages) wanted=("${test_packages[@]}" "${windows_packages[@]}" gcc clang lld mono-mcs mono-runtime rustc) ;;
@@ -115,6 +117,7 @@ case $task in
   manual) wanted=("${test_packages[@]}" bash-completion bsdextrautils fish groff-base man-db mandoc zsh) ;;
   bench) wanted=("${build_packages[@]}" libbenchmark-dev libxml2-utils valgrind) ;;
   web) wanted=(cmake dpkg-dev emscripten ninja-build nodejs) ;;
+  reproducible) wanted=(diffoscope-minimal faketime) ;;
   browser)
     wanted=(chromium fonts-dejavu-core pngquant)
     add_node

@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Bare Debian systems in chroots, for the scripts that source this file. They run as root, and need debootstrap.
 #
 # The systems stay in $home: VENDORINFOFILE_SYSTEMS, by default build/systems; remove it to start afresh. Packages come

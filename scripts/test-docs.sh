@@ -37,7 +37,7 @@ expect_failure() {
     echo "The site builds despite '$change' in $file" >&2
     exit 1
   fi
-  grep -qF -- "$text" "$work/said.txt" || { echo "'$change' in $file is not said: $(cat "$work/said.txt")" >&2; exit 1; }
+  grep -qF -- "$text" "$work/said.txt" || { echo "'$change' in $file is not reported: $(cat "$work/said.txt")" >&2; exit 1; }
   cp "$work/kept" "$copy/$file"
 }
 echo "==> Breaking it"

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Runs the static command, already built by package.sh, in a bare system of another release, from which the modules for
-# encodings and the locales are removed. Its output must be that of the usual command on this system, for the examples,
-# for generated files, and for a file in each encoding.
+# Builds the static command and runs it in a bare system of another release, from which the modules for encodings and the
+# locales are removed. Its output must be that of the usual command on this system, for the examples, for generated files,
+# and for a file in each encoding.
 #
 #   scripts/test-static.sh [SUITE [COUNT]]     bullseye by default, and COUNT (500) files of each form; needs root and
 #                                              debootstrap
@@ -15,7 +15,13 @@ count=${2:-500}
 usual=$source/build/release/cli/vif
 tested=$source/build/static/cli/vif
 work=$source/build/static/tested
-! readelf --wide --program-headers "$tested" | grep INTERP || fail "$tested needs libraries"
+
+scripts/setup.sh test
+scripts/setup.sh package
+scripts/build.sh release -DVENDORINFOFILE_BUILD_TESTS=ON --target vif --target generate_vifs
+scripts/build.sh static --target vif
+headers=$(readelf --wide --program-headers "$tested")
+[[ $headers != *INTERP* ]] || fail "$tested needs libraries"
 
 rm -rf "$work"
 mkdir -p "$work/files"

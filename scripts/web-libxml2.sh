@@ -1,22 +1,27 @@
 #!/usr/bin/env bash
 # Builds Debian's libxml2 for WebAssembly, with only what the library needs of it, into build/web-libxml2/prefix, unless
-# it is there. Prepares emscripten's cache, too. `scripts/setup.sh web` installs what this needs.
+# it is there, of the newest version and by the installed emscripten. Prepares emscripten's cache, too.
+# `scripts/setup.sh web` installs what this needs.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 root=$PWD
 work=$root/build/web-libxml2
 toolchain=$root/cmake/toolchains/emscripten.cmake
 
-# Debian's cache of compiled system libraries belongs to root. Links to it make one that can be added to.
-if [ ! -e build/web-emscripten/sysroot_install.stamp ]; then
+# Debian's cache of compiled system libraries belongs to root. Links to it make one that can be added to, until another
+# version of emscripten replaces their targets.
+emscripten=$(dpkg-query --show --showformat '${Version}' emscripten)
+if ! cmp -s <(echo "$emscripten") build/web-emscripten/made-for; then
   rm -rf build/web-emscripten
   mkdir -p build/web-emscripten
   cp -rs /usr/share/emscripten/cache/sysroot build/web-emscripten
   touch build/web-emscripten/sysroot_install.stamp
+  echo "$emscripten" >build/web-emscripten/made-for
 fi
 export EM_CACHE=$root/build/web-emscripten EM_FROZEN_CACHE=0 NODE_PATH=/usr/share/nodejs
 
-recipe=$(cat "$0" "$toolchain" | sha256sum)
+libxml2=$(LC_ALL=C apt-cache policy libxml2-dev | sed -n 's/^  Candidate: //p')
+recipe=$(cat scripts/web-libxml2.sh "$toolchain" - <<<"$emscripten $libxml2" | sha256sum)
 ! cmp -s <(echo "$recipe") "$work/recipe" || exit 0
 rm -rf "$work"
 mkdir -p "$work/apt/lists/partial" "$work/apt/archives/partial" "$work/apt/parts"

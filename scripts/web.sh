@@ -60,7 +60,7 @@ case $task in
     node --test --test-reporter=spec tests/web/page.test.js tests/web/controls.test.js
     ;;
   *)
-    sed -n '4,8s/^# *//p' "$0" >&2
+    sed -n '4,8s/^# *//p' scripts/web.sh >&2
     exit 2
     ;;
 esac

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Builds a wheel of the Python package from the library in build/release, which must be built.
+# Builds a wheel of the Python package, with a software bill of materials, from the library in build/release, which must
+# be built.
 #
 #   scripts/wheel.sh DIRECTORY     where the wheel goes; PYTHON names the interpreter
 set -euo pipefail
@@ -19,5 +20,5 @@ cp scripts/sbom.py "$sources/scripts"
 cp -r python/{generate.py,pyproject.toml,setup.py,src} "$sources/python"
 chmod -R u=rwX,go=rX "$sources"
 cd "$sources/python"
-VENDORINFOFILE_BUILD=$root/build/release "${PYTHON:-/usr/bin/python3}" -m pip wheel --quiet --no-deps --no-build-isolation \
-  --no-index --wheel-dir "$into" .
+VENDORINFOFILE_BUILD=$root/build/release VENDORINFOFILE_SBOM=1 "${PYTHON:-/usr/bin/python3}" -m pip wheel --quiet \
+  --no-deps --no-build-isolation --no-index --wheel-dir "$into" .

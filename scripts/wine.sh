@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # The environment of Windows programs under Wine, sourced by the scripts that run them.
 #
 # Wine keeps its files in WINEPREFIX. By default that is a directory of this project, created on first use.

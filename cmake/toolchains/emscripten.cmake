@@ -1,4 +1,4 @@
-# Builds for WebAssembly with Debian's emscripten. scripts/web.sh sets the environment that it needs.
+# Builds for WebAssembly with Debian's emscripten. The preset web sets the environment that it needs.
 include(/usr/share/emscripten/cmake/Modules/Platform/Emscripten.cmake)
 
 # Exceptions of WebAssembly itself are smaller and faster than those that JavaScript emulates.

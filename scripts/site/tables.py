@@ -70,9 +70,8 @@ def link_to(kind, name):
 def rules_page(rules):
     text = [
         "# The rules {#rules}\n",
-        "What `vif check` and `CheckFile` look for, as `vif explain CODE` says it, which also names the sources. An",
-        "error means that something is lost or cannot be intended; a warning is worth a look; a note is often correct",
-        "as it is.\n",
+        "What `vif check` and `CheckFile` look for. `vif explain CODE` prints the same, with the sources. An error means",
+        "that something is lost or cannot be intended; a warning is worth a look; a note is often correct as it is.\n",
         "| rule | finds |\n|---|---|",
     ]
     for rule in rules:
@@ -143,9 +142,9 @@ def main():
         (directory / f"{name}.md").write_text(text, encoding="utf-8")
 
     groups = json.loads(output(vif, "explain", "--format", "json"))["groups"]
-    index = ["# The fields {#fields}\n\n[TOC]\n", "The fields of the format by group, as `vif explain NAME` says them. "
-             "What is known was gathered from public documents and real files: *uncertain* marks what only few of them "
-             "say, *not seen* what none of the files has.\n"]
+    index = ["# The fields {#fields}\n\n[TOC]\n", "The fields of the format by group, as `vif explain NAME` "
+             "describes them. What is known was gathered from public documents and real files: *uncertain* marks what only "
+             "a few of them confirm, *not seen* what none of the files has.\n"]
     for group in groups:
         title = GROUPS[group["group"]]
         index.append(f"\n## {title} {{#fields--{slug(title)}}}\n\n| field | declares |\n|---|---|")
