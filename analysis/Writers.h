@@ -65,6 +65,7 @@ struct FileComparison {
 /// How ports of one file differ.
 struct FilePorts {
   std::string file;                   ///< its name
+  std::size_t components = 0;         ///< the number of components in the file
   std::vector<PortComparison> ports;  ///< the comparisons, in the order of the ports
 };
 

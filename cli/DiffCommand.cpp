@@ -102,11 +102,11 @@ std::size_t CountComponents(const CVendorInfoFile& vif) {
 
 Status RunPorts(const DiffSettings& settings) {
   const CVendorInfoFile vif = LoadFiles({settings.files.front()});
-  const FilePorts ports = {settings.files.front(), ComparePorts(vif, settings)};
+  const FilePorts ports = {settings.files.front(), CountComponents(vif), ComparePorts(vif, settings)};
   if (settings.format == "json") {
     vifanalysis::WritePortsAsJson(ports, Write);
   } else {
-    WritePortsAsText(ports, CountComponents(vif), settings.options.descriptions);
+    WritePortsAsText(ports, settings.options.descriptions);
   }
   return vifanalysis::AreSame(ports) ? kDone : kNegative;
 }

@@ -82,8 +82,8 @@ void WriteComparisonAsText(const FileComparison& comparison, bool withDescriptio
   WriteFindings(comparison.findings);
 }
 
-void WritePortsAsText(const FilePorts& ports, std::size_t components, bool withDescriptions) {
-  if (ports.ports.empty()) Write(WhyNothingIsCompared(components));
+void WritePortsAsText(const FilePorts& ports, bool withDescriptions) {
+  if (ports.ports.empty()) Write(WhyNothingIsCompared(ports.components));
   const char* separator = "";
   for (const PortComparison& port : ports.ports) {
     std::string pair = "Component ";

@@ -3,8 +3,6 @@
 
 #include <analysis/Writers.h>
 
-#include <cstddef>
-
 namespace cli {
 
 using vifanalysis::FileComparison;
@@ -15,7 +13,6 @@ using vifanalysis::FilePorts;
 void WriteComparisonAsText(const FileComparison& comparison, bool withDescriptions);
 
 /// The same for each port.
-/// \param components how many the file has
-void WritePortsAsText(const FilePorts& ports, std::size_t components, bool withDescriptions);
+void WritePortsAsText(const FilePorts& ports, bool withDescriptions);
 
 }  // namespace cli
