@@ -7,6 +7,7 @@
 #   zip      the library and the command for 64-bit Windows
 #   static   the command for every Linux system of this architecture, which needs no library
 #   wheel    the Python package with the library
+#   site     the documentation as a site
 #   debian   the packages for this Debian release, of what is committed
 #
 # The same sources give the same bytes, whoever builds them, where and when. SOURCE_DATE_EPOCH is the time of the files in
@@ -14,9 +15,9 @@
 set -euo pipefail
 cd "$(dirname "$0")"
 
-[ $# -gt 0 ] || set -- tar zip static wheel debian
+[ $# -gt 0 ] || set -- tar zip static wheel site debian
 for kind; do
-  [[ $kind =~ ^(tar|zip|static|wheel|debian)$ ]] || { sed -n '2,/^set/s/^# \{0,1\}//p' package.sh >&2; exit 2; }
+  [[ $kind =~ ^(tar|zip|static|wheel|site|debian)$ ]] || { sed -n '2,/^set/s/^# \{0,1\}//p' package.sh >&2; exit 2; }
 done
 root=$PWD
 packages=$root/build/packages
@@ -100,6 +101,18 @@ package_wheel() {
   scripts/setup.sh python
   scripts/build.sh release --target VendorInfoFileC
   scripts/wheel.sh "$packages"
+}
+
+package_site() {
+  local name=VendorInfoFile-$version-site
+  scripts/setup.sh docs
+  stage "$name"
+  scripts/docs.sh "$packages/staged/$name"
+  cp LICENSE "$packages/staged/$name"
+  # Doxygen's own scripts and styles, and the theme.
+  add_bill "$name" release sbom.cdx.json --included /usr/bin/doxygen \
+    --included /usr/share/doxygen-awesome-css/doxygen-awesome.css
+  make_tar "$name"
 }
 
 package_debian() {

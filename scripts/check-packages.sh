@@ -8,7 +8,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 root=$PWD
 
-[ $# -gt 0 ] || set -- tar zip static wheel debian
+[ $# -gt 0 ] || set -- tar zip static wheel site debian
 packages=$root/build/packages
 work=$packages/unpacked
 rm -rf "$work"
@@ -19,8 +19,8 @@ shopt -s failglob
 #   check_bill BILL
 check_bill() {
   python3 -B -W ignore::DeprecationWarning "$root/scripts/check_sbom.py" "$1" . || fail "the bill of materials $1 is wrong"
-  # A bill that names libraries is spoilt below.
-  ! grep -q '"type": "library"' "$1" || { spoilt_package=$PWD && spoilt_bill=$1; }
+  # A bill of a package with programs is spoilt below.
+  ! grep -q '"value": "\(dynamic\|static\)"' "$1" || { spoilt_package=$PWD && spoilt_bill=$1; }
 }
 
 # Expects the files that packages of the library have, and a command that reads every example.
@@ -109,6 +109,14 @@ check_wheel() {
   check_bill "$(echo vendorinfofile-*.dist-info/sboms/vendorinfofile.cdx.json)"
 }
 
+check_site() {
+  unpack_into site
+  tar xzf "$packages"/VendorInfoFile-*-site.tar.gz
+  cd VendorInfoFile-*
+  python3 -B "$root/scripts/site/check_links.py" .
+  check_bill sbom.cdx.json
+}
+
 check_debian() {
   local package name
   for package in "$packages"/*.deb; do
@@ -129,8 +137,12 @@ for kind; do
   cd "$root"
 done
 
+if [ -z "${spoilt_package:-}" ]; then
+  echo "The packages are complete: $*"
+  exit
+fi
 echo "==> Bills of materials that are wrong"
-cd "${spoilt_package:?no bill names a library}"
+cd "$spoilt_package"
 cp "$spoilt_bill" "$work/sound.json"
 # Expects the check to refuse a bill after an edit, in Python.
 #   expect_objection EDIT REASON

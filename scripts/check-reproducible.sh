@@ -11,7 +11,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 root=$PWD
 
-[ $# -gt 0 ] || set -- tar zip static wheel debian
+[ $# -gt 0 ] || set -- tar zip static wheel site debian
 SOURCE_DATE_EPOCH=$(scripts/source-date.sh)
 export SOURCE_DATE_EPOCH
 unset CMAKE_CXX_COMPILER_LAUNCHER  # each build compiles for itself

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Writes the software bill of materials of a package, in CycloneDX 1.5, from the files that are in the package.
 
-    sbom.py --name NAME --version VERSION --build DIRECTORY [--archives MAP] ROOT OUTPUT
+    sbom.py --name NAME --version VERSION --build DIRECTORY [--archives MAP] [--included FILE]... ROOT OUTPUT
 
 ROOT holds the package's files, and DIRECTORY is the one in which Ninja built them. The bill names
 
@@ -9,7 +9,8 @@ ROOT holds the package's files, and DIRECTORY is the one in which Ninja built th
 - the libraries that the programs and libraries among them are linked with: by name those that they load, by Debian's
   package and version those that were there when they were built. MAP is a linker's map file, which names the archives
   that a static program is made from,
-- the header-only libraries that were compiled into them.
+- the header-only libraries that were compiled into them,
+- Debian's packages of the FILEs, of which the package has parts.
 
 Nothing in it depends on when, where or by whom it is made: its time is SOURCE_DATE_EPOCH, its number a hash.
 """
@@ -28,8 +29,10 @@ OWN_LIBRARIES = re.compile(r"(lib)?(VendorInfoFile|vif)[^/]*\.(so[.\d]*|dll)$")
 OWN_FOLDERS = ("analysis", "c", "cli", "field", "host", "readers", "static", "testsuite", "vif")
 # Their functions are in libraries that the bill names anyway.
 HEADERS_OF_LIBRARIES = re.compile(r"(libc6|linux-libc|libstdc\+\+|libgcc|libxml2|libicu|mingw-w64|gcc|g\+\+)\S*")
-# By the beginning of a package's name.
+# By the beginning of a package's name, the longest first.
 LICENCES = {
+    "doxygen-awesome-css": "MIT",
+    "doxygen": "GPL-2.0-only",
     "gcc": "GPL-3.0-or-later WITH GCC-exception-3.1",
     "libc6": "LGPL-2.1-or-later",
     "libcli11": "BSD-3-Clause",
@@ -68,7 +71,7 @@ def component(kind, name, **more):
 def library_of_package(package, how):
     name, version, architecture = package
     purl = f"pkg:deb/debian/{name}@{version}?arch={architecture}".replace("+", "%2B")
-    licence = next((value for key, value in sorted(LICENCES.items()) if name.startswith(key)), None)
+    licence = next((value for key, value in LICENCES.items() if name.startswith(key)), None)
     return component(
         "library",
         name,
@@ -169,6 +172,8 @@ def libraries(paths, arguments):
             package = debian_package(archive)
             if package:
                 add(library_of_package(package, "static"))
+    for included in arguments.included:
+        add(library_of_package(debian_package(included), "included"))
     if programs:
         has_command = any(os.path.basename(path) in ("vif", "vif.exe") for path in programs)
         for package in compiled_in(arguments.build, has_command):
@@ -211,6 +216,7 @@ def main():
     parser.add_argument("--version", required=True)
     parser.add_argument("--build", required=True)
     parser.add_argument("--archives")
+    parser.add_argument("--included", action="append", default=[])
     parser.add_argument("root")
     parser.add_argument("output")
     arguments = parser.parse_args()
