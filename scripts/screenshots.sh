@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Makes the screenshots of reports in docs/images/, with the release build's command.
+# Makes the screenshots of reports and of the site in docs/images/, with the release build's command.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -10,4 +10,5 @@ if [ ! -x "$VIF" ]; then
   scripts/build.sh release --target vif
 fi
 mkdir -p docs/images
-node tests/browser/screenshots.js docs/images
+scripts/docs.sh
+node tests/browser/screenshots.js docs/images build/docs

@@ -1,4 +1,6 @@
-// Makes screenshots of reports of the examples, in the folder that the argument names.
+// Makes screenshots of reports of the examples, and of the site of the documentation.
+//
+//     screenshots.js FOLDER SITE
 import { execFileSync } from 'node:child_process';
 import { statSync } from 'node:fs';
 import { basename, join } from 'node:path';
@@ -19,9 +21,14 @@ const subjects = {
   cable: { example: 'active-cable.txt', until: 'section.port dl' },
 };
 
-async function takeScreenshot(page, until, picture) {
-  const bottom = await page.$eval(until, (element) => element.getBoundingClientRect().bottom);
-  const clip = { x: 0, y: 0, width: size.width, height: Math.ceil(bottom + margin) };
+const telephone = { width: 360, height: 740, scale: 1.5 };
+const sitePages = {
+  start: { page: 'index.html', size },
+  rules: { page: 'rules.html', size },
+  telephone: { page: 'fields.html', size: telephone },
+};
+
+async function takeClip(page, clip, picture) {
   await page.screenshot({ path: picture, clip, captureBeyondViewport: true });
   execFileSync('pngquant', ['--force', '--strip', '--speed', '1', '--output', picture, picture]);
   const bytes = statSync(picture).size;
@@ -29,13 +36,22 @@ async function takeScreenshot(page, until, picture) {
   if (bytes > largest) throw new Error(`${picture} has more than ${largest} bytes`);
 }
 
-const folder = process.argv[2];
+async function takeReport(page, until, picture) {
+  const bottom = await page.$eval(until, (element) => element.getBoundingClientRect().bottom);
+  await takeClip(page, { x: 0, y: 0, width: size.width, height: Math.ceil(bottom + margin) }, picture);
+}
+
+const [folder, site] = process.argv.slice(2);
 const pages = makeFolder();
 const browser = await launchBrowser();
 try {
   for (const [subject, { example, until }] of Object.entries(subjects)) {
     const page = writeExampleReport(join(pages, `${subject}.html`), example);
-    await withPage(browser, page, size, (opened) => takeScreenshot(opened, until, join(folder, `report-${subject}.png`)));
+    await withPage(browser, page, size, (opened) => takeReport(opened, until, join(folder, `report-${subject}.png`)));
+  }
+  for (const [name, { page, size: shown }] of Object.entries(sitePages)) {
+    const clip = { x: 0, y: 0, width: shown.width, height: shown.height };
+    await withPage(browser, join(site, page), shown, (opened) => takeClip(opened, clip, join(folder, `site-${name}.png`)));
   }
 } finally {
   await browser.close();
