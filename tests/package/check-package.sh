@@ -155,7 +155,8 @@ EOF
   ExportsNoUniqueSymbols)
     [ -z "$EMULATOR" ] || { echo 'SKIPPED: Windows has no unique symbols'; exit; }
     for library in VendorInfoFile VendorInfoFileAnalysis VendorInfoFileHost vif; do
-      ! nm -DC --defined-only "$lib/lib$library.so" | grep ' u ' ||
+      symbols=$(nm -DC --defined-only "$lib/lib$library.so")
+      ! grep ' u ' <<<"$symbols" ||
         fail "the symbols above keep $library from being unloaded"
     done
     ;;

@@ -78,6 +78,10 @@ test('there are pages of every kind', () => {
   assert.deepEqual(kinds.filter((name) => !existsSync(join(site, `${name}.html`))), []);
 });
 
+test('the pages that stand for others are there', () => {
+  assert.deepEqual(samples.filter((name) => !existsSync(join(site, name))), []);
+});
+
 test('every page needs no network, fits on a telephone and shows no markup', async () => {
   const wrong = [];
   const rest = [...pages];
