@@ -184,7 +184,7 @@
 
   const reasonOf = (reason) => {
     const item = make('li', {}, make('p', { className: 'where', textContent: placeInWords(reason) }), make('p', { textContent: reason.message }));
-    if (reason.line) item.append(sourceOf(reason));
+    if (reason.before !== undefined) item.append(sourceOf(reason));
     return item;
   };
 
