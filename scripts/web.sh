@@ -54,10 +54,10 @@ case $task in
     export VIF_WEB_FILES=$root/build/web/generated
     rm -rf "$VIF_WEB_FILES"
     build/release/tests/platforms/generate_vifs "$VIF_WEB_FILES" $((count / 2))
-    echo "==> Comparing the page's module with the command"
-    node --test --test-reporter=spec tests/web/equality.test.js
+    echo "==> Testing the page's module, and comparing it with the command"
+    node --test --test-reporter=spec tests/web/reader.test.js tests/web/equality.test.js
     echo "==> Testing the page in a browser"
-    node --test --test-reporter=spec tests/web/page.test.js tests/web/controls.test.js
+    node --test --test-reporter=spec tests/web/{page,order,failures,dragging,controls}.test.js
     ;;
   *)
     sed -n '4,8s/^# *//p' scripts/web.sh >&2

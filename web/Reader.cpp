@@ -4,6 +4,7 @@
 
 #include <emscripten.h>
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -31,6 +32,7 @@ struct Subject {
 
 std::array<Subject, 2> subjects;
 vif_error* error = nullptr;
+std::string advice;  // says instead of the error why a file is refused, unless empty
 vif_text* result = nullptr;
 vif_text* afterPlace = nullptr;
 
@@ -40,6 +42,7 @@ void ClearResults() {
   vif_error_free(error);
   result = afterPlace = nullptr;
   error = nullptr;
+  advice.clear();
 }
 
 /// Frees findings at the end of a call.
@@ -64,6 +67,26 @@ vif_status Check(const Subject& subject, bool withNotes, CFindings& findings) {
   return vif_check_bytes(subject.bytes, subject.size, subject.name.c_str(), &options, nullptr, &findings, &error);
 }
 
+/// Refuses text in a file named *.xml, and XML in one named *.txt, with the advice that the command gives. The library
+/// would call the former an XML file with mistakes, and the latter a VIF without fields.
+vif_status RequireItsOwnExtension(const Subject& subject, vif_status otherwise) {
+  // The beginning tells, and spares the search for mistakes in the rest.
+  constexpr std::size_t enoughBytes = 65'536;
+  const char* code = "wrong-extension";
+  vif_check_options options = {};
+  options.size = sizeof(options);
+  options.only = &code;
+  options.only_count = 1;
+  CFindings findings;
+  const vif_status status = vif_check_bytes(subject.bytes, std::min(subject.size, enoughBytes), subject.name.c_str(),
+                                            &options, nullptr, &findings, nullptr);
+  vif_finding finding = {};
+  finding.size = sizeof(finding);
+  if (status != VIF_OK || vif_findings_get(findings, 0, &finding) != VIF_OK) return otherwise;
+  advice = finding.message;
+  return VIF_ERROR_FORM;
+}
+
 vif_reported_file Reported(const Subject& subject, const CFindings& findings) {
   return {sizeof(vif_reported_file), subject.file, subject.name.c_str(), findings};
 }
@@ -79,8 +102,11 @@ EMSCRIPTEN_KEEPALIVE vif_status reader_load(std::int32_t which, const void* byte
   Subject& subject = subjects.at(static_cast<std::size_t>(which));
   vif_file_free(subject.file);
   subject = {bytes, size, name, nullptr};
-  const vif_status status = vif_file_make(&subject.file, &error);
-  return status != VIF_OK ? status : vif_file_load_bytes(subject.file, bytes, size, name, &kProgress, &error);
+  vif_status status = vif_file_make(&subject.file, &error);
+  if (status != VIF_OK) return status;
+  status = vif_file_load_bytes(subject.file, bytes, size, name, &kProgress, &error);
+  const bool isEmpty = status == VIF_OK && vif_file_field_count(subject.file) == 0;
+  return isEmpty || status == VIF_ERROR_INVALID ? RequireItsOwnExtension(subject, status) : status;
 }
 
 /// The report on the first file, or on how the second one differs from it.
@@ -145,7 +171,7 @@ EMSCRIPTEN_KEEPALIVE vif_status reader_source_line(double line, double column) {
 EMSCRIPTEN_KEEPALIVE const char* reader_result() { return vif_text_data(result); }
 EMSCRIPTEN_KEEPALIVE std::size_t reader_result_size() { return vif_text_size(result); }
 EMSCRIPTEN_KEEPALIVE const char* reader_after_place() { return vif_text_data(afterPlace); }
-EMSCRIPTEN_KEEPALIVE const char* reader_message() { return vif_error_message(error); }
+EMSCRIPTEN_KEEPALIVE const char* reader_message() { return advice.empty() ? vif_error_message(error) : advice.c_str(); }
 
 EMSCRIPTEN_KEEPALIVE vif_status reader_use_schemas(const char* folder) {
   ClearResults();

@@ -19,6 +19,20 @@
   const say = (text) => {
     element('status').textContent = text;
   };
+  // What went wrong, besides files that are refused, until the reader dismisses it or does the next thing.
+  const showNotice = (text) => {
+    element('notice').hidden = false;
+    element('notice-text').textContent = text;
+    say(text);
+  };
+  const hideNotice = () => {
+    element('notice').hidden = true;
+  };
+  element('dismiss').onclick = () => {
+    hideNotice();
+    (element('tabs').querySelector('[aria-current]') ?? element('choose')).focus();
+  };
+
   const sizeInWords = (bytes) => (bytes < 1e6 ? `${Math.ceil(bytes / 1e3)} kB` : `${(bytes / 1e6).toFixed(1)} MB`);
 
   // --- The worker
@@ -44,22 +58,28 @@
     return started;
   };
   const stopWorker = () => {
-    worker?.then((stopped) => stopped.terminate());
+    worker?.then((stopped) => stopped.terminate()).catch(() => {}); // one that did not start need not be stopped
     worker = null;
   };
 
-  const ask = async (name, parameters, onProgress) => {
+  const answerOf = async (name, parameters, onProgress) => {
     worker ??= startWorker();
     const asked = await worker;
-    const { value, error, memory } = await new Promise((resolve, reject) => {
-      giveUp = () => reject(new Cancelled('It was cancelled.'));
+    return new Promise((resolve) => {
       asked.onerror = (event) => {
         event.preventDefault();
         resolve({ error: { message: event.message, isSound: false } });
       };
       asked.onmessage = ({ data }) => (data.progress ? onProgress(...data.progress) : resolve(data));
       asked.postMessage({ name, parameters });
-    }).finally(() => {
+    });
+  };
+
+  const ask = async (name, parameters, onProgress) => {
+    const cancelled = new Promise((resolve, reject) => {
+      giveUp = () => reject(new Cancelled('It was cancelled.'));
+    });
+    const { value, error, memory } = await Promise.race([answerOf(name, parameters, onProgress), cancelled]).finally(() => {
       giveUp = null;
     });
     if (error ? !error.isSound : memory > largestMemory) stopWorker();
@@ -86,19 +106,32 @@
     }
   };
 
-  const withProgress = async (what, work) => {
+  let underWay = []; // { what, isLong }, the oldest first; calls run in that order
+
+  const showBusy = () => {
+    const long = underWay.find(({ isLong }) => isLong);
+    element('busy').hidden = !long;
+    element('doing').textContent = long?.what ?? '';
+  };
+
+  // `replacesView` says whether the progress takes the place of what is shown.
+  const withProgress = async (what, work, replacesView) => {
+    const task = { what, isLong: false };
+    if (underWay.length === 0) showProgress(0, 0);
+    underWay.push(task);
     const timer = setTimeout(() => {
-      element('doing').textContent = what;
-      element('view').hidden = true;
-      element('busy').hidden = false;
+      task.isLong = true;
+      if (replacesView()) element('view').hidden = true;
+      showBusy();
       say(what);
     }, patience);
-    showProgress(0, 0);
     try {
       return await work(showProgress);
     } finally {
       clearTimeout(timer);
-      element('busy').hidden = true;
+      underWay = underWay.filter((other) => other !== task);
+      showBusy();
+      element('view').hidden = files.length === 0;
     }
   };
 
@@ -124,12 +157,11 @@
         menu.open = false;
         menu.querySelector('summary').focus();
       }
+      hideNotice();
       try {
-        save(name, type, await withProgress('Writing…', content));
+        save(name, type, await withProgress('Writing…', content, () => false));
       } catch (error) {
-        say(error.message);
-      } finally {
-        element('view').hidden = false;
+        showNotice(`${name} was not saved: ${error.message}`);
       }
     });
   const menuOf = (...entries) => {
@@ -146,7 +178,7 @@
 
   // --- What is shown
 
-  let files = []; // { file, name, bytes, report, error, reasons }, in order
+  let files = []; // as from entryOf, in order
   let shown = null; // one of them, or 'differences'
   let compared = [null, null];
   let version = 0; // of what is shown, so that a late answer does not replace a newer one
@@ -184,14 +216,23 @@
 
   const reasonOf = (reason) => {
     const item = make('li', {}, make('p', { className: 'where', textContent: placeInWords(reason) }), make('p', { textContent: reason.message }));
-    if (reason.line) item.append(sourceOf(reason));
+    if (reason.before !== undefined) item.append(sourceOf(reason));
     return item;
   };
+
+  const unreadOf = (entry) =>
+    make(
+      'div',
+      { className: 'message' },
+      make('h3', { textContent: 'This file was not read' }),
+      make('p', { textContent: entry.error }),
+      make('p', {}, button('Try again', () => retry(entry))),
+    );
 
   const refusalOf = ({ error, reasons }) => {
     const box = make('div', { className: 'message' });
     box.append(make('h3', { textContent: 'This file cannot be read as a VIF' }), make('p', { textContent: error }));
-    if (reasons.length > 0) {
+    if (reasons.some(({ message }) => message !== error)) {
       box.append(make('p', { textContent: reasons.length === 1 ? 'The reason:' : `The ${reasons.length} reasons:` }));
       box.append(make('ol', { className: 'reasons' }, ...reasons.map(reasonOf)));
     }
@@ -201,29 +242,33 @@
   // For those who hear the page; the others see the tab.
   const titleOf = (text) => make('h2', { className: 'spoken', textContent: text, tabIndex: -1 });
 
+  const contentOf = (entry) => {
+    if (entry.report) return reportOrOffer(`Report on ${entry.name}`, entry.report);
+    return entry.isUnread ? unreadOf(entry) : refusalOf(entry);
+  };
+
   const viewOf = (entry) => {
-    const { name, report, error } = entry;
+    const { name, report, error, reasons } = entry;
     const given = { name, bytes: entry.bytes };
     const remove = button('Remove', () => removeFile(entry));
     if (!report && !error) return { actions: [], content: [titleOf(name)] };
     const findings = saver('Findings (JSON)', `${stem(name)}-findings.json`, 'application/json', (tell) => call('findingsJson', [given, true], tell));
-    const all = report && [
+    const ofReport = report && [
       saver('Report (HTML)', `${stem(name)}.html`, 'text/html', () => report),
       saver('Fields (JSON)', `${stem(name)}.json`, 'application/json', (tell) => call('fieldsJson', [given], tell)),
       saver('Fields (CSV)', `${stem(name)}.csv`, 'text/csv', (tell) => call('fieldsCsv', [given], tell)),
     ];
-    return {
-      actions: [...(all ? [menuOf(...all, findings)] : []), remove],
-      content: [titleOf(name), report ? reportOrOffer(`Report on ${name}`, report) : refusalOf(entry)],
-    };
+    const menu = report || reasons.length > 0 ? [menuOf(...(ofReport ?? []), findings)] : [];
+    return { actions: [...menu, remove], content: [titleOf(name), contentOf(entry)] };
   };
 
   const chooser = (label, which) => {
     const id = `compared-${which}`;
     const select = make('select', { id });
-    for (const entry of sound()) select.append(make('option', { textContent: entry.name, selected: entry === compared[which] }));
+    const choices = sound();
+    for (const entry of choices) select.append(make('option', { textContent: entry.name, selected: entry === compared[which] }));
     select.onchange = () => {
-      compared[which] = sound()[select.selectedIndex];
+      compared[which] = choices[select.selectedIndex];
       showDifferences(id);
     };
     return make('span', { className: 'pair' }, make('label', { htmlFor: id, textContent: label }), select);
@@ -258,13 +303,13 @@
     let content;
     try {
       const given = compared.map(({ name, bytes }) => ({ name, bytes }));
-      content = reportOrOffer(title, await withProgress('Comparing…', (tell) => call('report', given, tell)));
+      const compare = (tell) => call('report', given, tell);
+      content = reportOrOffer(title, await withProgress('Comparing…', compare, () => mine === version));
     } catch (error) {
       content = make('div', { className: 'message' }, make('p', { textContent: error.message }));
     }
     if (mine !== version) return;
     element('view').append(content);
-    element('view').hidden = false;
     say(title);
   };
 
@@ -282,7 +327,11 @@
     return make('li', {}, made);
   };
 
-  const stateOf = ({ report, error }) => (error ? 'refused' : report ? '' : 'reading');
+  const stateOf = ({ report, error, isUnread }) => {
+    if (isUnread) return 'unread';
+    if (error) return 'refused';
+    return report ? '' : 'reading';
+  };
 
   const showTabs = () => {
     const hadFocus = element('tabs').contains(document.activeElement);
@@ -311,40 +360,64 @@
 
   // --- Taking files
 
-  const read = async (entry, tell) => {
-    entry.report = entry.error = null;
-    entry.reasons = [];
+  const entryOf = (file) => ({
+    file,
+    name: file.name,
+    bytes: null,
+    report: null,
+    error: null, // why there is no report
+    isUnread: false, // whether that is not due to what the file contains
+    reasons: [],
+  });
+
+  const bytesOf = async (file) => {
     try {
-      entry.bytes ??= new Uint8Array(await entry.file.arrayBuffer());
+      return new Uint8Array(await file.arrayBuffer());
     } catch {
-      entry.error = 'The browser cannot read it. Is it a folder, or has it gone?';
-      return;
-    }
-    const given = { name: entry.name, bytes: entry.bytes };
-    try {
-      entry.report = await call('report', [given], tell);
-    } catch (error) {
-      entry.error = error.message;
-      // What made the library fail would do so again.
-      if (error.isSound) entry.reasons = await call('reasons', [given], tell).catch(() => []);
+      throw new Error('The browser cannot read it. Is it a folder, or has it gone?');
     }
   };
 
-  const readAll = async (entries) => {
+  const clear = (entry) => Object.assign(entry, { report: null, error: null, isUnread: false, reasons: [] });
+
+  const read = async (entry, tell) => {
+    clear(entry);
+    try {
+      entry.bytes ??= await bytesOf(entry.file);
+      entry.report = await call('report', [{ name: entry.name, bytes: entry.bytes }], tell);
+    } catch (error) {
+      entry.error = error.message;
+      entry.isUnread = !entry.bytes || error instanceof Cancelled;
+      // What made the library fail would do so again.
+      if (error.isSound) entry.reasons = await call('reasons', [{ name: entry.name, bytes: entry.bytes }], tell).catch(() => []);
+    }
+  };
+
+  const outcomeOf = ({ name, error, isUnread }) => {
+    if (isUnread) return `${name} was not read`;
+    return error ? `${name} cannot be read as a VIF` : `${name} is read`;
+  };
+
+  // What came last is compared: two files of those, or one with the file before it. Otherwise the choice stays while it can.
+  const chooseCompared = (newest) => {
+    const good = sound();
+    const goodAndNew = newest.filter((entry) => good.includes(entry));
+    const canStay = compared.length === 2 && compared.every((entry) => good.includes(entry));
+    if (good.length < 2) return;
+    if (goodAndNew.length >= 2) compared = goodAndNew.slice(0, 2);
+    else if (goodAndNew.length === 1 || !canStay) compared = good.slice(-2);
+  };
+
+  const readAll = async (entries, newest = entries) => {
     for (const entry of entries) {
       if (!files.includes(entry)) continue;
-      await withProgress(`Reading ${entry.name}…`, (tell) => read(entry, tell));
-      if (entry === entries[0] || !shown) showEntry(entry);
+      await withProgress(`Reading ${entry.name}…`, (tell) => read(entry, tell), () => shown === entry);
+      if (!files.includes(entry)) continue;
+      chooseCompared(newest);
+      if (shown === entry) showEntry(entry);
       else showTabs();
-      element('view').hidden = false;
-      say(entry.error ? `${entry.name} cannot be read as a VIF` : `${entry.name} is read`);
+      say(outcomeOf(entry));
     }
-    const good = entries.filter((entry) => entry.report && files.includes(entry));
-    if (sound().length < 2) return;
-    if (good.length >= 2) compared = good.slice(0, 2);
-    else if (good.length === 1 || !compared.every((entry) => sound().includes(entry))) compared = sound().slice(-2);
-    if (entries.length === 2 && good.length === 2) await showDifferences();
-    else showTabs();
   };
 
   const schemaNames = Object.keys(assets.schemas);
@@ -358,42 +431,63 @@
     element('built-in').hidden = own.length === 0;
   };
 
-  const useSchemas = (schemas) => {
+  // A comparison that is shown is made again from files that were read again.
+  const renewDifferences = () => {
+    if (shown !== 'differences') return undefined;
+    return sound().length > 1 ? showDifferences() : showEntry(compared.find(({ error }) => error));
+  };
+
+  const useSchemas = async (schemas) => {
     ownSchemas = schemas;
-    stopWorker();
+    queue = queue.then(stopWorker); // after the calls that are under way
     tellSchemas();
-    return readAll(files);
+    await readAll(files, []);
+    await renewDifferences();
   };
 
   const takeSchemas = async (given) => {
     const unknown = given.find(({ name }) => !schemaNames.includes(name));
-    if (unknown) {
-      element('schemas').textContent = `${unknown.name} is not used: schemas must be named ${schemaNames.join(' or ')}.`;
-      say(element('schemas').textContent);
-      return;
+    if (unknown) throw new Error(`${unknown.name} is not used: schemas must be named ${schemaNames.join(' or ')}.`);
+    const schemas = {};
+    for (const file of given) {
+      schemas[file.name] = await bytesOf(file).catch((error) => {
+        throw new Error(`${file.name} is not used. ${error.message}`);
+      });
     }
-    const texts = await Promise.all(given.map(async (file) => [file.name, new Uint8Array(await file.arrayBuffer())]));
-    await useSchemas({ ...ownSchemas, ...Object.fromEntries(texts) });
+    await useSchemas({ ...ownSchemas, ...schemas });
   };
 
+  const takeFiles = async (entries) => {
+    files = [...files, ...entries];
+    showEntry(entries[0]);
+    await readAll(entries);
+    const areSound = entries.every((entry) => sound().includes(entry));
+    const hasStayed = shown === entries[0]; // the reader, who may have opened another tab
+    if (entries.length === 2 && areSound && hasStayed) await showDifferences();
+  };
+
+  // Files are taken in the order in which they come. What goes wrong with some does not keep out the next ones.
   let taking = Promise.resolve();
+  const inTurn = (work) => {
+    hideNotice();
+    taking = taking.then(work).catch((error) => showNotice(error.message));
+  };
 
   const take = (given) => {
     const isSchema = ({ name }) => /\.xsd$/i.test(name);
     const schemas = given.filter(isSchema);
-    const entries = given.filter((file) => !isSchema(file)).map((file) => ({ file, name: file.name, bytes: null, report: null, error: null, reasons: [] }));
-    taking = taking.then(async () => {
-      if (schemas.length > 0) await takeSchemas(schemas);
-      if (entries.length === 0) return;
-      files = [...files, ...entries];
-      showEntry(entries[0]);
-      await readAll(entries);
-    });
+    const entries = given.filter((file) => !isSchema(file)).map(entryOf);
+    if (schemas.length > 0) inTurn(() => takeSchemas(schemas));
+    if (entries.length > 0) inTurn(() => takeFiles(entries));
   };
 
-  element('built-in').onclick = () => {
-    taking = taking.then(() => useSchemas({}));
+  const retry = (entry) => {
+    showEntry(clear(entry));
+    element('view').querySelector('h2').focus();
+    inTurn(() => readAll([entry]));
   };
+
+  element('built-in').onclick = () => inTurn(() => useSchemas({}));
 
   const input = element('files');
   input.onchange = () => {
@@ -402,8 +496,13 @@
   };
   element('choose').onclick = element('add').onclick = () => input.click();
 
+  // A drag over a report would go to the report's own document, which takes no files. So a report lets the pointer through
+  // while files are dragged, and while the pointer is outside of the page, where every drag of files begins.
+  document.documentElement.onmouseleave = () => document.body.classList.add('left');
+  document.onmousemove = document.onpointerdown = () => document.body.classList.remove('left', 'dragged');
+
   const isOfFiles = (event) => event.dataTransfer?.types.includes('Files');
-  document.ondragover = (event) => {
+  document.ondragenter = document.ondragover = (event) => {
     if (!isOfFiles(event)) return;
     event.preventDefault();
     document.body.classList.add('dragged');

@@ -12,20 +12,28 @@ class ReaderError extends Error {
 
 const outOfMemory = 3; // VIF_ERROR_MEMORY
 
+// How many reasons come with the text of their line. For each, the library looks for the line from the start of the file:
+// all of 10,000 reasons in 10 MB would take 20 seconds. Nobody reads so many.
+const mostSources = 100;
+
+// Starts the module. What its own script returns stays pending if it cannot be instantiated.
+const instantiate = (makeReader, compiled, settings) =>
+  new Promise((resolve, reject) => {
+    const instantiateWasm = (imports, receive) => {
+      WebAssembly.instantiate(compiled, imports)
+        .then((instance) => receive(instance, compiled))
+        .catch(reject);
+      return {};
+    };
+    makeReader({ ...settings, instantiateWasm }).then(resolve, reject);
+  });
+
 // makeReader   what the module's own script defines
 // compiled     the module
 // schemas      the texts of the schemas by their file names
 // onProgress   is called with how much is done, of how much
 async function openReader(makeReader, { compiled, schemas, onProgress = () => {} }) {
-  const module = await makeReader({
-    instantiateWasm(imports, receive) {
-      WebAssembly.instantiate(compiled, imports).then((instance) => receive(instance, compiled));
-      return {};
-    },
-    onProgress,
-    print() {},
-    printErr() {},
-  });
+  const module = await instantiate(makeReader, compiled, { onProgress, print() {}, printErr() {} });
   const { FS } = module;
   const utf8 = new TextDecoder();
 
@@ -76,7 +84,7 @@ async function openReader(makeReader, { compiled, schemas, onProgress = () => {}
 
   // A finding with the text of its line, before its place and after it.
   const withSource = (finding) => {
-    require(module._reader_source_line(finding.line ?? 0, finding.column ?? 0));
+    require(module._reader_source_line(finding.line, finding.column ?? 0));
     const before = utf8.decode(result());
     return { ...finding, before, after: module.UTF8ToString(module._reader_after_place()) };
   };
@@ -113,11 +121,12 @@ async function openReader(makeReader, { compiled, schemas, onProgress = () => {}
       require(module._reader_differences_json());
       return result();
     },
-    // Why a file is refused: its findings, with the lines that they are about.
+    // Why a file is refused: its errors, the first of them with the lines that they are about.
     reasons(file) {
       loadOne(0, file);
       const [checked] = JSON.parse(utf8.decode(findings(false))).files;
-      return checked.findings.filter(({ severity }) => severity === 'error').map(withSource);
+      const errors = checked.findings.filter(({ severity }) => severity === 'error');
+      return errors.map((finding, i) => (finding.line && i < mostSources ? withSource(finding) : finding));
     },
   };
 }

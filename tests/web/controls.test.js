@@ -1,36 +1,14 @@
 // The checks of the page find the faults that they are for, in pages that were spoiled in one way each.
 import assert from 'node:assert/strict';
-import { readFileSync, writeFileSync } from 'node:fs';
-import { createHash } from 'node:crypto';
-import { join } from 'node:path';
 import { it } from 'node:test';
-import { pathToFileURL } from 'node:url';
 import { satisfiesAxeBesideItsFrames } from '../browser/checks/accessibility.js';
 import { fitsItsWidth } from '../browser/checks/layout.js';
 import { stopsWhatIsInjected } from '../browser/checks/policy.js';
-import { makeFolder } from '../browser/support/folder.js';
 import { settle } from '../browser/support/page.js';
 import { describeInBrowser } from '../browser/support/suite.js';
+import { addressOf, append, insertIntoWorker, sound } from './support/changedPage.js';
 import { choose, drop, openTab, shownRefusal, shownReport, withVifPage } from './support/pageDriver.js';
-import { example, page as pageFile } from './support/paths.js';
-
-const folder = makeFolder();
-const sound = readFileSync(pageFile, 'utf8');
-const hash = (text) => `'sha256-${createHash('sha256').update(text).digest('base64')}'`;
-
-let number = 0;
-const addressOf = (html) => {
-  const file = join(folder, `${++number}.html`);
-  writeFileSync(file, html);
-  return pathToFileURL(file).href;
-};
-
-// The page with something put after its own style or script, which its policy then names instead.
-function append(kind, text) {
-  const pattern = kind === 'style' ? /<style>([^]*?)<\/style>/ : /<script>([^]*?)<\/script>/;
-  const [, own] = sound.match(pattern);
-  return sound.replace(pattern, () => `<${kind}>${own}${text}</${kind}>`).replace(hash(own), () => hash(`${own}${text}`));
-}
+import { example } from './support/paths.js';
 
 describeInBrowser('The checks of the page notice', (browser) => {
   const notices = (what, html, expected, find = async () => {}) =>
@@ -56,10 +34,10 @@ describeInBrowser('The checks of the page notice', (browser) => {
 
   // No file is known that makes the library trap, so the module's script is made to do so for one name.
   it('nothing of a library that trapped: the page starts it afresh', { timeout: 120_000 }, () => {
-    const call = 'require(module._reader_report(files.length));';
-    const trap = "if (files[0].name === 'trap.txt') throw new WebAssembly.RuntimeError('unreachable');";
-    const html = sound.replace(call, () => JSON.stringify(`${trap}${call}`).slice(1, -1));
-    assert.notEqual(html, sound);
+    const html = insertIntoWorker(
+      'require(module._reader_report(files.length));',
+      "if (files[0].name === 'trap.txt') throw new WebAssembly.RuntimeError('unreachable');",
+    );
     return withVifPage(browser(), { address: addressOf(html) }, async (page, events, recorded) => {
       await drop(page, { name: 'trap.txt', text: 'PID: 1\n' }, { name: 'sound.txt', text: 'PID: 1\n' });
       assert.match(await shownRefusal(page), /unreachable/);

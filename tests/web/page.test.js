@@ -11,8 +11,8 @@ import { makeFolder } from '../browser/support/folder.js';
 import { writeHostileNames, writeHostileText, writeHostileXml } from '../browser/support/hostileFiles.js';
 import { settle } from '../browser/support/page.js';
 import { describeInBrowser } from '../browser/support/suite.js';
-import { deepXml, refusedXml, writeLargeText, writeLargeXml } from './support/files.js';
-import { choose, drop, openTab, press, save, shownRefusal, shownReport, tabNames, withVifPage } from './support/pageDriver.js';
+import { deepXml, refusedXml, writeLargeText, writeLargeXml, xmlWithMistakes } from './support/files.js';
+import { choose, drop, openTab, press, save, shownNotice, shownRefusal, shownReport, tabNames, withVifPage } from './support/pageDriver.js';
 import { buildFolder, command, example, page as pageFile } from './support/paths.js';
 import { servePage } from './support/server.js';
 
@@ -55,6 +55,7 @@ for (const origin of ['a file', 'a server']) {
           await use(page, events, recorded);
           await settle();
           assert.deepEqual(events(), []);
+          assert.equal(await page.$eval('#notice', (notice) => notice.hidden), true);
           assert.equal(await page.evaluate(() => document.cookie), '');
         });
       });
@@ -139,6 +140,21 @@ for (const origin of ['a file', 'a server']) {
         assert.ok(shown[i][1].includes(lines[line - 1].slice(0, 60)), shown[i][1]);
       }
       assert.match(text, /is not a valid Vendor Info File/);
+      assert.ok(vif('check --notes --format json', refused).equals(await save(page, 'Findings (JSON)', 'refused-findings.json')));
+      assert.equal(await page.$$eval('.menu li', (entries) => entries.length), 1);
+    });
+
+    onPage('shows all of many reasons, the first hundred with their line', async (page) => {
+      await choose(page, write('many.xml', xmlWithMistakes(300)));
+      await shownRefusal(page);
+      assert.equal(await page.$$eval('.reasons li', (items) => items.filter((item) => /^Line \d/.test(item.textContent)).length), 300);
+      assert.equal(await page.$$eval('.reasons pre', (sources) => sources.length), 100);
+    });
+
+    onPage('advises on a file that has the name of the other form', async (page) => {
+      await choose(page, write('misnamed.txt', readFileSync(dock)));
+      assert.match(await shownRefusal(page), /^[^]*this is XML, not a text VIF; the name of an XML VIF ends in \.xml\s*$/);
+      assert.ok(vif('check --notes --format json', join(folder, 'misnamed.txt')).equals(await save(page, 'Findings (JSON)', 'misnamed-findings.json')));
     });
 
     onPage('refuses what is not a VIF', async (page) => {
@@ -160,7 +176,7 @@ for (const origin of ['a file', 'a server']) {
 
     onPage('says which schemas it cannot use', async (page) => {
       await drop(page, { name: 'Other.xsd', text: '<a/>' });
-      await page.waitForFunction(() => /Other\.xsd is not used/.test(document.querySelector('#schemas').textContent));
+      assert.match(await shownNotice(page), /Other\.xsd is not used/);
       await drop(page, { name: 'VendorInfoFile.xsd', text: '<a/>' });
       await choose(page, dock);
       assert.match(await shownRefusal(page), /schema/);

@@ -12,6 +12,13 @@ export const refusedXml = `<?xml version="1.0" encoding="utf-8"?>
 </vif:VIF>
 `;
 
+// As many mistakes, in a line each.
+export const xmlWithMistakes = (count) => `<?xml version="1.0" encoding="utf-8"?>
+<vif:VIF xmlns:vif="http://usb.org/VendorInfoFile.xsd"><vif:VIF_Specification>3.26</vif:VIF_Specification>
+${Array.from({ length: count }, (_, i) => `<vif:Component><vif:PD_Port_Type value="many">${i}</vif:PD_Port_Type></vif:Component>`).join('\n')}
+</vif:VIF>
+`;
+
 export const deepXml = `<a>${'<b>'.repeat(100_000)}`;
 
 const line = (n) => `Src_PDO_Voltage${n}: ${n % 1000} ; ${'comment '.repeat(4)}\n`;
