@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <stdexcept>
 #include <string_view>
-#include <utility>
 
 namespace manual {
 
@@ -59,8 +58,8 @@ std::vector<std::string> OtherGroups(const Command& command) {
 bool IsHelp(const Option& option) { return option.names.back() == "--help"; }
 
 HelpSection SectionOf(const Command& command, std::string_view title) {
-  for (HelpSection& section : ParseHelp(command.footer)) {
-    if (section.title == title) return std::move(section);
+  for (const HelpSection& section : ParseHelp(command.footer)) {
+    if (section.title == title) return section;
   }
   throw std::runtime_error("the help of " + command.name + " has no section '" + std::string(title) + "'");
 }
