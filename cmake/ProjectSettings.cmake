@@ -46,6 +46,11 @@ else()
     -Woverloaded-virtual)
 endif()
 
+# Without this, files of more than 2 GB cannot be opened on 32-bit systems, and so look as if they could not be read.
+if(UNIX AND NOT EMSCRIPTEN AND CMAKE_SIZEOF_VOID_P EQUAL 4)
+  target_compile_definitions(VendorInfoFileSettings INTERFACE _FILE_OFFSET_BITS=64)
+endif()
+
 # The library reads files from anywhere. If one of them triggers a bug, the process must end rather than be exploited.
 if(NOT MSVC)
   target_compile_definitions(VendorInfoFileSettings INTERFACE _GLIBCXX_ASSERTIONS)

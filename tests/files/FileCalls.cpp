@@ -16,6 +16,15 @@
 
 namespace testsupport {
 
+// The GNU C library has separate names for the functions and types for large files.
+#ifdef __GLIBC__
+using Status = struct stat64;
+constexpr const char* kStatusOfDescriptor = "fstat64";
+#else
+using Status = struct stat;
+constexpr const char* kStatusOfDescriptor = "fstat";
+#endif
+
 struct CFileCalls::Watch {
   Watch(std::string name, FileScript decisions) : file(std::move(name)), script(std::move(decisions)) {}
 
@@ -24,8 +33,8 @@ struct CFileCalls::Watch {
   std::array<std::size_t, 4> counts = {};
   // What was last opened by the name.
   bool isOpened = false;
-  dev_t device = 0;
-  ino_t inode = 0;
+  decltype(Status::st_dev) device = 0;
+  decltype(Status::st_ino) inode = 0;
   std::size_t position = 0;
 };
 
@@ -44,8 +53,8 @@ CFileCalls::Watch* g_watch = nullptr;
 
 thread_local bool t_isPassing = false;  // in the script's own calls and in nested calls
 
-int RealStatus(int descriptor, struct stat* status) {
-  static auto* const real = Real<int(int, struct stat*)>("fstat");
+int RealStatus(int descriptor, Status* status) {
+  static auto* const real = Real<int(int, Status*)>(kStatusOfDescriptor);
   return real(descriptor, status);
 }
 
@@ -55,7 +64,7 @@ bool IsWatched(const char* name) {
 
 bool IsWatched(int descriptor) {
   if (g_watch == nullptr || t_isPassing || !g_watch->isOpened) return false;
-  struct stat status = {};
+  Status status = {};
   return RealStatus(descriptor, &status) == 0 && status.st_dev == g_watch->device && status.st_ino == g_watch->inode;
 }
 
@@ -71,7 +80,7 @@ FileCallFate Decide(Kind kind) {
 
 /// Remembers what has been opened by the name.
 void TakeOpened(int descriptor) {
-  struct stat status = {};
+  Status status = {};
   if (RealStatus(descriptor, &status) != 0) return;
   g_watch->isOpened = true;
   g_watch->device = status.st_dev;
@@ -103,6 +112,18 @@ std::FILE* OpenStream(const char* function, const char* name, const char* mode) 
   t_isPassing = wasPassing;
   if (isWatched && file != nullptr) TakeOpened(fileno(file));
   return file;
+}
+
+template <typename AnyStatus>
+int StatusOfName(const char* function, const char* name, AnyStatus* status) {
+  auto* const real = Real<int(const char*, AnyStatus*)>(function);
+  return IsWatched(name) && Decide(Kind::Stat).error != 0 ? -1 : real(name, status);
+}
+
+template <typename AnyStatus>
+int StatusOfDescriptor(const char* function, int descriptor, AnyStatus* status) {
+  auto* const real = Real<int(int, AnyStatus*)>(function);
+  return IsWatched(descriptor) && Decide(Kind::Status).error != 0 ? -1 : real(descriptor, status);
 }
 
 }  // namespace
@@ -139,13 +160,11 @@ extern "C" FRONT std::FILE* fopen(const char* name, const char* mode) {
 }
 
 extern "C" FRONT int stat(const char* name, struct stat* status) noexcept {
-  static auto* const real = Real<int(const char*, struct stat*)>("stat");
-  return IsWatched(name) && Decide(Kind::Stat).error != 0 ? -1 : real(name, status);
+  return testsupport::StatusOfName("stat", name, status);
 }
 
 extern "C" FRONT int fstat(int descriptor, struct stat* status) noexcept {
-  if (IsWatched(descriptor) && Decide(Kind::Status).error != 0) return -1;
-  return testsupport::RealStatus(descriptor, status);
+  return testsupport::StatusOfDescriptor("fstat", descriptor, status);
 }
 
 extern "C" FRONT ssize_t read(int descriptor, void* buffer, std::size_t size) {
@@ -158,7 +177,6 @@ extern "C" FRONT ssize_t read(int descriptor, void* buffer, std::size_t size) {
   return count;
 }
 
-// The GNU C library has separate names for the functions for large files.
 #ifdef __GLIBC__
 extern "C" FRONT int open64(const char* name, int flags, ...) {
   va_list arguments;
@@ -170,5 +188,13 @@ extern "C" FRONT int open64(const char* name, int flags, ...) {
 
 extern "C" FRONT std::FILE* fopen64(const char* name, const char* mode) {
   return testsupport::OpenStream("fopen64", name, mode);
+}
+
+extern "C" FRONT int stat64(const char* name, struct stat64* status) noexcept {
+  return testsupport::StatusOfName("stat64", name, status);
+}
+
+extern "C" FRONT int fstat64(int descriptor, struct stat64* status) noexcept {
+  return testsupport::StatusOfDescriptor("fstat64", descriptor, status);
 }
 #endif
