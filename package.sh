@@ -57,21 +57,24 @@ make_zip() {
   cd "$root"
 }
 
+# Stages what a build installs.
+#   stage_installed NAME PRESET
+stage_installed() {
+  scripts/build.sh "$2"
+  stage "$1"
+  cmake --install "build/$2" --prefix "$packages/staged/$1" --strip >/dev/null
+  add_bill "$1" "$2" share/doc/VendorInfoFile/sbom.cdx.json
+}
+
 package_tar() {
   local name=VendorInfoFile-$version-linux-$machine
-  scripts/build.sh release
-  stage "$name"
-  cmake --install build/release --prefix "$packages/staged/$name" --strip >/dev/null
-  add_bill "$name" release share/doc/VendorInfoFile/sbom.cdx.json
+  stage_installed "$name" release
   make_tar "$name"
 }
 
 package_zip() {
   local name=VendorInfoFile-$version-win64
-  scripts/build.sh windows
-  stage "$name"
-  cmake --install build/windows --prefix "$packages/staged/$name" --strip >/dev/null
-  add_bill "$name" windows share/doc/VendorInfoFile/sbom.cdx.json
+  stage_installed "$name" windows
   make_zip "$name"
 }
 
