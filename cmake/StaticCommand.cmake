@@ -19,18 +19,21 @@ list(REMOVE_DUPLICATES icu_functions)
 list(TRANSFORM icu_functions PREPEND "LINKER:--defsym=" OUTPUT_VARIABLE icu_options)
 list(TRANSFORM icu_options APPEND "=OpenNoIcuConverter")
 
+# In a library of objects, because several programs need them.
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
+set(encoding_tables "${PROJECT_BINARY_DIR}/static/EncodingTables.h")
+add_custom_command(OUTPUT "${encoding_tables}"
+  COMMAND "${CMAKE_COMMAND}" -E make_directory "${PROJECT_BINARY_DIR}/static"
+  COMMAND "${Python3_EXECUTABLE}" -B "${PROJECT_SOURCE_DIR}/static/encoding_tables.py" "${encoding_tables}"
+  DEPENDS "${PROJECT_SOURCE_DIR}/static/encoding_tables.py"
+  VERBATIM)
+add_library(StaticEncodings OBJECT static/Iconv.cpp static/NoIcu.cpp "${encoding_tables}")
+target_include_directories(StaticEncodings PRIVATE host "${PROJECT_BINARY_DIR}/static")
+target_link_libraries(StaticEncodings PRIVATE VendorInfoFileSettings)
+
 # Links a program so that it needs no library, and none of the modules that glibc loads for encodings.
 function(project_link_statically target)
-  target_sources(${target} PRIVATE "${PROJECT_SOURCE_DIR}/static/Iconv.cpp" "${PROJECT_SOURCE_DIR}/static/NoIcu.cpp")
-  find_package(Python3 REQUIRED COMPONENTS Interpreter)
-  set(tables "${PROJECT_BINARY_DIR}/static/EncodingTables.h")
-  add_custom_command(OUTPUT "${tables}"
-    COMMAND "${CMAKE_COMMAND}" -E make_directory "${PROJECT_BINARY_DIR}/static"
-    COMMAND "${Python3_EXECUTABLE}" -B "${PROJECT_SOURCE_DIR}/static/encoding_tables.py" "${tables}"
-    DEPENDS "${PROJECT_SOURCE_DIR}/static/encoding_tables.py"
-    VERBATIM)
-  target_sources(${target} PRIVATE "${tables}")
-  target_include_directories(${target} PRIVATE "${PROJECT_BINARY_DIR}/static")
+  target_link_libraries(${target} PRIVATE StaticEncodings)
   # The linker warns of libxml2's calls for the network, which nothing here reaches.
   target_link_options(${target} PRIVATE -static-pie ${icu_options} "LINKER:-Map,${PROJECT_BINARY_DIR}/${target}.map")
 endfunction()
