@@ -19,7 +19,7 @@ work=$source/build/static/tested
 scripts/setup.sh test
 scripts/setup.sh package
 scripts/build.sh release -DVENDORINFOFILE_BUILD_TESTS=ON --target vif --target generate_vifs
-scripts/build.sh static --target vif
+scripts/build.sh static --target VifManual --target vif
 headers=$(readelf --wide --program-headers "$tested")
 [[ $headers != *INTERP* ]] || fail "$tested needs libraries"
 
