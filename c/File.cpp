@@ -11,7 +11,6 @@
 #include <VIFProgress.h>
 #include <analysis/Files.h>
 
-#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -42,15 +41,6 @@ void Repair(FileContent& content, std::size_t from) {
   }
 }
 
-/// To the reader of XML, what cannot be read is not valid either. Only the reason tells, which then has no place.
-/// \throws CFailure with the reason if the file cannot be read
-void RequireThatItIsRead(const std::filesystem::path& path, const CVIFInvalidFile& failure) {
-  const std::vector<DOMDocProblem>& problems = failure.Problems();
-  const bool hasPlace =
-      std::any_of(problems.begin(), problems.end(), [](const DOMDocProblem& problem) { return problem.line != 0; });
-  if (!hasPlace && !vifanalysis::CanBeRead(path)) throw CFailure(VIF_ERROR_FILE, problems.front().reason);
-}
-
 /// Loads more into a file, which is unchanged if that fails.
 /// \param isInMemory whether `load` opens no file
 /// \param load gets what to load into and the observer, which is empty when nobody wants to know
@@ -64,8 +54,9 @@ void LoadInto(vif_file& handle, const std::filesystem::path& path, bool isInMemo
   try {
     load(content.file, observer);
   } catch (const CVIFInvalidFile& failure) {
-    if (!isInMemory) RequireThatItIsRead(path, failure);
-    throw;
+    // To the reader of XML, what cannot be read is not valid either.
+    if (isInMemory || !vifanalysis::IsReadFailure(path, failure.Problems())) throw;
+    throw CFailure(VIF_ERROR_FILE, failure.Problems().front().reason);
   } catch (const CZoRunTimeException& failure) {
     throw CFailure(LoadStatus(path, isInMemory), failure.what());
   }

@@ -46,7 +46,7 @@ else()
     -Woverloaded-virtual)
 endif()
 
-# Without this, files of more than 2 GB cannot be opened on 32-bit systems, and so look as if they could not be read.
+# Without this, files of more than 2 GB cannot be opened on 32-bit systems.
 if(UNIX AND NOT EMSCRIPTEN AND CMAKE_SIZEOF_VOID_P EQUAL 4)
   target_compile_definitions(VendorInfoFileSettings INTERFACE _FILE_OFFSET_BITS=64)
 endif()

@@ -62,10 +62,7 @@ bool IsUndefined(const CVIFField& field) {
 
 Findings DescribeProblems(const std::vector<DOMDocProblem>& problems, const CheckedFile& file) {
   if (problems.empty()) throw CCheckError("the file is not valid, but the reason is not known");
-  // A reason without a place may be a read error, but MSXML gives no place for what breaks the schema, either.
-  const bool hasPlace =
-      std::any_of(problems.begin(), problems.end(), [](const DOMDocProblem& problem) { return problem.line != 0; });
-  if (!hasPlace && !file.content && !CanBeRead(file.name)) throw CCheckError(problems.front().reason);
+  if (!file.content && IsReadFailure(file.name, problems)) throw CCheckError(problems.front().reason);
   Findings findings;
   for (const DOMDocProblem& problem : problems) findings.push_back(DescribeProblem(problem));
   return findings;

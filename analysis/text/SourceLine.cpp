@@ -24,16 +24,14 @@ std::string_view FindLine(std::string_view text, std::size_t line) {
   return text;
 }
 
-bool BeginsCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }
-
 std::size_t Characters(std::string_view text) {
-  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), BeginsCharacter));
+  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), zotext::BeginsCharacter));
 }
 
 /// Where that many characters of the text end.
 std::size_t EndOf(std::string_view text, std::size_t characters) {
   std::size_t end = 0;
-  while (end < text.size() && (!BeginsCharacter(text[end]) || characters-- > 0)) ++end;
+  while (end < text.size() && (!zotext::BeginsCharacter(text[end]) || characters-- > 0)) ++end;
   return end;
 }
 

@@ -32,6 +32,9 @@ bool CopyAscii(std::basic_string_view<From> text, To* copy) {
   return (bits & ~ascii) == 0;
 }
 
+/// Whether a byte of UTF-8 is the first of a character.
+constexpr bool BeginsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
+
 /// Appends a character as UTF-8.
 /// \param text receives one to four bytes at its end
 /// \param code a Unicode code point

@@ -1,5 +1,6 @@
 #include "BaseUtilities/SimpleBuffer.h"
 
+#include "BaseUtilities/Encode.h"
 #include "BaseUtilities/StringConvert.h"
 
 #include <algorithm>
@@ -80,7 +81,7 @@ std::string ArgumentText(const CFormatArgument& argument, char conversion) {
 }
 
 size_t CharacterCount(std::string_view utf8) {
-  return static_cast<size_t>(std::count_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0xC0) != 0x80; }));
+  return static_cast<size_t>(std::count_if(utf8.begin(), utf8.end(), zotext::BeginsCharacter));
 }
 
 void AppendPadded(std::string& out, const std::string& text, const Placeholder& placeholder, bool isNumber) {

@@ -165,10 +165,9 @@ std::optional<FileText> Decode(const Content& content, CProblems& problems) {
 std::size_t FileText::ByteOffset(std::size_t offset) const {
   if (decoded.empty()) return mark + offset;
   const std::string_view before = Text().substr(0, offset);
-  const auto isFirst = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
   const auto isPair = [](char c) { return static_cast<unsigned char>(c) >= 0xF0; };
   const auto count = [&](auto isCounted) { return std::count_if(before.begin(), before.end(), isCounted); };
-  return mark + 2 * static_cast<std::size_t>(count(isFirst) + count(isPair));
+  return mark + 2 * static_cast<std::size_t>(count(zotext::BeginsCharacter) + count(isPair));
 }
 
 std::optional<FileText> ReadFileText(const std::filesystem::path& path, CProblems& problems) {

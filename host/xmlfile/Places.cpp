@@ -1,5 +1,6 @@
 #include "xmlfile/Places.h"
 
+#include "BaseUtilities/Encode.h"
 #include "xmlfile/MarkupReader.h"
 
 #include <algorithm>
@@ -14,9 +15,7 @@ Place CPlaceCounter::At(std::size_t offset) {
     m_place.column = 1;
     passed.remove_prefix(lineFeed + 1);
   }
-  const auto isCharacter = [isUtf8 = m_isUtf8](char c) {
-    return !isUtf8 || (static_cast<unsigned char>(c) & 0xC0) != 0x80;
-  };
+  const auto isCharacter = [isUtf8 = m_isUtf8](char c) { return !isUtf8 || zotext::BeginsCharacter(c); };
   m_place.column += static_cast<std::uint32_t>(std::count_if(passed.begin(), passed.end(), isCharacter));
   return m_place;
 }

@@ -1,4 +1,4 @@
-// Schemas in memory, with those of a template that the test fills in.
+// How embedded schemas are found. This program has two of its own.
 #include <xmlfile/EmbeddedSchemas.h>
 
 #include <gtest/gtest.h>
